@@ -1,0 +1,17 @@
+include(GNUInstallDirs)
+
+# A plain configure builds the libraries alone; the presets switch the rest on.
+option(KELP_QUILL_INP_BUNDLED_SISTERS "Build the text and element libraries from this tree" ON)
+option(KELP_QUILL_INP_BUILD_EXAMPLES "Build the example programs" OFF)
+option(KELP_QUILL_INP_BUILD_TOOLS "Build quill-inp (needs CLI11 and nlohmann-json)" OFF)
+option(KELP_QUILL_INP_BUILD_TESTS "Build the tests (needs GoogleTest and the examples)" OFF)
+option(KELP_QUILL_INP_WARNINGS_AS_ERRORS "Let a compiler warning fail the build" OFF)
+set(KELP_QUILL_INP_SANITIZERS "" CACHE STRING
+  "Sanitizers to build with, separated by commas, for example address,undefined")
+
+# The libraries are shared ones unless BUILD_SHARED_LIBS says otherwise in so many words.
+if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)
+  set(KELP_QUILL_INP_LIBRARY_TYPE STATIC)
+else()
+  set(KELP_QUILL_INP_LIBRARY_TYPE SHARED)
+endif()

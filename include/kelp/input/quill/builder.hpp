@@ -1,0 +1,112 @@
+#ifndef KELP_INPUT_QUILL_BUILDER_HPP
+#define KELP_INPUT_QUILL_BUILDER_HPP
+
+// Making a QUILL input from nothing, in one chain of calls.
+//
+//   const std::string text = InputBuilder()
+//                                .set_task("opt", {{"maxiter", "50"}, {"tight"}})
+//                                .set_model("m1")
+//                                .set_charge_and_multiplicity(0, 1)
+//                                .set_xyz_file("water.xyz")
+//                                .to_string();
+//
+// Every operation does what the InputEditor operation of the same name does, and the result is the
+// document that the same calls of an editor would give. Each operation either succeeds or leaves
+// the builder's document as it was, except that a copy at its very end may run out of memory
+// half-way. The price is two copies of the document for each call that finds or replaces
+// something: to add thousands of atoms one by one, use an InputEditor, or set_geometry() once.
+//
+// A builder may be used by one thread at a time; distinct builders are independent.
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "kelp/input/quill/document.hpp"
+#include "kelp/input/quill/export.hpp"
+
+namespace kelp::core {
+struct Atom;
+struct Geometry;
+}  // namespace kelp::core
+
+namespace kelp::input::quill {
+
+/// Owns a document, empty at first, and builds it up.
+class InputBuilder {
+ public:
+  InputBuilder() = default;
+
+  /// Returns the document, valid as long as the builder; from a builder that is about to go, moves
+  /// it out.
+  const QuillInput& document() const& noexcept { return document_; }
+  QuillInput document() && { return std::move(document_); }
+
+  /// Returns the document's canonical text, as QuillInput::to_string().
+  KELP_QUILL_INP_EXPORT std::string to_string() const;
+
+  /// Writes the canonical text into a file, as QuillInput::write_file().
+  KELP_QUILL_INP_EXPORT void write_file(const std::string& path) const;
+
+  /// Gives the first command named `name` these parameters, or makes it a flag without any.
+  KELP_QUILL_INP_EXPORT InputBuilder& set_task(std::string name,
+                                               std::vector<CommandParameter> parameters = {});
+
+  /// Sets one parameter of the first command named `command`.
+  KELP_QUILL_INP_EXPORT InputBuilder& set_task_parameter(std::string command, std::string key,
+                                                         std::string value);
+
+  /// Assign `value` to "model", to "device", and to any name; make a command a flag.
+  KELP_QUILL_INP_EXPORT InputBuilder& set_model(std::string value);
+  KELP_QUILL_INP_EXPORT InputBuilder& set_device(std::string value);
+  KELP_QUILL_INP_EXPORT InputBuilder& set_assignment(std::string name, std::string value);
+  KELP_QUILL_INP_EXPORT InputBuilder& set_flag(std::string name);
+
+  /// Appends a command as it is. Costs no copy of the document.
+  KELP_QUILL_INP_EXPORT InputBuilder& add_command(HeaderCommand&& command);
+  KELP_QUILL_INP_EXPORT InputBuilder& add_command(const HeaderCommand& command);
+
+  /// Set or take away the charge and multiplicity line. Cost no copy of the document.
+  KELP_QUILL_INP_EXPORT InputBuilder& set_charge_and_multiplicity(int charge, int multiplicity);
+  KELP_QUILL_INP_EXPORT InputBuilder& clear_charge_and_multiplicity();
+
+  /// Appends a copy of one atom; a geometry of another kind is replaced.
+  KELP_QUILL_INP_EXPORT InputBuilder& add_atom(const AtomRecord& atom);
+  KELP_QUILL_INP_EXPORT InputBuilder& add_atom(const kelp::core::Atom& atom);
+
+  /// Replace the geometry by a copy of these atoms.
+  KELP_QUILL_INP_EXPORT InputBuilder& set_geometry(const std::vector<AtomRecord>& atoms);
+  KELP_QUILL_INP_EXPORT InputBuilder& set_geometry(const kelp::core::Geometry& geometry);
+
+  /// Replace the geometry by references to any number of XYZ files, to one, and to a trajectory.
+  KELP_QUILL_INP_EXPORT InputBuilder& set_xyz_files(std::vector<std::string> files);
+  KELP_QUILL_INP_EXPORT InputBuilder& set_xyz_file(std::string path);
+  KELP_QUILL_INP_EXPORT InputBuilder& set_xyz_trajectory(std::string path);
+
+  /// Appends a post-processing line as it is. Costs no copy of the document.
+  KELP_QUILL_INP_EXPORT InputBuilder& add_post_command(PostCommand&& command);
+  KELP_QUILL_INP_EXPORT InputBuilder& add_post_command(const PostCommand& command);
+
+  /// Append a constraint on one to four atoms, numbered as in the file and not checked.
+  KELP_QUILL_INP_EXPORT InputBuilder& add_atom_constraint(int a);
+  KELP_QUILL_INP_EXPORT InputBuilder& add_bond_constraint(int a, int b);
+  KELP_QUILL_INP_EXPORT InputBuilder& add_angle_constraint(int a, int b, int c);
+  KELP_QUILL_INP_EXPORT InputBuilder& add_dihedral_constraint(int a, int b, int c, int d);
+
+  /// Appends a scan of a bond, an angle or a dihedral, named by two to four atoms; any number is
+  /// stored.
+  KELP_QUILL_INP_EXPORT InputBuilder& add_scan(std::vector<int> atoms, double value, int steps);
+
+  /// Appends a post-processing file; earlier ones stay.
+  KELP_QUILL_INP_EXPORT InputBuilder& set_post_file(std::string path);
+
+ private:
+  template <typename Operation>
+  InputBuilder& edit(Operation operation);
+
+  QuillInput document_;
+};
+
+}  // namespace kelp::input::quill
+
+#endif  // KELP_INPUT_QUILL_BUILDER_HPP

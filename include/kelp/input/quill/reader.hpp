@@ -1,0 +1,60 @@
+#ifndef KELP_INPUT_QUILL_READER_HPP
+#define KELP_INPUT_QUILL_READER_HPP
+
+// Reading QUILL inputs.
+//
+//   const ParseResult result = parse_file("water.qin");
+//   if (!result.ok) std::cerr << result.error << '\n';
+//   for (const std::string& warning : result.warnings) std::cerr << warning << '\n';
+//   std::cout << result.input.geometry.atoms.size() << " atoms\n";
+//
+// No text is refused: whatever cannot be understood becomes a warning that names its line, and the
+// lines after it are read as usual. Reading keeps no state; any number of threads may read at once.
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "kelp/input/quill/document.hpp"
+#include "kelp/input/quill/export.hpp"
+
+namespace kelp::input::quill {
+
+/// What reading gives: the document, and how reading went. `ok` is false only when a file could not
+/// be opened; `error` then says so and is empty otherwise. `warnings` holds one complete message
+/// per problem, in the order of the lines: "Line 3: empty QUILL header command", with lines counted
+/// from 1. Warnings leave `ok` true.
+struct ParseResult {
+  QuillInput input;
+  bool ok = false;
+  std::string error;
+  std::vector<std::string> warnings;
+
+  ParseResult() = default;
+  ParseResult(QuillInput document, bool was_read = false, std::string failure = {},
+              std::vector<std::string> diagnostics = {})
+      : input(std::move(document)),
+        ok(was_read),
+        error(std::move(failure)),
+        warnings(std::move(diagnostics)) {}
+  ParseResult(const ParseResult&) = default;
+  ParseResult(ParseResult&&) noexcept = default;
+  ParseResult& operator=(const ParseResult&) = default;
+  ParseResult& operator=(ParseResult&&) noexcept = default;
+  KELP_QUILL_INP_EXPORT ~ParseResult();
+};
+
+/// Reads a whole input. `ok` is always true, and nothing is thrown for any content, NUL bytes and
+/// bytes above 0x7F included. Lines end in "\n" or "\r\n". The result keeps no reference to `text`.
+/// One pass; the cost is linear in the length of the text.
+KELP_QUILL_INP_EXPORT ParseResult parse_string(std::string_view text);
+
+/// Reads the file at `path` whole and returns parse_string() of its content. When the file cannot
+/// be opened or read (a directory, for one), `input` is an empty document, `ok` is false, `error`
+/// is "Failed to open QUILL input file: " followed by `path`, and there are no warnings.
+KELP_QUILL_INP_EXPORT ParseResult parse_file(const std::string& path);
+
+}  // namespace kelp::input::quill
+
+#endif  // KELP_INPUT_QUILL_READER_HPP

@@ -1,0 +1,35 @@
+#ifndef KELP_INPUT_QUILL_WRITER_HPP
+#define KELP_INPUT_QUILL_WRITER_HPP
+
+// The canonical text of the pieces of a QUILL input; QuillInput::to_string() gives that of a whole
+// one.
+//
+//   to_string(HeaderCommand{"model", HeaderCommandKind::Assignment, "m1"});       // "#model = m1"
+//   to_string(PostCommand{PostCommandKind::Scan, {1, 2}, 1.5, 10});               // "S 1 2 1.5 10"
+//
+// Stored strings go out byte for byte: nothing is quoted, escaped or checked, and a kind outside
+// its enumeration gives no text of its own. No locale has any influence. The functions read their
+// argument only and may run in several threads at once.
+
+#include <string>
+
+#include "kelp/input/quill/document.hpp"
+#include "kelp/input/quill/export.hpp"
+
+namespace kelp::input::quill {
+
+/// Returns one header line without a line end, "#" included.
+KELP_QUILL_INP_EXPORT std::string to_string(const HeaderCommand& command);
+
+/// Returns one post-processing line without a line end. A scan's value has up to six significant
+/// digits, as printf("%g") writes it. Any number of atom numbers is written as it stands.
+KELP_QUILL_INP_EXPORT std::string to_string(const PostCommand& command);
+
+/// Returns the coordinate section, every line ending in "\n". Coordinates have six decimals, as
+/// printf("%.6f") writes them, right-justified in 14 columns; a longer number is written whole and
+/// then touches the one before it.
+KELP_QUILL_INP_EXPORT std::string to_string(const GeometryBlock& geometry);
+
+}  // namespace kelp::input::quill
+
+#endif  // KELP_INPUT_QUILL_WRITER_HPP

@@ -1,0 +1,49 @@
+#ifndef KELP_CORE_TEXT_EIGHT_BYTES_HPP
+#define KELP_CORE_TEXT_EIGHT_BYTES_HPP
+
+#include <cstddef>
+#include <cstdint>
+
+namespace kelp::core::text {
+
+// Eight bytes of text as one number, so that one operation of the processor treats all of them. The
+// first byte is the least significant one on every machine, and no question of byte order arises.
+
+inline constexpr std::size_t word_bytes = 8;
+
+/// Compilers make a single load of this where the byte order allows it.
+inline std::uint64_t load_word(const char* bytes) {
+  const auto byte = [bytes](std::size_t i) {
+    return std::uint64_t{static_cast<unsigned char>(bytes[i])} << (8 * i);
+  };
+  return byte(0) | byte(1) | byte(2) | byte(3) | byte(4) | byte(5) | byte(6) | byte(7);
+}
+
+constexpr std::uint64_t in_every_byte(unsigned value) {
+  return std::uint64_t{0x0101010101010101} * value;
+}
+
+inline constexpr std::uint64_t top_bits = in_every_byte(0x80);
+
+/// The top bits of bytes that are 0. The lowest one is exact; above it there may be others.
+constexpr std::uint64_t zero_flags(std::uint64_t word) {
+  return (word - in_every_byte(1)) & ~word & top_bits;
+}
+
+/// The place of the lowest bit that is set. `bits` is not 0.
+inline std::size_t lowest_bit(std::uint64_t bits) {
+#if defined(__GNUC__)
+  return static_cast<std::size_t>(__builtin_ctzll(bits));
+#else
+  std::size_t place = 0;
+  for (; (bits & 1) == 0; bits >>= 1) ++place;
+  return place;
+#endif
+}
+
+/// The index of the first byte whose top bit is set. `flags` is not 0 and has no other bits.
+inline std::size_t first_flagged_byte(std::uint64_t flags) { return lowest_bit(flags) / 8; }
+
+}  // namespace kelp::core::text
+
+#endif  // KELP_CORE_TEXT_EIGHT_BYTES_HPP

@@ -1,0 +1,81 @@
+#include "reader/coordinate_lines.hpp"
+
+#include <algorithm>
+#include <cctype>
+#include <vector>
+
+#include "kelp/chem/elements.hpp"
+#include "kelp/core/text.hpp"
+
+namespace kelp::input::quill {
+
+namespace elements = kelp::chem::elements;
+namespace text = kelp::core::text;
+
+namespace {
+
+// The C library's tests take the value of an unsigned char; a plain char above 0x7F may be
+// negative.
+bool is_letter(char c) { return std::isalpha(static_cast<unsigned char>(c)) != 0; }
+
+bool is_blank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
+
+}  // namespace
+
+// charge-line = integer integer
+std::optional<ChargeAndMultiplicity> parse_charge_and_multiplicity(std::string_view line) {
+  const std::vector<std::string> tokens = text::split_whitespace(line);
+  if (tokens.size() != 2)
+    return std::nullopt;
+  int charge = 0;
+  int multiplicity = 0;
+  if (!text::try_parse_int(tokens[0], charge))
+    return std::nullopt;
+  if (!text::try_parse_int(tokens[1], multiplicity))
+    return std::nullopt;
+  return ChargeAndMultiplicity{charge, multiplicity};
+}
+
+// reference-line = ( "XYZ" / "XYZTRAJ" ) [ path ] ; keyword in any letter case, path with its
+// blanks
+bool parse_xyz_reference(std::string_view line, std::string& keyword, std::string& path) {
+  const std::string trimmed = text::trim(line);
+  const std::vector<std::string> tokens = text::split_whitespace(trimmed);
+  if (tokens.empty())
+    return false;
+  const std::string folded = text::to_lower_copy(tokens.front());
+  if (folded != text::to_lower_copy(xyz_keyword) &&
+      folded != text::to_lower_copy(trajectory_keyword)) {
+    return false;
+  }
+  keyword = text::to_upper_copy(tokens.front());
+  path = rest_after_first_word(trimmed);
+  return true;
+}
+
+// atom-line = letters number number number
+std::optional<AtomRecord> parse_atom_line(std::string_view line) {
+  const std::vector<std::string> tokens = text::split_whitespace(line);
+  if (tokens.size() != 4)
+    return std::nullopt;
+  if (!std::all_of(tokens[0].begin(), tokens[0].end(), is_letter))
+    return std::nullopt;
+  AtomRecord atom;
+  if (!text::try_parse_double(tokens[1], atom.x))
+    return std::nullopt;
+  if (!text::try_parse_double(tokens[2], atom.y))
+    return std::nullopt;
+  if (!text::try_parse_double(tokens[3], atom.z))
+    return std::nullopt;
+  atom.symbol = elements::normalize_symbol(tokens[0]);
+  return atom;
+}
+
+std::string rest_after_first_word(std::string_view text) {
+  using Iterator = std::string_view::const_iterator;
+  const Iterator word_end = std::find_if(text.begin(), text.end(), is_blank);
+  const Iterator rest = std::find_if_not(word_end, text.end(), is_blank);
+  return std::string(rest, text.end());
+}
+
+}  // namespace kelp::input::quill

@@ -1,0 +1,227 @@
+#include "kelp/input/quill/writer.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "model/post_line_shapes.hpp"
+#include "writer/number_text.hpp"
+
+namespace kelp::input::quill {
+
+namespace {
+
+constexpr std::size_t symbol_width = 3;
+
+void append_padded(std::string& out, const std::string& text, std::size_t width) {
+  out += text;
+  if (text.size() < width)
+    out.append(width - text.size(), ' ');
+}
+
+void append_parameter(std::string& out, const CommandParameter& parameter) {
+  out += parameter.name;
+  if (!parameter.value)
+    return;
+  out += '=';
+  out += *parameter.value;
+}
+
+void append_parameters(std::string& out, const std::vector<CommandParameter>& parameters) {
+  out += '(';
+  const char* separator = "";
+  for (const CommandParameter& parameter : parameters) {
+    out += separator;
+    append_parameter(out, parameter);
+    separator = ", ";
+  }
+  out += ')';
+}
+
+void append_command(std::string& out, const HeaderCommand& command) {
+  out += '#';
+  out += command.name;
+  if (command.kind == HeaderCommandKind::Assignment) {
+    out += " = ";
+    if (command.value)
+      out += *command.value;
+  } else if (command.kind == HeaderCommandKind::ParameterList) {
+    append_parameters(out, command.parameters);
+  }
+}
+
+void append_charge_and_multiplicity(std::string& out, const GeometryBlock& geometry) {
+  append_integer(out, geometry.charge);
+  out += ' ';
+  append_integer(out, geometry.multiplicity);
+  out += '\n';
+}
+
+void append_atom(std::string& out, const AtomRecord& atom) {
+  append_padded(out, atom.symbol, symbol_width);
+  append_coordinate(out, atom.x);
+  append_coordinate(out, atom.y);
+  append_coordinate(out, atom.z);
+  out += '\n';
+}
+
+void append_xyz_file(std::string& out, const std::string& path) {
+  out += "XYZ ";
+  out += path;
+  out += '\n';
+}
+
+void append_trajectory(std::string& out, const std::vector<std::string>& paths) {
+  out += "XYZTRAJ";
+  if (!paths.empty()) {
+    out += ' ';
+    out += paths.front();
+  }
+  out += '\n';
+}
+
+void append_geometry(std::string& out, const GeometryBlock& geometry) {
+  if (geometry.has_charge_and_multiplicity)
+    append_charge_and_multiplicity(out, geometry);
+  switch (geometry.kind) {
+    case GeometryKind::None:
+      break;
+    case GeometryKind::Atoms:
+      for (const AtomRecord& atom : geometry.atoms)
+        append_atom(out, atom);
+      break;
+    case GeometryKind::XyzFile:
+      for (const std::string& path : geometry.xyz_files)
+        append_xyz_file(out, path);
+      break;
+    case GeometryKind::XyzTrajectory:
+      append_trajectory(out, geometry.xyz_files);
+      break;
+  }
+}
+
+/// Appends the numbers separated by single blanks.
+void append_atom_numbers(std::string& out, const std::vector<std::int32_t>& numbers) {
+  const char* separator = "";
+  for (const std::int32_t number : numbers) {
+    out += separator;
+    append_integer(out, number);
+    separator = " ";
+  }
+}
+
+void append_scan_settings(std::string& out, const PostCommand& command) {
+  if (command.scan_value) {
+    out += ' ';
+    append_scan_value(out, *command.scan_value);
+  }
+  if (command.scan_steps) {
+    out += ' ';
+    append_integer(out, *command.scan_steps);
+  }
+}
+
+void append_post_command(std::string& out, const PostCommand& command) {
+  if (command.kind == PostCommandKind::Raw)
+    out += command.raw_text;
+  const PostLineShape* shape = find_post_line_shape(command.kind);
+  if (shape == nullptr)
+    return;
+  out += shape->keyword;
+  out += ' ';
+  if (command.kind == PostCommandKind::PostFile) {
+    out += command.post_file;
+    return;
+  }
+  append_atom_numbers(out, command.atom_indices);
+  if (command.kind == PostCommandKind::Scan)
+    append_scan_settings(out, command);
+}
+
+/// How much room to reserve, so that a whole input is written without growing the text: the stored
+/// strings and what stands around them, and usual lengths for numbers. Text that needs more grows.
+std::size_t expected_size(const HeaderCommand& command) {
+  std::size_t size = command.name.size() + 7;
+  if (command.value)
+    size += command.value->size();
+  for (const CommandParameter& parameter : command.parameters) {
+    size += parameter.name.size() + 3;
+    if (parameter.value)
+      size += parameter.value->size();
+  }
+  return size;
+}
+
+std::size_t expected_size(const GeometryBlock& geometry) {
+  std::size_t size = 24;
+  if (geometry.kind == GeometryKind::Atoms) {
+    size += geometry.atoms.size() * (symbol_width + 3 * coordinate_width + 1);
+  } else {
+    for (const std::string& path : geometry.xyz_files)
+      size += path.size() + 9;
+  }
+  return size;
+}
+
+std::size_t expected_size(const PostCommand& command) {
+  if (command.kind == PostCommandKind::Raw)
+    return command.raw_text.size() + 1;
+  return command.post_file.size() + 6 * command.atom_indices.size() + 24;
+}
+
+std::size_t expected_size(const QuillInput& input) {
+  std::size_t size = 2 + expected_size(input.geometry);
+  for (const HeaderCommand& command : input.commands)
+    size += expected_size(command);
+  for (const PostCommand& command : input.post_commands)
+    size += expected_size(command);
+  return size;
+}
+
+}  // namespace
+
+std::string to_string(const HeaderCommand& command) {
+  std::string out;
+  append_command(out, command);
+  return out;
+}
+
+std::string to_string(const PostCommand& command) {
+  std::string out;
+  append_post_command(out, command);
+  return out;
+}
+
+std::string to_string(const GeometryBlock& geometry) {
+  std::string out;
+  append_geometry(out, geometry);
+  return out;
+}
+
+std::string QuillInput::to_string() const {
+  // The section counts as present even when its kind writes no line, so that a document which was
+  // meant to have coordinates keeps their place.
+  const bool has_coordinates =
+      geometry.kind != GeometryKind::None || geometry.has_charge_and_multiplicity;
+  const bool has_post_lines = !post_commands.empty();
+
+  std::string out;
+  out.reserve(expected_size(*this));
+  for (const HeaderCommand& command : commands) {
+    append_command(out, command);
+    out += '\n';
+  }
+  if (!commands.empty() && (has_coordinates || has_post_lines))
+    out += '\n';
+  if (has_coordinates)
+    append_geometry(out, geometry);
+  if (has_coordinates && has_post_lines)
+    out += '\n';
+  for (const PostCommand& command : post_commands) {
+    append_post_command(out, command);
+    out += '\n';
+  }
+  return out;
+}
+
+}  // namespace kelp::input::quill
