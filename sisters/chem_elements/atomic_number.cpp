@@ -7,7 +7,8 @@ namespace kelp::chem::elements {
 
 namespace {
 
-// In the order of the atomic numbers, ten to a row.
+// In the order of the atomic numbers, ten to a line.
+// clang-format off
 constexpr std::array<std::string_view, 118> symbols = {
     "H",  "He", "Li", "Be", "B",  "C",  "N",  "O",  "F",  "Ne",
     "Na", "Mg", "Al", "Si", "P",  "S",  "Cl", "Ar", "K",  "Ca",
@@ -21,6 +22,7 @@ constexpr std::array<std::string_view, 118> symbols = {
     "Pa", "U",  "Np", "Pu", "Am", "Cm", "Bk", "Cf", "Es", "Fm",
     "Md", "No", "Lr", "Rf", "Db", "Sg", "Bh", "Hs", "Mt", "Ds",
     "Rg", "Cn", "Nh", "Fl", "Mc", "Lv", "Ts", "Og"};
+// clang-format on
 
 constexpr std::size_t first_letters = 26;
 constexpr std::size_t second_letters = 27;  // one more for the symbols of one letter
@@ -35,7 +37,7 @@ constexpr std::size_t place_of(std::string_view symbol) {
   return static_cast<std::size_t>(symbol[0] - 'A') * second_letters + second_place(symbol);
 }
 
-/// The atomic number for every text of the shape of a symbol; 0 for those that are none.
+/// The atomic number for every text with the shape of a symbol, 0 where no element has it.
 constexpr auto make_numbers() {
   std::array<unsigned char, first_letters * second_letters> numbers{};
   for (std::size_t i = 0; i < symbols.size(); ++i) {
@@ -48,17 +50,21 @@ constexpr auto numbers = make_numbers();
 
 // shape = upper-case-letter [ lower-case-letter ]
 constexpr bool has_shape_of_symbol(std::string_view text) {
-  if (text.empty() || text.size() > 2) return false;
-  if (text[0] < 'A' || text[0] > 'Z') return false;
+  if (text.empty() || text.size() > 2)
+    return false;
+  if (text[0] < 'A' || text[0] > 'Z')
+    return false;
   return text.size() == 1 || ('a' <= text[1] && text[1] <= 'z');
 }
 
 }  // namespace
 
 std::optional<int> atomic_number_from_symbol(std::string_view symbol) {
-  if (!has_shape_of_symbol(symbol)) return std::nullopt;
+  if (!has_shape_of_symbol(symbol))
+    return std::nullopt;
   const int number = numbers[place_of(symbol)];
-  if (number == 0) return std::nullopt;
+  if (number == 0)
+    return std::nullopt;
   return number;
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace kelp::core::text {
 
@@ -11,12 +12,17 @@ namespace kelp::core::text {
 
 inline constexpr std::size_t word_bytes = 8;
 
-/// Compilers make a single load of this where the byte order allows it.
 inline std::uint64_t load_word(const char* bytes) {
-  const auto byte = [bytes](std::size_t i) {
-    return std::uint64_t{static_cast<unsigned char>(bytes[i])} << (8 * i);
-  };
-  return byte(0) | byte(1) | byte(2) | byte(3) | byte(4) | byte(5) | byte(6) | byte(7);
+#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+  std::uint64_t word = 0;
+  std::memcpy(&word, bytes, word_bytes);
+#else
+  std::uint64_t word = 0;
+  for (std::size_t i = word_bytes; i-- > 0;) {
+    word = (word << 8) | static_cast<unsigned char>(bytes[i]);
+  }
+#endif
+  return word;
 }
 
 constexpr std::uint64_t in_every_byte(unsigned value) {
@@ -36,7 +42,8 @@ inline std::size_t lowest_bit(std::uint64_t bits) {
   return static_cast<std::size_t>(__builtin_ctzll(bits));
 #else
   std::size_t place = 0;
-  for (; (bits & 1) == 0; bits >>= 1) ++place;
+  for (; (bits & 1) == 0; bits >>= 1)
+    ++place;
   return place;
 #endif
 }

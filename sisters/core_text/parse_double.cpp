@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <limits>
 #include <optional>
-#include <string_view>
+#include <system_error>
 
 #include "ascii.hpp"
 #include "decimal.hpp"
@@ -16,6 +16,19 @@ namespace kelp::core::text {
 
 namespace {
 
+/// The value of a number in the notation of C, or nothing when it is out of range.
+std::optional<double> parse_floating_point(std::string_view text) {
+  // from_chars would read a sign here, and names and what may follow them.
+  if (text.empty() || (!is_digit(text.front()) && text.front() != '.'))
+    return std::nullopt;
+  const char* const last = text.data() + text.size();
+  double value = 0.0;
+  const auto [end, error] = std::from_chars(text.data(), last, value);
+  if (error != std::errc() || end != last)
+    return std::nullopt;
+  return value;
+}
+
 bool equals_ignoring_case(std::string_view text, std::string_view lower) {
   return std::equal(text.begin(), text.end(), lower.begin(), lower.end(),
                     [](char a, char b) { return to_lower(a) == b; });
@@ -23,36 +36,41 @@ bool equals_ignoring_case(std::string_view text, std::string_view lower) {
 
 std::optional<double> parse_name(std::string_view text) {
   using Limits = std::numeric_limits<double>;
-  if (equals_ignoring_case(text, "nan")) return Limits::quiet_NaN();
-  if (equals_ignoring_case(text, "inf")) return Limits::infinity();
-  if (equals_ignoring_case(text, "infinity")) return Limits::infinity();
+  if (equals_ignoring_case(text, "nan"))
+    return Limits::quiet_NaN();
+  if (equals_ignoring_case(text, "inf"))
+    return Limits::infinity();
+  if (equals_ignoring_case(text, "infinity"))
+    return Limits::infinity();
   return std::nullopt;
 }
 
-std::optional<double> parse_any(std::string_view text) {
-  if (!text.empty() && (is_digit(text.front()) || text.front() == '.')) {
-    double value;
-    auto r = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (r.ec == std::errc() && r.ptr == text.data() + text.size()) return value;
-  }
-  const std::optional<Decimal> decimal = scan_decimal(text);
-  return decimal ? nearest_double(*decimal) : parse_name(text);
+/// The value of any number without a sign.
+std::optional<double> parse_magnitude(std::string_view text) {
+  if (const auto value = parse_floating_point(text))
+    return value;
+  if (const auto decimal = scan_decimal(text))
+    return nearest_double(*decimal);
+  return parse_name(text);
 }
 
 }  // namespace
 
 // number = [ "+" / "-" ] ( decimal / "inf" / "infinity" / "nan" )
 bool try_parse_double(std::string_view token, double& value) {
-  // Half of all coordinates are negative, in no order that a processor could foresee: the sign must
-  // not decide on a jump.
+  // The signs of coordinates follow no pattern, so a jump that depended on them would be predicted
+  // wrong every other time. The sign is an index instead.
   constexpr std::array<double, 2> signs = {1.0, -1.0};
   const char first = token.empty() ? '\0' : token.front();
-  const bool negative = first == '-';
-  token.remove_prefix(std::size_t{negative} + std::size_t{first == '+'});
-  std::optional<double> magnitude = parse_short_fixed_point(token);
-  if (!magnitude) magnitude = parse_any(token);
-  if (!magnitude) return false;
-  value = std::copysign(*magnitude, signs[std::size_t{negative}]);
+  const bool is_negative = first == '-';
+  const bool is_positive = first == '+';
+  token.remove_prefix(std::size_t{is_negative} + std::size_t{is_positive});
+  std::optional<double> magnitude = parse_fixed_point(token);
+  if (!magnitude)
+    magnitude = parse_magnitude(token);
+  if (!magnitude)
+    return false;
+  value = std::copysign(*magnitude, signs[std::size_t{is_negative}]);
   return true;
 }
 

@@ -24,9 +24,9 @@ constexpr std::uint64_t space_flags(std::uint64_t word) {
 
 /// The flags of eight bytes as the eight lowest bits of a number, in the same order.
 constexpr std::uint64_t gather_flags(std::uint64_t flags) {
-  // Shifted right by 7, flag i stands at bit 8i. The product is the sum of its shifts by 7, 14, ...,
-  // 56 bits; the shift by 56 - 7i takes it to bit 56 + i. All the sums 8i + 7j are different, so
-  // nothing carries and no other shift arrives there.
+  // Shifted right by 7, flag i stands at bit 8i. The product is the sum of its shifts by 7, 14,
+  // ..., 56 bits; the shift by 56 - 7i takes it to bit 56 + i. All the sums 8i + 7j are different,
+  // so nothing carries and no other shift arrives there.
   return ((flags >> 7) * std::uint64_t{0x0102040810204080}) >> 56;
 }
 
@@ -40,13 +40,15 @@ inline std::uint64_t space_bits(std::string_view text) {
   };
   std::uint64_t bits = ~std::uint64_t{0} << text.size();
   if (text.size() < word_bytes) {
-    for (std::size_t i = 0; i < text.size(); ++i) bits |= std::uint64_t{is_space(text[i])} << i;
+    for (std::size_t i = 0; i < text.size(); ++i)
+      bits |= std::uint64_t{is_space(text[i])} << i;
     return bits;
   }
   // The last eight bytes come first; then whole words, as long as they begin before those.
   const std::size_t last_word = text.size() - word_bytes;
   bits |= bits_at(last_word);
-  for (std::size_t i = 0; i < last_word; i += word_bytes) bits |= bits_at(i);
+  for (std::size_t i = 0; i < last_word; i += word_bytes)
+    bits |= bits_at(i);
   return bits;
 }
 

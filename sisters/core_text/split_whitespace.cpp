@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -10,21 +12,22 @@ namespace kelp::core::text {
 
 namespace {
 
-/// The words of a text shorter than space_bits_limit, found all at once.
+/// A text shorter than space_bits_limit, its white space found at once.
 class ShortText {
  public:
   explicit ShortText(std::string_view text) : text_(text), spaces_(space_bits(text)) {}
 
   std::size_t count_words() const {
     std::size_t count = 0;
-    for (std::uint64_t starts = word_starts(); starts != 0; starts &= starts - 1) ++count;
+    for (std::uint64_t starts = word_starts(); starts != 0; starts &= starts - 1)
+      ++count;
     return count;
   }
 
   void append_words(std::vector<std::string>& words) const {
     for (std::uint64_t starts = word_starts(); starts != 0; starts &= starts - 1) {
       const std::size_t start = lowest_bit(starts);
-      // The bits behind the text are set, so the last word ends too.
+      // The bits behind the text count as white space, so the last word ends as well.
       const std::size_t length = lowest_bit(spaces_ >> start);
       words.emplace_back(text_.data() + start, length);
     }
@@ -37,44 +40,74 @@ class ShortText {
   std::uint64_t spaces_;
 };
 
-std::size_t count_words(std::string_view text) {
-  if (text.empty()) return 0;
-  std::size_t count = is_space(text.front()) ? 0 : 1;
-  for (std::size_t i = 1; i < text.size(); ++i) {
-    count += is_space(text[i - 1]) && !is_space(text[i]) ? 1 : 0;
+/// Counts words in a text that comes in pieces of eight bytes.
+class WordCounter {
+ public:
+  void add(const char* bytes) {
+    const std::uint64_t spaces = space_flags(load_word(bytes));
+    const std::uint64_t starts = ~spaces & ((spaces << 8) | space_before_) & top_bits;
+    // The top byte of this product is the sum of the bytes, each of them 0 or 1.
+    count_ += ((starts >> 7) * in_every_byte(1)) >> 56;
+    space_before_ = spaces >> 56;
   }
-  return count;
+
+  std::size_t count() const { return count_; }
+
+ private:
+  std::uint64_t space_before_ = 0x80;
+  std::size_t count_ = 0;
+};
+
+std::size_t count_words(std::string_view text) {
+  WordCounter counter;
+  for (; text.size() >= word_bytes; text.remove_prefix(word_bytes))
+    counter.add(text.data());
+  std::array<char, word_bytes> rest{};
+  rest.fill(' ');
+  std::copy(text.begin(), text.end(), rest.begin());
+  counter.add(rest.data());
+  return counter.count();
 }
 
-/// The length of the longest front part of `text` that is short and ends where a word may end.
+/// Where a text that is not short can be cut without cutting a word: behind the last white space of
+/// its longest short front or, where there is none, behind the word that fills it.
 std::size_t find_cut(std::string_view text) {
-  std::size_t cut = space_bits_limit - 1;
-  while (cut != 0 && !is_space(text[cut])) --cut;
-  if (cut != 0) return cut;
-  cut = space_bits_limit;
-  while (cut != text.size() && !is_space(text[cut])) ++cut;
-  return cut;
+  const std::string_view front = text.substr(0, space_bits_limit - 1);
+  const auto last_space = std::find_if(front.rbegin(), front.rend(), is_space);
+  if (last_space != front.rend())
+    return static_cast<std::size_t>(front.rend() - last_space);
+  const auto* const word_end = std::find_if(front.end(), text.end(), is_space);
+  return static_cast<std::size_t>(word_end - text.begin());
+}
+
+std::vector<std::string> split_short(std::string_view text) {
+  const ShortText line(text);
+  std::vector<std::string> words;
+  words.reserve(line.count_words());
+  line.append_words(words);
+  return words;
+}
+
+std::vector<std::string> split_long(std::string_view text) {
+  std::vector<std::string> words;
+  words.reserve(count_words(text));
+  while (text.size() >= space_bits_limit) {
+    const std::string_view part = text.substr(0, find_cut(text));
+    text.remove_prefix(part.size());
+    if (part.size() < space_bits_limit) {
+      ShortText(part).append_words(words);
+    } else {
+      words.emplace_back(part);
+    }
+  }
+  ShortText(text).append_words(words);
+  return words;
 }
 
 }  // namespace
 
 std::vector<std::string> split_whitespace(std::string_view text) {
-  std::vector<std::string> words;
-  if (text.size() < space_bits_limit) {
-    const ShortText line(text);
-    words.reserve(line.count_words());
-    line.append_words(words);
-    return words;
-  }
-  words.reserve(count_words(text));
-  while (text.size() >= space_bits_limit) {
-    const std::size_t cut = find_cut(text);
-    if (cut < space_bits_limit) ShortText(text.substr(0, cut)).append_words(words);
-    else words.emplace_back(text.substr(0, cut));
-    text.remove_prefix(cut);
-  }
-  ShortText(text).append_words(words);
-  return words;
+  return text.size() < space_bits_limit ? split_short(text) : split_long(text);
 }
 
 }  // namespace kelp::core::text

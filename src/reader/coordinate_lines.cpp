@@ -54,28 +54,37 @@ bool parse_xyz_reference(std::string_view line, std::string& keyword, std::strin
 }
 
 // atom-line = letters number number number
-std::optional<AtomRecord> parse_atom_line(std::string_view line) {
+bool parse_atom_line(std::string_view line, AtomRecord& atom) {
   const std::vector<std::string> tokens = text::split_whitespace(line);
   if (tokens.size() != 4)
-    return std::nullopt;
+    return false;
   if (!std::all_of(tokens[0].begin(), tokens[0].end(), is_letter))
-    return std::nullopt;
-  AtomRecord atom;
+    return false;
   if (!text::try_parse_double(tokens[1], atom.x))
-    return std::nullopt;
+    return false;
   if (!text::try_parse_double(tokens[2], atom.y))
-    return std::nullopt;
+    return false;
   if (!text::try_parse_double(tokens[3], atom.z))
-    return std::nullopt;
+    return false;
   atom.symbol = elements::normalize_symbol(tokens[0]);
+  return true;
+}
+
+std::optional<AtomRecord> parse_atom_line(std::string_view line) {
+  std::optional<AtomRecord> atom(std::in_place);
+  if (!parse_atom_line(line, *atom))
+    atom.reset();
   return atom;
 }
 
 std::string rest_after_first_word(std::string_view text) {
-  using Iterator = std::string_view::const_iterator;
-  const Iterator word_end = std::find_if(text.begin(), text.end(), is_blank);
-  const Iterator rest = std::find_if_not(word_end, text.end(), is_blank);
-  return std::string(rest, text.end());
+  while (!text.empty() && is_blank(text.front()))
+    text.remove_prefix(1);
+  while (!text.empty() && !is_blank(text.front()))
+    text.remove_prefix(1);
+  while (!text.empty() && is_blank(text.front()))
+    text.remove_prefix(1);
+  return std::string(text);
 }
 
 }  // namespace kelp::input::quill

@@ -31,6 +31,7 @@ bool parse_xyz_reference(std::string_view line, std::string& keyword, std::strin
 /// Reads a line of exactly four tokens, a symbol made of letters and three numbers. The symbol is
 /// returned in its normal spelling and need not be an element's. Any other line gives nothing.
 std::optional<AtomRecord> parse_atom_line(std::string_view line);
+bool parse_atom_line(std::string_view line, AtomRecord& atom);
 
 /// Returns what follows the first run of non-blank characters and the blanks after that run. The
 /// end is not trimmed.

@@ -1,7 +1,7 @@
 #include "reader/header_line.hpp"
 
+#include <algorithm>
 #include <cstddef>
-#include <optional>
 #include <utility>
 
 #include "kelp/core/text.hpp"
@@ -15,35 +15,34 @@ namespace {
 
 constexpr std::size_t npos = std::string_view::npos;
 
+constexpr bool is_quote(char c) { return c == '"' || c == '\''; }
+
 /// Returns the position of the first comma outside quotes at or after `start`, or the end.
 std::size_t find_separator(std::string_view list, std::size_t start) {
-  bool in_single = false;
-  bool in_double = false;
-  for (std::size_t i = start; i < list.size(); ++i) {
-    const char c = list[i];
-    if (c == '\'' && !in_double)
-      in_single = !in_single;
-    if (c == '"' && !in_single)
-      in_double = !in_double;
-    if (c == ',' && !in_single && !in_double)
-      return i;
+  std::size_t i = start;
+  for (; i < list.size() && list[i] != ','; ++i) {
+    if (!is_quote(list[i]))
+      continue;
+    i = list.find(list[i], i + 1);  // the other kind of quote means nothing until this one closes
+    if (i == npos)
+      return list.size();
   }
-  return list.size();
+  return i;
 }
 
 /// parameter = name [ "=" value ] ; the first "=" separates, within quotes too
-std::optional<CommandParameter> parse_parameter(std::string_view piece) {
+void append_parameter(std::string_view piece, std::vector<CommandParameter>& parameters) {
   std::string trimmed = text::trim(piece);
-  if (trimmed.empty())
-    return std::nullopt;
   const std::string_view view = trimmed;
   const std::size_t equals = view.find('=');
-  if (equals == npos)
-    return CommandParameter(std::move(trimmed));
+  if (equals == npos) {
+    if (!trimmed.empty())
+      parameters.emplace_back(std::move(trimmed));
+    return;
+  }
   std::string name = text::trim(view.substr(0, equals));
-  if (name.empty())
-    return std::nullopt;
-  return CommandParameter(std::move(name), unquote_value(std::string(view.substr(equals + 1))));
+  if (!name.empty())
+    parameters.emplace_back(std::move(name), unquote_value(std::string(view.substr(equals + 1))));
 }
 
 HeaderCommand parse_flag(std::string_view body) {
@@ -71,18 +70,34 @@ HeaderCommand parse_parameterised(std::string_view body, std::size_t open,
   return command;
 }
 
+/// Returns the position of the first "=" or "(", or the end.
+std::size_t find_decisive(std::string_view body) {
+  const auto is_decisive = [](char c) { return c == '=' || c == '('; };
+  return static_cast<std::size_t>(std::find_if(body.begin(), body.end(), is_decisive) -
+                                  body.begin());
+}
+
 /// body = name                      a flag
 ///      / name "=" value            an assignment
 ///      / name "(" list ")"         a parameter list
 /// Whichever of "=" and "(" comes first decides.
 HeaderCommand parse_body(std::string_view body, std::vector<std::string>& warnings,
                          std::uint64_t line_number) {
-  const std::size_t decisive = body.find_first_of("=(");
-  if (decisive == npos)
+  const std::size_t decisive = find_decisive(body);
+  if (decisive == body.size())
     return parse_flag(body);
   if (body[decisive] == '=')
     return parse_assignment(body, decisive);
   return parse_parameterised(body, decisive, warnings, line_number);
+}
+
+HeaderCommand parse_named_body(std::string_view body, std::vector<std::string>& warnings,
+                               std::uint64_t line_number) {
+  HeaderCommand command = parse_body(body, warnings, line_number);
+  if (command.name.empty()) {
+    warnings.push_back(line_diagnostic(line_number, message::nameless_command));
+  }
+  return command;
 }
 
 }  // namespace
@@ -98,20 +113,14 @@ HeaderCommand parse_header_command_line(std::string_view line, std::vector<std::
     warnings.push_back(line_diagnostic(line_number, message::empty_header_command));
     return HeaderCommand();
   }
-  HeaderCommand command = parse_body(body, warnings, line_number);
-  if (command.name.empty()) {
-    warnings.push_back(line_diagnostic(line_number, message::nameless_command));
-  }
-  return command;
+  return parse_named_body(body, warnings, line_number);
 }
 
 std::vector<CommandParameter> parse_parameter_list(std::string_view list) {
   std::vector<CommandParameter> parameters;
   for (std::size_t start = 0; start <= list.size();) {
     const std::size_t end = find_separator(list, start);
-    std::optional<CommandParameter> parameter = parse_parameter(list.substr(start, end - start));
-    if (parameter)
-      parameters.push_back(*std::move(parameter));
+    append_parameter(list.substr(start, end - start), parameters);
     start = end + 1;
   }
   return parameters;
@@ -119,8 +128,8 @@ std::vector<CommandParameter> parse_parameter_list(std::string_view list) {
 
 std::string unquote_value(std::string value) {
   value = text::trim(value);
-  const bool is_quoted = value.size() >= 2 && value.front() == value.back() &&
-                         (value.front() == '"' || value.front() == '\'');
+  const bool is_quoted =
+      value.size() >= 2 && value.front() == value.back() && is_quote(value.front());
   if (is_quoted)
     return value.substr(1, value.size() - 2);
   return value;

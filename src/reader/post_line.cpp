@@ -17,12 +17,10 @@ namespace {
 /// Reads the tokens after the keyword and before number `end` as atom numbers.
 bool parse_atom_numbers(const std::vector<std::string>& tokens, std::size_t end,
                         std::vector<std::int32_t>& numbers) {
-  numbers.reserve(end - 1);
+  numbers.resize(end - 1);
   for (std::size_t i = 1; i < end; ++i) {
-    int number = 0;
-    if (!text::try_parse_int(tokens[i], number))
+    if (!text::try_parse_int(tokens[i], numbers[i - 1]))
       return false;
-    numbers.push_back(number);
   }
   return true;
 }
@@ -43,36 +41,38 @@ bool parse_scan(const std::vector<std::string>& tokens, PostCommand& command) {
   return true;
 }
 
+/// Reads what follows the keyword of a line that has the number of tokens of its kind.
+bool parse_fields(const std::vector<std::string>& tokens, PostCommand& command) {
+  if (command.kind == PostCommandKind::Scan)
+    return parse_scan(tokens, command);
+  if (command.kind == PostCommandKind::PostFile) {
+    command.post_file = rest_after_first_word(command.raw_text);
+    return true;
+  }
+  return parse_atom_numbers(tokens, tokens.size(), command.atom_indices);
+}
+
 }  // namespace
 
 // post-line = keyword *token ; keyword in any letter case, see post_line_shapes
-std::optional<PostCommand> parse_post_line(std::string_view text) {
-  std::string trimmed = text::trim(text);
-  if (trimmed.empty())
-    return std::nullopt;
-  const std::vector<std::string> tokens = text::split_whitespace(trimmed);
+bool parse_post_line(std::string_view line, PostCommand& command) {
+  command.raw_text = text::trim(line);
+  const std::vector<std::string> tokens = text::split_whitespace(command.raw_text);
   if (tokens.empty())
-    return std::nullopt;
-
-  std::optional<PostCommand> command(PostCommandKind::Raw);
-  command->raw_text = std::move(trimmed);
+    return false;
   const PostLineShape* shape = find_post_line_shape(text::to_upper_copy(tokens.front()));
   // The number of tokens decides before any number is read: a constraint with a token too many is
   // text that somebody may want to keep, one with a malformed number is a mistake to report.
   if (shape == nullptr || !shape->accepts(tokens.size()))
-    return command;
+    return true;
+  command.kind = shape->kind;
+  return parse_fields(tokens, command);
+}
 
-  command->kind = shape->kind;
-  bool is_well_formed = true;
-  if (shape->kind == PostCommandKind::PostFile) {
-    command->post_file = rest_after_first_word(command->raw_text);
-  } else if (shape->kind == PostCommandKind::Scan) {
-    is_well_formed = parse_scan(tokens, *command);
-  } else {
-    is_well_formed = parse_atom_numbers(tokens, tokens.size(), command->atom_indices);
-  }
-  if (!is_well_formed)
-    return std::nullopt;
+std::optional<PostCommand> parse_post_line(std::string_view line) {
+  std::optional<PostCommand> command(std::in_place);
+  if (!parse_post_line(line, *command))
+    command.reset();
   return command;
 }
 

@@ -11,7 +11,8 @@ namespace kelp::input::quill {
 /// Reads one post-processing line. A line with a known keyword and the number of tokens that goes
 /// with it, but with a malformed number, gives nothing, and so does a blank line; every other line
 /// gives a command, of kind `Raw` when it has no other form.
-std::optional<PostCommand> parse_post_line(std::string_view text);
+std::optional<PostCommand> parse_post_line(std::string_view line);
+bool parse_post_line(std::string_view line, PostCommand& command);
 
 }  // namespace kelp::input::quill
 

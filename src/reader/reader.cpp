@@ -34,7 +34,7 @@ void read_charge_and_multiplicity(LineCursor& cursor, GeometryBlock& geometry) {
   cursor.advance();
 }
 
-void store_path(std::string path, std::string_view complaint, const LineCursor& cursor,
+void store_path(std::string&& path, std::string_view complaint, const LineCursor& cursor,
                 ParseResult& result) {
   if (path.empty()) {
     result.warnings.push_back(line_diagnostic(cursor.number(), complaint));
@@ -62,24 +62,23 @@ void read_xyz_files(LineCursor& cursor, ParseResult& result) {
 
 void read_atoms(LineCursor& cursor, ParseResult& result) {
   std::vector<AtomRecord>& atoms = result.input.geometry.atoms;
+  atoms.reserve(cursor.remaining());
   for (; !cursor.at_end(); cursor.advance()) {
-    std::optional<AtomRecord> atom = parse_atom_line(cursor.trimmed());
-    if (!atom)
+    AtomRecord& atom = atoms.emplace_back();
+    if (!parse_atom_line(cursor.trimmed(), atom)) {
+      atoms.pop_back();
       break;
-    if (!chem::elements::atomic_number_from_symbol(atom->symbol)) {
-      result.warnings.push_back(unknown_element_diagnostic(cursor.number(), atom->symbol));
     }
-    if (atoms.empty())
-      atoms.reserve(cursor.remaining());
-    atoms.push_back(*std::move(atom));
+    if (!chem::elements::atomic_number_from_symbol(atom.symbol)) {
+      result.warnings.push_back(unknown_element_diagnostic(cursor.number(), atom.symbol));
+    }
   }
-  if (atoms.empty())
-    return;
-  result.input.geometry.kind = GeometryKind::Atoms;
   // Most inputs hold little but atoms, and then the room reserved was right. Where it was not, a
   // document should not hold on to it for the rest of its life.
-  if (atoms.size() < atoms.capacity() / 2)
+  if (atoms.size() <= atoms.capacity() / 2)
     atoms.shrink_to_fit();
+  if (!atoms.empty())
+    result.input.geometry.kind = GeometryKind::Atoms;
 }
 
 /// The first line decides on the form; what stands in another form after it is post-processing.
@@ -98,11 +97,10 @@ void read_coordinates(LineCursor& cursor, ParseResult& result) {
 }
 
 void read_post_lines(LineCursor& cursor, ParseResult& result) {
+  std::vector<PostCommand>& commands = result.input.post_commands;
   for (; !cursor.at_end(); cursor.advance()) {
-    std::optional<PostCommand> command = parse_post_line(cursor.trimmed());
-    if (command) {
-      result.input.post_commands.push_back(*std::move(command));
-    } else {
+    if (!parse_post_line(cursor.trimmed(), commands.emplace_back())) {
+      commands.pop_back();
       result.warnings.push_back(line_diagnostic(cursor.number(), message::unrecognized_post_line));
     }
   }

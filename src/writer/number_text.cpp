@@ -22,15 +22,15 @@ constexpr std::size_t longest_scan_value = 1 + 6 + 1 + 5;
 
 constexpr std::size_t longest_integer = std::numeric_limits<std::int32_t>::digits10 + 2;
 
-#if defined(__SIZEOF_INT128__)
+#if defined(__SIZEOF_INT128__) && !defined(KELP_QUILL_INP_PORTABLE_NUMBERS)
 __extension__ using Uint128 = unsigned __int128;
 
 /// Returns the magnitude of `value` in millionths, rounded to the nearest integer with ties to
 /// even, for magnitudes below 2^43; nothing for others.
 ///
-/// A double is m * 2^-s with m < 2^53, so m * 10^6 < 2^73 is exact in 128 bits, and shifting it
-/// right by s loses only bits that are looked at for rounding. From s = 75 on, what remains is
-/// less than half a millionth. Below 2^43, s is at least 10 and the result less than 2^63.
+/// A double is m * 2^-s with m < 2^53, so m * 10^6 < 2^73 is exact in 128 bits, and of the sum with
+/// half a millionth only the bits below 2^s are lost: all of them are 0 exactly for a tie. From
+/// s = 75 on the result is less than half a millionth. Below 2^43 it is less than 2^63.
 std::optional<std::uint64_t> to_millionths(double value) {
   constexpr double limit = 8'796'093'022'208.0;
   constexpr int mantissa_bits = std::numeric_limits<double>::digits - 1;
@@ -44,36 +44,53 @@ std::optional<std::uint64_t> to_millionths(double value) {
   if (shift >= 75U)
     return 0;
   const Uint128 product = Uint128{(bits & (hidden_bit - 1)) | hidden_bit} * millionths_per_unit;
-  const auto floor = static_cast<std::uint64_t>(product >> shift);
-  const Uint128 rest = product & ((Uint128{1} << shift) - 1);
-  const Uint128 half = Uint128{1} << (shift - 1);
-  const bool round_up = rest > half || (rest == half && (floor & 1U) != 0);
-  return floor + (round_up ? 1U : 0U);
+  const Uint128 sum = product + (Uint128{1} << (shift - 1));
+  const auto rounded = static_cast<std::uint64_t>(sum >> shift);
+  const bool is_tie = sum << (128U - shift) == 0;
+  return is_tie ? rounded & ~std::uint64_t{1} : rounded;
 }
 #else
 std::optional<std::uint64_t> to_millionths(double) { return std::nullopt; }
 #endif
 
-/// Writes the digits of `number` so that they end before `end`, at least `least` of them; returns
-/// where they begin.
-char* write_digits_before(char* end, std::uint64_t number, int least) {
-  for (; number != 0 || least > 0; number /= 10, --least) {
-    *--end = static_cast<char>('0' + number % 10);
-  }
-  return end;
+// Eight characters are made at once, in the eight bytes of an integer; the first one is the lowest
+// byte, whatever order the machine stores them in.
+
+constexpr std::uint64_t in_every_byte(std::uint64_t byte) { return byte * 0x0101010101010101U; }
+
+/// Returns the eight digits of a number below 10^8 as bytes from 0 to 9.
+///
+/// Each step divides every part of the word by a power of ten and puts quotient and remainder in
+/// its place: two halves of four digits, four pairs, eight digits. x * 10486 >> 20 is x / 100 for
+/// every x < 10^4, x * 103 >> 10 is x / 10 for every x < 100, and no product reaches the next part.
+constexpr std::uint64_t digits_of(std::uint64_t number) {
+  const std::uint64_t halves = number / 10000 | number % 10000 << 32;
+  const std::uint64_t hundreds = halves * 10486 >> 20 & 0x0000007F0000007FU;
+  const std::uint64_t pairs = hundreds | (halves - hundreds * 100) << 16;
+  const std::uint64_t tens = pairs * 103 >> 10 & 0x000F000F000F000FU;
+  return tens | (pairs - tens * 10) << 8;
 }
 
-void append_millionths(std::string& out, std::uint64_t millionths, bool is_negative) {
-  char field[24];  // a sign, 13 digits, the point and 6 decimals are 21
-  char* const end = field + sizeof field;
-  char* first = write_digits_before(end, millionths % millionths_per_unit, coordinate_decimals);
-  *--first = '.';
-  first = write_digits_before(first, millionths / millionths_per_unit, 1);
-  if (is_negative)
-    *--first = '-';
-  while (static_cast<std::size_t>(end - first) < coordinate_width)
-    *--first = ' ';
-  out.append(first, end);
+/// Returns digits as text, with blanks for leading zeros and a "-" or one more blank before what
+/// remains, of which the last digit is always a part. The first byte of `digits` is 0.
+constexpr std::uint64_t right_justified(std::uint64_t digits, bool is_negative) {
+  constexpr std::uint64_t last_digit = std::uint64_t{0x80} << 56;
+  // Adding 0x7F sets the top bit of every digit but 0; of these flags the lowest one counts.
+  const std::uint64_t flags = ((digits + in_every_byte(0x7F)) & in_every_byte(0x80)) | last_digit;
+  const std::uint64_t first_digit = (flags & (~flags + 1)) >> 7;
+  const std::uint64_t all_before = first_digit - 1;
+  // Half of all coordinates are negative, in no order that a processor could foresee: the sign must
+  // not decide on a jump.
+  const std::uint64_t sign = std::uint64_t{is_negative} * ('-' ^ ' ');
+  return (digits | in_every_byte('0')) ^ (all_before & in_every_byte('0' ^ ' ')) ^
+         (first_digit >> 8) * sign;
+}
+
+/// Compilers make one or two stores of this where the byte order allows it.
+template <int count>
+void store_characters(char* out, std::uint64_t characters) {
+  for (int i = 0; i < count; ++i)
+    out[i] = static_cast<char>(characters >> (8 * i) & 0xFFU);
 }
 
 void append_any_coordinate(std::string& out, double coordinate) {
@@ -94,10 +111,23 @@ void append_integer(std::string& out, std::int32_t number) {
   out.append(text, std::to_chars(text, text + sizeof text, number).ptr);
 }
 
-void append_coordinate(std::string& out, double coordinate) {
+bool write_coordinate(char* field, double coordinate) {
+  constexpr std::uint64_t limit = 1'000'000 * millionths_per_unit;
   const std::optional<std::uint64_t> millionths = to_millionths(coordinate);
-  if (millionths) {
-    append_millionths(out, *millionths, std::signbit(coordinate));
+  if (!millionths || *millionths >= limit)
+    return false;
+  const std::uint64_t whole = digits_of(*millionths / millionths_per_unit);
+  const std::uint64_t decimals = digits_of(*millionths % millionths_per_unit);
+  store_characters<8>(
+      field, right_justified(whole, std::signbit(coordinate)) >> 8 | std::uint64_t{'.'} << 56);
+  store_characters<6>(field + 8, (decimals | in_every_byte('0')) >> 16);
+  return true;
+}
+
+void append_coordinate(std::string& out, double coordinate) {
+  char field[coordinate_width];
+  if (write_coordinate(field, coordinate)) {
+    out.append(field, sizeof field);
   } else {
     append_any_coordinate(out, coordinate);
   }

@@ -18,6 +18,11 @@ void append_integer(std::string& out, std::int32_t number);
 /// Appends what printf("%14.6f") prints.
 void append_coordinate(std::string& out, double coordinate);
 
+/// Writes what printf("%14.6f") prints into the 14 characters at `field` and returns true, for
+/// numbers whose text is known without a search: nearly all below a million. Otherwise writes
+/// nothing and returns false.
+bool write_coordinate(char* field, double coordinate);
+
 /// Appends what printf("%g") prints.
 void append_scan_value(std::string& out, double value);
 

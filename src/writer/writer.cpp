@@ -12,6 +12,7 @@ namespace kelp::input::quill {
 namespace {
 
 constexpr std::size_t symbol_width = 3;
+constexpr std::size_t atom_line_size = symbol_width + 3 * coordinate_width + 1;
 
 void append_padded(std::string& out, const std::string& text, std::size_t width) {
   out += text;
@@ -57,7 +58,26 @@ void append_charge_and_multiplicity(std::string& out, const GeometryBlock& geome
   out += '\n';
 }
 
+/// Appends the line of an atom in one piece, if the symbol and all coordinates fit their columns.
+bool append_usual_atom(std::string& out, const AtomRecord& atom) {
+  char line[atom_line_size];
+  const std::size_t length = atom.symbol.size();
+  if (length > symbol_width)
+    return false;
+  for (std::size_t i = 0; i < symbol_width; ++i)
+    line[i] = i < length ? atom.symbol[i] : ' ';
+  char* const fields = line + symbol_width;
+  if (!write_coordinate(fields, atom.x) || !write_coordinate(fields + coordinate_width, atom.y) ||
+      !write_coordinate(fields + 2 * coordinate_width, atom.z))
+    return false;
+  line[atom_line_size - 1] = '\n';
+  out.append(line, atom_line_size);
+  return true;
+}
+
 void append_atom(std::string& out, const AtomRecord& atom) {
+  if (append_usual_atom(out, atom))
+    return;
   append_padded(out, atom.symbol, symbol_width);
   append_coordinate(out, atom.x);
   append_coordinate(out, atom.y);
@@ -155,7 +175,7 @@ std::size_t expected_size(const HeaderCommand& command) {
 std::size_t expected_size(const GeometryBlock& geometry) {
   std::size_t size = 24;
   if (geometry.kind == GeometryKind::Atoms) {
-    size += geometry.atoms.size() * (symbol_width + 3 * coordinate_width + 1);
+    size += geometry.atoms.size() * atom_line_size;
   } else {
     for (const std::string& path : geometry.xyz_files)
       size += path.size() + 9;

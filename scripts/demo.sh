@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the examples and shows them at work on real inputs: one input is
+# read and written back, a careless one is read for its diagnostics, and one is edited.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/packages.sh
+
+need_packages "${build_packages[@]}"
+
+build=build/demo
+log=$build/build.log
+mkdir -p "$build"
+echo "Building in $build ..."
+if ! {
+  cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DKELP_QUILL_INP_BUILD_EXAMPLES=ON &&
+    cmake --build "$build"
+} >"$log" 2>&1; then
+  tail -n 30 "$log" >&2
+  echo "The build failed; the whole output is in $log." >&2
+  exit 1
+fi
+
+inputs=examples/inputs
+echo
+echo "== Reading $inputs/water_optimisation.qin and writing it to $build/water.qin"
+"$build/examples/read_write" "$inputs/water_optimisation.qin" "$build/water.qin"
+
+echo
+echo "== Reading $inputs/careless.qin: every problem is named, no line is lost silently"
+"$build/examples/read_write" "$inputs/careless.qin"
+
+echo
+echo "== Setting maxiter of opt to 100 in $build/water.qin: what changes"
+"$build/examples/edit_input" "$build/water.qin" "$build/water_edited.qin"
+diff -u "$build/water.qin" "$build/water_edited.qin" || [ $? -eq 1 ]
+
+echo
+echo "== Building formaldehyde from nothing into $build/formaldehyde.qin"
+"$build/examples/build_input" "$build/formaldehyde.qin"

@@ -1,0 +1,97 @@
+// Turns the C++ code blocks of a Markdown page into one program, so that documentation which does
+// not compile, or asserts what is not so, fails the tests.
+//
+//   extract_code PAGE.md PROGRAM.cpp
+//
+// Include lines and using directives are gathered at the top. Each block becomes a function, or, if
+// it defines main, a namespace whose main is called. Compiler messages name the page and its lines.
+
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+struct Block {
+  std::size_t first_line;
+  std::vector<std::string> lines;
+};
+
+bool starts_with(const std::string& line, const std::string& prefix) {
+  return line.compare(0, prefix.size(), prefix) == 0;
+}
+
+std::vector<Block> find_blocks(std::istream& page) {
+  std::vector<Block> blocks;
+  bool is_inside = false;
+  std::string line;
+  for (std::size_t number = 1; std::getline(page, line); ++number) {
+    if (is_inside && line == "```") {
+      is_inside = false;
+    } else if (is_inside) {
+      blocks.back().lines.push_back(line);
+    } else if (line == "```cpp") {
+      is_inside = true;
+      blocks.push_back({number + 1, {}});
+    }
+  }
+  return blocks;
+}
+
+bool belongs_on_top(const std::string& line) {
+  return starts_with(line, "#include") || starts_with(line, "using namespace");
+}
+
+bool defines_main(const Block& block) {
+  for (const std::string& line : block.lines) {
+    if (starts_with(line, "int main(")) return true;
+  }
+  return false;
+}
+
+void write_block(std::ostream& out, const Block& block, const std::string& page,
+                 const std::string& name) {
+  const bool is_program = defines_main(block);
+  out << (is_program ? "namespace " : "void ") << name << (is_program ? " {\n" : "() {\n");
+  out << "#line " << block.first_line << " \"" << page << "\"\n";
+  for (const std::string& line : block.lines) out << (belongs_on_top(line) ? "" : line) << "\n";
+  out << "}\n";
+}
+
+void write_program(std::ostream& out, const std::vector<Block>& blocks, const std::string& page) {
+  out << "#undef NDEBUG\n#include <cassert>\n#include <iostream>\n";
+  for (const Block& block : blocks) {
+    for (const std::string& line : block.lines) {
+      if (belongs_on_top(line)) out << line << "\n";
+    }
+  }
+  out << "#define main main_of_block\n";
+  std::ostringstream calls;
+  for (std::size_t i = 0; i < blocks.size(); ++i) {
+    const std::string name = "block_" + std::to_string(i + 1);
+    write_block(out, blocks[i], page, name);
+    calls << "  " << name << (defines_main(blocks[i]) ? "::main_of_block();\n" : "();\n");
+  }
+  out << "#undef main\nint main() {\n" << calls.str() << "}\n";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::cerr << "usage: extract_code PAGE.md PROGRAM.cpp\n";
+    return 2;
+  }
+  std::ifstream page(argv[1]);
+  const std::vector<Block> blocks = find_blocks(page);
+  if (blocks.empty()) {
+    std::cerr << argv[1] << ": no C++ code block found\n";
+    return 1;
+  }
+  std::ofstream program(argv[2]);
+  write_program(program, blocks, argv[1]);
+  program.close();
+  return program ? 0 : 1;
+}

@@ -1,0 +1,82 @@
+#include "support/failing_allocator.hpp"
+
+#include <cstddef>
+#include <cstdlib>
+#include <new>
+
+namespace kelp::input::quill {
+
+namespace {
+
+struct Counts {
+  std::uint64_t asked_for;
+  std::uint64_t failing;
+  std::int64_t live;
+  bool is_window_open;
+};
+
+// Zero before the first allocation of any initialiser.
+Counts counts;
+
+bool must_fail() noexcept { return counts.is_window_open && ++counts.asked_for == counts.failing; }
+
+// The blocks come from malloc, so that the sanitizers watch them as any others.
+
+void* allocate(std::size_t size) noexcept {
+  if (must_fail())
+    return nullptr;
+  void* const block = std::malloc(size == 0 ? 1 : size);
+  if (block != nullptr)
+    ++counts.live;
+  return block;
+}
+
+void* allocate_or_throw(std::size_t size) {
+  void* const block = allocate(size);
+  if (block == nullptr)
+    throw std::bad_alloc();
+  return block;
+}
+
+void release(void* block) noexcept {
+  if (block != nullptr)
+    --counts.live;
+  std::free(block);
+}
+
+}  // namespace
+
+AllocationWindow::AllocationWindow(std::uint64_t failing) noexcept {
+  counts.asked_for = 0;
+  counts.failing = failing;
+  counts.is_window_open = true;
+}
+
+AllocationWindow::~AllocationWindow() { counts.is_window_open = false; }
+
+std::uint64_t AllocationWindow::allocations() const noexcept { return counts.asked_for; }
+
+std::int64_t live_allocations() noexcept { return counts.live; }
+
+}  // namespace kelp::input::quill
+
+// All of these are replaced, although by default they call one another: a sanitizer's own would not
+// come here. Those for types of extended alignment are not, since there are no such types.
+
+namespace quill = kelp::input::quill;
+
+void* operator new(std::size_t size) { return quill::allocate_or_throw(size); }
+void* operator new[](std::size_t size) { return quill::allocate_or_throw(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return quill::allocate(size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+  return quill::allocate(size);
+}
+
+void operator delete(void* block) noexcept { quill::release(block); }
+void operator delete[](void* block) noexcept { quill::release(block); }
+void operator delete(void* block, std::size_t) noexcept { quill::release(block); }
+void operator delete[](void* block, std::size_t) noexcept { quill::release(block); }
+void operator delete(void* block, const std::nothrow_t&) noexcept { quill::release(block); }
+void operator delete[](void* block, const std::nothrow_t&) noexcept { quill::release(block); }

@@ -1,0 +1,31 @@
+#ifndef KELP_INPUT_QUILL_TESTS_SUPPORT_FAILING_ALLOCATOR_HPP
+#define KELP_INPUT_QUILL_TESTS_SUPPORT_FAILING_ALLOCATOR_HPP
+
+#include <cstdint>
+
+// A program that is linked with failing_allocator.cpp allocates through a global operator new that
+// counts, and that fails on demand. The counts are those of the whole program, which is to have one
+// thread.
+
+namespace kelp::input::quill {
+
+/// From construction to destruction, counts the allocations and lets one of them throw
+/// std::bad_alloc. There is one window at a time.
+class AllocationWindow {
+ public:
+  /// Lets allocation number `failing` fail, counted from 1; with 0, none.
+  explicit AllocationWindow(std::uint64_t failing = 0) noexcept;
+  ~AllocationWindow();
+  AllocationWindow(const AllocationWindow&) = delete;
+  AllocationWindow& operator=(const AllocationWindow&) = delete;
+
+  /// Returns how many allocations were asked for, a failed one included.
+  std::uint64_t allocations() const noexcept;
+};
+
+/// Returns how many blocks are allocated and not freed yet.
+std::int64_t live_allocations() noexcept;
+
+}  // namespace kelp::input::quill
+
+#endif  // KELP_INPUT_QUILL_TESTS_SUPPORT_FAILING_ALLOCATOR_HPP

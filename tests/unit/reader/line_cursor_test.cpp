@@ -1,0 +1,62 @@
+#include "reader/line_cursor.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace kelp::input::quill {
+namespace {
+
+using namespace std::string_literals;
+
+/// What a cursor shows at one stop: the line, the trimmed line, its number and how many remain.
+using Stop = std::tuple<std::string, std::string, std::uint64_t, std::size_t>;
+
+struct Row {
+  std::string name;
+  std::string text;
+  std::vector<Stop> stops;
+};
+
+void PrintTo(const Row& row, std::ostream* out) { *out << testing::PrintToString(row.text); }
+
+std::vector<Stop> walk(LineCursor& cursor) {
+  std::vector<Stop> stops;
+  for (; !cursor.at_end(); cursor.advance())
+    stops.emplace_back(cursor.line(), cursor.trimmed(), cursor.number(), cursor.remaining());
+  return stops;
+}
+
+class LineCursorOver : public testing::TestWithParam<Row> {};
+
+TEST_P(LineCursorOver, StopsAtTheLinesThatAreNotBlank) {
+  LineCursor cursor(GetParam().text);
+  EXPECT_EQ(walk(cursor), GetParam().stops);
+  EXPECT_TRUE(cursor.at_end());
+  EXPECT_EQ(cursor.remaining(), 0U);
+}
+
+const Row rows[] = {
+    {"NoText", "", {}},
+    {"OneLineEnd", "\n", {}},
+    {"BlankLinesOnly", "\n \t\n\v\f\r\n  ", {}},
+    {"OneLine", "a", {{"a", "a", 1, 1}}},
+    {"OneLineWithItsEnd", "a\n", {{"a", "a", 1, 1}}},
+    {"TwoLines", "a\nb", {{"a", "a", 1, 2}, {"b", "b", 2, 1}}},
+    {"BlankLinesAreCounted", "\n\n a \n\n\t\nb\n\n", {{" a ", "a", 3, 5}, {"b", "b", 6, 2}}},
+    {"LineEndsOfTwoBytes", "a\r\n\r\nb\r\n", {{"a", "a", 1, 3}, {"b", "b", 3, 1}}},
+    {"ACarriageReturnAloneIsABlank", "\ra\rb\r", {{"\ra\rb\r", "a\rb", 1, 1}}},
+    {"ACarriageReturnAloneEndsNoLine", "\r\r\n\rb", {{"\rb", "b", 2, 1}}},
+    {"ANulByteIsNoBlank", "\0\n\n\0\n"s, {{"\0"s, "\0"s, 1, 3}, {"\0"s, "\0"s, 3, 1}}},
+    {"ANoBreakSpaceIsNoBlank", "\xC2\xA0\n", {{"\xC2\xA0", "\xC2\xA0", 1, 1}}},
+};
+INSTANTIATE_TEST_SUITE_P(Table, LineCursorOver, testing::ValuesIn(rows),
+                         [](const auto& row) { return row.param.name; });
+
+}  // namespace
+}  // namespace kelp::input::quill

@@ -1,0 +1,15 @@
+// The source as a compiler without 128-bit integers sees it. The standard library, which takes the
+// macro to describe the compiler, has to be included before the macro goes.
+
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <optional>
+#include <string>
+
+#undef __SIZEOF_INT128__
+
+#include "writer/number_text.cpp"
