@@ -50,21 +50,17 @@ constexpr auto numbers = make_numbers();
 
 // shape = upper-case-letter [ lower-case-letter ]
 constexpr bool has_shape_of_symbol(std::string_view text) {
-  if (text.empty() || text.size() > 2)
-    return false;
-  if (text[0] < 'A' || text[0] > 'Z')
-    return false;
+  if (text.empty() || text.size() > 2) return false;
+  if (text[0] < 'A' || text[0] > 'Z') return false;
   return text.size() == 1 || ('a' <= text[1] && text[1] <= 'z');
 }
 
 }  // namespace
 
 std::optional<int> atomic_number_from_symbol(std::string_view symbol) {
-  if (!has_shape_of_symbol(symbol))
-    return std::nullopt;
+  if (!has_shape_of_symbol(symbol)) return std::nullopt;
   const int number = numbers[place_of(symbol)];
-  if (number == 0)
-    return std::nullopt;
+  if (number == 0) return std::nullopt;
   return number;
 }
 

@@ -13,8 +13,7 @@ constexpr char case_distance = 'a' - 'A';
 std::string normalize_symbol(std::string_view symbol) {
   std::string normal(symbol);
   for (char& c : normal) {
-    if (is_in_range(c, 'A', 'Z'))
-      c = static_cast<char>(c + case_distance);
+    if (is_in_range(c, 'A', 'Z')) c = static_cast<char>(c + case_distance);
   }
   if (!normal.empty() && is_in_range(normal.front(), 'a', 'z')) {
     normal.front() = static_cast<char>(normal.front() - case_distance);

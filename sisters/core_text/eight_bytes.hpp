@@ -42,8 +42,7 @@ inline std::size_t lowest_bit(std::uint64_t bits) {
   return static_cast<std::size_t>(__builtin_ctzll(bits));
 #else
   std::size_t place = 0;
-  for (; (bits & 1) == 0; bits >>= 1)
-    ++place;
+  for (; (bits & 1) == 0; bits >>= 1) ++place;
   return place;
 #endif
 }

@@ -19,8 +19,7 @@ inline constexpr bool arithmetic_rounds_once = FLT_EVAL_METHOD == 0 || FLT_EVAL_
 
 constexpr auto make_powers_of_ten() {
   std::array<std::int64_t, 16> powers{1};
-  for (std::size_t i = 1; i < powers.size(); ++i)
-    powers[i] = powers[i - 1] * 10;
+  for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
   return powers;
 }
 
@@ -32,13 +31,10 @@ inline std::optional<std::int64_t> last_digits(std::string_view text, std::size_
   const char* const end = text.data() + text.size();
   const std::size_t low_count = count > word_bytes ? count - word_bytes : count;
   const std::uint64_t low = last_digit_values(load_word(end - word_bytes), low_count);
-  if (!are_digits(low))
-    return std::nullopt;
-  if (low_count == count)
-    return number_of(low);
+  if (!are_digits(low)) return std::nullopt;
+  if (low_count == count) return number_of(low);
   const std::uint64_t high = digit_values(load_word(end - count));
-  if (!are_digits(high))
-    return std::nullopt;
+  if (!are_digits(high)) return std::nullopt;
   return number_of(high) * powers_of_ten[low_count] + number_of(low);
 }
 
@@ -55,16 +51,13 @@ inline std::optional<double> parse_fixed_point(std::string_view text) {
   }
   const std::uint64_t front = load_word(text.data());
   const std::uint64_t points = zero_flags(front ^ in_every_byte('.'));
-  if (points == 0)
-    return std::nullopt;
+  if (points == 0) return std::nullopt;
   const std::size_t whole_count = first_flagged_byte(points);
   const std::size_t fraction_count = text.size() - whole_count - 1;
   const std::uint64_t whole = first_digit_values(front, whole_count);
-  if (fraction_count == 0 || !are_digits(whole))
-    return std::nullopt;
+  if (fraction_count == 0 || !are_digits(whole)) return std::nullopt;
   const std::optional<std::int64_t> fraction = last_digits(text, fraction_count);
-  if (!fraction)
-    return std::nullopt;
+  if (!fraction) return std::nullopt;
   const std::int64_t scale = powers_of_ten[fraction_count];
   return static_cast<double>(number_of(whole) * scale + *fraction) / static_cast<double>(scale);
 }

@@ -19,21 +19,18 @@ class CanonicalText {
     const std::string_view kept = digits.substr(0, most_digits - count_);
     std::copy(kept.begin(), kept.end(), digits_end());
     count_ += kept.size();
-    if (digits.find_first_not_of('0', kept.size()) != std::string_view::npos)
-      has_more_ = true;
+    if (digits.find_first_not_of('0', kept.size()) != std::string_view::npos) has_more_ = true;
   }
 
   /// The double nearest to the number; nothing when it is out of range at either end.
   std::optional<double> nearest_double(std::int64_t exponent) {
     char* end = digits_end();
-    if (has_more_)
-      *end++ = '1';
+    if (has_more_) *end++ = '1';
     *end++ = 'e';
     end = std::to_chars(end, text_.data() + text_.size(), exponent).ptr;
     double value = 0.0;
     const std::errc error = std::from_chars(text_.data(), end, value).ec;
-    if (error != std::errc())
-      return std::nullopt;
+    if (error != std::errc()) return std::nullopt;
     return value;
   }
 
@@ -65,25 +62,21 @@ std::optional<double> nearest_double(const Decimal& decimal) {
   const std::string_view whole = without_leading_zeros(decimal.whole);
   const std::string_view fraction =
       whole.empty() ? without_leading_zeros(decimal.fraction) : decimal.fraction;
-  if (whole.empty() && fraction.empty())
-    return 0.0;
+  if (whole.empty() && fraction.empty()) return 0.0;
 
   // The number is 0.d... times ten to the power of this, d being its first digit that is not 0.
   const std::int64_t exponent =
       decimal.exponent +
       (whole.empty() ? signed_size(fraction) - signed_size(decimal.fraction) : signed_size(whole));
-  if (exponent > Limits::max_exponent10 + 1)
-    return std::nullopt;
+  if (exponent > Limits::max_exponent10 + 1) return std::nullopt;
   // Below 10^-324 a number is nearer to zero than to the smallest double, which is 4.9e-324.
-  if (exponent < -323)
-    return 0.0;
+  if (exponent < -323) return 0.0;
 
   CanonicalText text;
   text.append(whole);
   text.append(fraction);
   const std::optional<double> value = text.nearest_double(exponent);
-  if (!value && exponent < 0)
-    return 0.0;
+  if (!value && exponent < 0) return 0.0;
   return value;
 }
 

@@ -19,13 +19,11 @@ namespace {
 /// The value of a number in the notation of C, or nothing when it is out of range.
 std::optional<double> parse_floating_point(std::string_view text) {
   // from_chars would read a sign here, and names and what may follow them.
-  if (text.empty() || (!is_digit(text.front()) && text.front() != '.'))
-    return std::nullopt;
+  if (text.empty() || (!is_digit(text.front()) && text.front() != '.')) return std::nullopt;
   const char* const last = text.data() + text.size();
   double value = 0.0;
   const auto [end, error] = std::from_chars(text.data(), last, value);
-  if (error != std::errc() || end != last)
-    return std::nullopt;
+  if (error != std::errc() || end != last) return std::nullopt;
   return value;
 }
 
@@ -36,21 +34,16 @@ bool equals_ignoring_case(std::string_view text, std::string_view lower) {
 
 std::optional<double> parse_name(std::string_view text) {
   using Limits = std::numeric_limits<double>;
-  if (equals_ignoring_case(text, "nan"))
-    return Limits::quiet_NaN();
-  if (equals_ignoring_case(text, "inf"))
-    return Limits::infinity();
-  if (equals_ignoring_case(text, "infinity"))
-    return Limits::infinity();
+  if (equals_ignoring_case(text, "nan")) return Limits::quiet_NaN();
+  if (equals_ignoring_case(text, "inf")) return Limits::infinity();
+  if (equals_ignoring_case(text, "infinity")) return Limits::infinity();
   return std::nullopt;
 }
 
 /// The value of any number without a sign.
 std::optional<double> parse_magnitude(std::string_view text) {
-  if (const auto value = parse_floating_point(text))
-    return value;
-  if (const auto decimal = scan_decimal(text))
-    return nearest_double(*decimal);
+  if (const auto value = parse_floating_point(text)) return value;
+  if (const auto decimal = scan_decimal(text)) return nearest_double(*decimal);
   return parse_name(text);
 }
 
@@ -66,10 +59,8 @@ bool try_parse_double(std::string_view token, double& value) {
   const bool is_positive = first == '+';
   token.remove_prefix(std::size_t{is_negative} + std::size_t{is_positive});
   std::optional<double> magnitude = parse_fixed_point(token);
-  if (!magnitude)
-    magnitude = parse_magnitude(token);
-  if (!magnitude)
-    return false;
+  if (!magnitude) magnitude = parse_magnitude(token);
+  if (!magnitude) return false;
   value = std::copysign(*magnitude, signs[std::size_t{is_negative}]);
   return true;
 }

@@ -12,13 +12,11 @@ bool try_parse_int(std::string_view token, int& value) {
   // from_chars takes a "-" but no "+"; behind a "+" no other sign may follow.
   if (first != last && *first == '+') {
     ++first;
-    if (first == last || !is_digit(*first))
-      return false;
+    if (first == last || !is_digit(*first)) return false;
   }
   int number = 0;
   const auto [end, error] = std::from_chars(first, last, number);
-  if (error != std::errc() || end != last)
-    return false;
+  if (error != std::errc() || end != last) return false;
   value = number;
   return true;
 }

@@ -9,8 +9,7 @@ namespace kelp::core::text {
 namespace {
 
 bool take(std::string_view& text, char c) {
-  if (text.empty() || text.front() != c)
-    return false;
+  if (text.empty() || text.front() != c) return false;
   text.remove_prefix(1);
   return true;
 }
@@ -30,8 +29,7 @@ std::int64_t limited_value(std::string_view digits) {
   constexpr std::int64_t limit = 100'000'000'000'000'000;
   std::int64_t value = 0;
   for (const char digit : digits) {
-    if (value < limit)
-      value = value * 10 + (digit - '0');
+    if (value < limit) value = value * 10 + (digit - '0');
   }
   return value;
 }
@@ -43,20 +41,14 @@ std::int64_t limited_value(std::string_view digits) {
 std::optional<Decimal> scan_decimal(std::string_view text) {
   Decimal decimal;
   decimal.whole = take_digits(text);
-  if (take(text, '.'))
-    decimal.fraction = take_digits(text);
-  if (decimal.whole.empty() && decimal.fraction.empty())
-    return std::nullopt;
-  if (text.empty())
-    return decimal;
-  if (!take_exponent_letter(text))
-    return std::nullopt;
+  if (take(text, '.')) decimal.fraction = take_digits(text);
+  if (decimal.whole.empty() && decimal.fraction.empty()) return std::nullopt;
+  if (text.empty()) return decimal;
+  if (!take_exponent_letter(text)) return std::nullopt;
   const bool negative = take(text, '-');
-  if (!negative)
-    take(text, '+');
+  if (!negative) take(text, '+');
   const std::string_view exponent = take_digits(text);
-  if (exponent.empty() || !text.empty())
-    return std::nullopt;
+  if (exponent.empty() || !text.empty()) return std::nullopt;
   decimal.exponent = negative ? -limited_value(exponent) : limited_value(exponent);
   return decimal;
 }

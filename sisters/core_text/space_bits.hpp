@@ -40,15 +40,13 @@ inline std::uint64_t space_bits(std::string_view text) {
   };
   std::uint64_t bits = ~std::uint64_t{0} << text.size();
   if (text.size() < word_bytes) {
-    for (std::size_t i = 0; i < text.size(); ++i)
-      bits |= std::uint64_t{is_space(text[i])} << i;
+    for (std::size_t i = 0; i < text.size(); ++i) bits |= std::uint64_t{is_space(text[i])} << i;
     return bits;
   }
   // The last eight bytes come first; then whole words, as long as they begin before those.
   const std::size_t last_word = text.size() - word_bytes;
   bits |= bits_at(last_word);
-  for (std::size_t i = 0; i < last_word; i += word_bytes)
-    bits |= bits_at(i);
+  for (std::size_t i = 0; i < last_word; i += word_bytes) bits |= bits_at(i);
   return bits;
 }
 

@@ -28,8 +28,7 @@ std::size_t count_lines(std::string_view text) {
 }
 
 std::string_view without_carriage_return(std::string_view line) {
-  if (!line.empty() && line.back() == '\r')
-    line.remove_suffix(1);
+  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
   return line;
 }
 
@@ -43,8 +42,7 @@ std::vector<std::string> split_lines(std::string_view text) {
     text.remove_prefix(end + 1);
   }
   // Only a "\n" makes the "\r" before it part of a terminator, so the last line keeps its own.
-  if (!text.empty())
-    lines.emplace_back(text);
+  if (!text.empty()) lines.emplace_back(text);
   return lines;
 }
 

@@ -19,8 +19,7 @@ class ShortText {
 
   std::size_t count_words() const {
     std::size_t count = 0;
-    for (std::uint64_t starts = word_starts(); starts != 0; starts &= starts - 1)
-      ++count;
+    for (std::uint64_t starts = word_starts(); starts != 0; starts &= starts - 1) ++count;
     return count;
   }
 
@@ -60,8 +59,7 @@ class WordCounter {
 
 std::size_t count_words(std::string_view text) {
   WordCounter counter;
-  for (; text.size() >= word_bytes; text.remove_prefix(word_bytes))
-    counter.add(text.data());
+  for (; text.size() >= word_bytes; text.remove_prefix(word_bytes)) counter.add(text.data());
   std::array<char, word_bytes> rest{};
   rest.fill(' ');
   std::copy(text.begin(), text.end(), rest.begin());
@@ -74,8 +72,7 @@ std::size_t count_words(std::string_view text) {
 std::size_t find_cut(std::string_view text) {
   const std::string_view front = text.substr(0, space_bits_limit - 1);
   const auto last_space = std::find_if(front.rbegin(), front.rend(), is_space);
-  if (last_space != front.rend())
-    return static_cast<std::size_t>(front.rend() - last_space);
+  if (last_space != front.rend()) return static_cast<std::size_t>(front.rend() - last_space);
   const auto* const word_end = std::find_if(front.end(), text.end(), is_space);
   return static_cast<std::size_t>(word_end - text.begin());
 }

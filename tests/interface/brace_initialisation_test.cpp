@@ -213,7 +213,13 @@ TEST(BraceInitialisation, OfAResult) {
   EXPECT_EQ((ParseResult{{}, true, "error", {"Line 1: x", "Line 2: y"}}), expected);
   expected.input.commands.emplace_back("opt");
   EXPECT_EQ((ParseResult{{{{"opt"}}}, true, "error", {"Line 1: x", "Line 2: y"}}), expected);
-  EXPECT_EQ(ParseResult{expected.input}.input, expected.input);
+}
+
+TEST(BraceInitialisation, OfAResultWithADocumentAlone) {
+  ParseResult expected;
+  expected.input.commands.emplace_back("opt");
+  EXPECT_EQ(ParseResult{expected.input}, expected);
+  EXPECT_EQ((ParseResult{{{{"opt"}}}}), expected);
 }
 
 TEST(BraceInitialisation, OfArgumentsOfTheEditor) {

@@ -48,8 +48,7 @@ const ParameterRow parameter_rows[] = {
 
 HeaderCommand command_with(const std::vector<std::string>& names, HeaderCommandKind kind) {
   HeaderCommand command{"basis", kind, "tight"};
-  for (const std::string& name : names)
-    command.parameters.emplace_back(name, "tight");
+  for (const std::string& name : names) command.parameters.emplace_back(name, "tight");
   return command;
 }
 

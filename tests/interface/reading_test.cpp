@@ -154,6 +154,15 @@ TEST(ReadingViews, ReadsNotAByteBeyondTheView) {
   }
 }
 
+TEST(ReadingAtoms, KeepsNoRoomForLinesThatAreNone) {
+  std::string text = "O 0 0 0\nO 0 0 0\n";
+  for (int i = 0; i < 10000; ++i) text += "note\n";
+  const ParseResult result = parse_string(text);
+  EXPECT_EQ(result.input.geometry.atoms.size(), 2U);
+  EXPECT_LE(result.input.geometry.atoms.capacity(), 4U);
+  EXPECT_EQ(parse_string("0 1\nnote\n").input.geometry.atoms.capacity(), 0U);
+}
+
 TEST(ReadingTwice, GivesTheSameAgain) {
   const std::string text = "#opt(\n1 2\nXx 1 2 3\nB 1 x";
   const ParseResult first = parse_string(text);

@@ -34,8 +34,7 @@ QuillInput document_with(std::vector<HeaderCommand> commands) {
 
 std::vector<HeaderCommand> commands_at(const std::vector<std::size_t>& positions) {
   std::vector<HeaderCommand> commands;
-  for (const std::size_t position : positions)
-    commands.push_back(all_commands[position]);
+  for (const std::size_t position : positions) commands.push_back(all_commands[position]);
   return commands;
 }
 
@@ -68,8 +67,7 @@ class UpsertCommand : public testing::TestWithParam<UpsertRow> {};
 TEST_P(UpsertCommand, ReturnsTheFirstMatchOrAFlagAtTheEnd) {
   QuillInput input = document_with(all_commands);
   std::vector<HeaderCommand> expected = all_commands;
-  if (GetParam().appends)
-    expected.push_back(HeaderCommand{GetParam().query});
+  if (GetParam().appends) expected.push_back(HeaderCommand{GetParam().query});
 
   const HeaderCommand& command = input.upsert_command(GetParam().query);
   EXPECT_EQ(input, document_with(expected));

@@ -216,11 +216,9 @@ TEST(Writing, StoredStringsGoOutByteForByte) {
 TEST(Writing, AWholeInputConsistsOfItsPieces) {
   const QuillInput input = water_scan();
   std::string pieces;
-  for (const HeaderCommand& command : input.commands)
-    pieces += to_string(command) + "\n";
+  for (const HeaderCommand& command : input.commands) pieces += to_string(command) + "\n";
   pieces += "\n" + to_string(input.geometry) + "\n";
-  for (const PostCommand& command : input.post_commands)
-    pieces += to_string(command) + "\n";
+  for (const PostCommand& command : input.post_commands) pieces += to_string(command) + "\n";
   EXPECT_EQ(input.to_string(), pieces);
 }
 
@@ -232,14 +230,12 @@ TEST(Writing, AnInputOfAnySizeIsWrittenWhole) {
       {GeometryKind::Atoms, 0, 1, false, std::vector<AtomRecord>(count, atom), {}},
       std::vector<PostCommand>(count, {PostCommandKind::BondConstraint, {-2147483647, 1}})};
   std::string expected;
-  for (std::size_t i = 0; i < count; ++i)
-    expected += "#opt\n";
+  for (std::size_t i = 0; i < count; ++i) expected += "#opt\n";
   expected += "\n";
   for (std::size_t i = 0; i < count; ++i)
     expected += "Xx -123456789.000000      1.0000001000000000000000.000000\n";
   expected += "\n";
-  for (std::size_t i = 0; i < count; ++i)
-    expected += "B -2147483647 1\n";
+  for (std::size_t i = 0; i < count; ++i) expected += "B -2147483647 1\n";
   EXPECT_EQ(input.to_string(), expected);
 }
 

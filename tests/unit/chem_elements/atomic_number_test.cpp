@@ -34,8 +34,7 @@ TEST(AtomicNumber, IsThePlaceOfTheSymbolInThePeriodicTable) {
 
 std::string every_byte() {
   std::string bytes;
-  for (int value = 0; value < 256; ++value)
-    bytes += static_cast<char>(value);
+  for (int value = 0; value < 256; ++value) bytes += static_cast<char>(value);
   return bytes;
 }
 
@@ -44,14 +43,12 @@ TEST(AtomicNumber, OfAllTextsOfOneAndTwoBytesIsThatOfTheElementsOnly) {
   std::vector<std::string> texts;
   for (const char first : bytes) {
     texts.push_back(""s + first);
-    for (const char second : bytes)
-      texts.push_back(""s + first + second);
+    for (const char second : bytes) texts.push_back(""s + first + second);
   }
   ASSERT_EQ(texts.size(), 65'792U);
   std::set<std::string> known;
   for (const std::string& text : texts) {
-    if (atomic_number_from_symbol(text))
-      known.insert(text);
+    if (atomic_number_from_symbol(text)) known.insert(text);
   }
   EXPECT_EQ(known, std::set<std::string>(symbols.begin(), symbols.end()));
 }
@@ -129,11 +126,9 @@ TEST(AtomicNumber, OfAViewLooksAtNothingBesideIt) {
 TEST(AtomicNumber, OfTheNormalSpellingIsKnownForEveryLetterCase) {
   for (std::size_t i = 0; i < symbols.size(); ++i) {
     std::string upper = symbols[i];
-    for (char& c : upper)
-      c = static_cast<char>(c & ~0x20);
+    for (char& c : upper) c = static_cast<char>(c & ~0x20);
     std::string lower = symbols[i];
-    for (char& c : lower)
-      c = static_cast<char>(c | 0x20);
+    for (char& c : lower) c = static_cast<char>(c | 0x20);
     const int number = static_cast<int>(i + 1);
     EXPECT_EQ(atomic_number_from_symbol(normalize_symbol(upper)), number) << upper;
     EXPECT_EQ(atomic_number_from_symbol(normalize_symbol(lower)), number) << lower;

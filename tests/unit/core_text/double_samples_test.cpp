@@ -28,8 +28,7 @@ std::size_t below(Random& random, std::size_t limit) { return random() % limit; 
 
 std::string digits(Random& random, std::size_t count) {
   std::string text;
-  while (text.size() < count)
-    text += static_cast<char>('0' + below(random, 10));
+  while (text.size() < count) text += static_cast<char>('0' + below(random, 10));
   return text;
 }
 
@@ -53,8 +52,7 @@ std::string in_17_digits(double value) {
 
 /// Does nothing more in a test that has failed: one number says enough.
 void expect_as_strtod(const std::string& token) {
-  if (testing::Test::HasFailure())
-    return;
+  if (testing::Test::HasFailure()) return;
   EXPECT_EQ(parsed(token), ParsedDouble(restated::parse_double(token)))
       << testing::PrintToString(token);
 }
@@ -63,8 +61,7 @@ void expect_as_strtod(const std::string& token) {
 void expect_all_forms_as_strtod(const std::string& token) {
   std::string fortran = token;
   std::replace(fortran.begin(), fortran.end(), 'e', 'D');
-  if (fortran == token)
-    fortran += "d0";
+  if (fortran == token) fortran += "d0";
   for (const std::string& form : {token, fortran}) {
     expect_as_strtod(form);
     expect_as_strtod('-' + form);
@@ -196,8 +193,7 @@ TEST_F(ParseDoubleHalfway, GoesToTheEvenNeighbourAmongRandomDoubles) {
   Random random(20260109);
   for (int i = 0; i < 1'500; ++i) {
     const double value = double_of(random() & (~std::uint64_t{0} >> 1));
-    if (value < Limits::max())
-      expect_around_halfway_above(value);
+    if (value < Limits::max()) expect_around_halfway_above(value);
   }
 }
 
@@ -205,8 +201,7 @@ TEST_F(ParseDoubleHalfway, GoesToTheEvenNeighbourAtTheEndsOfTheRange) {
   for (const double value : {0.0, Limits::denorm_min(), Limits::min(), Limits::epsilon(), 1.0}) {
     expect_around_halfway_above(value);
     expect_around_halfway_above(std::nextafter(value, Limits::infinity()));
-    if (value > 0.0)
-      expect_around_halfway_above(std::nextafter(value, 0.0));
+    if (value > 0.0) expect_around_halfway_above(std::nextafter(value, 0.0));
   }
   expect_around_halfway_above(std::nextafter(Limits::max(), 0.0));
 }
@@ -226,13 +221,11 @@ TEST_F(ParseDoubleHalfway, IsTooLargeAboveTheLargestDoubleAndRightBelowHalfwayIs
 }
 
 TEST(ParseDoubleOfEveryShortToken, FollowsTheGrammar) {
-  for (const std::string& token : every_short_text("05.+-ed", 6))
-    expect_as_strtod(token);
+  for (const std::string& token : every_short_text("05.+-ed", 6)) expect_as_strtod(token);
 }
 
 TEST(ParseDoubleOfEveryShortToken, FollowsTheSpellingOfNames) {
-  for (const std::string& token : every_short_text("iNfA+-1 ", 5))
-    expect_as_strtod(token);
+  for (const std::string& token : every_short_text("iNfA+-1 ", 5)) expect_as_strtod(token);
 }
 
 TEST(ParseDoubleOfFixedNotation, TakesEveryLengthAndPlaceOfThePoint) {
@@ -240,8 +233,7 @@ TEST(ParseDoubleOfFixedNotation, TakesEveryLengthAndPlaceOfThePoint) {
     for (std::size_t point = 0; point < size; ++point) {
       for (const std::string_view pattern : {"0000000000", "9999999999", "1234567890"}) {
         std::string token;
-        while (token.size() < size)
-          token += pattern[token.size() % pattern.size()];
+        while (token.size() < size) token += pattern[token.size() % pattern.size()];
         token[point] = '.';
         expect_as_strtod(token);
         expect_as_strtod('-' + token);

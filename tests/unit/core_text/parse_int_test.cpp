@@ -21,8 +21,7 @@ constexpr int untouched = -987654;
 /// What try_parse_int makes of a token, seeing to it that it leaves the value alone on false.
 std::optional<int> parsed(std::string_view token) {
   int value = untouched;
-  if (try_parse_int(token, value))
-    return value;
+  if (try_parse_int(token, value)) return value;
   EXPECT_EQ(value, untouched) << testing::PrintToString(token);
   return std::nullopt;
 }

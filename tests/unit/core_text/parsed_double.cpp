@@ -20,16 +20,14 @@ std::uint64_t bits_of(double value) {
 }
 
 bool are_same(double a, double b) {
-  if (std::isnan(a) && std::isnan(b))
-    return std::signbit(a) == std::signbit(b);
+  if (std::isnan(a) && std::isnan(b)) return std::signbit(a) == std::signbit(b);
   return bits_of(a) == bits_of(b);
 }
 
 }  // namespace
 
 bool operator==(const ParsedDouble& a, const ParsedDouble& b) {
-  if (!a.value_ || !b.value_)
-    return a.value_.has_value() == b.value_.has_value();
+  if (!a.value_ || !b.value_) return a.value_.has_value() == b.value_.has_value();
   return are_same(*a.value_, *b.value_);
 }
 
@@ -47,8 +45,7 @@ ParsedDouble parsed(std::string_view token) {
   constexpr double untouched = -987654.25;
   const ExactBlock block(token);
   double value = untouched;
-  if (try_parse_double(block.view(), value))
-    return ParsedDouble(value);
+  if (try_parse_double(block.view(), value)) return ParsedDouble(value);
   EXPECT_TRUE(are_same(value, untouched)) << testing::PrintToString(token) << " changed the value";
   return ParsedDouble(std::nullopt);
 }

@@ -18,10 +18,8 @@ bool is_digit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0;
 
 std::string trim(std::string_view text) {
   std::string rest(text);
-  while (!rest.empty() && is_space(rest.front()))
-    rest.erase(rest.begin());
-  while (!rest.empty() && is_space(rest.back()))
-    rest.pop_back();
+  while (!rest.empty() && is_space(rest.front())) rest.erase(rest.begin());
+  while (!rest.empty() && is_space(rest.back())) rest.pop_back();
   return rest;
 }
 
@@ -63,13 +61,11 @@ std::vector<std::string> split_lines(std::string_view text) {
       line += c;
       continue;
     }
-    if (!line.empty() && line.back() == '\r')
-      line.pop_back();
+    if (!line.empty() && line.back() == '\r') line.pop_back();
     lines.push_back(line);
     line.clear();
   }
-  if (!line.empty())
-    lines.push_back(line);
+  if (!line.empty()) lines.push_back(line);
   return lines;
 }
 
@@ -77,11 +73,9 @@ std::optional<int> parse_int(std::string_view token) {
   const std::string text(token);
   const bool is_signed = !text.empty() && (text[0] == '+' || text[0] == '-');
   const std::string digits = text.substr(is_signed ? 1 : 0);
-  if (digits.empty())
-    return std::nullopt;
+  if (digits.empty()) return std::nullopt;
   for (const char c : digits) {
-    if (!is_digit(c))
-      return std::nullopt;
+    if (!is_digit(c)) return std::nullopt;
   }
   errno = 0;
   const long long value = std::strtoll(text.c_str(), nullptr, 10);
@@ -97,20 +91,15 @@ std::optional<double> parse_double(std::string_view token) {
   // digits and the "(" of a NaN's payload. A NUL would end the text for strtod.
   std::string text(token);
   for (char& c : text) {
-    if (c == '\0' || is_space(c) || c == 'x' || c == 'X' || c == '(')
-      return std::nullopt;
-    if (c == 'd')
-      c = 'e';
-    if (c == 'D')
-      c = 'E';
+    if (c == '\0' || is_space(c) || c == 'x' || c == 'X' || c == '(') return std::nullopt;
+    if (c == 'd') c = 'e';
+    if (c == 'D') c = 'E';
   }
   char* end = nullptr;
   const double value = std::strtod(text.c_str(), &end);
-  if (text.empty() || end != text.c_str() + text.size())
-    return std::nullopt;
+  if (text.empty() || end != text.c_str() + text.size()) return std::nullopt;
   const bool is_named = text.find_first_of("nN") != std::string::npos;
-  if (std::isinf(value) && !is_named)
-    return std::nullopt;
+  if (std::isinf(value) && !is_named) return std::nullopt;
   return value;
 }
 

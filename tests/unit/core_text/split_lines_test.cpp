@@ -91,8 +91,7 @@ TEST(SplitLinesOfManyTerminators, CountsEachOfThem) {
 
 TEST(SplitLinesOfALongText, TakesTheRoomOfItsLinesAndNoMore) {
   std::string text;
-  for (int i = 0; i < 1'000; ++i)
-    text += "H 0.0 0.0 0.0\n";
+  for (int i = 0; i < 1'000; ++i) text += "H 0.0 0.0 0.0\n";
   for (const std::string& ending : {""s, "H"s}) {
     const Lines lines = split_lines(text + ending);
     EXPECT_EQ(lines.capacity(), lines.size());

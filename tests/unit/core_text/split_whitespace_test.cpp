@@ -104,8 +104,7 @@ TEST(SplitWhitespaceOfRandomTexts, GivesEveryOtherByteInOrder) {
 TEST(SplitWhitespaceOfATextOfAnyLength, TakesTheRoomOfItsWordsAndNoMore) {
   for (std::size_t size = 0; size < 300; ++size) {
     std::string text;
-    while (text.size() < size)
-      text += text.size() % 7 < 4 ? 'w' : ' ';
+    while (text.size() < size) text += text.size() % 7 < 4 ? 'w' : ' ';
     const Words words = split_whitespace(text);
     ASSERT_EQ(words, restated::split_whitespace(text)) << text;
     ASSERT_EQ(words.capacity(), words.size()) << text;

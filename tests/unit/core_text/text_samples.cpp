@@ -7,8 +7,7 @@ namespace kelp::core::text {
 
 std::string every_byte() {
   std::string bytes;
-  for (int value = 0; value < 256; ++value)
-    bytes += static_cast<char>(value);
+  for (int value = 0; value < 256; ++value) bytes += static_cast<char>(value);
   return bytes;
 }
 
@@ -39,8 +38,7 @@ std::vector<std::string> every_short_text(std::string_view alphabet, std::size_t
   std::vector<std::string> texts = {""};
   for (std::size_t shorter = 0, size = 0; size < longest; ++size) {
     for (const std::size_t end = texts.size(); shorter < end; ++shorter) {
-      for (const char c : alphabet)
-        texts.push_back(texts[shorter] + c);
+      for (const char c : alphabet) texts.push_back(texts[shorter] + c);
     }
   }
   return texts;

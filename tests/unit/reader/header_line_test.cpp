@@ -239,6 +239,8 @@ const ListRow quoted[] = {
     {"QuotesInTheMiddleProtectToo", "x'a,b'y,c", {{"x'a,b'y"}, {"c"}}},
     {"QuotesOverAnEqualsSign", "'x,y=1',b", {{"'x,y", "1'"}, {"b"}}},
     {"QuotesTwiceInAPiece", "'a,b' 'c,d',e", {{"'a,b' 'c,d'"}, {"e"}}},
+    {"EmptyApostrophesBeforeAComma", "a='',b=c", {{"a", ""}, {"b", "c"}}},
+    {"EmptyDoubleQuotesBeforeAComma", "a=\"\",b=c", {{"a", ""}, {"b", "c"}}},
     {"ACommaBetweenTwoQuotedParts", "'a','b'", {{"'a'"}, {"'b'"}}},
     {"ABareNameKeepsItsQuotes", "'a b'", {{"'a b'"}}},
     {"TheNameOfAValueKeepsItsQuotes", "'a'='b'", {{"'a'", "b"}}},

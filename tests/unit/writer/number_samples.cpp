@@ -57,8 +57,7 @@ std::vector<double> sample(std::size_t size, std::uint64_t seed, Make make) {
   Random random(seed);
   std::vector<double> numbers;
   numbers.reserve(size);
-  while (numbers.size() < size)
-    numbers.push_back(make(random));
+  while (numbers.size() < size) numbers.push_back(make(random));
   return numbers;
 }
 

@@ -170,13 +170,11 @@ std::vector<std::string> differences(const std::vector<double>& numbers,
     text.clear();
     append(text, number);
     const std::string expected = printed(number);
-    if (text == expected)
-      continue;
+    if (text == expected) continue;
     char exact[64];
     std::snprintf(exact, sizeof exact, "%a", number);
     found.push_back(std::string(exact) + ": \"" + text + "\" for \"" + expected + "\"");
-    if (found.size() == 10)
-      break;
+    if (found.size() == 10) break;
   }
   return found;
 }
