@@ -22,8 +22,9 @@ class CanonicalText {
     if (digits.find_first_not_of('0', kept.size()) != std::string_view::npos) has_more_ = true;
   }
 
-  /// The double nearest to the number; nothing when it is out of range at either end.
-  std::optional<double> nearest_double(std::int64_t exponent) {
+  /// The double nearest to the number with this exponent, or nothing when it is too large or too
+  /// small for any but infinity and zero.
+  std::optional<double> read_with_exponent(std::int64_t exponent) {
     char* end = digits_end();
     if (has_more_) *end++ = '1';
     *end++ = 'e';
@@ -75,7 +76,7 @@ std::optional<double> nearest_double(const Decimal& decimal) {
   CanonicalText text;
   text.append(whole);
   text.append(fraction);
-  const std::optional<double> value = text.nearest_double(exponent);
+  const std::optional<double> value = text.read_with_exponent(exponent);
   if (!value && exponent < 0) return 0.0;
   return value;
 }

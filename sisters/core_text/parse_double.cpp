@@ -53,7 +53,7 @@ std::optional<double> parse_magnitude(std::string_view text) {
 bool try_parse_double(std::string_view token, double& value) {
   // The signs of coordinates follow no pattern, so a jump that depended on them would be predicted
   // wrong every other time. The sign is an index instead.
-  constexpr std::array<double, 2> signs = {1.0, -1.0};
+  static constexpr std::array<double, 2> signs = {1.0, -1.0};
   const char first = token.empty() ? '\0' : token.front();
   const bool is_negative = first == '-';
   const bool is_positive = first == '+';

@@ -73,7 +73,7 @@ std::size_t find_cut(std::string_view text) {
   const std::string_view front = text.substr(0, space_bits_limit - 1);
   const auto last_space = std::find_if(front.rbegin(), front.rend(), is_space);
   if (last_space != front.rend()) return static_cast<std::size_t>(front.rend() - last_space);
-  const auto* const word_end = std::find_if(front.end(), text.end(), is_space);
+  const auto* const word_end = std::find_if(text.begin() + front.size(), text.end(), is_space);
   return static_cast<std::size_t>(word_end - text.begin());
 }
 
