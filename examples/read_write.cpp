@@ -25,8 +25,8 @@ std::string located(const std::string& path, std::string_view diagnostic) {
     return path + ": warning: " + std::string(diagnostic);
   }
   const std::string_view number = diagnostic.substr(prefix.size(), colon - prefix.size());
-  return path + ":" + std::string(number) + ": warning: " +
-         std::string(diagnostic.substr(colon + 2));
+  return path + ":" + std::string(number) +
+         ": warning: " + std::string(diagnostic.substr(colon + 2));
 }
 
 std::string describe(const quill::GeometryBlock& geometry) {

@@ -23,8 +23,7 @@ std::vector<std::string> InputEditor::command_names() const { return document_.c
 
 std::optional<std::string> InputEditor::get_assignment(std::string_view name) const {
   const HeaderCommand* command = document_.find_command(name, 0);
-  if (command == nullptr || command->kind != HeaderCommandKind::Assignment)
-    return std::nullopt;
+  if (command == nullptr || command->kind != HeaderCommandKind::Assignment) return std::nullopt;
   return command->value;
 }
 
@@ -36,11 +35,9 @@ std::optional<std::string> InputEditor::get_parameter(std::string_view command_n
                                                       std::string_view parameter_name,
                                                       std::uint64_t occurrence) const {
   const HeaderCommand* command = document_.find_command(command_name, occurrence);
-  if (command == nullptr)
-    return std::nullopt;
+  if (command == nullptr) return std::nullopt;
   const auto index = find_parameter_index(*command, parameter_name);
-  if (!index)
-    return std::nullopt;
+  if (!index) return std::nullopt;
   return command->parameters[*index].value;
 }
 
@@ -93,11 +90,9 @@ void InputEditor::set_parameter(std::string_view command_name, std::string_view 
 bool InputEditor::remove_parameter(std::string_view command_name, std::string_view parameter_name,
                                    std::uint64_t occurrence) {
   HeaderCommand* command = document_.find_command(command_name, occurrence);
-  if (command == nullptr)
-    return false;
+  if (command == nullptr) return false;
   const auto index = find_parameter_index(*command, parameter_name);
-  if (!index)
-    return false;
+  if (!index) return false;
   command->parameters.erase(command->parameters.begin() + static_cast<std::ptrdiff_t>(*index));
   if (command->parameters.empty() && command->kind == HeaderCommandKind::ParameterList) {
     command->kind = HeaderCommandKind::Flag;

@@ -20,16 +20,14 @@ AtomRecord to_record(const core::Atom& atom) {
 void InputEditor::set_geometry(const std::vector<AtomRecord>& atoms) {
   GeometryBlock& geometry = document_.geometry;
   geometry.kind = GeometryKind::Atoms;
-  if (&atoms != &geometry.atoms)
-    geometry.atoms = std::vector<AtomRecord>(atoms);
+  if (&atoms != &geometry.atoms) geometry.atoms = std::vector<AtomRecord>(atoms);
   geometry.xyz_files.clear();
 }
 
 void InputEditor::set_geometry(const core::Geometry& geometry) {
   std::vector<AtomRecord> atoms;
   atoms.reserve(geometry.atoms.size());
-  for (const core::Atom& atom : geometry.atoms)
-    atoms.push_back(to_record(atom));
+  for (const core::Atom& atom : geometry.atoms) atoms.push_back(to_record(atom));
   set_geometry(atoms);
 }
 
@@ -37,8 +35,7 @@ void InputEditor::set_xyz_files(const std::vector<std::string>& files) {
   GeometryBlock& geometry = document_.geometry;
   geometry.kind = GeometryKind::XyzFile;
   geometry.atoms.clear();
-  if (&files != &geometry.xyz_files)
-    geometry.xyz_files = std::vector<std::string>(files);
+  if (&files != &geometry.xyz_files) geometry.xyz_files = std::vector<std::string>(files);
 }
 
 void InputEditor::set_xyz_file(std::string_view path) {

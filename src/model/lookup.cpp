@@ -30,10 +30,8 @@ bool remove_every_match(std::vector<HeaderCommand>& commands, std::string_view c
   }
   std::size_t kept = 0;
   for (std::size_t i = 0; i < commands.size(); ++i) {
-    if (is_match[i])
-      continue;
-    if (kept != i)
-      commands[kept] = std::move(commands[i]);
+    if (is_match[i]) continue;
+    if (kept != i) commands[kept] = std::move(commands[i]);
     ++kept;
   }
   const bool removed = kept != commands.size();
@@ -55,8 +53,7 @@ std::optional<std::uint64_t> find_parameter_index(const HeaderCommand& command,
                                                   std::string_view name) {
   const std::string key = parameter_key(name);
   for (std::size_t i = 0; i < command.parameters.size(); ++i) {
-    if (parameter_key(command.parameters[i].name) == key)
-      return i;
+    if (parameter_key(command.parameters[i].name) == key) return i;
   }
   return std::nullopt;
 }
@@ -66,10 +63,8 @@ const HeaderCommand* QuillInput::find_command(std::string_view name,
   const std::string canonical_name = normalize_command_name(name);
   std::uint64_t matches = 0;
   for (const HeaderCommand& command : commands) {
-    if (!has_canonical_name(command, canonical_name))
-      continue;
-    if (matches == occurrence)
-      return &command;
+    if (!has_canonical_name(command, canonical_name)) continue;
+    if (matches == occurrence) return &command;
     ++matches;
   }
   return nullptr;
@@ -92,23 +87,19 @@ bool QuillInput::has_task_command() const {
 std::vector<std::string> QuillInput::command_names() const {
   std::vector<std::string> names;
   names.reserve(commands.size());
-  for (const HeaderCommand& command : commands)
-    names.push_back(command.name);
+  for (const HeaderCommand& command : commands) names.push_back(command.name);
   return names;
 }
 
 HeaderCommand& QuillInput::upsert_command(std::string name) {
-  if (HeaderCommand* command = find_command(name, 0))
-    return *command;
+  if (HeaderCommand* command = find_command(name, 0)) return *command;
   return commands.emplace_back(std::move(name));
 }
 
 bool QuillInput::remove_command(std::string_view name, std::optional<std::uint64_t> occurrence) {
-  if (!occurrence)
-    return remove_every_match(commands, normalize_command_name(name));
+  if (!occurrence) return remove_every_match(commands, normalize_command_name(name));
   const HeaderCommand* match = find_command(name, *occurrence);
-  if (match == nullptr)
-    return false;
+  if (match == nullptr) return false;
   commands.erase(commands.begin() + (match - commands.data()));
   return true;
 }

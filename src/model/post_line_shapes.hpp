@@ -35,8 +35,7 @@ inline constexpr std::array<PostLineShape, 6> post_line_shapes = {{
 /// Returns the row of an upper-case keyword, or a null pointer for any other word.
 constexpr const PostLineShape* find_post_line_shape(std::string_view keyword) {
   for (const PostLineShape& shape : post_line_shapes) {
-    if (shape.keyword == keyword)
-      return &shape;
+    if (shape.keyword == keyword) return &shape;
   }
   return nullptr;
 }
@@ -44,8 +43,7 @@ constexpr const PostLineShape* find_post_line_shape(std::string_view keyword) {
 /// Returns the row of a kind, or a null pointer for raw text and for unknown kinds.
 constexpr const PostLineShape* find_post_line_shape(PostCommandKind kind) {
   for (const PostLineShape& shape : post_line_shapes) {
-    if (shape.kind == kind)
-      return &shape;
+    if (shape.kind == kind) return &shape;
   }
   return nullptr;
 }

@@ -25,14 +25,11 @@ bool is_blank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0;
 // charge-line = integer integer
 std::optional<ChargeAndMultiplicity> parse_charge_and_multiplicity(std::string_view line) {
   const std::vector<std::string> tokens = text::split_whitespace(line);
-  if (tokens.size() != 2)
-    return std::nullopt;
+  if (tokens.size() != 2) return std::nullopt;
   int charge = 0;
   int multiplicity = 0;
-  if (!text::try_parse_int(tokens[0], charge))
-    return std::nullopt;
-  if (!text::try_parse_int(tokens[1], multiplicity))
-    return std::nullopt;
+  if (!text::try_parse_int(tokens[0], charge)) return std::nullopt;
+  if (!text::try_parse_int(tokens[1], multiplicity)) return std::nullopt;
   return ChargeAndMultiplicity{charge, multiplicity};
 }
 
@@ -41,8 +38,7 @@ std::optional<ChargeAndMultiplicity> parse_charge_and_multiplicity(std::string_v
 bool parse_xyz_reference(std::string_view line, std::string& keyword, std::string& path) {
   const std::string trimmed = text::trim(line);
   const std::vector<std::string> tokens = text::split_whitespace(trimmed);
-  if (tokens.empty())
-    return false;
+  if (tokens.empty()) return false;
   const std::string folded = text::to_lower_copy(tokens.front());
   if (folded != text::to_lower_copy(xyz_keyword) &&
       folded != text::to_lower_copy(trajectory_keyword)) {
@@ -56,34 +52,25 @@ bool parse_xyz_reference(std::string_view line, std::string& keyword, std::strin
 // atom-line = letters number number number
 bool parse_atom_line(std::string_view line, AtomRecord& atom) {
   const std::vector<std::string> tokens = text::split_whitespace(line);
-  if (tokens.size() != 4)
-    return false;
-  if (!std::all_of(tokens[0].begin(), tokens[0].end(), is_letter))
-    return false;
-  if (!text::try_parse_double(tokens[1], atom.x))
-    return false;
-  if (!text::try_parse_double(tokens[2], atom.y))
-    return false;
-  if (!text::try_parse_double(tokens[3], atom.z))
-    return false;
+  if (tokens.size() != 4) return false;
+  if (!std::all_of(tokens[0].begin(), tokens[0].end(), is_letter)) return false;
+  if (!text::try_parse_double(tokens[1], atom.x)) return false;
+  if (!text::try_parse_double(tokens[2], atom.y)) return false;
+  if (!text::try_parse_double(tokens[3], atom.z)) return false;
   atom.symbol = elements::normalize_symbol(tokens[0]);
   return true;
 }
 
 std::optional<AtomRecord> parse_atom_line(std::string_view line) {
   std::optional<AtomRecord> atom(std::in_place);
-  if (!parse_atom_line(line, *atom))
-    atom.reset();
+  if (!parse_atom_line(line, *atom)) atom.reset();
   return atom;
 }
 
 std::string rest_after_first_word(std::string_view text) {
-  while (!text.empty() && is_blank(text.front()))
-    text.remove_prefix(1);
-  while (!text.empty() && !is_blank(text.front()))
-    text.remove_prefix(1);
-  while (!text.empty() && is_blank(text.front()))
-    text.remove_prefix(1);
+  while (!text.empty() && is_blank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && !is_blank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && is_blank(text.front())) text.remove_prefix(1);
   return std::string(text);
 }
 

@@ -32,9 +32,9 @@ bool parse_xyz_reference(std::string_view line, std::string& keyword, std::strin
 /// returned in its normal spelling and need not be an element's. Any other line gives nothing.
 std::optional<AtomRecord> parse_atom_line(std::string_view line);
 
-/// The same into an atom that was just made; returns whether the line is one of an atom, and if not,
-/// leaves something in it that is of no use. Spares a reader of many lines two moves for each: an
-/// atom that has been written byte by byte is slow to move at once.
+/// The same into an atom that was just made; returns whether the line is one of an atom, and if
+/// not, leaves something in it that is of no use. Spares a reader of many lines two moves for each:
+/// an atom that has been written byte by byte is slow to move at once.
 bool parse_atom_line(std::string_view line, AtomRecord& atom);
 
 /// Returns what follows the first run of non-blank characters and the blanks after that run. The

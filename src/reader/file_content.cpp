@@ -36,22 +36,19 @@ std::string read_to_end(std::filebuf& file, std::size_t size_hint) {
   content.reserve(size_hint);
   append_bytes(file, size_hint, content);
   // The size is a hint only: a pipe has none, and a file may grow while it is read.
-  while (file.sgetc() != std::filebuf::traits_type::eof())
-    append_bytes(file, chunk_size, content);
+  while (file.sgetc() != std::filebuf::traits_type::eof()) append_bytes(file, chunk_size, content);
   return content;
 }
 
 }  // namespace
 
 std::optional<std::string> read_file_content(const std::string& path) {
-  if (path.find('\0') != std::string::npos)
-    return std::nullopt;  // would name another file
+  if (path.find('\0') != std::string::npos) return std::nullopt;  // would name another file
   // A stream would swallow the bad_alloc of its buffer and hand over a shorter text; a file buffer
   // lets it pass, and reports failed reads by ios_base::failure.
   std::filebuf file;
   file.pubimbue(std::locale::classic());
-  if (file.open(path.c_str(), std::ios_base::in) == nullptr)
-    return std::nullopt;
+  if (file.open(path.c_str(), std::ios_base::in) == nullptr) return std::nullopt;
   try {
     return read_to_end(file, expected_size(path));
   } catch (const std::ios_base::failure&) {

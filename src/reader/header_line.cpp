@@ -21,11 +21,9 @@ constexpr bool is_quote(char c) { return c == '"' || c == '\''; }
 std::size_t find_separator(std::string_view list, std::size_t start) {
   std::size_t i = start;
   for (; i < list.size() && list[i] != ','; ++i) {
-    if (!is_quote(list[i]))
-      continue;
+    if (!is_quote(list[i])) continue;
     i = list.find(list[i], i + 1);  // the other kind of quote means nothing until this one closes
-    if (i == npos)
-      return list.size();
+    if (i == npos) return list.size();
   }
   return i;
 }
@@ -36,8 +34,7 @@ void append_parameter(std::string_view piece, std::vector<CommandParameter>& par
   const std::string_view view = trimmed;
   const std::size_t equals = view.find('=');
   if (equals == npos) {
-    if (!trimmed.empty())
-      parameters.emplace_back(std::move(trimmed));
+    if (!trimmed.empty()) parameters.emplace_back(std::move(trimmed));
     return;
   }
   std::string name = text::trim(view.substr(0, equals));
@@ -84,10 +81,8 @@ std::size_t find_decisive(std::string_view body) {
 HeaderCommand parse_body(std::string_view body, std::vector<std::string>& warnings,
                          std::uint64_t line_number) {
   const std::size_t decisive = find_decisive(body);
-  if (decisive == body.size())
-    return parse_flag(body);
-  if (body[decisive] == '=')
-    return parse_assignment(body, decisive);
+  if (decisive == body.size()) return parse_flag(body);
+  if (body[decisive] == '=') return parse_assignment(body, decisive);
   return parse_parameterised(body, decisive, warnings, line_number);
 }
 
@@ -106,8 +101,7 @@ HeaderCommand parse_header_command_line(std::string_view line, std::vector<std::
                                         std::uint64_t line_number) {
   const std::string trimmed = text::trim(line);
   std::string_view after_hash = trimmed;
-  if (!after_hash.empty() && after_hash.front() == '#')
-    after_hash.remove_prefix(1);
+  if (!after_hash.empty() && after_hash.front() == '#') after_hash.remove_prefix(1);
   const std::string body = text::trim(after_hash);
   if (body.empty()) {
     warnings.push_back(line_diagnostic(line_number, message::empty_header_command));
@@ -130,8 +124,7 @@ std::string unquote_value(std::string value) {
   value = text::trim(value);
   const bool is_quoted =
       value.size() >= 2 && value.front() == value.back() && is_quote(value.front());
-  if (is_quoted)
-    return value.substr(1, value.size() - 2);
+  if (is_quoted) return value.substr(1, value.size() - 2);
   return value;
 }
 

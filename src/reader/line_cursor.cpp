@@ -16,8 +16,7 @@ void LineCursor::advance() {
 void LineCursor::skip_blank_lines() {
   for (; index_ < lines_.size(); ++index_) {
     trimmed_ = core::text::trim(lines_[index_]);
-    if (!trimmed_.empty())
-      return;
+    if (!trimmed_.empty()) return;
   }
 }
 

@@ -19,8 +19,7 @@ bool parse_atom_numbers(const std::vector<std::string>& tokens, std::size_t end,
                         std::vector<std::int32_t>& numbers) {
   numbers.resize(end - 1);
   for (std::size_t i = 1; i < end; ++i) {
-    if (!text::try_parse_int(tokens[i], numbers[i - 1]))
-      return false;
+    if (!text::try_parse_int(tokens[i], numbers[i - 1])) return false;
   }
   return true;
 }
@@ -30,12 +29,9 @@ bool parse_scan(const std::vector<std::string>& tokens, PostCommand& command) {
   const std::size_t value_at = tokens.size() - 2;
   double value = 0.0;
   int steps = 0;
-  if (!parse_atom_numbers(tokens, value_at, command.atom_indices))
-    return false;
-  if (!text::try_parse_double(tokens[value_at], value))
-    return false;
-  if (!text::try_parse_int(tokens[value_at + 1], steps))
-    return false;
+  if (!parse_atom_numbers(tokens, value_at, command.atom_indices)) return false;
+  if (!text::try_parse_double(tokens[value_at], value)) return false;
+  if (!text::try_parse_int(tokens[value_at + 1], steps)) return false;
   command.scan_value = value;
   command.scan_steps = steps;
   return true;
@@ -43,8 +39,7 @@ bool parse_scan(const std::vector<std::string>& tokens, PostCommand& command) {
 
 /// Reads what follows the keyword of a line that has the number of tokens of its kind.
 bool parse_fields(const std::vector<std::string>& tokens, PostCommand& command) {
-  if (command.kind == PostCommandKind::Scan)
-    return parse_scan(tokens, command);
+  if (command.kind == PostCommandKind::Scan) return parse_scan(tokens, command);
   if (command.kind == PostCommandKind::PostFile) {
     command.post_file = rest_after_first_word(command.raw_text);
     return true;
@@ -58,21 +53,18 @@ bool parse_fields(const std::vector<std::string>& tokens, PostCommand& command) 
 bool parse_post_line(std::string_view line, PostCommand& command) {
   command.raw_text = text::trim(line);
   const std::vector<std::string> tokens = text::split_whitespace(command.raw_text);
-  if (tokens.empty())
-    return false;
+  if (tokens.empty()) return false;
   const PostLineShape* shape = find_post_line_shape(text::to_upper_copy(tokens.front()));
   // The number of tokens decides before any number is read: a constraint with a token too many is
   // text that somebody may want to keep, one with a malformed number is a mistake to report.
-  if (shape == nullptr || !shape->accepts(tokens.size()))
-    return true;
+  if (shape == nullptr || !shape->accepts(tokens.size())) return true;
   command.kind = shape->kind;
   return parse_fields(tokens, command);
 }
 
 std::optional<PostCommand> parse_post_line(std::string_view line) {
   std::optional<PostCommand> command(std::in_place);
-  if (!parse_post_line(line, *command))
-    command.reset();
+  if (!parse_post_line(line, *command)) command.reset();
   return command;
 }
 

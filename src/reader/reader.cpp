@@ -23,11 +23,9 @@ void read_header(LineCursor& cursor, ParseResult& result) {
 }
 
 void read_charge_and_multiplicity(LineCursor& cursor, GeometryBlock& geometry) {
-  if (cursor.at_end())
-    return;
+  if (cursor.at_end()) return;
   const auto numbers = parse_charge_and_multiplicity(cursor.trimmed());
-  if (!numbers)
-    return;
+  if (!numbers) return;
   geometry.charge = numbers->charge;
   geometry.multiplicity = numbers->multiplicity;
   geometry.has_charge_and_multiplicity = true;
@@ -75,16 +73,13 @@ void read_atoms(LineCursor& cursor, ParseResult& result) {
   }
   // Most inputs hold little but atoms, and then the room reserved was right. Where it was not, a
   // document should not hold on to it for the rest of its life.
-  if (atoms.size() <= atoms.capacity() / 2)
-    atoms.shrink_to_fit();
-  if (!atoms.empty())
-    result.input.geometry.kind = GeometryKind::Atoms;
+  if (atoms.size() <= atoms.capacity() / 2) atoms.shrink_to_fit();
+  if (!atoms.empty()) result.input.geometry.kind = GeometryKind::Atoms;
 }
 
 /// The first line decides on the form; what stands in another form after it is post-processing.
 void read_coordinates(LineCursor& cursor, ParseResult& result) {
-  if (cursor.at_end())
-    return;
+  if (cursor.at_end()) return;
   std::string keyword;
   std::string path;
   if (!parse_xyz_reference(cursor.line(), keyword, path)) {
@@ -125,8 +120,7 @@ ParseResult parse_string(std::string_view text) {
 
 ParseResult parse_file(const std::string& path) {
   const std::optional<std::string> content = read_file_content(path);
-  if (content)
-    return parse_string(*content);
+  if (content) return parse_string(*content);
   ParseResult result;
   result.error = open_failure(path);
   return result;

@@ -26,23 +26,22 @@ constexpr std::size_t longest_integer = std::numeric_limits<std::int32_t>::digit
 __extension__ using Uint128 = unsigned __int128;
 
 /// Returns the magnitude of `value` in millionths, rounded to the nearest integer with ties to
-/// even, for magnitudes below 2^43; nothing for others.
+/// even, for magnitudes below 999,999, which keep six digits before the point when they are
+/// rounded; nothing for others.
 ///
 /// A double is m * 2^-s with m < 2^53, so m * 10^6 < 2^73 is exact in 128 bits, and of the sum with
 /// half a millionth only the bits below 2^s are lost: all of them are 0 exactly for a tie. From
-/// s = 75 on the result is less than half a millionth. Below 2^43 it is less than 2^63.
+/// s = 75 on the result is less than half a millionth. Below 2^20, s is at least 33.
 std::optional<std::uint64_t> to_millionths(double value) {
-  constexpr double limit = 8'796'093'022'208.0;
+  constexpr double limit = 999'999.0;
   constexpr int mantissa_bits = std::numeric_limits<double>::digits - 1;
   constexpr std::uint64_t hidden_bit = std::uint64_t{1} << mantissa_bits;
-  if (!(std::fabs(value) < limit))
-    return std::nullopt;
+  if (!(std::fabs(value) < limit)) return std::nullopt;
   std::uint64_t bits = 0;
   std::memcpy(&bits, &value, sizeof bits);
   const auto exponent = static_cast<unsigned>(bits >> mantissa_bits) & 0x7FFU;
   const unsigned shift = 1075U - exponent;
-  if (shift >= 75U)
-    return 0;
+  if (shift >= 75U) return 0;
   const Uint128 product = Uint128{(bits & (hidden_bit - 1)) | hidden_bit} * millionths_per_unit;
   const Uint128 sum = product + (Uint128{1} << (shift - 1));
   const auto rounded = static_cast<std::uint64_t>(sum >> shift);
@@ -89,8 +88,7 @@ constexpr std::uint64_t right_justified(std::uint64_t digits, bool is_negative) 
 /// Compilers make one or two stores of this where the byte order allows it.
 template <int count>
 void store_characters(char* out, std::uint64_t characters) {
-  for (int i = 0; i < count; ++i)
-    out[i] = static_cast<char>(characters >> (8 * i) & 0xFFU);
+  for (int i = 0; i < count; ++i) out[i] = static_cast<char>(characters >> (8 * i) & 0xFFU);
 }
 
 void append_any_coordinate(std::string& out, double coordinate) {
@@ -99,8 +97,7 @@ void append_any_coordinate(std::string& out, double coordinate) {
                                         std::chars_format::fixed, coordinate_decimals)
                               .ptr;
   const auto length = static_cast<std::size_t>(end - text);
-  if (length < coordinate_width)
-    out.append(coordinate_width - length, ' ');
+  if (length < coordinate_width) out.append(coordinate_width - length, ' ');
   out.append(text, length);
 }
 
@@ -112,10 +109,8 @@ void append_integer(std::string& out, std::int32_t number) {
 }
 
 bool write_coordinate(char* field, double coordinate) {
-  constexpr std::uint64_t limit = 1'000'000 * millionths_per_unit;
   const std::optional<std::uint64_t> millionths = to_millionths(coordinate);
-  if (!millionths || *millionths >= limit)
-    return false;
+  if (!millionths) return false;
   const std::uint64_t whole = digits_of(*millionths / millionths_per_unit);
   const std::uint64_t decimals = digits_of(*millionths % millionths_per_unit);
   store_characters<8>(

@@ -16,14 +16,12 @@ constexpr std::size_t atom_line_size = symbol_width + 3 * coordinate_width + 1;
 
 void append_padded(std::string& out, const std::string& text, std::size_t width) {
   out += text;
-  if (text.size() < width)
-    out.append(width - text.size(), ' ');
+  if (text.size() < width) out.append(width - text.size(), ' ');
 }
 
 void append_parameter(std::string& out, const CommandParameter& parameter) {
   out += parameter.name;
-  if (!parameter.value)
-    return;
+  if (!parameter.value) return;
   out += '=';
   out += *parameter.value;
 }
@@ -44,8 +42,7 @@ void append_command(std::string& out, const HeaderCommand& command) {
   out += command.name;
   if (command.kind == HeaderCommandKind::Assignment) {
     out += " = ";
-    if (command.value)
-      out += *command.value;
+    if (command.value) out += *command.value;
   } else if (command.kind == HeaderCommandKind::ParameterList) {
     append_parameters(out, command.parameters);
   }
@@ -62,10 +59,8 @@ void append_charge_and_multiplicity(std::string& out, const GeometryBlock& geome
 bool append_usual_atom(std::string& out, const AtomRecord& atom) {
   char line[atom_line_size];
   const std::size_t length = atom.symbol.size();
-  if (length > symbol_width)
-    return false;
-  for (std::size_t i = 0; i < symbol_width; ++i)
-    line[i] = i < length ? atom.symbol[i] : ' ';
+  if (length > symbol_width) return false;
+  for (std::size_t i = 0; i < symbol_width; ++i) line[i] = i < length ? atom.symbol[i] : ' ';
   char* const fields = line + symbol_width;
   if (!write_coordinate(fields, atom.x) || !write_coordinate(fields + coordinate_width, atom.y) ||
       !write_coordinate(fields + 2 * coordinate_width, atom.z))
@@ -76,8 +71,7 @@ bool append_usual_atom(std::string& out, const AtomRecord& atom) {
 }
 
 void append_atom(std::string& out, const AtomRecord& atom) {
-  if (append_usual_atom(out, atom))
-    return;
+  if (append_usual_atom(out, atom)) return;
   append_padded(out, atom.symbol, symbol_width);
   append_coordinate(out, atom.x);
   append_coordinate(out, atom.y);
@@ -101,18 +95,15 @@ void append_trajectory(std::string& out, const std::vector<std::string>& paths) 
 }
 
 void append_geometry(std::string& out, const GeometryBlock& geometry) {
-  if (geometry.has_charge_and_multiplicity)
-    append_charge_and_multiplicity(out, geometry);
+  if (geometry.has_charge_and_multiplicity) append_charge_and_multiplicity(out, geometry);
   switch (geometry.kind) {
     case GeometryKind::None:
       break;
     case GeometryKind::Atoms:
-      for (const AtomRecord& atom : geometry.atoms)
-        append_atom(out, atom);
+      for (const AtomRecord& atom : geometry.atoms) append_atom(out, atom);
       break;
     case GeometryKind::XyzFile:
-      for (const std::string& path : geometry.xyz_files)
-        append_xyz_file(out, path);
+      for (const std::string& path : geometry.xyz_files) append_xyz_file(out, path);
       break;
     case GeometryKind::XyzTrajectory:
       append_trajectory(out, geometry.xyz_files);
@@ -142,11 +133,9 @@ void append_scan_settings(std::string& out, const PostCommand& command) {
 }
 
 void append_post_command(std::string& out, const PostCommand& command) {
-  if (command.kind == PostCommandKind::Raw)
-    out += command.raw_text;
+  if (command.kind == PostCommandKind::Raw) out += command.raw_text;
   const PostLineShape* shape = find_post_line_shape(command.kind);
-  if (shape == nullptr)
-    return;
+  if (shape == nullptr) return;
   out += shape->keyword;
   out += ' ';
   if (command.kind == PostCommandKind::PostFile) {
@@ -154,20 +143,17 @@ void append_post_command(std::string& out, const PostCommand& command) {
     return;
   }
   append_atom_numbers(out, command.atom_indices);
-  if (command.kind == PostCommandKind::Scan)
-    append_scan_settings(out, command);
+  if (command.kind == PostCommandKind::Scan) append_scan_settings(out, command);
 }
 
 /// How much room to reserve, so that a whole input is written without growing the text: the stored
 /// strings and what stands around them, and usual lengths for numbers. Text that needs more grows.
 std::size_t expected_size(const HeaderCommand& command) {
   std::size_t size = command.name.size() + 7;
-  if (command.value)
-    size += command.value->size();
+  if (command.value) size += command.value->size();
   for (const CommandParameter& parameter : command.parameters) {
     size += parameter.name.size() + 3;
-    if (parameter.value)
-      size += parameter.value->size();
+    if (parameter.value) size += parameter.value->size();
   }
   return size;
 }
@@ -177,24 +163,20 @@ std::size_t expected_size(const GeometryBlock& geometry) {
   if (geometry.kind == GeometryKind::Atoms) {
     size += geometry.atoms.size() * atom_line_size;
   } else {
-    for (const std::string& path : geometry.xyz_files)
-      size += path.size() + 9;
+    for (const std::string& path : geometry.xyz_files) size += path.size() + 9;
   }
   return size;
 }
 
 std::size_t expected_size(const PostCommand& command) {
-  if (command.kind == PostCommandKind::Raw)
-    return command.raw_text.size() + 1;
+  if (command.kind == PostCommandKind::Raw) return command.raw_text.size() + 1;
   return command.post_file.size() + 6 * command.atom_indices.size() + 24;
 }
 
 std::size_t expected_size(const QuillInput& input) {
   std::size_t size = 2 + expected_size(input.geometry);
-  for (const HeaderCommand& command : input.commands)
-    size += expected_size(command);
-  for (const PostCommand& command : input.post_commands)
-    size += expected_size(command);
+  for (const HeaderCommand& command : input.commands) size += expected_size(command);
+  for (const PostCommand& command : input.post_commands) size += expected_size(command);
   return size;
 }
 
@@ -231,12 +213,9 @@ std::string QuillInput::to_string() const {
     append_command(out, command);
     out += '\n';
   }
-  if (!commands.empty() && (has_coordinates || has_post_lines))
-    out += '\n';
-  if (has_coordinates)
-    append_geometry(out, geometry);
-  if (has_coordinates && has_post_lines)
-    out += '\n';
+  if (!commands.empty() && (has_coordinates || has_post_lines)) out += '\n';
+  if (has_coordinates) append_geometry(out, geometry);
+  if (has_coordinates && has_post_lines) out += '\n';
   for (const PostCommand& command : post_commands) {
     append_post_command(out, command);
     out += '\n';

@@ -19,29 +19,25 @@ namespace {
 
 std::vector<const HeaderCommand*> each_command(const QuillInput& document) {
   std::vector<const HeaderCommand*> all;
-  for (const HeaderCommand& command : document.commands)
-    all.push_back(&command);
+  for (const HeaderCommand& command : document.commands) all.push_back(&command);
   return all;
 }
 
 std::vector<const AtomRecord*> each_atom(const QuillInput& document) {
   std::vector<const AtomRecord*> all;
-  for (const AtomRecord& atom : document.geometry.atoms)
-    all.push_back(&atom);
+  for (const AtomRecord& atom : document.geometry.atoms) all.push_back(&atom);
   return all;
 }
 
 std::vector<const PostCommand*> each_post_command(const QuillInput& document) {
   std::vector<const PostCommand*> all;
-  for (const PostCommand& command : document.post_commands)
-    all.push_back(&command);
+  for (const PostCommand& command : document.post_commands) all.push_back(&command);
   return all;
 }
 
 std::vector<const std::vector<int>*> each_index_list(const QuillInput& document) {
   std::vector<const std::vector<int>*> all;
-  for (const PostCommand& command : document.post_commands)
-    all.push_back(&command.atom_indices);
+  for (const PostCommand& command : document.post_commands) all.push_back(&command.atom_indices);
   return all;
 }
 

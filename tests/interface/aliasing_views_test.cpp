@@ -57,8 +57,7 @@ TEST_P(AViewIntoTheDocument, IsTakenAsIfItHadBeenCopied) {
     const InputEditor untouched = make_editor(setting);
     const std::size_t count = views_of(untouched.document(), row.symbols).size();
     ASSERT_GT(count, 30U);
-    for (std::size_t i = 0; i < count; ++i)
-      expect_as_if_copied(row, setting, i);
+    for (std::size_t i = 0; i < count; ++i) expect_as_if_copied(row, setting, i);
   }
 }
 
@@ -187,8 +186,7 @@ void expect_pairs_as_if_copied(TwoTextCall call, const Setting& setting) {
     for (std::size_t j = 0; j < count; j += 13) {
       const auto views = views_of(editor.document(), Symbols::Included);
       const auto other_views = views_of(other.document(), Symbols::Included);
-      if (i >= views.size() || j >= views.size())
-        break;  // an earlier call has removed parameters
+      if (i >= views.size() || j >= views.size()) break;  // an earlier call has removed parameters
       const std::string first(other_views[i]);
       const std::string second(other_views[j]);
       call(editor, views[i], views[j]);

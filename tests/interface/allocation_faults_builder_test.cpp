@@ -45,10 +45,8 @@ InputBuilder make_builder(Start start) {
   const QuillInput document = long_document(GeometryKind::Atoms);
   InputBuilder made;
   made.set_charge_and_multiplicity(-1, 2);
-  for (const HeaderCommand& each : document.commands)
-    made.add_command(each);
-  for (const PostCommand& each : document.post_commands)
-    made.add_post_command(each);
+  for (const HeaderCommand& each : document.commands) made.add_command(each);
+  for (const PostCommand& each : document.post_commands) made.add_post_command(each);
   if (start == Start::WithAtoms) {
     made.set_geometry(document.geometry.atoms);
   } else {

@@ -96,8 +96,7 @@ TEST_P(AfterAFailedAllocation, TheDocumentIsValidAndTheCallCanBeRepeated) {
   const std::uint64_t failures = fail_each_allocation(
       [&] { return InputEditor(row.before); }, row.call,
       [&](InputEditor& editor, std::uint64_t failing) {
-        if (editor.document() != row.left[current] && current + 1 < row.left.size())
-          ++current;
+        if (editor.document() != row.left[current] && current + 1 < row.left.size()) ++current;
         EXPECT_EQ(editor.document(), row.left[current]) << "allocation " << failing;
         ++times_found[current];
         row.call(editor);
@@ -106,8 +105,7 @@ TEST_P(AfterAFailedAllocation, TheDocumentIsValidAndTheCallCanBeRepeated) {
       [&](const InputEditor& editor) { EXPECT_EQ(editor.document(), after); });
 
   EXPECT_GT(failures, 0U);
-  for (const int times : times_found)
-    EXPECT_GT(times, 0);
+  for (const int times : times_found) EXPECT_GT(times, 0);
 }
 
 const Fault header_rows[] = {

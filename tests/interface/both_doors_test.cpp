@@ -65,15 +65,13 @@ class Dice {
   template <typename Make>
   auto up_to_three(Make make) {
     std::vector<decltype(make())> values(below(4));
-    for (auto& value : values)
-      value = make();
+    for (auto& value : values) value = make();
     return values;
   }
 
   CommandParameter parameter() {
     CommandParameter drawn(text());
-    if (below(2) == 0)
-      drawn.value = text();
+    if (below(2) == 0) drawn.value = text();
     return drawn;
   }
 
@@ -83,18 +81,15 @@ class Dice {
 
   HeaderCommand command() {
     HeaderCommand drawn(name(), HeaderCommandKind(below(4)));
-    if (below(2) == 0)
-      drawn.value = text();
+    if (below(2) == 0) drawn.value = text();
     drawn.parameters = parameters();
     return drawn;
   }
 
   PostCommand post_command() {
     PostCommand drawn(PostCommandKind(below(8)), numbers());
-    if (below(2) == 0)
-      drawn.scan_value = coordinate();
-    if (below(2) == 0)
-      drawn.scan_steps = number();
+    if (below(2) == 0) drawn.scan_value = coordinate();
+    if (below(2) == 0) drawn.scan_steps = number();
     drawn.post_file = text();
     drawn.raw_text = text();
     return drawn;
@@ -228,8 +223,7 @@ constexpr std::size_t post_operations = 8;
 constexpr std::size_t operations = header_operations + geometry_operations + post_operations;
 
 Step draw_step(Dice& dice, std::size_t operation) {
-  if (operation < header_operations)
-    return draw_header_step(dice, operation);
+  if (operation < header_operations) return draw_header_step(dice, operation);
   if (operation < header_operations + geometry_operations)
     return draw_geometry_step(dice, operation - header_operations);
   return draw_post_step(dice, operation - header_operations - geometry_operations);

@@ -80,8 +80,7 @@ TEST(EveryByte, IsKeptWhereverTextIsKept) {
   const std::string path = folder.path("job.qin");
   for (int value = 0; value < 256; ++value) {
     const char byte = static_cast<char>(value);
-    if (meaningful.find(byte) != std::string_view::npos)
-      continue;
+    if (meaningful.find(byte) != std::string_view::npos) continue;
     SCOPED_TRACE("byte " + std::to_string(value));
     const QuillInput document = document_full_of(byte);
     EXPECT_EQ(parse_string(document.to_string()), read_as(document));
@@ -139,8 +138,7 @@ void expect_sound(const std::string& text, const ParseResult& result) {
   EXPECT_TRUE(result.ok);
   EXPECT_EQ(result.error, "");
   std::vector<std::string> warnings = result.warnings;
-  if (!warnings.empty() && warnings.back() == no_section)
-    warnings.pop_back();
+  if (!warnings.empty() && warnings.back() == no_section) warnings.pop_back();
   std::size_t previous = 1;
   for (const std::string& warning : warnings) {
     std::smatch match;

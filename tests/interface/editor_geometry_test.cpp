@@ -117,14 +117,12 @@ const EditCase add_atom_rows[] = {
      placed(Kind::Atoms, {water[0], water[1], water[2], oxygen}, {"a.xyz"})},
     {"AnAtomIsStoredAsItIs", placed(Kind::Atoms, no_atoms, no_files),
      [](InputEditor& editor) {
-       for (const AtomRecord& atom : odd_atoms)
-         editor.add_atom(atom);
+       for (const AtomRecord& atom : odd_atoms) editor.add_atom(atom);
      },
      placed(Kind::Atoms, odd_atoms, no_files)},
     {"ACoreAtomIsStoredAsItIs", placed(Kind::Atoms, no_atoms, no_files),
      [](InputEditor& editor) {
-       for (const kelp::core::Atom& atom : odd_molecule.atoms)
-         editor.add_atom(atom);
+       for (const kelp::core::Atom& atom : odd_molecule.atoms) editor.add_atom(atom);
      },
      placed(Kind::Atoms, odd_atoms, no_files)},
     {"ACoreAtomReplacesFiles", placed(Kind::XyzFile, water, {"a.xyz"}),
@@ -142,8 +140,7 @@ double seconds_to_add(int count) {
   for (int attempt = 0; attempt < 7; ++attempt) {
     InputEditor editor{QuillInput()};
     const std::clock_t start = std::clock();
-    for (int i = 0; i < count; ++i)
-      editor.add_atom(hydrogen);
+    for (int i = 0; i < count; ++i) editor.add_atom(hydrogen);
     const std::clock_t end = std::clock();
     EXPECT_EQ(editor.document().geometry.atoms.size(), static_cast<std::size_t>(count));
     best = std::min(best, static_cast<double>(end - start) / CLOCKS_PER_SEC);

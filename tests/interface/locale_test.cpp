@@ -126,8 +126,7 @@ class ShiftedFiles : public std::codecvt<char, char, std::mbstate_t> {
  private:
   static result shift(int distance, std::mbstate_t&, const char* from, const char* from_end,
                       const char*& from_next, char* to, char* to_end, char*& to_next) {
-    while (from != from_end && to != to_end)
-      *to++ = static_cast<char>(*from++ + distance);
+    while (from != from_end && to != to_end) *to++ = static_cast<char>(*from++ + distance);
     from_next = from;
     to_next = to;
     return from == from_end ? ok : partial;

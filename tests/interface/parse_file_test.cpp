@@ -171,8 +171,7 @@ TEST(ParseFile, ReadsAPipeToItsEnd) {
   const std::string line(300000, 'x');
   const std::future<void> writer = std::async(std::launch::async, [&] {
     std::ofstream pipe(path);
-    for (int i = 0; i < 3; ++i)
-      pipe << line << std::endl;
+    for (int i = 0; i < 3; ++i) pipe << line << std::endl;
   });
   const ParseResult result = parse_file(path);
   // Should the library not have opened the pipe, the writer waits for somebody who does.
@@ -199,8 +198,7 @@ TEST(ParseFile, ReadsAFileOfAHundredMegabytes) {
   const std::string path = folder.path("large");
   {
     std::ofstream file(path, std::ios_base::binary);
-    for (int i = 0; i < lines; ++i)
-      file << large_line(i) << '\n';
+    for (int i = 0; i < lines; ++i) file << large_line(i) << '\n';
     ASSERT_TRUE(file.flush());
   }
   ASSERT_EQ(std::filesystem::file_size(path), std::uintmax_t{100} * 1024 * 1024);

@@ -180,11 +180,9 @@ class DocumentMaker {
 
   QuillInput document() {
     QuillInput input;
-    for (int i = number(0, 4); i > 0; --i)
-      input.commands.push_back(command());
+    for (int i = number(0, 4); i > 0; --i) input.commands.push_back(command());
     input.geometry = geometry();
-    for (int i = number(0, 4); i > 0; --i)
-      input.post_commands.push_back(post_command());
+    for (int i = number(0, 4); i > 0; --i) input.post_commands.push_back(post_command());
     // The first line behind the atoms must be one that cannot be taken for another atom, and a
     // section must be there lest the first line be taken for one.
     input.post_commands.insert(input.post_commands.begin(), raw("-- " + word()));
@@ -206,8 +204,7 @@ class DocumentMaker {
 
   std::string words() {
     std::string words = word();
-    for (int i = number(0, 2); i > 0; --i)
-      words += " " + word();
+    for (int i = number(0, 2); i > 0; --i) words += " " + word();
     return words;
   }
 
@@ -217,13 +214,10 @@ class DocumentMaker {
 
   HeaderCommand command() {
     const int kind = number(0, 2);
-    if (kind == 0)
-      return flag(words());
-    if (kind == 1)
-      return assignment(words(), words());
+    if (kind == 0) return flag(words());
+    if (kind == 1) return assignment(words(), words());
     HeaderCommand command = list(words(), {});
-    for (int i = number(0, 3); i > 0; --i)
-      command.parameters.push_back(parameter());
+    for (int i = number(0, 3); i > 0; --i) command.parameters.push_back(parameter());
     return command;
   }
 
@@ -239,12 +233,10 @@ class DocumentMaker {
     GeometryBlock geometry;
     geometry.kind = static_cast<GeometryKind>(number(0, 3));
     if (geometry.kind == GeometryKind::Atoms) {
-      for (int i = number(1, 5); i > 0; --i)
-        geometry.atoms.push_back(atom());
+      for (int i = number(1, 5); i > 0; --i) geometry.atoms.push_back(atom());
     } else if (geometry.kind != GeometryKind::None) {
       const int most = geometry.kind == GeometryKind::XyzFile ? 4 : 1;
-      for (int i = number(1, most); i > 0; --i)
-        geometry.xyz_files.push_back(words());
+      for (int i = number(1, most); i > 0; --i) geometry.xyz_files.push_back(words());
     }
     return geometry.kind == GeometryKind::None || number(0, 1) == 0
                ? charged(number(-9, 9), number(-9, 9), std::move(geometry))
@@ -253,16 +245,14 @@ class DocumentMaker {
 
   std::vector<std::int32_t> atom_numbers(int count) {
     std::vector<std::int32_t> numbers;
-    for (; count > 0; --count)
-      numbers.push_back(number(-5, 100000));
+    for (; count > 0; --count) numbers.push_back(number(-5, 100000));
     return numbers;
   }
 
   PostCommand post_command() {
     PostCommand command;
     command.kind = static_cast<Kind>(number(0, 6));
-    if (command.kind == Kind::Raw)
-      return raw("## " + words());
+    if (command.kind == Kind::Raw) return raw("## " + words());
     if (command.kind == Kind::PostFile) {
       command.post_file = words();
     } else if (command.kind == Kind::Scan) {

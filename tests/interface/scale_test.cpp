@@ -38,8 +38,7 @@ void expect_linear(std::size_t size, const Prepare& prepare) {
   for (int attempt = 0; attempt < attempts; ++attempt) {
     once = std::min(once, seconds_of(prepare(size)));
     twice = std::min(twice, seconds_of(prepare(2 * size)));
-    if (twice < bound * once)
-      return;
+    if (twice < bound * once) return;
   }
   ADD_FAILURE() << once << " s for " << size << ", but " << twice << " s for twice as much";
 }
@@ -47,8 +46,7 @@ void expect_linear(std::size_t size, const Prepare& prepare) {
 std::string repeated(std::string_view piece, std::size_t count) {
   std::string text;
   text.reserve(piece.size() * count);
-  for (; count > 0; --count)
-    text += piece;
+  for (; count > 0; --count) text += piece;
   return text;
 }
 

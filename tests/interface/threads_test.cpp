@@ -33,13 +33,11 @@ void run_in_threads(const std::function<void(int)>& work) {
   for (int number = 0; number < thread_count; ++number) {
     threads.emplace_back([&work, started, number] {
       started.wait();
-      for (int round = 0; round < rounds; ++round)
-        work(number);
+      for (int round = 0; round < rounds; ++round) work(number);
     });
   }
   start.set_value();
-  for (std::thread& thread : threads)
-    thread.join();
+  for (std::thread& thread : threads) thread.join();
 }
 
 /// The documents of two threads differ in every section.
@@ -70,8 +68,7 @@ ParseResult result_of(int thread) {
 class Failures {
  public:
   void check(int thread, bool holds) {
-    if (!holds)
-      ++counts_[static_cast<std::size_t>(thread)];
+    if (!holds) ++counts_[static_cast<std::size_t>(thread)];
   }
   const std::vector<int>& counts() const { return counts_; }
 

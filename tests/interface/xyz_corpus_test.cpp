@@ -56,8 +56,7 @@ bool is_blank(const std::string& line) { return words_of(line).empty(); }
 /// Reads the count that begins a frame: the first word of its first line.
 bool read_count(const std::string& line, std::size_t& count) {
   const Lines words = words_of(line);
-  if (words.empty() || words[0].find_first_not_of("0123456789") != std::string::npos)
-    return false;
+  if (words.empty() || words[0].find_first_not_of("0123456789") != std::string::npos) return false;
   count = std::stoul(words[0]);
   return true;
 }
@@ -66,8 +65,7 @@ bool read_count(const std::string& line, std::size_t& count) {
 /// lines.
 std::vector<Lines> frames_of(const Lines& lines) {
   std::size_t count = 0;
-  if (lines.empty() || !read_count(lines[0], count))
-    return {lines};
+  if (lines.empty() || !read_count(lines[0], count)) return {lines};
   std::vector<Lines> frames;
   auto line = lines.begin();
   while (line != lines.end() && read_count(*line, count)) {
@@ -84,16 +82,14 @@ bool is_ascii_letter(char c) { return ('A' <= c && c <= 'Z') || ('a' <= c && c <
 
 /// Reads a number as the C library does, as long as it is all of the word.
 bool read_number(const std::string& word, double& number) {
-  if (word.find_first_not_of("0123456789+-.eE") != std::string::npos)
-    return false;
+  if (word.find_first_not_of("0123456789+-.eE") != std::string::npos) return false;
   char* end = nullptr;
   number = std::strtod(word.c_str(), &end);
   return end == word.c_str() + word.size();
 }
 
 std::string in_symbol_case(std::string symbol) {
-  for (char& c : symbol)
-    c = static_cast<char>('A' <= c && c <= 'Z' ? c - 'A' + 'a' : c);
+  for (char& c : symbol) c = static_cast<char>('A' <= c && c <= 'Z' ? c - 'A' + 'a' : c);
   symbol[0] =
       static_cast<char>('a' <= symbol[0] && symbol[0] <= 'z' ? symbol[0] - 'a' + 'A' : symbol[0]);
   return symbol;
@@ -132,8 +128,7 @@ ParseResult expected_of(const Lines& lines) {
   ParseResult expected = read_as({{flag("sp")}, charged(-1, 2)});
   GeometryBlock& geometry = expected.input.geometry;
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    if (is_blank(lines[i]))
-      continue;
+    if (is_blank(lines[i])) continue;
     AtomRecord atom;
     if (!expected.input.post_commands.empty() || !read_atom(words_of(lines[i]), atom)) {
       expected.input.post_commands.push_back(raw(without_outer_blanks(lines[i])));
@@ -175,8 +170,7 @@ void expect_same_when_written(const QuillInput& input) {
 
 void check_lines(const Lines& lines) {
   std::string text = head;
-  for (const std::string& line : lines)
-    text += line;
+  for (const std::string& line : lines) text += line;
   const ParseResult result = parse_string(text);
   EXPECT_EQ(result, expected_of(lines));
   expect_same_when_written(result.input);
@@ -187,8 +181,7 @@ void check_lines(const Lines& lines) {
 std::size_t check_folder(const std::filesystem::path& folder) {
   std::set<std::filesystem::path> paths;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() == ".xyz")
-      paths.insert(entry.path());
+    if (entry.path().extension() == ".xyz") paths.insert(entry.path());
   }
   std::size_t frame_count = 0;
   for (const std::filesystem::path& path : paths) {

@@ -56,8 +56,7 @@ QuillInput document(const Setting& setting) {
 
 void give_room(QuillInput& input) {
   input.commands.reserve(100);
-  for (HeaderCommand& command : input.commands)
-    command.parameters.reserve(100);
+  for (HeaderCommand& command : input.commands) command.parameters.reserve(100);
   input.geometry.atoms.reserve(100);
   input.geometry.xyz_files.reserve(100);
   input.post_commands.reserve(100);
@@ -70,8 +69,7 @@ void expect_full(const std::vector<T>& list) {
 
 void expect_full(const QuillInput& input) {
   expect_full(input.commands);
-  for (const HeaderCommand& command : input.commands)
-    expect_full(command.parameters);
+  for (const HeaderCommand& command : input.commands) expect_full(command.parameters);
   expect_full(input.geometry.atoms);
   expect_full(input.geometry.xyz_files);
   expect_full(input.post_commands);
@@ -79,8 +77,7 @@ void expect_full(const QuillInput& input) {
 
 void add_views(std::string_view text, std::vector<std::string_view>& views) {
   views.push_back(text);
-  if (text.size() > 1)
-    views.push_back(text.substr(1));
+  if (text.size() > 1) views.push_back(text.substr(1));
 }
 
 }  // namespace
@@ -118,18 +115,13 @@ InputEditor make_editor(const Setting& setting) {
 InputBuilder make_builder(const Setting& setting) {
   const QuillInput made = document(setting);
   InputBuilder builder;
-  for (const HeaderCommand& command : made.commands)
-    builder.add_command(command);
-  for (const PostCommand& command : made.post_commands)
-    builder.add_post_command(command);
-  if (setting.kind == GeometryKind::Atoms)
-    builder.set_geometry(made.geometry.atoms);
-  if (setting.kind == GeometryKind::XyzFile)
-    builder.set_xyz_files(made.geometry.xyz_files);
+  for (const HeaderCommand& command : made.commands) builder.add_command(command);
+  for (const PostCommand& command : made.post_commands) builder.add_post_command(command);
+  if (setting.kind == GeometryKind::Atoms) builder.set_geometry(made.geometry.atoms);
+  if (setting.kind == GeometryKind::XyzFile) builder.set_xyz_files(made.geometry.xyz_files);
   if (setting.kind == GeometryKind::XyzTrajectory)
     builder.set_xyz_trajectory(made.geometry.xyz_files.front());
-  if (setting.room == Room::Spare)
-    return builder;
+  if (setting.room == Room::Spare) return builder;
   InputBuilder copy = builder;
   expect_full(copy.document());
   return copy;
@@ -139,19 +131,15 @@ std::vector<std::string_view> views_of(const QuillInput& document, Symbols symbo
   std::vector<std::string_view> views;
   for (const HeaderCommand& command : document.commands) {
     add_views(command.name, views);
-    if (command.value)
-      add_views(*command.value, views);
+    if (command.value) add_views(*command.value, views);
     for (const CommandParameter& parameter : command.parameters) {
       add_views(parameter.name, views);
-      if (parameter.value)
-        add_views(*parameter.value, views);
+      if (parameter.value) add_views(*parameter.value, views);
     }
   }
   if (symbols == Symbols::Included)
-    for (const AtomRecord& atom : document.geometry.atoms)
-      add_views(atom.symbol, views);
-  for (const std::string& path : document.geometry.xyz_files)
-    add_views(path, views);
+    for (const AtomRecord& atom : document.geometry.atoms) add_views(atom.symbol, views);
+  for (const std::string& path : document.geometry.xyz_files) add_views(path, views);
   for (const PostCommand& command : document.post_commands) {
     add_views(command.post_file, views);
     add_views(command.raw_text, views);

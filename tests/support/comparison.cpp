@@ -17,8 +17,7 @@ bool same_bits(double left, double right) {
 }
 
 bool same_bits(const std::optional<double>& left, const std::optional<double>& right) {
-  if (left.has_value() != right.has_value())
-    return false;
+  if (left.has_value() != right.has_value()) return false;
   return !left || same_bits(*left, *right);
 }
 

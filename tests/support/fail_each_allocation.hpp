@@ -51,8 +51,7 @@ std::uint64_t fail_each_allocation(Make make, Call call, AfterFailure after_fail
       }
     }
     EXPECT_EQ(live_allocations(), live_before) << "after allocation " << failing << " failed";
-    if (!result.got_so_far)
-      return failures;
+    if (!result.got_so_far) return failures;
     failures += result.threw ? 1 : 0;
   }
   ADD_FAILURE() << "the call never came to an end";

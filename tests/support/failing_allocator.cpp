@@ -23,24 +23,20 @@ bool must_fail() noexcept { return counts.is_window_open && ++counts.asked_for =
 // The blocks come from malloc, so that the sanitizers watch them as any others.
 
 void* allocate(std::size_t size) noexcept {
-  if (must_fail())
-    return nullptr;
+  if (must_fail()) return nullptr;
   void* const block = std::malloc(size == 0 ? 1 : size);
-  if (block != nullptr)
-    ++counts.live;
+  if (block != nullptr) ++counts.live;
   return block;
 }
 
 void* allocate_or_throw(std::size_t size) {
   void* const block = allocate(size);
-  if (block == nullptr)
-    throw std::bad_alloc();
+  if (block == nullptr) throw std::bad_alloc();
   return block;
 }
 
 void release(void* block) noexcept {
-  if (block != nullptr)
-    --counts.live;
+  if (block != nullptr) --counts.live;
   std::free(block);
 }
 

@@ -38,8 +38,7 @@ class TemporaryFolder {
     file.open(path(name), std::ios_base::binary);
     file.write(content.data(), static_cast<std::streamsize>(content.size()));
     file.close();
-    if (!file)
-      throw std::runtime_error("cannot write " + path(name));
+    if (!file) throw std::runtime_error("cannot write " + path(name));
     return path(name);
   }
 
@@ -50,8 +49,7 @@ class TemporaryFolder {
       // Only one of several processes that try the same name at once is told that it made it.
       const auto path = std::filesystem::temp_directory_path() /
                         ("kelp_quill_inp_test." + std::to_string(random()));
-      if (std::filesystem::create_directory(path))
-        return path;
+      if (std::filesystem::create_directory(path)) return path;
     }
   }
 

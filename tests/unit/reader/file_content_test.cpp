@@ -15,16 +15,14 @@ using namespace std::string_literals;
 
 std::string every_byte() {
   std::string bytes;
-  for (int byte = 0; byte < 256; ++byte)
-    bytes += static_cast<char>(byte);
+  for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
   return bytes;
 }
 
 /// Bytes with no period that a buffer's size could hide.
 std::string bytes_of_size(std::size_t size) {
   std::string bytes(size, '\0');
-  for (std::size_t i = 0; i < size; ++i)
-    bytes[i] = static_cast<char>((i * i + i / 251) % 256);
+  for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<char>((i * i + i / 251) % 256);
   return bytes;
 }
 
