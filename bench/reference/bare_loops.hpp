@@ -1,0 +1,39 @@
+#ifndef KELP_INPUT_QUILL_BENCH_REFERENCE_BARE_LOOPS_HPP
+#define KELP_INPUT_QUILL_BENCH_REFERENCE_BARE_LOOPS_HPP
+
+#include <string>
+#include <string_view>
+
+#include "kelp/input/quill/document.hpp"
+#include "kelp/input/quill/reader.hpp"
+
+// What the library's figures are measured against: loops that make the calls reading must make and
+// nothing besides, for texts without a mistake in them. They stand in a shared library, where the
+// library's own reader and writer stand as well.
+
+namespace kelp::input::quill::bench {
+
+/// Reads a text in the canonical layout, by the functions of reference/plain_functions.hpp.
+ParseResult read_with_plain_functions(std::string_view text);
+
+/// The same by the library's own sister libraries: what is left of the time of parse_string() is
+/// the reader's own.
+ParseResult read_with_own_functions(std::string_view text);
+
+/// Sets a parameter that the first command of this name already has, by the lookup that names
+/// without regard to letter case and blanks ask for.
+void set_parameter_bare(QuillInput& input, std::string_view command, std::string_view parameter,
+                        std::string_view value);
+
+/// Writes commands, charge and multiplicity, and atoms by std::to_chars into one reserved string.
+std::string write_with_to_chars(const QuillInput& input);
+
+/// Writes charge and multiplicity and atoms by a string stream with setw and setprecision.
+std::string write_with_stream(const QuillInput& input);
+
+/// Creates or truncates a file and writes `text` by the three calls of the system that this takes.
+bool write_bare_file(const std::string& path, std::string_view text);
+
+}  // namespace kelp::input::quill::bench
+
+#endif  // KELP_INPUT_QUILL_BENCH_REFERENCE_BARE_LOOPS_HPP

@@ -1,0 +1,50 @@
+#include "support/time_ratio.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <ctime>
+#include <utility>
+#include <vector>
+
+namespace kelp::input::quill::bench {
+
+namespace {
+
+/// Long against the clock's step of a microsecond, short against a change of the machine's load.
+constexpr double seconds_per_run = 0.01;
+
+double seconds(const Work& work, int repeats) {
+  const std::clock_t start = std::clock();
+  for (int i = 0; i < repeats; ++i) work();
+  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+int repeats_for_one_run(const Work& work) {
+  int repeats = 1;
+  while (seconds(work, repeats) < seconds_per_run) repeats *= 2;
+  return repeats;
+}
+
+}  // namespace
+
+TimeRatio time_ratio(const Work& subject, const Work& reference, int rounds) {
+  const int repeats = std::max(repeats_for_one_run(subject), repeats_for_one_run(reference));
+  std::vector<double> ratios;
+  for (int round = 0; round < rounds; ++round) {
+    // Whoever comes second may find the caches as the first has left them: take turns at that too.
+    std::pair<double, double> times;
+    if (round % 2 == 0) {
+      times.first = seconds(subject, repeats);
+      times.second = seconds(reference, repeats);
+    } else {
+      times.second = seconds(reference, repeats);
+      times.first = seconds(subject, repeats);
+    }
+    ratios.push_back(times.first / times.second);
+  }
+  std::sort(ratios.begin(), ratios.end());
+  const std::size_t count = ratios.size();
+  return {ratios[count / 2], ratios[count / 4], ratios[count - 1 - count / 4]};
+}
+
+}  // namespace kelp::input::quill::bench

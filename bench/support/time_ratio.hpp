@@ -1,0 +1,25 @@
+#ifndef KELP_INPUT_QUILL_BENCH_SUPPORT_TIME_RATIO_HPP
+#define KELP_INPUT_QUILL_BENCH_SUPPORT_TIME_RATIO_HPP
+
+#include <functional>
+
+namespace kelp::input::quill::bench {
+
+using Work = std::function<void()>;
+
+/// How long one work takes, as a multiple of another: the median over all rounds, and the two
+/// values between which half of the rounds lie.
+struct TimeRatio {
+  double median;
+  double lower_quartile;
+  double upper_quartile;
+};
+
+/// Times both in turns, so that whatever else the machine does hits both alike, and compares only
+/// what was timed in the same round. Time is processor time. The work should not be optimised away:
+/// what it computes goes through benchmark::DoNotOptimize.
+TimeRatio time_ratio(const Work& subject, const Work& reference, int rounds);
+
+}  // namespace kelp::input::quill::bench
+
+#endif  // KELP_INPUT_QUILL_BENCH_SUPPORT_TIME_RATIO_HPP

@@ -1,0 +1,58 @@
+// Stands in for libFuzzer where there is none: runs the target once on every file that is named on
+// the command line, and on every file in every folder that is.
+
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "fuzz/target.hpp"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<fs::path> files_at(const fs::path& path) {
+  if (!fs::is_directory(path)) return {path};
+  std::vector<fs::path> files;
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(path)) {
+    if (entry.is_regular_file()) files.push_back(entry.path());
+  }
+  return files;
+}
+
+bool replay(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    std::fprintf(stderr, "cannot open %s\n", path.c_str());
+    return false;
+  }
+  const std::string bytes(std::istreambuf_iterator<char>(file), {});
+  try {
+    // A block of its own, of exactly the size, as libFuzzer makes one.
+    const std::vector<std::uint8_t> block(bytes.begin(), bytes.end());
+    LLVMFuzzerTestOneInput(block.data(), block.size());
+    return true;
+  } catch (const std::exception& exception) {
+    std::fprintf(stderr, "%s: %s\n", path.c_str(), exception.what());
+    return false;
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::size_t replayed = 0;
+  std::size_t failed = 0;
+  for (const std::string& argument : std::vector<std::string>(argv + 1, argv + argc)) {
+    for (const fs::path& path : files_at(argument)) {
+      ++replayed;
+      if (!replay(path)) ++failed;
+    }
+  }
+  std::printf("%zu files, %zu of them with a finding\n", replayed, failed);
+  return replayed == 0 || failed != 0 ? 1 : 0;
+}

@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the libraries and the benchmarks with optimisation and prints one
+# table: what the library costs against other ways to do the same. docs/performance.md explains it.
+#
+#   scripts/bench.sh             the table
+#   scripts/bench.sh --check     fails when a figure is above what it may be
+#   scripts/bench.sh --only read --rounds 101
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/packages.sh
+
+need_packages "${build_packages[@]}" libbenchmark-dev
+
+log=build/bench/build.log
+mkdir -p build/bench
+echo "Building in build/bench ..."
+if ! { cmake --preset bench && cmake --build --preset bench; } >"$log" 2>&1; then
+  tail -n 30 "$log" >&2
+  echo "The build failed; the whole output is in $log." >&2
+  exit 1
+fi
+build/bench/bench/kelp_quill_inp_ratios "$@"

@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# Makes the corpus of the fuzz targets, or of the named ones, anew: of all inputs in it, and of those
+# that the last scripts/fuzz.sh has found, as few as cover the same.
+#
+#   scripts/fuzz_corpus.sh [TARGET...]
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/packages.sh
+. scripts/support/fuzz_targets.sh
+
+if [ $# -eq 0 ]; then set -- "${fuzz_targets[@]}"; fi
+for target in "$@"; do check_fuzz_target "$target"; done
+
+build_fuzz_targets
+
+for target in "$@"; do
+  log=build/fuzz/$target.merge.log
+  kept=build/fuzz/kept/$target
+  rm -rf "$kept"
+  mkdir -p "$kept" "build/fuzz/new/$target" "fuzz/corpus/$target"
+  if ! "build/fuzz/fuzz/kelp_quill_inp_fuzz_$target" -set_cover_merge=1 -use_counters=0 \
+    "$kept" "fuzz/corpus/$target" "build/fuzz/new/$target" >"$log" 2>&1; then
+    tail -n 20 "$log" >&2
+    echo "The whole output is in $log." >&2
+    exit 1
+  fi
+  rm -rf "fuzz/corpus/$target"
+  cp -r "$kept" "fuzz/corpus/$target"
+  printf '%-18s %s inputs\n' "$target" "$(find "fuzz/corpus/$target" -type f | wc -l)"
+done

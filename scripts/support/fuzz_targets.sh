@@ -1,0 +1,33 @@
+# Sourced by the scripts beside it: which fuzz targets there are, and how they are built.
+
+fuzz_targets=(parse document edit text lines allocation_faults)
+
+# check_fuzz_target NAME
+check_fuzz_target() {
+  local target
+  for target in "${fuzz_targets[@]}"; do
+    [ "$target" = "$1" ] && return 0
+  done
+  echo "There is no target $1; there are: ${fuzz_targets[*]}" >&2
+  return 1
+}
+
+# longest_input NAME: the number of bytes beyond which an input has nothing new to say.
+longest_input() {
+  case $1 in
+    text) echo 96 ;;
+    lines) echo 192 ;;
+    *) echo 384 ;;
+  esac
+}
+
+build_fuzz_targets() {
+  need_packages clang cmake ninja-build libclang-rt-14-dev
+  local log=build/fuzz/build.log
+  mkdir -p build/fuzz
+  if ! { cmake --preset fuzz && cmake --build --preset fuzz; } >"$log" 2>&1; then
+    tail -n 30 "$log" >&2
+    echo "The build failed; the whole output is in $log." >&2
+    return 1
+  fi
+}

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Runs the unit and interface tests under valgrind; an error or a leak fails. What measures time is
+# left out, since time is another thing there.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/packages.sh
+
+need_packages "${test_packages[@]}" valgrind
+
+log=build/dev/build.log
+mkdir -p build/dev
+if ! { cmake --preset dev && cmake --build --preset dev; } >"$log" 2>&1; then
+  tail -n 30 "$log" >&2
+  echo "The build failed; the whole output is in $log." >&2
+  exit 1
+fi
+
+status=0
+while IFS= read -r program; do
+  name=$(basename "$program")
+  output=build/dev/$name.valgrind.log
+  if valgrind --quiet --leak-check=full --errors-for-leak-kinds=definite,indirect,possible \
+    --error-exitcode=9 --log-file="$output" "$program" --gtest_brief=1 >"$output.tests" 2>&1; then
+    printf '%-45s no errors\n' "$name"
+  else
+    status=1
+    printf '%-45s fails\n' "$name" >&2
+    cat "$output.tests" "$output" >&2
+  fi
+done < <(find build/dev/tests/unit build/dev/tests/interface -name 'kelp_quill_inp_*_test' \
+  -type f -executable ! -name '*scale*' | sort)
+exit "$status"

@@ -1,0 +1,24 @@
+#include "properties/everything.hpp"
+
+#include "properties/lookup.hpp"
+#include "properties/reading.hpp"
+#include "properties/writing.hpp"
+
+namespace kelp::input::quill {
+
+void check_text(std::string_view text) {
+  const ParseResult result = parse_string(text);
+  check_result(text, result);
+  check_against_obvious_reader(text, result);
+  check_that_layout_does_not_matter(text);
+  check_document(result.input);
+}
+
+void check_document(const QuillInput& document) {
+  check_writing(document);
+  check_against_obvious_writer(document);
+  check_round_trip(document);
+  check_every_lookup(document);
+}
+
+}  // namespace kelp::input::quill

@@ -1,0 +1,15 @@
+#ifndef KELP_INPUT_QUILL_TESTS_PROPERTIES_LINE_READERS_HPP
+#define KELP_INPUT_QUILL_TESTS_PROPERTIES_LINE_READERS_HPP
+
+#include <string_view>
+
+namespace kelp::input::quill {
+
+/// Each line reader, by itself and given any text at all as its line, gives what the obvious one
+/// gives. Throws a Violation. Needs what the library hides: a program that calls this links its
+/// objects.
+void check_line_readers(std::string_view line);
+
+}  // namespace kelp::input::quill
+
+#endif  // KELP_INPUT_QUILL_TESTS_PROPERTIES_LINE_READERS_HPP

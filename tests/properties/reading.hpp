@@ -1,0 +1,41 @@
+#ifndef KELP_INPUT_QUILL_TESTS_PROPERTIES_READING_HPP
+#define KELP_INPUT_QUILL_TESTS_PROPERTIES_READING_HPP
+
+#include <string_view>
+
+#include "kelp/input/quill/quill.hpp"
+
+// What holds between any text and what is read from it. Every check throws a Violation.
+
+namespace kelp::input::quill {
+
+/// Reading succeeds.
+void check_outcome(std::string_view text, const ParseResult& result);
+
+/// Every line that is not blank has become exactly one piece of the document or one warning that
+/// says that it was dropped.
+void check_that_no_line_is_lost(std::string_view text, const ParseResult& result);
+
+/// Every warning but the last names a line of the text, in the order of the lines; the last one may
+/// say instead that there is no coordinate section, and does so exactly when there is none.
+void check_warnings(std::string_view text, const ParseResult& result);
+
+/// The geometry holds what its kind says and nothing else; symbols are spelled as elements are.
+void check_geometry(std::string_view text, const ParseResult& result);
+
+/// Every post-processing line has the parts that its kind calls for and no other ones.
+void check_post_commands(std::string_view text, const ParseResult& result);
+
+/// All of the above.
+void check_result(std::string_view text, const ParseResult& result);
+
+/// The document and the warnings do not depend on blanks around lines, on the kind of line ends, on
+/// one more line end, and, but for the numbers of lines, on blank lines.
+void check_that_layout_does_not_matter(std::string_view text);
+
+/// The result is that of the reader written for nothing but to be seen to be right.
+void check_against_obvious_reader(std::string_view text, const ParseResult& result);
+
+}  // namespace kelp::input::quill
+
+#endif  // KELP_INPUT_QUILL_TESTS_PROPERTIES_READING_HPP

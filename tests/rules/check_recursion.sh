@@ -1,0 +1,46 @@
+#!/bin/sh
+# Fails when functions in compiled objects call themselves, be it through others: a text must not
+# decide how deep the stack gets. Names every function in such a circle.
+#
+#   check_recursion.sh OBJDUMP OBJECT...
+set -eu
+export LC_ALL=C
+
+objdump=$1
+shift
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+# A call to a function of the same section is shown with its name, any other one by a relocation in
+# the next line. An offset behind the name is a jump to the inside of a function.
+"$objdump" --disassemble --reloc --no-show-raw-insn "$@" >"$scratch/code"
+awk '
+  /^[0-9a-f]+ <.*>:$/ { caller = substr($2, 2, length($2) - 3); next }
+  /R_[A-Z0-9_]+/ {
+    callee = $NF
+    sub(/-0x4$/, "", callee)
+    if (is_call && callee !~ /^\.|[-+]0x/) print caller, callee
+    next
+  }
+  {
+    is_call = $2 ~ /^(call|jmp|b|bl)q?$/
+    if (is_call && $NF ~ /^<[^+]*>$/) print caller, substr($NF, 2, length($NF) - 2)
+  }
+' "$scratch/code" | sed 's/@plt//' | sort -u >"$scratch/calls"
+if [ ! -s "$scratch/calls" ]; then
+  echo "there are no calls in $*" >&2
+  exit 1
+fi
+
+# tsort takes a line with the same name twice for no relation at all, and names circles of others.
+{
+  awk '$1 == $2 { print $1 }' "$scratch/calls"
+  tsort "$scratch/calls" 2>&1 >"$scratch/order" | sed -n 's/^tsort: \([^ ]*\)$/\1/p'
+} | grep kelp | sort -u >"$scratch/circles" || true
+
+if [ -s "$scratch/circles" ]; then
+  echo "these functions call themselves, or one another in a circle:" >&2
+  c++filt <"$scratch/circles" >&2
+  exit 1
+fi
+echo "$(cut -d ' ' -f 1 "$scratch/calls" | sort -u | wc -l) functions, none of them recursive"

@@ -1,0 +1,170 @@
+// Preloaded into the program by the tests of writing: counts the system calls that concern files,
+// and makes a chosen one of them fail, or a signal arrive in front of it.
+//
+//   QUILL_INP_CALL_LOG    a file that gets the name of every call, one per line
+//   QUILL_INP_FAULT_AT    the number of a call, counted from 1
+//   QUILL_INP_FAULT       what happens there: "errno N" or "signal N"
+//   QUILL_INP_SHORT       set: every write takes only half of what it is given
+//
+// Calls on the standard streams do not count.
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdarg>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+template <typename Function>
+Function* find_next(const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+long calls = 0;
+
+void log_call(const char* name) {
+  const char* path = std::getenv("QUILL_INP_CALL_LOG");
+  if (path == nullptr) return;
+  const long file = syscall(SYS_openat, AT_FDCWD, path, O_WRONLY | O_CREAT | O_APPEND, 0600);
+  syscall(SYS_write, file, name, std::strlen(name));
+  syscall(SYS_write, file, "\n", std::size_t{1});
+  syscall(SYS_close, file);
+}
+
+/// Returns whether the call is to fail, having set errno.
+bool fails(const char* name) {
+  ++calls;
+  log_call(name);
+  const char* at = std::getenv("QUILL_INP_FAULT_AT");
+  const char* fault = std::getenv("QUILL_INP_FAULT");
+  if (at == nullptr || fault == nullptr || std::strtol(at, nullptr, 10) != calls) return false;
+  int number = 0;
+  if (std::sscanf(fault, "signal %d", &number) == 1) {
+    kill(getpid(), number);
+    return false;
+  }
+  if (std::sscanf(fault, "errno %d", &number) != 1) return false;
+  errno = number;
+  return true;
+}
+
+bool is_standard_stream(int file) { return 0 <= file && file <= 2; }
+
+bool fails_on(const char* name, int file) { return !is_standard_stream(file) && fails(name); }
+
+mode_t mode_argument(int flags, va_list arguments) {
+  return (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+}
+
+}  // namespace
+
+extern "C" {
+
+int openat(int folder, const char* name, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = mode_argument(flags, arguments);
+  va_end(arguments);
+  if (fails("openat")) return -1;
+  return find_next<int(int, const char*, int, ...)>("openat")(folder, name, flags, mode);
+}
+
+int openat64(int folder, const char* name, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = mode_argument(flags, arguments);
+  va_end(arguments);
+  if (fails("openat")) return -1;
+  return find_next<int(int, const char*, int, ...)>("openat64")(folder, name, flags, mode);
+}
+
+ssize_t read(int file, void* data, size_t size) {
+  if (fails_on("read", file)) return -1;
+  return find_next<ssize_t(int, void*, size_t)>("read")(file, data, size);
+}
+
+ssize_t write(int file, const void* data, size_t size) {
+  if (fails_on("write", file)) return -1;
+  const bool is_short = std::getenv("QUILL_INP_SHORT") != nullptr && !is_standard_stream(file);
+  return find_next<ssize_t(int, const void*, size_t)>("write")(file, data,
+                                                               is_short ? (size + 1) / 2 : size);
+}
+
+int close(int file) {
+  if (fails_on("close", file)) {
+    const int error = errno;
+    find_next<int(int)>("close")(file);  // a close that reports an error has closed the file
+    errno = error;
+    return -1;
+  }
+  return find_next<int(int)>("close")(file);
+}
+
+int fsync(int file) {
+  if (fails_on("fsync", file)) return -1;
+  return find_next<int(int)>("fsync")(file);
+}
+
+int fstat(int file, struct stat* state) noexcept {
+  if (fails_on("fstat", file)) return -1;
+  return find_next<int(int, struct stat*)>("fstat")(file, state);
+}
+
+int fstatat(int folder, const char* name, struct stat* state, int flags) noexcept {
+  if (fails("fstatat")) return -1;
+  return find_next<int(int, const char*, struct stat*, int)>("fstatat")(folder, name, state, flags);
+}
+
+int fchmod(int file, mode_t mode) noexcept {
+  if (fails("fchmod")) return -1;
+  return find_next<int(int, mode_t)>("fchmod")(file, mode);
+}
+
+int fchown(int file, uid_t owner, gid_t group) noexcept {
+  if (fails("fchown")) return -1;
+  return find_next<int(int, uid_t, gid_t)>("fchown")(file, owner, group);
+}
+
+int faccessat(int folder, const char* name, int mode, int flags) noexcept {
+  if (fails("faccessat")) return -1;
+  return find_next<int(int, const char*, int, int)>("faccessat")(folder, name, mode, flags);
+}
+
+ssize_t fgetxattr(int file, const char* name, void* value, size_t size) noexcept {
+  if (fails("fgetxattr")) return -1;
+  return find_next<ssize_t(int, const char*, void*, size_t)>("fgetxattr")(file, name, value, size);
+}
+
+int fremovexattr(int file, const char* name) noexcept {
+  if (fails("fremovexattr")) return -1;
+  return find_next<int(int, const char*)>("fremovexattr")(file, name);
+}
+
+int renameat(int from, const char* old_name, int to, const char* new_name) noexcept {
+  if (fails("renameat")) return -1;
+  return find_next<int(int, const char*, int, const char*)>("renameat")(from, old_name, to,
+                                                                        new_name);
+}
+
+int linkat(int from, const char* old_name, int to, const char* new_name, int flags) noexcept {
+  if (fails("linkat")) return -1;
+  return find_next<int(int, const char*, int, const char*, int)>("linkat")(from, old_name, to,
+                                                                           new_name, flags);
+}
+
+int unlinkat(int folder, const char* name, int flags) noexcept {
+  if (fails("unlinkat")) return -1;
+  return find_next<int(int, const char*, int)>("unlinkat")(folder, name, flags);
+}
+
+}  // extern "C"

@@ -1,0 +1,270 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "call.hpp"
+#include "files.hpp"
+
+namespace kelp::input::quill::tool {
+namespace {
+
+const std::string atoms =
+    "O        0.000000      0.000000      0.117176\n"
+    "H        0.000000      0.756950     -0.468706\n"
+    "H        0.000000     -0.756950     -0.468706\n";
+
+const std::string behind_header = "\n0 1\n" + atoms;
+
+const std::string hint = "quill-inp: note: 'quill-inp set --help' says more\n";
+
+/// Water with other header lines.
+Outcome with_header(const std::string& header) { return ended(0, header + behind_header, ""); }
+
+Outcome usage_error(const std::string& message) {
+  return ended(2, "", "quill-inp: error: " + message + "\n" + hint);
+}
+
+Outcome refused(const std::string& message) {
+  return ended(2, "", "water.qin: error: refused: " + message + " (--allow-loss goes on)\n");
+}
+
+class Set : public testing::TestWithParam<Call> {};
+
+const Call calls[] = {
+    {"ParameterThatIsThere",
+     {"set", "water.qin", "opt.maxiter=100"},
+     with_header("#opt(maxiter=100, tight)\n#model = m1\n")},
+    {"ParameterThatIsNew",
+     {"set", "water.qin", "opt.step=0.1"},
+     with_header("#opt(maxiter=50, tight, step=0.1)\n#model = m1\n")},
+    {"ParameterWithoutValue",
+     {"set", "water.qin", "opt.loose"},
+     with_header("#opt(maxiter=50, tight, loose)\n#model = m1\n")},
+    {"ParameterWithoutValueThatIsThere",
+     {"set", "water.qin", "opt.TIGHT"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n")},
+    {"ParameterOfACommandThatIsNew",
+     {"set", "water.qin", "freq.t=298"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#freq(t=298)\n")},
+    {"ParameterWithoutValueOfACommandThatIsNew",
+     {"set", "water.qin", "freq.raman"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#freq(raman)\n")},
+    {"EmptyParameter",
+     {"set", "water.qin", "opt.maxiter="},
+     with_header("#opt(maxiter=, tight)\n#model = m1\n")},
+    {"Assignment",
+     {"set", "water.qin", "model=m2"},
+     with_header("#opt(maxiter=50, tight)\n#model = m2\n")},
+    {"AssignmentThatIsNew",
+     {"set", "water.qin", "device=gpu"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#device = gpu\n")},
+    {"Flag",
+     {"set", "water.qin", "freq"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#freq\n")},
+    {"SeveralAtOnce",
+     {"set", "water.qin", "model=m2", "opt.a=1", "opt.b", "opt.a=2", "@charge=-1"},
+     ended(0, "#opt(maxiter=50, tight, a=2, b)\n#model = m2\n\n-1 1\n" + atoms, "")},
+    {"Multiplicity",
+     {"set", "water.qin", "@multiplicity=3"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m1\n\n0 3\n" + atoms, "")},
+    {"NothingToChange", {"set", "water.qin", "model=m1", "opt.maxiter=50"}, ended(0, water, "")},
+    {"ValueWithAComma",
+     {"set", "water.qin", "opt.basis=a,b"},
+     with_header("#opt(maxiter=50, tight, basis=\"a,b\")\n#model = m1\n")},
+    {"ValueWithOuterBlanks",
+     {"set", "water.qin", "model= m 1 "},
+     with_header("#opt(maxiter=50, tight)\n#model = \" m 1 \"\n")},
+    {"ValueWithQuotesAroundIt",
+     {"set", "water.qin", "model=\"m1\""},
+     with_header("#opt(maxiter=50, tight)\n#model = '\"m1\"'\n")},
+    {"ValueWithBytesOfItsOwn",
+     {"set", "water.qin", "model=\xFF\x1B"},
+     with_header("#opt(maxiter=50, tight)\n#model = \xFF\x1B\n")},
+    {"OtherLinesStayAsTheyAre",
+     {"set", "by_hand.qin", "opt.maxiter=60"},
+     ended(0,
+           "#Opt(maxiter=60, tight)\r\n#Model=\"m1\"\r\n  0   1\r\n\r\no 0 0 0.117176\r\n"
+           "h 0  0.75695 -0.468706\r\nh 0 -0.75695 -0.468706",
+           "")},
+    {"NewLinesEndAsTheOthersDo",
+     {"set", "by_hand.qin", "freq"},
+     ended(0,
+           "# Opt ( maxiter = 50 , tight )\r\n#Model=\"m1\"\r\n#freq\r\n  0   1\r\n\r\n"
+           "o 0 0 0.117176\r\nh 0  0.75695 -0.468706\r\nh 0 -0.75695 -0.468706",
+           "")},
+    {"SecondCommandOfItsName",
+     {"set", "--allow-loss", "-q", "two_opts.qin", "opt[1].maxiter=80"},
+     ended(0, "#opt(maxiter=50)\n#Opt(maxiter=80)\n\nXYZ a b.xyz\nXYZ c.xyz\nB 1 x\n", "")},
+    {"XyzFiles",
+     {"set", "water.qin", "--xyz", "a.xyz", "b c.xyz"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\nXYZ a.xyz\nXYZ b c.xyz\n", "")},
+    {"XyzFilesAndValues",
+     {"set", "water.qin", "model=m2", "--xyz", "a.xyz"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m2\n\n0 1\nXYZ a.xyz\n", "")},
+    {"Trajectory",
+     {"set", "water.qin", "--trajectory", "t.xyz"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\nXYZTRAJ t.xyz\n", "")},
+    {"Atoms",
+     {"set", "-q", "two_opts.qin", "--atoms", "water.xyz"},
+     ended(0, "#opt(maxiter=50)\n#Opt(maxiter=70) and so on\n\n" + atoms + "B 1 x\n", "")},
+    {"AtomsOfUnknownElementsWithMoreDigits",
+     {"set", "water.qin", "--atoms", "odd.xyz"},
+     ended(0,
+           "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\n"
+           "He       0.000000      0.000000      0.123457\n"
+           "D        0.000000      0.000000      1.000000\n",
+           "odd.xyz:4: warning: unknown element symbol 'D'\n"
+           "water.qin: note: 1 number changes, by up to 2.2e-07\n")},
+    {"AtomsFromStandardInput",
+     {"set", "-q", "water.qin", "--atoms", "-"},
+     ended(0,
+           "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\n"
+           "He       1.000000      2.000000      3.000000\n",
+           ""),
+     "1\n\nhe 1 2 3\n"},
+    {"StandardInput", {"set", "-", "model=m2"}, ended(0, "#model = m2\n0 1", ""), "#model=m1\n0 1"},
+    {"Difference",
+     {"set", "--diff", "water.qin", "model=m2"},
+     ended(1,
+           "--- water.qin\n+++ water.qin\n@@ -1,5 +1,5 @@\n #opt(maxiter=50, tight)\n-#model = m1\n"
+           "+#model = m2\n \n 0 1\n O        0.000000      0.000000      0.117176\n",
+           "")},
+    {"NoDifference", {"set", "--diff", "water.qin", "model=m1"}, ended(0, "", "")},
+    {"AngleBracketsInAName",
+     {"set", "water.qin", R"(a\.b\[0\]=1)"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#a.b[0] = 1\n")},
+
+    {"NewNameThatLooksLikeOneThatIsThere",
+     {"set", "water.qin", "modle=m2", "opt.maxitr=1"},
+     ended(0, "#opt(maxiter=50, tight, maxitr=1)\n#model = m1\n#modle = m2\n" + behind_header,
+           "water.qin: note: 'modle' is new; did you mean 'model'?\n"
+           "water.qin: note: 'opt.maxitr' is new; did you mean 'maxiter'?\n")},
+    {"ParameterWithoutNameWouldGo",
+     {"set", "-", "a.b=1"},
+     ended(2, "",
+           "<stdin>: error: refused: line 1 says more than its command, which would be lost: "
+           "'#a(=5, b)' (--allow-loss goes on)\n"),
+     "#a(=5, b)\n0 1\n"},
+    {"ParameterWithoutNameOnALineThatStays",
+     {"set", "-", "c=1"},
+     ended(0, "#a(=5, b)\n#c = 1\n0 1\n", ""),
+     "#a(=5, b)\n0 1\n"},
+
+    {"NoSuchOccurrence",
+     {"set", "water.qin", "opt[1].maxiter=1"},
+     ended(1, "",
+           "water.qin: note: no match for 'opt[1].maxiter': there is only 1 of the command "
+           "'opt', and [N] counts from 0\n")},
+    {"OneOfTwoWithoutMatchSetsNothing",
+     {"set", "-q", "water.qin", "model=m2", "freq[1].a=1"},
+     ended(1, "", "")},
+
+    {"ValueThatCannotBeSpelled",
+     {"set", "water.qin", "opt.maxiter=x\"y'z,"},
+     refused("the value 'x\"y'z,' of parameter 'maxiter' cannot be spelled: it would read back "
+             "otherwise as it stands, in double quotes and in single quotes with another parameter "
+             "after it")},
+    {"ParametersWouldGo",
+     {"set", "water.qin", "opt=5"},
+     refused("the command 'opt' would lose its parameters")},
+    {"ParametersWouldGoForAFlag",
+     {"set", "water.qin", "opt"},
+     refused("the command 'opt' would lose its parameters")},
+    {"AValueWouldGo",
+     {"set", "water.qin", "model"},
+     refused("the command 'model' would lose its value 'm1'")},
+    {"AValueWouldGoForAParameter",
+     {"set", "water.qin", "model.a=1"},
+     refused("the command 'model' would lose its value 'm1'")},
+    {"AParametersValueWouldGo",
+     {"set", "water.qin", "opt.maxiter"},
+     refused("the parameter 'maxiter' would lose its value '50'")},
+    {"ParametersMayGo",
+     {"set", "--allow-loss", "water.qin", "opt=5"},
+     ended(0, "#opt = 5\n#model = m1\n" + behind_header,
+           "water.qin: warning: lost: the command 'opt' would lose its parameters\n")},
+    {"TrailingTextWouldGo",
+     {"set", "-q", "two_opts.qin", "opt[1].maxiter=80"},
+     ended(2, "",
+           "two_opts.qin: error: refused: line 2 says more than its command, which would be lost: "
+           "'#Opt(maxiter=70) and so on' (--allow-loss goes on)\n")},
+    {"DigitsWouldGo",
+     {"set", "-q", "--max-change=1e-7", "water.qin", "--atoms", "odd.xyz"},
+     ended(2, "",
+           "water.qin: error: refused: line 5 would be read otherwise: z of atom 1 is "
+           "0.123457 instead of 0.12345678 (--allow-loss goes on)\n")},
+    {"LineBreakInAValue",
+     {"set", "water.qin", "model=a\nb"},
+     refused("the value 'a\\nb' holds a line break, and a header command is one line")},
+    {"LineBreakInAPath",
+     {"set", "water.qin", "--trajectory", "a\nb"},
+     refused("line 5 would be read otherwise: the path of trajectory reference 1 is 'a' instead of "
+             "'a\\nb'")},
+
+    {"NothingToSet", {"set", "water.qin"}, usage_error("nothing to set")},
+    {"TwoGeometries",
+     {"set", "water.qin", "--xyz", "a", "--trajectory", "b"},
+     usage_error("--atoms, --xyz and --trajectory exclude each other")},
+    {"ChargeThatIsNoNumber",
+     {"set", "water.qin", "@charge=x"},
+     usage_error("@charge takes an integer, not 'x'")},
+    {"ChargeWithoutValue",
+     {"set", "water.qin", "@charge"},
+     usage_error("@charge takes an integer, not ''")},
+    {"GeometryByValue",
+     {"set", "water.qin", "@geometry=none"},
+     usage_error("'@geometry' cannot be set by a value; use --atoms, --xyz or --trajectory")},
+    {"WholeCommandByNumber",
+     {"set", "-q", "two_opts.qin", "opt[1]=5"},
+     usage_error("'opt[1]': with a number, only COMMAND[N].PARAMETER=VALUE can be set")},
+    {"BareParameterByNumber",
+     {"set", "-q", "two_opts.qin", "opt[1].tight"},
+     usage_error("'opt[1].tight': with a number, only COMMAND[N].PARAMETER=VALUE can be set")},
+    {"BadMaxChange",
+     {"set", "--max-change", "-1", "water.qin", "model=a"},
+     usage_error("--max-change takes a number from 0 on, '1e-6', not '-1'")},
+    {"MaxChangeThatIsNoNumber",
+     {"set", "--max-change=nan", "water.qin", "model=a"},
+     usage_error("--max-change takes a number from 0 on, '1e-6', not 'nan'")},
+    {"UnreadableAtoms",
+     {"set", "water.qin", "--atoms", "none.xyz"},
+     ended(2, "",
+           "water.qin: error: --atoms: none.xyz: cannot be opened: No such file or "
+           "directory\n")},
+    {"BadAtoms",
+     {"set", "water.qin", "--atoms", "water.qin"},
+     ended(2, "",
+           "water.qin: error: --atoms: water.qin: line 1: an XYZ file begins with the "
+           "number of its atoms, 1 or more\n")},
+    {"StandardInputTwice",
+     {"set", "-", "--atoms", "-"},
+     ended(2, "", "<stdin>: error: standard input was read already, and can be read only once\n"),
+     "1\n\nHe 0 0 0\n"},
+    {"StandardInputInPlace",
+     {"set", "-i", "-", "model=m2"},
+     ended(2, "", "<stdin>: error: standard input cannot be changed in place\n"),
+     "#model=m1\n0 1"},
+    {"DifferenceInPlace",
+     {"set", "-i", "--diff", "water.qin", "model=m2"},
+     usage_error("--check and --diff never write, so they exclude --in-place")},
+    {"BackupOfNothing",
+     {"set", "--backup", "water.qin", "model=m2"},
+     usage_error("--backup needs --in-place")},
+    {"BreakingLinksOfNothing",
+     {"set", "--break-hard-links", "water.qin", "model=m2"},
+     usage_error("--break-hard-links needs --in-place")},
+    {"BackupWithoutSuffix",
+     {"set", "-i", "--backup=", "water.qin", "model=m2"},
+     usage_error("--backup takes a suffix for the name of the file, '.bak', not ''")},
+    {"BackupInAnotherFolder",
+     {"set", "-i", "--backup=/../x", "water.qin", "model=m2"},
+     usage_error("--backup takes a suffix for the name of the file, '.bak', not '/../x'")},
+};
+
+TEST_P(Set, ChangesWhatItIsTold) { expect_outcome(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Table, Set, testing::ValuesIn(calls),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace kelp::input::quill::tool

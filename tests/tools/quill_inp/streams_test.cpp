@@ -1,0 +1,217 @@
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+
+#include <csignal>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "files.hpp"
+#include "program.hpp"
+#include "support/temporary_folder.hpp"
+
+namespace kelp::input::quill::tool {
+namespace {
+
+Request call(const TemporaryFolder& folder, std::vector<std::string> arguments) {
+  Request request;
+  request.arguments = std::move(arguments);
+  request.folder = folder.path();
+  return request;
+}
+
+std::string output_failure(const std::string& reason) {
+  return "quill-inp: error: cannot write to standard output: " + reason + "\n";
+}
+
+class EveryVerbThatPrints : public testing::TestWithParam<std::vector<std::string>> {};
+
+TEST_P(EveryVerbThatPrints, TellsThatStandardOutputIsFull) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", water);
+  folder.write("a.json", "{}");
+  Request request = call(folder, GetParam());
+  request.out = Connection::FullDevice;
+  EXPECT_EQ(run_program(request), ended(2, "", output_failure("No space left on device")));
+}
+
+TEST_P(EveryVerbThatPrints, TellsThatNobodyReadsItsOutput) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", water);
+  folder.write("a.json", "{}");
+  Request request = call(folder, GetParam());
+  request.out = Connection::BrokenPipe;
+  EXPECT_EQ(run_program(request), ended(2, "", output_failure("Broken pipe")));
+}
+
+TEST_P(EveryVerbThatPrints, TellsThatItHasNoOutput) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", water);
+  folder.write("a.json", "{}");
+  Request request = call(folder, GetParam());
+  request.out = Connection::Closed;
+  EXPECT_EQ(run_program(request), ended(2, "", output_failure("Bad file descriptor")));
+}
+
+using Arguments = std::vector<std::string>;
+
+INSTANTIATE_TEST_SUITE_P(
+    Verbs, EveryVerbThatPrints,
+    testing::Values(Arguments{"--help"}, Arguments{"--version"}, Arguments{"show", "--help"},
+                    Arguments{"show", "a.qin"}, Arguments{"show", "--json", "a.qin"},
+                    Arguments{"show", "--lines", "a.qin"}, Arguments{"fmt", "a.qin"},
+                    Arguments{"get", "a.qin", "model"}, Arguments{"set", "a.qin", "model=m2"},
+                    Arguments{"set", "--diff", "a.qin", "model=m2"},
+                    Arguments{"unset", "a.qin", "model"}, Arguments{"add", "a.qin", "--atom", "1"},
+                    Arguments{"new", "--xyz", "a"}, Arguments{"json", "a.qin"}));
+
+TEST(StandardOutput, OfALargeTextIsCheckedToo) {
+  const TemporaryFolder folder;
+  std::string text = "0 1\n";
+  for (int i = 0; i < 20000; ++i) text += "He       0.000000      0.000000      1.000000\n";
+  folder.write("a.qin", text);
+  Request request = call(folder, {"fmt", "a.qin"});
+  EXPECT_EQ(run_program(request).out, text);
+  for (const Connection connection :
+       {Connection::FullDevice, Connection::BrokenPipe, Connection::Closed}) {
+    request.out = connection;
+    const Outcome outcome = run_program(request);
+    EXPECT_EQ(outcome.code, 2);
+    EXPECT_EQ(outcome.err.rfind("quill-inp: error: cannot write to standard output", 0), 0U);
+  }
+}
+
+TEST(StandardOutput, ThatIsNotNeededNeedNotBeThere) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", water);
+  Request request = call(folder, {"fmt", "--check", "a.qin"});
+  for (const Connection connection :
+       {Connection::FullDevice, Connection::BrokenPipe, Connection::Closed}) {
+    request.out = connection;
+    EXPECT_EQ(run_program(request), ended(0, "", ""));
+  }
+}
+
+TEST(StandardError, ThatCannotBeWrittenChangesNothingElse) {
+  const TemporaryFolder folder;
+  Request request = call(folder, {"show", "none.qin", "-"});
+  request.input = "0 1\n";
+  for (const Connection connection :
+       {Connection::FullDevice, Connection::BrokenPipe, Connection::Closed}) {
+    request.err = connection;
+    EXPECT_EQ(
+        run_program(request),
+        ended(2, "<stdin>\n  charge        0\n  multiplicity  1\n  geometry      none\n", ""));
+  }
+}
+
+// Without care, the first file that is opened would get the number of the closed stream, and every
+// message with it.
+TEST(ClosedStreams, DoNotEndUpInTheFile) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("a.qin", water + std::string("B 1 x\n"));
+  Request request = call(folder, {"set", "-i", "a.qin", "model=m2"});
+  request.in = Connection::Closed;
+  request.out = Connection::Closed;
+  request.err = Connection::Closed;
+  EXPECT_EQ(run_program(request), ended(0, "", ""));
+  std::string expected = water + std::string("B 1 x\n");
+  expected.replace(expected.find("m1"), 2, "m2");
+  EXPECT_EQ(content_of(path), expected);
+  EXPECT_EQ(names_in(folder.path()), std::vector<std::string>{"a.qin"});
+}
+
+TEST(StandardInput, ThatIsNotThereIsAnError) {
+  const TemporaryFolder folder;
+  Request request = call(folder, {"fmt", "-"});
+  request.in = Connection::Closed;
+  EXPECT_EQ(run_program(request),
+            ended(2, "", "<stdin>: error: cannot be read: Bad file descriptor\n"));
+}
+
+TEST(StandardInput, ThatIsAFolderIsAnError) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(run_shell(folder.path(), "quill-inp fmt - < ."),
+            ended(2, "<stdin>: error: cannot be read: Is a directory\n", ""));
+}
+
+TEST(Pipes, OfThreeCallsPassTheTextOn) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", water);
+  EXPECT_EQ(run_shell(folder.path(),
+                      "quill-inp set a.qin model=m2 | quill-inp add - --bond 1,2 | quill-inp get - "
+                      "model opt"),
+            ended(0, "m2\n(maxiter=50, tight)\n", ""));
+}
+
+TEST(Terminals, GetColourAndNoByteThatTheyWouldObey) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "#a=\x1B[2J  b\n0  1\n");
+  Request request = call(folder, {"fmt", "--diff", "a.qin", "none"});
+  request.out = Connection::Terminal;
+  request.err = Connection::Terminal;
+  request.environment = {{"TERM", "xterm"}, {"NO_COLOR", ""}};
+  // The terminal itself turns every line end into CR LF.
+  EXPECT_EQ(run_program(request),
+            ended(2,
+                  "\x1B[31m--- a.qin\x1B[m\r\n\x1B[32m+++ a.qin\x1B[m\r\n"
+                  "\x1B[36m@@ -1,2 +1,3 @@\x1B[m\r\n\x1B[31m-#a=\\x1b[2J  b\x1B[m\r\n"
+                  "\x1B[31m-0  1\x1B[m\r\n\x1B[32m+#a = \\x1b[2J  b\x1B[m\r\n\x1B[32m+\x1B[m\r\n"
+                  "\x1B[32m+0 1\x1B[m\r\n",
+                  "none: \x1B[1;31merror:\x1B[m cannot be opened: No such file or directory\r\n"));
+  request.arguments = {"get", "a.qin", "a"};
+  EXPECT_EQ(run_program(request), ended(0, "\\x1b[2J  b\r\n", ""));
+}
+
+TEST(Terminals, GetNoColourWhereItIsNotWanted) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "0  1\n");
+  Request request = call(folder, {"fmt", "--diff", "a.qin"});
+  request.out = Connection::Terminal;
+  const std::string plain = "--- a.qin\r\n+++ a.qin\r\n@@ -1 +1 @@\r\n-0  1\r\n+0 1\r\n";
+  request.environment = {{"TERM", "xterm"}, {"NO_COLOR", "1"}};
+  EXPECT_EQ(run_program(request).out, plain);
+  request.environment = {{"TERM", "dumb"}, {"NO_COLOR", ""}};
+  EXPECT_EQ(run_program(request).out, plain);
+  request.environment = {{"TERM", "xterm"}, {"NO_COLOR", ""}};
+  request.arguments.emplace_back("--color=never");
+  EXPECT_EQ(run_program(request).out, plain);
+  request.environment = {{"TERM", "xterm"}, {"NO_COLOR", "1"}};
+  request.arguments.back() = "--color=always";
+  EXPECT_NE(run_program(request).out, plain);
+}
+
+std::string refusal(const std::string& name, const std::string& kind) {
+  return name + ": error: is " + kind + ", not a regular file; '-' reads standard input\n";
+}
+
+TEST(FilesThatAreNotRegular, AreRefused) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "0 1\n");
+  ASSERT_EQ(mkdir(folder.path("folder").c_str(), 0700), 0);
+  ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0600), 0);
+  EXPECT_EQ(run_in(folder.path(), {"get", "folder", "@charge"}),
+            ended(2, "", refusal("folder", "a folder")));
+  EXPECT_EQ(run_in(folder.path(), {"get", "pipe", "@charge"}),
+            ended(2, "", refusal("pipe", "a pipe")));
+  EXPECT_EQ(run_in(folder.path(), {"get", "/dev/null", "@charge"}),
+            ended(2, "", refusal("/dev/null", "a device")));
+  EXPECT_EQ(run_in(folder.path(), {"fmt", "folder", "a.qin", "pipe"}),
+            ended(2, "0 1\n", refusal("folder", "a folder") + refusal("pipe", "a pipe")));
+}
+
+TEST(UnreadableFiles, AreReportedAndTheOthersProcessed) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "0 1\n");
+  chmod(folder.write("secret.qin", "0 2\n").c_str(), 0);
+  Request request = call(folder, {"fmt", "secret.qin", "a.qin", "a.qin/b"});
+  request.without_privileges = true;
+  EXPECT_EQ(run_program(request), ended(2, "0 1\n",
+                                        "secret.qin: error: cannot be opened: Permission denied\n"
+                                        "a.qin/b: error: cannot be opened: Not a directory\n"));
+}
+
+}  // namespace
+}  // namespace kelp::input::quill::tool

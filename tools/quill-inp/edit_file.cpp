@@ -1,0 +1,69 @@
+#include "quill-inp/edit_file.hpp"
+
+#include <string_view>
+#include <utility>
+
+#include "edit_support/line_account.hpp"
+#include "kelp/core/text.hpp"
+#include "quill-inp/change_report.hpp"
+#include "quill-inp/header_text_loss.hpp"
+#include "quill-inp/input_source.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+/// Returns the header lines that change and say more than the command that they were read as.
+std::vector<std::string> list_lost_texts(std::string_view text, const ParseResult& result,
+                                         const edit_support::SurgicalEdit& edit) {
+  const auto account = edit_support::account_for_lines(text, result);
+  std::vector<std::string> lost;
+  for (const edit_support::LineChange& change : edit.changes) {
+    if (!change.old_line || !change.new_line) continue;
+    const edit_support::AccountedLine& line = account[*change.old_line - 1];
+    if (line.role == edit_support::LineRole::Command &&
+        says_more_than(line.content(text), result.input.commands[*line.index]))
+      lost.push_back("line " + std::to_string(line.number) +
+                     " says more than its command, which would be lost: '" +
+                     core::text::trim(line.content(text)) + "'");
+  }
+  return lost;
+}
+
+/// Returns what gets lost: what the plan knows of, what stands on changed lines, and whatever does
+/// not read back as meant.
+std::vector<std::string> list_all_losses(const InputSource& source, const ParseResult& result,
+                                         const EditPlan& plan,
+                                         const edit_support::SurgicalEdit& edit) {
+  std::vector<std::string> losses = plan.losses;
+  const std::vector<std::string> texts = list_lost_texts(source.content, result, edit);
+  losses.insert(losses.end(), texts.begin(), texts.end());
+  if (!edit.holds())
+    losses.insert(losses.end(), edit.spelling_reasons.begin(), edit.spelling_reasons.end());
+  return list_losses(std::move(losses), edit.proof);
+}
+
+}  // namespace
+
+ExitCode edit_file(Session& session, const std::string& argument,
+                   const std::function<EditPlan(const QuillInput&)>& make_plan,
+                   const Delivery& delivery, const LossPolicy& policy) {
+  const InputSource source = read_input(session, argument);
+  const ParseResult result = parse_string(source.content);
+  report_warnings(session.reporter(), source.name, result);
+  const EditPlan plan = make_plan(result.input);
+  for (const std::string& text : plan.notes) session.reporter().note({source.name}, text);
+  for (const std::string& text : plan.missing) session.reporter().note({source.name}, text);
+  if (!plan.missing.empty()) return ExitCode::No;
+
+  const edit_support::SurgicalEdit edit =
+      edit_support::edit_text(source.content, plan.edits, policy.max_change);
+  note_number_changes(session, source.name, edit.proof.comparison.number_changes);
+  if (!accept_losses(session, source.name, list_all_losses(source, result, plan, edit), policy))
+    return ExitCode::Trouble;
+  const ExitCode code = deliver(session, source, edit.text, delivery);
+  if (delivery.in_place) report_changes(session, source.name, source.content, edit);
+  return code;
+}
+
+}  // namespace kelp::input::quill::tool

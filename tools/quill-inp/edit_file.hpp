@@ -1,0 +1,32 @@
+#ifndef KELP_INPUT_QUILL_TOOL_EDIT_FILE_HPP
+#define KELP_INPUT_QUILL_TOOL_EDIT_FILE_HPP
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "edit_support/surgical_edit.hpp"
+#include "quill-inp/delivery.hpp"
+#include "quill-inp/loss_policy.hpp"
+
+namespace kelp::input::quill::tool {
+
+/// What to do to an input, once it was read: the edits, what the input says now and would not say
+/// any more without having been asked about it, what the edits are about and is not there, and what
+/// else there is to say about them.
+struct EditPlan {
+  std::vector<edit_support::Edit> edits = {};
+  std::vector<std::string> losses = {};
+  std::vector<std::string> missing = {};
+  std::vector<std::string> notes = {};
+};
+
+/// Reads an input, makes a plan for it, carries all of the plan out or nothing, and delivers the
+/// new text. The answer is "no" when something is missing. Throws Trouble and UsageError.
+ExitCode edit_file(Session& session, const std::string& argument,
+                   const std::function<EditPlan(const QuillInput&)>& make_plan,
+                   const Delivery& delivery, const LossPolicy& policy);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_EDIT_FILE_HPP

@@ -1,0 +1,174 @@
+#include "quill-inp/run.hpp"
+
+#include <algorithm>
+#include <exception>
+#include <memory>
+#include <new>
+#include <optional>
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+
+#include "quill-inp/arguments.hpp"
+#include "quill-inp/exit_code.hpp"
+#include "quill-inp/help_formatter.hpp"
+#include "quill-inp/output.hpp"
+#include "quill-inp/reporter.hpp"
+#include "quill-inp/suggestion.hpp"
+#include "quill-inp/trouble.hpp"
+#include "quill-inp/verb.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+constexpr const char* program_name = "quill-inp";
+constexpr const char* description =
+    "Shows, formats and edits QUILL inputs. Every text is proved before it is written.";
+constexpr const char* footer =
+    "Example:\n"
+    "  quill-inp set -i job.qin opt.maxiter=100 @charge=-1\n"
+    "\n"
+    "FILE may be '-' for standard input. Exit codes: 0 done; 1 the answer is no (differs,\n"
+    "would change, no match); 2 trouble (usage, unreadable, unwritable, refused).";
+
+/// The program's command line.
+struct CommandLine {
+  CLI::App program{description, program_name};
+  std::vector<Verb> verbs = {};
+};
+
+void describe(CommandLine& line) {
+  line.program.formatter(std::make_shared<HelpFormatter>());
+  line.program.require_subcommand(0, 1)->allow_extras();
+  line.program.footer(footer);
+  begin_group(line.program, "General");
+  line.program.set_help_flag("-h,--help", "Print this help");
+  line.program.set_version_flag("--version", std::string("quill-inp ") + KELP_QUILL_INP_VERSION,
+                                "Print the version");
+  for (const auto add :
+       {add_show, add_fmt, add_get, add_set, add_unset, add_add, add_new, add_json, add_from_json})
+    line.verbs.push_back(add(line.program));
+}
+
+std::vector<std::string> names_of(const std::vector<Verb>& verbs) {
+  std::vector<std::string> names;
+  for (const Verb& verb : verbs) names.push_back(verb.app->get_name());
+  return names;
+}
+
+std::vector<std::string> option_names(const CLI::App& app) {
+  std::vector<std::string> names;
+  for (const CLI::Option* option : app.get_options()) {
+    for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
+  }
+  return names;
+}
+
+/// Returns what CLI11 complains about, in the words of this program where it has some.
+std::string describe(const CLI::ParseError& error) {
+  const std::string text = error.what();
+  const std::string subject = text.substr(0, text.find_first_of(": "));
+  const auto says = [&](const char* words) { return text.find(words) != std::string::npos; };
+  if (says(" required  missing")) return subject + " needs a value";
+  if (says(": At Most 1 required")) return subject + " can be given only once";
+  if (says(" disallowed flag override")) return "--" + subject + " takes no value";
+  return text;
+}
+
+/// Throws UsageError for what is left over on a part of the command line.
+void refuse_leftovers(const CLI::App& app) {
+  for (const std::string& leftover : app.remaining()) {
+    const std::string argument = unmarked(leftover);
+    if (argument == "--") continue;
+    const std::string name = argument.substr(0, argument.find('='));
+    if (argument.substr(0, 1) == "-")
+      throw UsageError("unknown option '" + name + "'" + suggestion(name, option_names(app)));
+    throw UsageError("unexpected argument '" + argument + "'");
+  }
+}
+
+const Verb& find_verb(const CommandLine& line) {
+  for (const Verb& verb : line.verbs) {
+    if (verb.app->parsed()) return verb;
+  }
+  for (const std::string& leftover : line.program.remaining()) {
+    const std::string argument = unmarked(leftover);
+    if (argument.substr(0, 1) != "-")
+      throw UsageError("unknown verb '" + argument + "'" +
+                       suggestion(argument, names_of(line.verbs)));
+  }
+  refuse_leftovers(line.program);
+  throw UsageError("no verb");
+}
+
+std::string help_hint(const CommandLine& line) {
+  std::string command = program_name;
+  for (const Verb& verb : line.verbs) {
+    if (verb.app->parsed()) command += " " + verb.app->get_name();
+  }
+  return "'" + command + " --help' says more";
+}
+
+ExitCode carry_out(CommandLine& line, std::istream& in, Output& out, std::ostream& err) {
+  const Verb& verb = find_verb(line);
+  for (const std::string& leftover : line.program.remaining())
+    throw UsageError("options stand behind the verb, unlike '" + unmarked(leftover) + "'");
+  refuse_leftovers(*verb.app);
+  Session session(in, out, err, read_common_options(*verb.app));
+  return verb.action(session);
+}
+
+void parse(CommandLine& line, const std::vector<std::string>& arguments) {
+  std::vector<std::string> reversed = marked_arguments(arguments);
+  std::reverse(reversed.begin(), reversed.end());
+  line.program.parse(reversed);
+}
+
+ExitCode run_program(const std::vector<std::string>& arguments, std::istream& in, Output& out,
+                     std::ostream& err) {
+  CommandLine line;
+  describe(line);
+  std::string complaint;
+  try {
+    parse(line, arguments);
+    return carry_out(line, in, out, err);
+  } catch (const CLI::CallForHelp&) {
+    out.write_shown(line.program.help());
+    return ExitCode::Done;
+  } catch (const CLI::CallForVersion& version) {
+    out.write_shown(std::string(version.what()) + "\n");
+    return ExitCode::Done;
+  } catch (const CLI::ParseError& error) {
+    complaint = describe(error);
+  } catch (const UsageError& error) {
+    complaint = error.what();
+  }
+  Reporter reporter(err, false, wants_color(ColorMode::Auto, err));
+  reporter.error({program_name}, complaint);
+  reporter.note({program_name}, help_hint(line));
+  return ExitCode::Trouble;
+}
+
+}  // namespace
+
+int run(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out,
+        std::ostream& err) {
+  Output output(out);
+  Reporter reporter(err, false, false);
+  ExitCode code = ExitCode::Trouble;
+  try {
+    code = run_program(arguments, in, output, err);
+  } catch (const std::bad_alloc&) {
+    reporter.error({program_name}, "out of memory");
+  } catch (const std::exception& error) {
+    reporter.error({program_name}, error.what());
+  }
+  if (const std::optional<std::string> failure = output.find_failure()) {
+    reporter.error({program_name}, *failure);
+    code = ExitCode::Trouble;
+  }
+  return static_cast<int>(code);
+}
+
+}  // namespace kelp::input::quill::tool

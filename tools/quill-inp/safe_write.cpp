@@ -1,0 +1,133 @@
+#include "quill-inp/safe_write.hpp"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "quill-inp/access_rights.hpp"
+#include "quill-inp/file_descriptor.hpp"
+#include "quill-inp/temporary_file.hpp"
+#include "quill-inp/trouble.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+/// The file that is to be replaced, by its name in its open folder, so that neither can be swapped
+/// for another by renaming something further up the path.
+struct Target {
+  FileDescriptor folder;
+  FileDescriptor file;
+  const FileOrigin& origin;
+};
+
+[[noreturn]] void throw_changed() {
+  throw Trouble("was changed by somebody else after it was read; nothing was written");
+}
+
+struct stat state_of(int file) {
+  struct stat state {};
+  if (fstat(file, &state) != 0) throw_system_trouble("cannot be examined", errno);
+  return state;
+}
+
+void require_unchanged(const Target& target) {
+  struct stat state {};
+  if (fstatat(target.folder.number(), target.origin.name.c_str(), &state, AT_SYMLINK_NOFOLLOW) != 0)
+    throw_changed();
+  if (!is_same_state(state, target.origin.state)) throw_changed();
+}
+
+void require_writable(const Target& target) {
+  // Replacing the file needs the right to write to its folder only, but whoever took the right to
+  // write to the file away meant something by it.
+  if (faccessat(target.folder.number(), target.origin.name.c_str(), W_OK, AT_EACCESS) != 0)
+    throw_system_trouble("cannot be written", errno);
+}
+
+void require_one_name(const Target& target, const ReplaceOptions& options) {
+  const auto names = target.origin.state.st_nlink;
+  if (names > 1 && !options.breaks_hard_links) {
+    throw Trouble("has " + std::to_string(names) +
+                  " names (hard links), of which only this one would get the new text; "
+                  "--break-hard-links accepts that");
+  }
+}
+
+Target open_target(const FileOrigin& origin) {
+  FileDescriptor folder(open_in(AT_FDCWD, origin.folder, O_RDONLY | O_DIRECTORY));
+  if (folder.number() < 0) throw_system_trouble("the folder of the file cannot be opened", errno);
+  FileDescriptor file(open_in(folder.number(), origin.name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW));
+  if (file.number() < 0 || !is_same_state(state_of(file.number()), origin.state)) throw_changed();
+  return {std::move(folder), std::move(file), origin};
+}
+
+void flush_to_disk(int file) {
+  while (fsync(file) != 0) {
+    if (errno != EINTR) throw_system_trouble("the temporary file cannot be flushed to disk", errno);
+  }
+}
+
+/// Reads the file back by its name: what counts is what others will find.
+void require_content(const Target& target, const TemporaryFile& temporary, std::string_view text) {
+  const FileDescriptor file(
+      open_in(target.folder.number(), temporary.name(), O_RDONLY | O_NOFOLLOW));
+  if (file.number() < 0) throw_system_trouble("the temporary file cannot be read back", errno);
+  if (read_to_end(file.number(), text.size()) != text)
+    throw Trouble("the temporary file does not hold what was written to it");
+}
+
+/// Puts the text into the temporary file, with the access rights of the target, and sees to it that
+/// it is there. Returns what of the rights could not be kept.
+std::vector<std::string> fill(TemporaryFile& temporary, const Target& target,
+                              std::string_view text) {
+  const int file = temporary.file().number();
+  std::vector<std::string> losses =
+      copy_access_rights(target.file.number(), target.origin.state, file);
+  write_everything(file, text);
+  flush_to_disk(file);
+  if (const int error = temporary.file().close(); error != 0)
+    throw_system_trouble("the temporary file cannot be closed", error);
+  require_content(target, temporary, text);
+  return losses;
+}
+
+void keep_backup(const Target& target, std::string_view text, const std::string& suffix) {
+  const std::string name = target.origin.name + suffix;
+  TemporaryFile temporary(target.folder.number());
+  fill(temporary, target, text);
+  if (!temporary.take_free_name(name)) {
+    throw Trouble("the backup '" + name +
+                  "' exists already, and would be lost; --backup=SUFFIX gives another name");
+  }
+}
+
+/// The new name is on disk only when the folder is. Some file systems cannot flush folders.
+void flush_folder(const Target& target) {
+  while (fsync(target.folder.number()) != 0) {
+    if (errno == EINVAL || errno == ENOTSUP) return;
+    if (errno != EINTR)
+      throw_system_trouble("holds the new text, but the folder cannot be flushed to disk", errno);
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> replace_content(const InputSource& source, std::string_view new_text,
+                                         const ReplaceOptions& options) {
+  if (!source.origin) throw Trouble("standard input cannot be changed in place");
+  if (source.content == new_text) return {};
+  const Target target = open_target(*source.origin);
+  require_one_name(target, options);
+  require_writable(target);
+  if (options.backup_suffix) keep_backup(target, source.content, *options.backup_suffix);
+  TemporaryFile temporary(target.folder.number());
+  std::vector<std::string> losses = fill(temporary, target, new_text);
+  require_unchanged(target);
+  temporary.take_place_of(target.origin.name);
+  flush_folder(target);
+  return losses;
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,25 @@
+#ifndef KELP_INPUT_QUILL_TOOL_TERMINAL_HPP
+#define KELP_INPUT_QUILL_TOOL_TERMINAL_HPP
+
+#include <ostream>
+
+namespace kelp::input::quill::tool {
+
+/// When to use colour.
+enum class ColorMode {
+  Auto,    // on a terminal, unless the environment asks for none
+  Always,  // whatever the environment says
+  Never,
+};
+
+/// Returns whether `stream` is the process's standard output or standard error and a terminal shows
+/// it. Any other stream is none.
+bool is_terminal(const std::ostream& stream);
+
+/// Returns whether to colour what goes to `stream`. NO_COLOR set to anything but the empty text,
+/// and a terminal that calls itself dumb, speak against it in the mode Auto.
+bool wants_color(ColorMode mode, const std::ostream& stream);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_TERMINAL_HPP

@@ -1,0 +1,31 @@
+#ifndef KELP_INPUT_QUILL_TOOL_TROUBLE_HPP
+#define KELP_INPUT_QUILL_TOOL_TROUBLE_HPP
+
+#include <stdexcept>
+#include <string>
+
+namespace kelp::input::quill::tool {
+
+/// Why one file could not be processed. The others of the call still are. The text names no file,
+/// which whoever reports it puts in front, and may hold bytes that a terminal would obey.
+class Trouble : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Why a call cannot be carried out for any file: its arguments make no sense.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Throws the Trouble of a failed system call: `action`, ": ", and what the system says of `error`,
+/// an errno.
+[[noreturn]] void throw_system_trouble(const std::string& action, int error);
+
+/// Returns what the system says of an errno, "No such file or directory".
+std::string system_message(int error);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_TROUBLE_HPP

@@ -1,0 +1,108 @@
+#include "quill-inp/verb.hpp"
+
+#include <charconv>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string_view>
+
+#include <CLI/App.hpp>
+
+#include "quill-inp/arguments.hpp"
+#include "quill-inp/suggestion.hpp"
+#include "quill-inp/trouble.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+struct NamedColorMode {
+  const char* name;
+  ColorMode mode;
+};
+
+constexpr NamedColorMode color_modes[] = {
+    {"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}};
+
+ColorMode parse_color_mode(const std::string& text) {
+  std::vector<std::string> names;
+  for (const NamedColorMode& row : color_modes) {
+    if (row.name == text) return row.mode;
+    names.emplace_back(row.name);
+  }
+  throw UsageError("--color takes auto, always or never, not '" + text + "'" +
+                   suggestion(text, names));
+}
+
+struct SizeUnit {
+  std::string_view name;
+  unsigned shift;
+};
+
+constexpr SizeUnit size_units[] = {{"", 0}, {"KiB", 10}, {"MiB", 20}, {"GiB", 30}};
+
+/// Far more than any memory holds, and far enough from the end of the range to be added to.
+constexpr std::uint64_t largest_size = std::numeric_limits<std::uint64_t>::max() / 4;
+
+/// size = digits [ "KiB" / "MiB" / "GiB" ]
+std::uint64_t parse_size(const std::string& text) {
+  std::uint64_t number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [after, error] = std::from_chars(text.data(), end, number);
+  const std::string_view unit_name(after, static_cast<std::size_t>(end - after));
+  for (const SizeUnit& unit : size_units) {
+    if (error == std::errc() && unit.name == unit_name && number <= largest_size >> unit.shift)
+      return number << unit.shift;
+  }
+  throw UsageError("--max-size takes a number of bytes, KiB, MiB or GiB, '256MiB', not '" + text +
+                   "'");
+}
+
+}  // namespace
+
+CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string& description,
+                   const std::string& example) {
+  CLI::App* app = program.add_subcommand(name, description);
+  app->group("Verbs")->allow_extras();
+  begin_group(*app, "Options");
+  app->footer(example);
+  return app;
+}
+
+void add_common_options(CLI::App& app) {
+  begin_group(app, "General");
+  app.set_help_flag("-h,--help", "Print this help");
+  add_flag(app, "-q,--quiet", "Report errors only, no warnings and notes");
+  add_value(app, "--color", "WHEN", "Use colour: auto, always or never");
+  add_value(app, "--max-size", "SIZE", "Refuse larger files (256MiB)");
+  add_value(app, "--stdin-filename", "NAME", "What to call standard input, '-'");
+}
+
+CommonOptions read_common_options(const CLI::App& verb) {
+  CommonOptions options;
+  options.is_quiet = is_given(verb, "--quiet");
+  if (const auto color = value_of(verb, "--color")) options.color = parse_color_mode(*color);
+  if (const auto size = value_of(verb, "--max-size")) options.max_size = parse_size(*size);
+  if (const auto name = value_of(verb, "--stdin-filename")) options.stdin_filename = *name;
+  return options;
+}
+
+ExitCode for_file(Session& session, const std::string& argument,
+                  const std::function<ExitCode()>& action) {
+  try {
+    return action();
+  } catch (const Trouble& trouble) {
+    session.reporter().error({session.shown_name(argument)}, trouble.what());
+    return ExitCode::Trouble;
+  }
+}
+
+ExitCode for_each_file(Session& session, const std::vector<std::string>& arguments,
+                       const std::function<ExitCode(const std::string&)>& action) {
+  ExitCode worst = ExitCode::Done;
+  for (const std::string& argument : arguments)
+    worst = worse_of(worst, for_file(session, argument, [&] { return action(argument); }));
+  return worst;
+}
+
+}  // namespace kelp::input::quill::tool
