@@ -128,7 +128,8 @@ class InputEditor {
   /// Replaces the geometry by references to any number of XYZ files, to one, and to a trajectory.
   /// Throws std::logic_error, "basic_string: construction from null is not valid", for a view that
   /// has a length and no data. When that or a lack of memory ends the call, set_xyz_files() and
-  /// set_xyz_trajectory() may have set the kind and removed the atoms already.
+  /// set_xyz_trajectory() may have set the kind and removed the atoms already; for the same reason
+  /// the path of set_xyz_trajectory() must not be a view of an atom's symbol.
   KELP_QUILL_INP_EXPORT void set_xyz_files(const std::vector<std::string>& files);
   KELP_QUILL_INP_EXPORT void set_xyz_file(std::string_view path);
   KELP_QUILL_INP_EXPORT void set_xyz_trajectory(std::string_view path);
