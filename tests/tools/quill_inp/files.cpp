@@ -50,4 +50,9 @@ const char* const water =
     "H        0.000000      0.756950     -0.468706\n"
     "H        0.000000     -0.756950     -0.468706\n";
 
+std::string changed_water() {
+  std::string text = water;
+  return text.replace(text.find("m1"), 2, "m2");
+}
+
 }  // namespace kelp::input::quill::tool

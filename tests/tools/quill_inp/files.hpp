@@ -30,6 +30,9 @@ bool use_memory_for_temporary_files();
 /// A small input, in the canonical layout: water.
 extern const char* const water;
 
+/// The same with the model m2 instead of m1.
+std::string changed_water();
+
 }  // namespace kelp::input::quill::tool
 
 #endif  // KELP_INPUT_QUILL_TESTS_TOOLS_QUILL_INP_FILES_HPP

@@ -23,11 +23,6 @@ constexpr unsigned mode = 0640;
 
 const bool is_in_memory = use_memory_for_temporary_files();
 
-std::string changed_water() {
-  std::string text = water;
-  return text.replace(text.find("m1"), 2, "m2");
-}
-
 /// A file in a folder of its own, and a program that is told to change it.
 class FaultyWrite {
  public:
