@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Fails on any finding of clang-tidy, with the checks of .clang-tidy, in the libraries' sources.
+# Fails on any finding of clang-tidy, with the checks of .clang-tidy, in the sources of the
+# libraries, the tools and the examples.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 cmake --preset clang >/dev/null
-find src sisters examples -name '*.cpp' -print0 |
+find src sisters tools examples -name '*.cpp' -print0 |
   xargs -0 -n 1 -P "$(nproc)" clang-tidy-14 --quiet -p build/clang --warnings-as-errors='*'
 echo "clang-tidy has no findings"

@@ -1,18 +1,19 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the examples and shows them at work on real inputs: one input is
-# read and written back, a careless one is read for its diagnostics, and one is edited.
+# Installs what is missing, builds the examples and the tool and shows them at work on real inputs:
+# one is read and written back, a careless one is read for its diagnostics, and one is edited.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
 
-need_packages "${build_packages[@]}"
+need_packages "${tool_packages[@]}"
 
 build=build/demo
 log=$build/build.log
 mkdir -p "$build"
 echo "Building in $build ..."
 if ! {
-  cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DKELP_QUILL_INP_BUILD_EXAMPLES=ON &&
+  cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+    -DKELP_QUILL_INP_BUILD_EXAMPLES=ON -DKELP_QUILL_INP_BUILD_TOOLS=ON &&
     cmake --build "$build"
 } >"$log" 2>&1; then
   tail -n 30 "$log" >&2
@@ -37,3 +38,10 @@ diff -u "$build/water.qin" "$build/water_edited.qin" || [ $? -eq 1 ]
 echo
 echo "== Building formaldehyde from nothing into $build/formaldehyde.qin"
 "$build/examples/build_input" "$build/formaldehyde.qin"
+
+echo
+echo "== The same at the shell: quill-inp shows, edits and refuses what would be read otherwise"
+"$build/tools/quill-inp/quill-inp" show "$inputs/hydrogen_peroxide_scan.qin"
+"$build/tools/quill-inp/quill-inp" set --diff "$inputs/cisplatin_by_hand.qin" opt.maxiter=100 ||
+  [ $? -eq 1 ]
+"$build/tools/quill-inp/quill-inp" add "$build/water.qin" --angle 2,1,3 || [ $? -eq 2 ]

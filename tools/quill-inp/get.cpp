@@ -23,6 +23,7 @@ constexpr const char* example =
 /// rely on which of them is which.
 ExitCode get(Session& session, const std::string& argument, const std::vector<std::string>& texts) {
   std::vector<Key> keys;
+  keys.reserve(texts.size());
   for (const std::string& text : texts) keys.push_back(parse_key(text));
   const InputSource source = read_input(session, argument);
   const ParseResult result = parse_string(source.content);

@@ -66,6 +66,8 @@ bool begins_lines(const OrderedJson& value, int depth) {
 
 constexpr int on_one_line = 100;
 
+// A document and its summary are at most five levels deep.
+// NOLINTNEXTLINE(misc-no-recursion)
 void append(std::string& out, const OrderedJson& value, int depth) {
   if (!value.is_structured()) {
     out += value.dump();
@@ -89,7 +91,7 @@ void append(std::string& out, const OrderedJson& value, int depth) {
 /// Remembers the names of the members of every object that is being read.
 class NameWatch {
  public:
-  bool operator()(int, Json::parse_event_t event, const Json& parsed) {
+  bool operator()(int /*depth*/, Json::parse_event_t event, const Json& parsed) {
     if (event == Json::parse_event_t::object_start) {
       open_objects_.emplace_back();
     } else if (event == Json::parse_event_t::object_end) {
@@ -126,8 +128,7 @@ OrderedJson number_to_json(double number) {
   for (const SpecialNumber& special : special_numbers) {
     if (is_same_special(special.value, number)) return std::string(special.name);
   }
-  return nullptr;  // not reached: the table has every kind of number that is not
-                   // finite
+  return nullptr;  // not reached: the table has every kind of number that is not finite
 }
 
 std::string string_from_json(const Json& value, const std::string& where) {

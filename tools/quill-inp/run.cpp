@@ -53,6 +53,7 @@ void describe(CommandLine& line) {
 
 std::vector<std::string> names_of(const std::vector<Verb>& verbs) {
   std::vector<std::string> names;
+  names.reserve(verbs.size());
   for (const Verb& verb : verbs) names.push_back(verb.app->get_name());
   return names;
 }
@@ -67,7 +68,7 @@ std::vector<std::string> option_names(const CLI::App& app) {
 
 /// Returns what CLI11 complains about, in the words of this program where it has some.
 std::string describe(const CLI::ParseError& error) {
-  const std::string text = error.what();
+  std::string text = error.what();
   const std::string subject = text.substr(0, text.find_first_of(": "));
   const auto says = [&](const char* words) { return text.find(words) != std::string::npos; };
   if (says(" required  missing")) return subject + " needs a value";

@@ -22,6 +22,7 @@ constexpr const char* example =
 ExitCode set(Session& session, const CLI::App& app, const std::string& argument,
              const std::vector<std::string>& texts) {
   std::vector<Setting> settings;
+  settings.reserve(texts.size());
   for (const std::string& text : texts) settings.push_back(parse_setting(text));
   const Delivery delivery = read_delivery(app);
   const LossPolicy policy = read_loss_policy(app);

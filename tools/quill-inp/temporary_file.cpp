@@ -33,7 +33,8 @@ extern "C" void remove_temporary_file(int signal) {
   for (std::size_t i = 0; i < signal_count; ++i) {
     if (caught_signals[i] == signal) sigaction(signal, &former_actions[i], nullptr);
   }
-  raise(signal);  // comes through as soon as this handler returns
+  // It comes through as soon as this handler returns. There is nobody to tell of a failure.
+  static_cast<void>(raise(signal));
   errno = error;
 }
 

@@ -1,6 +1,8 @@
 #include "quill-inp/terminal_text.hpp"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <optional>
 
 #include "quill-inp/utf8.hpp"
@@ -17,18 +19,15 @@ struct Range {
 constexpr Range obeyed[] = {
     {0x00, 0x1F},      // control characters of ASCII
     {0x7F, 0x9F},      // DEL, and the control characters of Unicode, CSI among them
-    {0x061C, 0x061C},  // the marks, embeddings, overrides and isolates of text
-                       // direction
-    {0x200E, 0x200F},
-    {0x2028, 0x202E},
-    {0x2066, 0x2069},
+    {0x061C, 0x061C},  // the marks, embeddings, overrides and isolates of text direction
+    {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069},
 };
 
 bool is_obeyed(char32_t code_point) {
-  for (const Range& range : obeyed) {
-    if (range.first <= code_point && code_point <= range.last) return true;
-  }
-  return false;
+  const auto covers = [&](const Range& range) {
+    return range.first <= code_point && code_point <= range.last;
+  };
+  return std::any_of(std::begin(obeyed), std::end(obeyed), covers);
 }
 
 void append_hexadecimal(std::string& out, char32_t number, int digits) {

@@ -69,13 +69,13 @@ CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string
   return app;
 }
 
-void add_common_options(CLI::App& app) {
-  begin_group(app, "General");
-  app.set_help_flag("-h,--help", "Print this help");
-  add_flag(app, "-q,--quiet", "Report errors only, no warnings and notes");
-  add_value(app, "--color", "WHEN", "Use colour: auto, always or never");
-  add_value(app, "--max-size", "SIZE", "Refuse larger files (256MiB)");
-  add_value(app, "--stdin-filename", "NAME", "What to call standard input, '-'");
+void add_common_options(CLI::App& verb) {
+  begin_group(verb, "General");
+  verb.set_help_flag("-h,--help", "Print this help");
+  add_flag(verb, "-q,--quiet", "Report errors only, no warnings and notes");
+  add_value(verb, "--color", "WHEN", "Use colour: auto, always or never");
+  add_value(verb, "--max-size", "SIZE", "Refuse larger files (256MiB)");
+  add_value(verb, "--stdin-filename", "NAME", "What to call standard input, '-'");
 }
 
 CommonOptions read_common_options(const CLI::App& verb) {

@@ -19,7 +19,7 @@ inline constexpr std::size_t xyz_lines_before_atoms = 2;
 /// Throws Trouble, naming the line, for a text that is not of this form, that has fewer atoms than
 /// it says, or that goes on after them: a trajectory has several structures, and which of them is
 /// meant is not for this function to guess.
-std::vector<AtomRecord> read_xyz_atoms(std::string_view text);
+std::vector<AtomRecord> read_xyz_atoms(std::string_view content);
 
 }  // namespace kelp::input::quill::tool
 

@@ -91,6 +91,8 @@ void expect_examples_to_hold(const std::string& page) {
 
 TEST(ToolDocumentation, ShowsWhatThePageSays) { expect_examples_to_hold(QUILL_INP_PAGE); }
 
+TEST(ToolDocumentation, ShowsWhatTheReadmeSays) { expect_examples_to_hold(QUILL_INP_README); }
+
 TEST(ToolDocumentation, NamesEveryVerbAndOption) {
   const std::string page = content_of(QUILL_INP_PAGE);
   const TemporaryFolder folder;
