@@ -6,11 +6,31 @@
 
 namespace kelp::input::quill {
 
+namespace {
+
+template <typename Element>
+void make_room_for_one_more(std::vector<Element>& list, const std::vector<Element>& source) {
+  if (!source.empty()) list.reserve(source.size() + 1);
+}
+
+/// Returns a copy whose lists have room for what an operation appends, which would otherwise move
+/// everything that was just copied.
+QuillInput copy_with_room(const QuillInput& document) {
+  QuillInput copy;
+  make_room_for_one_more(copy.commands, document.commands);
+  make_room_for_one_more(copy.geometry.atoms, document.geometry.atoms);
+  make_room_for_one_more(copy.post_commands, document.post_commands);
+  copy = document;
+  return copy;
+}
+
+}  // namespace
+
 // The editor works on a copy, so that an operation which fails half-way leaves the builder's
 // document as it was.
 template <typename Operation>
 InputBuilder& InputBuilder::edit(Operation operation) {
-  InputEditor editor{QuillInput(document_)};
+  InputEditor editor{copy_with_room(document_)};
   operation(editor);
   document_ = editor.document();
   return *this;
