@@ -1,10 +1,10 @@
 // Stands in for libFuzzer where there is none: runs the target once on every file that is named on
 // the command line, and on every file in every folder that is.
 
-#include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -27,7 +27,7 @@ std::vector<fs::path> files_at(const fs::path& path) {
 bool replay(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
   if (!file) {
-    std::fprintf(stderr, "cannot open %s\n", path.c_str());
+    std::cerr << "cannot open " << path.string() << '\n';
     return false;
   }
   const std::string bytes(std::istreambuf_iterator<char>(file), {});
@@ -37,7 +37,7 @@ bool replay(const fs::path& path) {
     LLVMFuzzerTestOneInput(block.data(), block.size());
     return true;
   } catch (const std::exception& exception) {
-    std::fprintf(stderr, "%s: %s\n", path.c_str(), exception.what());
+    std::cerr << path.string() << ": " << exception.what() << '\n';
     return false;
   }
 }
@@ -53,6 +53,6 @@ int main(int argc, char** argv) {
       if (!replay(path)) ++failed;
     }
   }
-  std::printf("%zu files, %zu of them with a finding\n", replayed, failed);
+  std::cout << replayed << " files, " << failed << " of them with a finding\n";
   return replayed == 0 || failed != 0 ? 1 : 0;
 }

@@ -91,7 +91,7 @@ bool is_written_exactly(double number, std::string_view expected, const std::str
 
 bool is_coordinate_exact(const double& number) {
   char expected[400];
-  std::snprintf(expected, sizeof expected, "%14.6f", number);
+  static_cast<void>(std::snprintf(expected, sizeof expected, "%14.6f", number));
   std::string text;
   append_coordinate(text, number);
   return is_written_exactly(number, expected, text);
@@ -99,7 +99,7 @@ bool is_coordinate_exact(const double& number) {
 
 bool is_scan_value_exact(const double& number) {
   char expected[32];
-  std::snprintf(expected, sizeof expected, "%g", number);
+  static_cast<void>(std::snprintf(expected, sizeof expected, "%g", number));
   std::string text;
   append_scan_value(text, number);
   return is_written_exactly(number, expected, text);

@@ -47,15 +47,15 @@ std::string random_bits(Random& random) {
   char text[64];
   switch (random() % 3) {
     case 0:
-      std::snprintf(text, sizeof text, "%.*g", digits, number);
+      static_cast<void>(std::snprintf(text, sizeof text, "%.*g", digits, number));
       break;
     case 1:
-      std::snprintf(text, sizeof text, "%.*e", digits, number);
+      static_cast<void>(std::snprintf(text, sizeof text, "%.*e", digits, number));
       break;
     default: {
       int ignored = 0;  // without the exponent, few enough digits remain
-      std::snprintf(text, sizeof text, "%.*f", digits,
-                    std::ldexp(std::frexp(number, &ignored), 10));
+      static_cast<void>(std::snprintf(text, sizeof text, "%.*f", digits,
+                                      std::ldexp(std::frexp(number, &ignored), 10)));
       break;
     }
   }
@@ -89,7 +89,7 @@ std::string power(Random& random) {
   if (kind == 1) digits.back() = '1';
   if (kind == 2) digits.assign(zeros + 1, '9');
   if (random() % 2 == 0) digits = with_point(random, std::move(digits));
-  if (random() % 4 != 0) digits += exponent_text(random, number_between(random, -350, 310));
+  if (random() % 4 != 0) digits += exponent_text(random, number_between(random, -350, 310)));
   return signed_randomly(random, std::move(digits));
 }
 

@@ -35,7 +35,7 @@ double integer_of_digits(Random& random, unsigned digits) {
 }
 
 int exponent_between(Random& random, int least, int most) {
-  const auto choices = static_cast<std::uint64_t>(most - least + 1);
+  const auto choices = static_cast<std::uint64_t>(most - least) + 1;
   return least + static_cast<int>(random() % choices);
 }
 

@@ -99,7 +99,7 @@ EditOperation make_add_command(ByteSource& source, const QuillInput& document) {
                 [=](InputBuilder& b) { b.add_command(command.in(b.document().commands)); });
 }
 
-EditOperation make_add_moved_command(ByteSource& source, const QuillInput&) {
+EditOperation make_add_moved_command(ByteSource& source, const QuillInput& /*document*/) {
   const HeaderCommand command = made_command(source);
   return change([=](InputEditor& e) { e.add_command(HeaderCommand(command)); },
                 [=](QuillInput& m) { m.commands.push_back(command); },

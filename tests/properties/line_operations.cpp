@@ -34,7 +34,7 @@ EditOperation constraint(PostCommandKind kind, const std::vector<std::int32_t>& 
 
 }  // namespace
 
-EditOperation make_set_charge_and_multiplicity(ByteSource& source, const QuillInput&) {
+EditOperation make_set_charge_and_multiplicity(ByteSource& source, const QuillInput& /*document*/) {
   const int charge = source.integer();
   const int multiplicity = source.integer();
   return change([=](InputEditor& e) { e.set_charge_and_multiplicity(charge, multiplicity); },
@@ -46,7 +46,8 @@ EditOperation make_set_charge_and_multiplicity(ByteSource& source, const QuillIn
                 [=](InputBuilder& b) { b.set_charge_and_multiplicity(charge, multiplicity); });
 }
 
-EditOperation make_clear_charge_and_multiplicity(ByteSource&, const QuillInput&) {
+EditOperation make_clear_charge_and_multiplicity(ByteSource& /*source*/,
+                                                 const QuillInput& /*document*/) {
   return change([](InputEditor& e) { e.clear_charge_and_multiplicity(); },
                 [](QuillInput& m) {
                   m.geometry.charge = 0;
@@ -63,7 +64,7 @@ EditOperation make_add_atom(ByteSource& source, const QuillInput& document) {
                 [=](InputBuilder& b) { b.add_atom(atom.in(b.document().geometry.atoms)); });
 }
 
-EditOperation make_add_core_atom(ByteSource& source, const QuillInput&) {
+EditOperation make_add_core_atom(ByteSource& source, const QuillInput& /*document*/) {
   const AtomRecord atom = made_atom(source);
   return change([=](InputEditor& e) { e.add_atom(to_core(atom)); },
                 [=](QuillInput& m) { model::add_atom(m, atom); },
@@ -78,7 +79,7 @@ EditOperation make_set_geometry(ByteSource& source, const QuillInput& document) 
                 set_atoms_kind);
 }
 
-EditOperation make_set_core_geometry(ByteSource& source, const QuillInput&) {
+EditOperation make_set_core_geometry(ByteSource& source, const QuillInput& /*document*/) {
   const std::vector<AtomRecord> atoms = made_atoms(source);
   return change([=](InputEditor& e) { e.set_geometry(to_core(atoms)); },
                 [=](QuillInput& m) { model::set_atoms(m, atoms); },
@@ -120,14 +121,14 @@ EditOperation make_add_post_command(ByteSource& source, const QuillInput& docume
       [=](InputBuilder& b) { b.add_post_command(command.in(b.document().post_commands)); });
 }
 
-EditOperation make_add_moved_post_command(ByteSource& source, const QuillInput&) {
+EditOperation make_add_moved_post_command(ByteSource& source, const QuillInput& /*document*/) {
   const PostCommand command = made_post_command(source);
   return change([=](InputEditor& e) { e.add_post_command(PostCommand(command)); },
                 [=](QuillInput& m) { m.post_commands.push_back(command); },
                 [=](InputBuilder& b) { b.add_post_command(PostCommand(command)); });
 }
 
-EditOperation make_add_constraint(ByteSource& source, const QuillInput&) {
+EditOperation make_add_constraint(ByteSource& source, const QuillInput& /*document*/) {
   const std::size_t kind = source.below(4);
   const int i = source.integer();
   const int j = source.integer();
@@ -169,7 +170,7 @@ EditOperation make_set_post_file(ByteSource& source, const QuillInput& document)
                 [=](InputBuilder& b) { b.set_post_file(path.copy()); });
 }
 
-EditOperation make_clear_post_commands(ByteSource&, const QuillInput&) {
+EditOperation make_clear_post_commands(ByteSource& /*source*/, const QuillInput& /*document*/) {
   return change([](InputEditor& e) { e.clear_post_commands(); },
                 [](QuillInput& m) { m.post_commands.clear(); });
 }

@@ -116,7 +116,7 @@ std::vector<CommandParameter> parameter_list(std::string_view text) {
 }
 
 std::string unquoted(std::string_view value) {
-  const std::string trimmed = trim(value);
+  std::string trimmed = trim(value);
   if (trimmed.size() < 2) return trimmed;
   const std::string ends = {trimmed.front(), trimmed.back()};
   if (ends != "''" && ends != "\"\"") return trimmed;

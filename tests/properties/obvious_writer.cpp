@@ -62,7 +62,7 @@ std::string six_digits(double value) {
 }
 
 std::string written(const HeaderCommand& command) {
-  const std::string name = "#" + command.name;
+  std::string name = "#" + command.name;
   if (command.kind == HeaderCommandKind::Assignment)
     return name + " = " + command.value.value_or("");
   if (command.kind == HeaderCommandKind::ParameterList) return name + parameters(command);
