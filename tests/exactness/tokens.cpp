@@ -89,7 +89,7 @@ std::string power(Random& random) {
   if (kind == 1) digits.back() = '1';
   if (kind == 2) digits.assign(zeros + 1, '9');
   if (random() % 2 == 0) digits = with_point(random, std::move(digits));
-  if (random() % 4 != 0) digits += exponent_text(random, number_between(random, -350, 310)));
+  if (random() % 4 != 0) digits += exponent_text(random, number_between(random, -350, 310));
   return signed_randomly(random, std::move(digits));
 }
 
