@@ -7,6 +7,9 @@ option(KELP_QUILL_INP_BUILD_TOOLS "Build quill-inp (needs CLI11 and nlohmann-jso
 option(KELP_QUILL_INP_BUILD_TESTS "Build the tests (needs GoogleTest and the examples)" OFF)
 option(KELP_QUILL_INP_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
 option(KELP_QUILL_INP_BUILD_FUZZERS "Build the fuzz targets, or programs that replay their inputs" OFF)
+option(KELP_QUILL_INP_INSTALL "Let cmake --install take the libraries and the tool along"
+  ${PROJECT_IS_TOP_LEVEL})
+option(KELP_QUILL_INP_HARDENING "Build with the flags that shipped programs deserve" OFF)
 option(KELP_QUILL_INP_WARNINGS_AS_ERRORS "Let a compiler warning fail the build" OFF)
 set(KELP_QUILL_INP_SANITIZERS "" CACHE STRING
   "Sanitizers to build with, separated by commas, for example address,undefined")

@@ -1,0 +1,29 @@
+# What goes where, in components: runtime (what programs load), development (what they are built
+# with), tool (the program quill-inp) and documentation.
+if(NOT KELP_QUILL_INP_INSTALL)
+  return()
+endif()
+
+include(cmake/install_library.cmake)
+
+if(KELP_QUILL_INP_BUNDLED_SISTERS)
+  kelp_quill_inp_install_library(kelp_core_text
+    "Text functions that give the same answer in every locale")
+  kelp_quill_inp_install_library(kelp_chem_elements
+    "The chemical elements by symbol")
+endif()
+kelp_quill_inp_install_library(kelp_quill_inp "${PROJECT_DESCRIPTION}"
+  kelp_core_text kelp_chem_elements)
+
+if(KELP_QUILL_INP_BUILD_TOOLS)
+  include(cmake/install_tool.cmake)
+endif()
+
+install(FILES README.md CHANGELOG.md
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
+install(DIRECTORY docs
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation
+  FILES_MATCHING PATTERN "*.md" PATTERN "*.json")
+install(DIRECTORY examples
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation
+  PATTERN "CMakeLists.txt" EXCLUDE)
