@@ -1,0 +1,26 @@
+#!/bin/sh
+# Installs each component into a folder of its own and compares what is there with a list, whose
+# lines are a component and a file:
+#
+#   installed_files.sh CMAKE BUILD_FOLDER SCRATCH_FOLDER LIST
+#
+# The files of the component documentation are as many as the pages; it has its folder to itself.
+set -eu
+export LC_ALL=C
+
+cmake=$1
+build=$2
+scratch=$3
+list=$4
+
+rm -rf "$scratch"
+mkdir -p "$scratch"
+for component in runtime development tool documentation; do
+  "$cmake" --install "$build" --prefix "$scratch/$component" --component "$component" >/dev/null
+done
+
+cd "$scratch"
+find . ! -type d | sed -e 's:^\./::' -e 's:/: :' \
+  -e 's:^documentation share/doc/kelp_quill_inp/.*:documentation share/doc/kelp_quill_inp/*:' |
+  sort -u >found
+diff -u --label "in the list" --label "installed" "$list" found

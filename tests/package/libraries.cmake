@@ -1,0 +1,44 @@
+# Libraries in the forms in which they reach their users, each as a fixture that consumers ask for.
+
+function(add_step name command_name)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "SETUP" "REQUIRES;COMMAND")
+  add_test(NAME ${name}.${command_name} COMMAND ${arg_COMMAND})
+  set_tests_properties(${name}.${command_name} PROPERTIES
+    FIXTURES_SETUP "${arg_SETUP}" FIXTURES_REQUIRED "${arg_REQUIRES}")
+endfunction()
+
+# install_project(NAME SOURCE [OPTION...]): a build in NAME/build, an installation in
+# NAME/installed. It is not installed where it is told that it would be, so that a file which
+# remembers the folder is found out.
+function(install_project name source)
+  set(folder "${PROJECT_BINARY_DIR}/${name}")
+  add_step(${name} is_built SETUP ${name}.built
+    COMMAND "${CMAKE_CTEST_COMMAND}" --build-and-test "${source}" "${folder}/build"
+      --build-generator Ninja --build-noclean
+      --build-options -DCMAKE_CXX_COMPILER=g++ -DCMAKE_INSTALL_PREFIX=/nonexistent ${ARGN})
+  add_step(${name} is_installed SETUP ${name} REQUIRES ${name}.built
+    COMMAND "${CMAKE_COMMAND}" --install "${folder}/build" --prefix "${folder}/installed")
+endfunction()
+
+# move_installation(NAME MOVED): installs NAME once more and moves all of it to the folder MOVED.
+function(move_installation name moved)
+  set(build "${PROJECT_BINARY_DIR}/${name}/build")
+  set(folder "${PROJECT_BINARY_DIR}/${moved}")
+  add_step(${moved} are_installed SETUP ${moved}.installed REQUIRES ${name}.built
+    COMMAND "${CMAKE_COMMAND}" --install "${build}" --prefix "${folder}_before")
+  add_step(${moved} are_moved SETUP ${moved} REQUIRES ${moved}.installed
+    COMMAND "${CMAKE_COMMAND}" -E rename "${folder}_before" "${folder}")
+endfunction()
+
+# install_outside_of_the_prefix(NAME OUTSIDE): configures the build of NAME anew, with a library
+# folder that is absolute and not in the prefix. It waits for the fixtures named last, which take
+# the build as it is before.
+function(install_outside_of_the_prefix name outside)
+  set(build "${PROJECT_BINARY_DIR}/${name}/build")
+  set(folder "${PROJECT_BINARY_DIR}/${outside}")
+  add_step(${outside} is_configured SETUP ${outside}.configured REQUIRES ${name} ${ARGN}
+    COMMAND "${CMAKE_COMMAND}" "-DCMAKE_INSTALL_PREFIX=${folder}/prefix"
+      "-DCMAKE_INSTALL_LIBDIR=${folder}/libraries" "${build}")
+  add_step(${outside} is_installed SETUP ${outside} REQUIRES ${outside}.configured
+    COMMAND "${CMAKE_COMMAND}" --build "${build}" --target install)
+endfunction()
