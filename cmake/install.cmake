@@ -19,8 +19,11 @@ if(KELP_QUILL_INP_BUILD_TOOLS)
   include(cmake/install_tool.cmake)
 endif()
 
-install(FILES README.md CHANGELOG.md
-  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
+install(FILES README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
+# Debian's packages have it by another name.
+if(NOT KELP_QUILL_INP_DEBIAN_PACKAGES)
+  install(FILES CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
+endif()
 install(DIRECTORY docs
   DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation
   FILES_MATCHING PATTERN "*.md" PATTERN "*.json")

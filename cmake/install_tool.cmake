@@ -8,12 +8,15 @@ function(kelp_quill_inp_install_for_tool file folder)
   endif()
 endfunction()
 
-kelp_quill_inp_install_for_tool(docs/man/quill-inp.1 "${CMAKE_INSTALL_MANDIR}/man1")
+# Debian's packages compress it.
+if(NOT KELP_QUILL_INP_DEBIAN_PACKAGES)
+  kelp_quill_inp_install_for_tool(docs/man/quill-inp.1 "${CMAKE_INSTALL_MANDIR}/man1")
+endif()
 
 set(completions tools/quill-inp/completions)
 kelp_quill_inp_install_for_tool(${completions}/quill-inp.bash
   "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME quill-inp)
 kelp_quill_inp_install_for_tool(${completions}/_quill-inp
-  "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
+  "${KELP_QUILL_INP_ZSH_COMPLETIONS_DIR}")
 kelp_quill_inp_install_for_tool(${completions}/quill-inp.fish
   "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")

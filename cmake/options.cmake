@@ -9,10 +9,14 @@ option(KELP_QUILL_INP_BUILD_BENCHMARKS "Build the benchmarks (needs Google Bench
 option(KELP_QUILL_INP_BUILD_FUZZERS "Build the fuzz targets, or programs that replay their inputs" OFF)
 option(KELP_QUILL_INP_INSTALL "Let cmake --install take the libraries and the tool along"
   ${PROJECT_IS_TOP_LEVEL})
+option(KELP_QUILL_INP_DEBIAN_PACKAGES "Let cpack make Debian packages; see the preset debian" OFF)
 option(KELP_QUILL_INP_HARDENING "Build with the flags that shipped programs deserve" OFF)
 option(KELP_QUILL_INP_WARNINGS_AS_ERRORS "Let a compiler warning fail the build" OFF)
 set(KELP_QUILL_INP_SANITIZERS "" CACHE STRING
   "Sanitizers to build with, separated by commas, for example address,undefined")
+
+set(KELP_QUILL_INP_ZSH_COMPLETIONS_DIR "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" CACHE STRING
+  "Folder for the tool's completions for zsh")
 
 # The libraries are shared ones unless BUILD_SHARED_LIBS says otherwise in so many words.
 if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)

@@ -1,0 +1,99 @@
+# Debian packages by CPack, for the preset debian: the libraries, what programs are built with, and
+# the tool. The packages have what Debian's policy asks of any: a changelog, a copyright file,
+# compressed manual pages.
+if(NOT KELP_QUILL_INP_DEBIAN_PACKAGES)
+  return()
+endif()
+
+find_program(KELP_QUILL_INP_GZIP gzip REQUIRED)
+set(runtime_package libkelp-quill-inp${KELP_QUILL_INP_SOVERSION})
+set(development_package libkelp-quill-inp-dev)
+set(tool_package quill-inp)
+
+# install_compressed(FILE FOLDER NAME COMPONENT)
+function(install_compressed file folder name component)
+  set(compressed "${PROJECT_BINARY_DIR}/package/${component}/${name}.gz")
+  file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/package/${component}")
+  execute_process(COMMAND "${KELP_QUILL_INP_GZIP}" -9nc "${file}" OUTPUT_FILE "${compressed}"
+    COMMAND_ERROR_IS_FATAL ANY)
+  install(FILES "${compressed}" DESTINATION "${folder}" COMPONENT ${component})
+endfunction()
+
+set(debian_files "${PROJECT_SOURCE_DIR}/cmake/debian")
+foreach(component IN ITEMS runtime development tool)
+  set(package ${${component}_package})
+  install_compressed("${debian_files}/changelog"
+    "${CMAKE_INSTALL_DATADIR}/doc/${package}" changelog.Debian ${component})
+  install(FILES "${debian_files}/copyright"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${package}" COMPONENT ${component})
+endforeach()
+install_compressed("${PROJECT_SOURCE_DIR}/CHANGELOG.md"
+  "${CMAKE_INSTALL_DATADIR}/doc/${development_package}" changelog development)
+if(EXISTS "${PROJECT_SOURCE_DIR}/docs/man/quill-inp.1")
+  install_compressed("${PROJECT_SOURCE_DIR}/docs/man/quill-inp.1"
+    "${CMAKE_INSTALL_MANDIR}/man1" quill-inp.1 tool)
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGING_INSTALL_PREFIX "${CMAKE_INSTALL_PREFIX}")
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL runtime development documentation tool)
+set(CPACK_COMPONENT_DEVELOPMENT_GROUP development)
+set(CPACK_COMPONENT_DOCUMENTATION_GROUP development)
+set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
+set(CPACK_COMPONENT_TOOL_DEPENDS runtime)
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 0kelp1)
+# Whoever passes packages on puts an address that is read.
+if(NOT CPACK_DEBIAN_PACKAGE_MAINTAINER)
+  set(CPACK_DEBIAN_PACKAGE_MAINTAINER "The kelp developers <kelp@kelp.invalid>")
+endif()
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${debian_files}/triggers")
+# The tool's own libraries are found in the build; which package they are in is said above.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
+  "${PROJECT_BINARY_DIR}/src"
+  "${PROJECT_BINARY_DIR}/sisters/core_text"
+  "${PROJECT_BINARY_DIR}/sisters/chem_elements"
+)
+
+# Each description brings its own first line.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
+set(quill_input "A QUILL input is the plain-text job description of a
+computational-chemistry engine. The library reads, edits, builds and writes
+them. No text is refused, no line is lost silently, and every diagnostic names
+its line.")
+
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "reader and writer of QUILL inputs, shared libraries
+${quill_input}
+
+This package has the library and the two small ones that it stands on.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${development_package})
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "reader and writer of QUILL inputs, development files
+${quill_input}
+
+This package has the C++ headers, the files that CMake and pkg-config ask for,
+the documentation and the examples.")
+
+set(CPACK_DEBIAN_TOOL_PACKAGE_NAME ${tool_package})
+set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_TOOL_DESCRIPTION "read, check, edit and make QUILL inputs on the command line
+A QUILL input is the plain-text job description of a computational-chemistry
+engine. The program shows, checks, formats, compares and edits such files, and
+turns them into JSON and back. An edit changes the lines it means and leaves
+every other byte alone.")
+
+include(CPack)

@@ -1,0 +1,71 @@
+#!/usr/bin/env bash
+# Builds the libraries and the tool as they are shipped and reads, in the files as built and as
+# installed, that they are hardened as cmake/hardening.cmake says.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/packages.sh
+. scripts/support/shipped_build.sh
+
+need_packages "${shipped_packages[@]}" binutils
+
+build_shipped .
+build=build/debian
+installed=$PWD/$build/installed
+rm -rf "$installed"
+cmake --install "$build" --prefix "$installed" >/dev/null
+
+complaints=$build/complaints
+: >"$complaints"
+complain() { echo "$1 $2" >>"$complaints"; }
+
+# Every source was compiled with every flag.
+sources=$(grep -c '"command":' "$build/compile_commands.json")
+for flag in -D_FORTIFY_SOURCE=3 -D_GLIBCXX_ASSERTIONS -fstack-protector-strong \
+  -fstack-clash-protection -fcf-protection=full; do
+  compiled=$(grep '"command":' "$build/compile_commands.json" | grep -cF -- " $flag ")
+  [ "$compiled" -eq "$sources" ] || complain "$((sources - compiled)) sources" "are without $flag"
+done
+
+# check_file FILE KIND: the marks that the flags leave in a file. KIND is library or program.
+check_file() {
+  local file=$1 dynamic segments code
+  dynamic=$(readelf --wide --dynamic "$file")
+  segments=$(readelf --wide --program-headers "$file")
+  code=$(objdump --disassemble --no-show-raw-insn "$file")
+
+  grep -q '^ *GNU_RELRO ' <<<"$segments" || complain "$file" "stays writable after relocation"
+  grep -Eq '\(FLAGS\).*BIND_NOW' <<<"$dynamic" || complain "$file" "binds functions late"
+  grep -Eq '^ *GNU_STACK .* RW ' <<<"$segments" || complain "$file" "has an executable stack"
+  ! grep -q '(TEXTREL)' <<<"$dynamic" || complain "$file" "has relocations in its code"
+  grep -q '__stack_chk_fail' <<<"$code" || complain "$file" "does not guard its stack"
+  grep -q 'endbr64' <<<"$code" || complain "$file" "does not say where jumps may lead"
+  if [ "$2" = program ]; then
+    grep -Eq '\(FLAGS_1\).* PIE' <<<"$dynamic" || complain "$file" "is tied to one address"
+  fi
+}
+
+check_installed_file() {
+  check_file "$@"
+  ! readelf --dynamic "$1" | grep -Eq '\((RPATH|RUNPATH)\)' || complain "$1" "has a run path"
+  if LD_LIBRARY_PATH=$libraries ldd -r "$1" 2>&1 | grep -E 'undefined symbol|not found'; then
+    complain "$1" "needs what its libraries do not have"
+  fi
+}
+
+libraries=$(dirname "$(find "$installed" -name libkelp_quill_inp.so)")
+for library in kelp_core_text kelp_chem_elements kelp_quill_inp; do
+  check_file "$(find "$build/src" "$build/sisters" -name "lib$library.so")" library
+  check_installed_file "$libraries/lib$library.so" library
+done
+check_file "$build/tools/quill-inp/quill-inp" program
+check_installed_file "$installed/bin/quill-inp" program
+
+# The standard library's checks are made where the code uses its containers.
+nm --dynamic "$libraries/libkelp_quill_inp.so" | grep -q '__glibcxx_assert_fail' ||
+  complain "$libraries/libkelp_quill_inp.so" "does not check what it asks of containers"
+
+if [ -s "$complaints" ]; then
+  cat "$complaints" >&2
+  exit 1
+fi
+echo "the libraries and the tool are hardened"
