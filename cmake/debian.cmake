@@ -27,6 +27,9 @@ foreach(component IN ITEMS runtime development tool)
   install(FILES "${debian_files}/copyright"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${package}" COMPONENT ${component})
 endforeach()
+install(FILES "${debian_files}/runtime.lintian-overrides"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides" RENAME ${runtime_package}
+  COMPONENT runtime)
 install_compressed("${PROJECT_SOURCE_DIR}/CHANGELOG.md"
   "${CMAKE_INSTALL_DATADIR}/doc/${development_package}" changelog development)
 if(EXISTS "${PROJECT_SOURCE_DIR}/docs/man/quill-inp.1")

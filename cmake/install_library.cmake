@@ -44,8 +44,9 @@ endfunction()
 function(kelp_quill_inp_install_pkg_config_file library description)
   set(folder "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
   # Relative to the file itself, the prefix stays right when the installation is moved. A library
-  # folder that is absolute says nothing about the prefix.
-  if(IS_ABSOLUTE "${folder}")
+  # folder that is absolute says nothing about the prefix; and of the system's own folders pkg-config
+  # knows that the compiler looks there, as long as they are spelled plainly.
+  if(IS_ABSOLUTE "${folder}" OR CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     set(prefix "${CMAKE_INSTALL_PREFIX}")
   else()
     cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
