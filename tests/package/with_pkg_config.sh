@@ -7,14 +7,21 @@ set -eu
 compiler=$1
 export PKG_CONFIG_LIBDIR="$2"
 scratch=$3
-source=$(dirname "$0")/consumer/main.cpp
+folder=$(dirname "$0")/consumer
 
 mkdir -p "$scratch"
-for standard in 17 20; do
+LD_LIBRARY_PATH=$(pkg-config --variable=libdir kelp_quill_inp)
+export LD_LIBRARY_PATH
+
+# run SOURCE STANDARD
+run() {
   # The flags are words, and no folder of this test has a blank in its name.
   # shellcheck disable=SC2046
-  "$compiler" -std=c++$standard -Wall -Wextra -Wpedantic -Werror "$source" \
-    -o "$scratch/consumer_cxx$standard" $(pkg-config --cflags --libs 'kelp_quill_inp >= 0.1') \
-    "-Wl,-rpath,$(pkg-config --variable=libdir kelp_quill_inp)"
-  "$scratch/consumer_cxx$standard"
-done
+  "$compiler" "-std=c++$2" -Wall -Wextra -Wpedantic -Werror "$folder/$1.cpp" -o "$scratch/$1_$2" \
+    $(pkg-config --cflags --libs 'kelp_quill_inp >= 0.1')
+  "$scratch/$1_$2"
+}
+
+run minimal 17
+run main 17
+run main 20
