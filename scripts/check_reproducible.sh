@@ -6,13 +6,13 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
 . scripts/support/shipped_build.sh
 
-need_packages "${shipped_packages[@]}" git dpkg-dev file
+need_packages "${shipped_packages[@]}" dpkg-dev file
 
 elsewhere=$(mktemp -d)
 trap 'rm -rf "$elsewhere"' EXIT
 copy=$elsewhere/a/folder/with/a/longer/name
 mkdir -p "$copy"
-git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents -t "$copy"
+tar --create --exclude=./build --exclude=./.git . | tar --extract --directory "$copy"
 
 # The packages carry the time that they are said to be of.
 SOURCE_DATE_EPOCH=$(date --date='2026-01-01 00:00:00 UTC' +%s)

@@ -3,8 +3,8 @@
 //
 //   consumer [stand-ins]
 //
-// The stand-ins for the sister libraries know one element more than there are, which tells them from
-// those that come with the library.
+// The stand-ins for the sister libraries know one element more than there are, which tells them
+// from those that come with the library.
 
 #include <exception>
 #include <iostream>
@@ -55,9 +55,8 @@ bool throws_what_a_program_can_catch() {
   try {
     QuillInput().write_file("/no/such/folder/input.qin");
   } catch (const std::exception& failure) {
-    return is_as_expected(
-        "the failure", failure.what(),
-        "Failed to open QUILL input for writing: /no/such/folder/input.qin");
+    return is_as_expected("the failure", failure.what(),
+                          "Failed to open QUILL input for writing: /no/such/folder/input.qin");
   }
   std::cerr << "writing into a folder that is not there threw nothing\n";
   return false;
