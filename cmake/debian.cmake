@@ -10,6 +10,15 @@ set(runtime_package libkelp-quill-inp${KELP_QUILL_INP_SOVERSION})
 set(development_package libkelp-quill-inp-dev)
 set(tool_package quill-inp)
 
+set(debian_release 0kelp1)
+set(debian_files "${PROJECT_SOURCE_DIR}/cmake/debian")
+file(STRINGS "${debian_files}/changelog" newest_entry LIMIT_COUNT 1)
+string(FIND "${newest_entry}" "(${PROJECT_VERSION}-${debian_release})" position)
+if(position EQUAL -1)
+  message(FATAL_ERROR "cmake/debian/changelog begins with '${newest_entry}', which is not of version "
+    "${PROJECT_VERSION}-${debian_release}.")
+endif()
+
 # install_compressed(FILE FOLDER NAME COMPONENT)
 function(install_compressed file folder name component)
   set(compressed "${PROJECT_BINARY_DIR}/package/${component}/${name}.gz")
@@ -19,7 +28,6 @@ function(install_compressed file folder name component)
   install(FILES "${compressed}" DESTINATION "${folder}" COMPONENT ${component})
 endfunction()
 
-set(debian_files "${PROJECT_SOURCE_DIR}/cmake/debian")
 foreach(component IN ITEMS runtime development tool)
   set(package ${${component}_package})
   install_compressed("${debian_files}/changelog"
@@ -50,7 +58,7 @@ set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
 set(CPACK_COMPONENT_TOOL_DEPENDS runtime)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_RELEASE 0kelp1)
+set(CPACK_DEBIAN_PACKAGE_RELEASE ${debian_release})
 # Whoever passes packages on puts an address that is read.
 if(NOT CPACK_DEBIAN_PACKAGE_MAINTAINER)
   set(CPACK_DEBIAN_PACKAGE_MAINTAINER "The kelp developers <kelp@kelp.invalid>")
