@@ -1,22 +1,23 @@
 #ifndef KELP_INPUT_QUILL_BUILDER_HPP
 #define KELP_INPUT_QUILL_BUILDER_HPP
 
-// Making a QUILL input from nothing, in one chain of calls.
-//
-//   const std::string text = InputBuilder()
-//                                .set_task("opt", {{"maxiter", "50"}, {"tight"}})
-//                                .set_model("m1")
-//                                .set_charge_and_multiplicity(0, 1)
-//                                .set_xyz_file("water.xyz")
-//                                .to_string();
-//
-// Every operation does what the InputEditor operation of the same name does, and the result is the
-// document that the same calls of an editor would give. Each operation either succeeds or leaves
-// the builder's document as it was, except that a copy at its very end may run out of memory
-// half-way. The price is two copies of the document for each call that finds or replaces
-// something: to add thousands of atoms one by one, use an InputEditor, or set_geometry() once.
-//
-// A builder may be used by one thread at a time; distinct builders are independent.
+/// @file
+/// Making a QUILL input from nothing, in one chain of calls.
+///
+///     const std::string text = InputBuilder()
+///                                  .set_task("opt", {{"maxiter", "50"}, {"tight"}})
+///                                  .set_model("m1")
+///                                  .set_charge_and_multiplicity(0, 1)
+///                                  .set_xyz_file("water.xyz")
+///                                  .to_string();
+///
+/// Every operation does what the InputEditor operation of the same name does, and the result is the
+/// document that the same calls of an editor would give. Each operation either succeeds or leaves
+/// the builder's document as it was, except that a copy at its very end may run out of memory
+/// half-way. The price is two copies of the document for each call that finds or replaces
+/// something: to add thousands of atoms one by one, use an InputEditor, or set_geometry() once.
+///
+/// A builder may be used by one thread at a time; distinct builders are independent.
 
 #include <string>
 #include <utility>
@@ -52,29 +53,38 @@ class InputBuilder {
   KELP_QUILL_INP_EXPORT InputBuilder& set_task(std::string name,
                                                std::vector<CommandParameter> parameters = {});
 
-  /// Sets one parameter of the first command named `command`.
+  /// Sets one parameter of the first command named `command`, and makes that a parameter list. The
+  /// first parameter named `key` gets the value and keeps its spelling; if there is none, one is
+  /// appended.
   KELP_QUILL_INP_EXPORT InputBuilder& set_task_parameter(std::string command, std::string key,
                                                          std::string value);
 
-  /// Assign `value` to "model", to "device", and to any name; make a command a flag.
+  /// Assign `value` to "model" and to "device", as set_assignment() does.
   KELP_QUILL_INP_EXPORT InputBuilder& set_model(std::string value);
   KELP_QUILL_INP_EXPORT InputBuilder& set_device(std::string value);
+
+  /// Makes the first command named `name` an assignment of `value`, without parameters.
   KELP_QUILL_INP_EXPORT InputBuilder& set_assignment(std::string name, std::string value);
+
+  /// Makes the first command named `name` a flag without value and parameters.
   KELP_QUILL_INP_EXPORT InputBuilder& set_flag(std::string name);
 
   /// Appends a command as it is. Costs no copy of the document.
   KELP_QUILL_INP_EXPORT InputBuilder& add_command(HeaderCommand&& command);
   KELP_QUILL_INP_EXPORT InputBuilder& add_command(const HeaderCommand& command);
 
-  /// Set or take away the charge and multiplicity line. Cost no copy of the document.
+  /// Set the charge and multiplicity line and take it away, which sets the numbers to 0 and 1. Any
+  /// numbers will do. Cost no copy of the document.
   KELP_QUILL_INP_EXPORT InputBuilder& set_charge_and_multiplicity(int charge, int multiplicity);
   KELP_QUILL_INP_EXPORT InputBuilder& clear_charge_and_multiplicity();
 
-  /// Appends a copy of one atom; a geometry of another kind is replaced.
+  /// Appends a copy of one atom to the inline atoms. A geometry of another kind is first replaced
+  /// by one of no atoms.
   KELP_QUILL_INP_EXPORT InputBuilder& add_atom(const AtomRecord& atom);
   KELP_QUILL_INP_EXPORT InputBuilder& add_atom(const kelp::core::Atom& atom);
 
-  /// Replace the geometry by a copy of these atoms.
+  /// Replaces the geometry by a copy of these atoms, in order; symbols are not normalised. The
+  /// charge and multiplicity line stays.
   KELP_QUILL_INP_EXPORT InputBuilder& set_geometry(const std::vector<AtomRecord>& atoms);
   KELP_QUILL_INP_EXPORT InputBuilder& set_geometry(const kelp::core::Geometry& geometry);
 

@@ -1,19 +1,20 @@
 #ifndef KELP_INPUT_QUILL_DOCUMENT_HPP
 #define KELP_INPUT_QUILL_DOCUMENT_HPP
 
-// The in-memory form of a QUILL input: header commands, a coordinate section and post-processing
-// lines, and the lookup of commands by name.
-//
-//   QuillInput input;
-//   input.upsert_command("opt").parameters.push_back({"maxiter", "50"});
-//   input.commands.front().kind = HeaderCommandKind::ParameterList;
-//   input.has_command(" #OPT ");  // true
-//   input.to_string();            // "#opt(maxiter=50)\n"
-//
-// All types are plain values that own what they hold. Strings are byte strings, kept exactly as
-// given. Distinct documents may be used in distinct threads at the same time; one document may be
-// read by several threads as long as none changes it. Unless a function says otherwise, it throws
-// only what the standard library throws when memory runs out.
+/// @file
+/// The in-memory form of a QUILL input: header commands, a coordinate section and post-processing
+/// lines, and the lookup of commands by name.
+///
+///     QuillInput input;
+///     input.upsert_command("opt").parameters.push_back({"maxiter", "50"});
+///     input.commands.front().kind = HeaderCommandKind::ParameterList;
+///     input.has_command(" #OPT ");  // true
+///     input.to_string();            // "#opt(maxiter=50)\n"
+///
+/// All types are plain values that own what they hold. Strings are byte strings, kept exactly as
+/// given. Distinct documents may be used in distinct threads at the same time; one document may be
+/// read by several threads as long as none changes it. Unless a function says otherwise, it throws
+/// only what the standard library throws when memory runs out.
 
 #include <cstdint>
 #include <optional>
@@ -28,37 +29,44 @@ namespace kelp::input::quill {
 
 /// The form of a header line. The values never change.
 enum class HeaderCommandKind : std::int32_t {
-  Flag = 0,           // #name
-  Assignment = 1,     // #name = value
-  ParameterList = 2,  // #name(parameter, parameter=value)
+  Flag = 0,           ///< `#name`
+  Assignment = 1,     ///< `#name = value`
+  ParameterList = 2,  ///< `#name(parameter, parameter=value)`
 };
 
 /// The form of the coordinate section. The values never change.
 enum class GeometryKind : std::int32_t {
-  None = 0,           // no coordinates
-  Atoms = 1,          // one line per atom
-  XyzFile = 2,        // one "XYZ path" line per file
-  XyzTrajectory = 3,  // one "XYZTRAJ path" line
+  None = 0,           ///< no coordinates
+  Atoms = 1,          ///< one line per atom: a symbol and three numbers
+  XyzFile = 2,        ///< one line `XYZ path` per file
+  XyzTrajectory = 3,  ///< one line `XYZTRAJ path`
 };
 
 /// The form of a post-processing line. The values never change.
 enum class PostCommandKind : std::int32_t {
-  AtomConstraint = 0,      // C i
-  BondConstraint = 1,      // B i j
-  AngleConstraint = 2,     // A i j k
-  DihedralConstraint = 3,  // D i j k l
-  Scan = 4,                // S, two to four atom numbers, a value and a number of steps
-  PostFile = 5,            // POST path
-  Raw = 6,                 // any other text
+  AtomConstraint = 0,      ///< `C i`: atom i keeps its place
+  BondConstraint = 1,      ///< `B i j`: the distance of two atoms is held
+  AngleConstraint = 2,     ///< `A i j k`: the angle at atom j is held
+  DihedralConstraint = 3,  ///< `D i j k l`: the dihedral angle is held
+  Scan = 4,                ///< `S`, two to four atom numbers, a value and a number of steps
+  PostFile = 5,            ///< `POST path`
+  Raw = 6,                 ///< any other text
 };
 
 /// One entry of a parameter list: `tight` (no value), `maxiter=50`, or `basis=` (an empty value,
 /// which is not the same as none).
 struct CommandParameter {
+  /// What stands in front of the first `=`, or the whole entry; the reader stores it trimmed, with
+  /// quotes and letter case as in the file.
   std::string name;
+
+  /// What stands behind the first `=`; the reader takes off blanks and one pair of quotes around
+  /// it. The writer adds no quotes.
   std::optional<std::string> value;
 
   CommandParameter() = default;
+
+  /// Takes both members, in their order; without a second argument there is no value.
   CommandParameter(std::string parameter_name,
                    std::optional<std::string> parameter_value = std::nullopt)
       : name(std::move(parameter_name)), value(std::move(parameter_value)) {}
@@ -69,16 +77,26 @@ struct CommandParameter {
   KELP_QUILL_INP_EXPORT ~CommandParameter();
 };
 
-/// One header line. `name` stands without the leading "#", in the spelling of whoever stored it.
-/// `value` counts for an assignment only and `parameters` for a parameter list only; the writer
-/// passes over whichever the kind does not use.
+/// One header line. Only what `kind` selects is written.
 struct HeaderCommand {
+  /// Stands without the leading "#", in the spelling of whoever stored it. Commands are found by
+  /// the form that normalize_command_name() gives it.
   std::string name;
+
+  /// Decides which of the two members below is written.
   HeaderCommandKind kind = HeaderCommandKind::Flag;
+
+  /// What is assigned; counts for an assignment only. An assignment without a value is written as
+  /// one of nothing, `#name = `, and the reader makes an empty value of that.
   std::optional<std::string> value;
+
+  /// The entries between the parentheses, in order and possibly several of a name; count for a
+  /// parameter list only.
   std::vector<CommandParameter> parameters;
 
   HeaderCommand() = default;
+
+  /// Takes all members, in their order; what is left out is a flag's.
   HeaderCommand(std::string command_name, HeaderCommandKind command_kind = HeaderCommandKind::Flag,
                 std::optional<std::string> assigned_value = std::nullopt,
                 std::vector<CommandParameter> parameter_list = {})
@@ -96,36 +114,58 @@ struct HeaderCommand {
 /// One inline atom. The coordinates are Cartesian, in the unit of the file they come from; nothing
 /// in the library converts them.
 struct AtomRecord {
+  /// The reader stores the letter case of element symbols, "Cl", also for a symbol that is no
+  /// element's. The writer prints what is stored.
   std::string symbol;
-  double x = 0.0;
-  double y = 0.0;
-  double z = 0.0;
+
+  double x = 0.0;  ///< written with six decimals
+  double y = 0.0;  ///< as `x`
+  double z = 0.0;  ///< as `x`
 };
 
-/// The coordinate section. Only what `kind` selects is written: `atoms` for `Atoms`, every entry of
-/// `xyz_files` for `XyzFile`, the first one for `XyzTrajectory`. The charge and multiplicity line
-/// is written for every kind, exactly when `has_charge_and_multiplicity` is true.
+/// The coordinate section: charge and multiplicity, and the geometry in one of three forms.
 struct GeometryBlock {
+  /// Selects what is written: `atoms`, every entry of `xyz_files` or the first one alone.
   GeometryKind kind = GeometryKind::None;
-  std::int32_t charge = 0;
-  std::int32_t multiplicity = 1;
+
+  std::int32_t charge = 0;        ///< of the whole molecule, in elementary charges; not checked
+  std::int32_t multiplicity = 1;  ///< of the spin, 1 for a singlet; not checked, not even its sign
+
+  /// Whether the line with both numbers is written; it is for every kind, also without a geometry.
   bool has_charge_and_multiplicity = false;
+
+  /// Atom numbers in post-processing lines refer to this order.
   std::vector<AtomRecord> atoms = {};
+
+  /// Paths as they stand in the file, blanks and quotes included. They are never opened. A
+  /// reference whose path is missing has no entry.
   std::vector<std::string> xyz_files = {};
 };
 
-/// One post-processing line. Atom numbers stand as in the file: neither their count nor their range
-/// is checked, and they are not converted between counting from 0 and from 1. The reader keeps the
-/// line in `raw_text` for every kind; the writer prints `raw_text` for `Raw` only.
+/// One post-processing line. Only what `kind` selects is written.
 struct PostCommand {
+  /// Decides on the keyword in front and on which of the members below are written.
   PostCommandKind kind = PostCommandKind::Raw;
+
+  /// Atom numbers as in the file, for constraints and scans: neither their count nor their range is
+  /// checked, and they are not converted between counting from 0 and from 1.
   std::vector<std::int32_t> atom_indices;
+
+  /// Where a scan ends, in the unit of the file. Written with up to six significant digits.
   std::optional<double> scan_value;
+
+  /// In how many steps a scan gets there. Written also when `scan_value` is missing.
   std::optional<std::int32_t> scan_steps;
+
+  /// The path of a post file, with its inner blanks. It is never opened.
   std::string post_file;
+
+  /// The trimmed line, which the reader keeps for every kind; written for `Raw` only.
   std::string raw_text;
 
   PostCommand() = default;
+
+  /// Takes all members, in their order; what is left out is empty.
   PostCommand(PostCommandKind command_kind, std::vector<std::int32_t> atom_numbers = {},
               std::optional<double> value = std::nullopt,
               std::optional<std::int32_t> steps = std::nullopt, std::string path = {},
@@ -145,11 +185,18 @@ struct PostCommand {
 
 /// A whole input. The order of every vector is the order of the lines in the file.
 struct QuillInput {
+  /// The header. Several commands may have one name; the lookups below number them from 0.
   std::vector<HeaderCommand> commands;
+
+  /// Everything between the header and the post-processing lines.
   GeometryBlock geometry;
+
+  /// What stands behind the coordinates, text that means nothing to the reader included.
   std::vector<PostCommand> post_commands;
 
   QuillInput() = default;
+
+  /// Takes all members, in their order; what is left out is empty.
   QuillInput(std::vector<HeaderCommand> header, GeometryBlock coordinates = {},
              std::vector<PostCommand> post_processing = {})
       : commands(std::move(header)),

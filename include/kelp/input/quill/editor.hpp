@@ -1,20 +1,21 @@
 #ifndef KELP_INPUT_QUILL_EDITOR_HPP
 #define KELP_INPUT_QUILL_EDITOR_HPP
 
-// Changing a QUILL input in place.
-//
-//   InputEditor editor(parse_file("water.qin").input);
-//   editor.set_parameter("opt", "maxiter", "100");
-//   editor.write_file("water.qin");
-//
-// Command names are matched as normalize_command_name() has it, so that "OPT" finds "opt";
-// parameter names are matched trimmed and in lower case. What is stored is what was passed: nothing
-// is trimmed, unquoted or checked. What is missing is created, and not finding something is no
-// error. Arguments may point into the editor's own document. An editor may be used by one thread
-// at a time; distinct editors are independent.
-//
-// When memory runs out the document stays valid; unless a function says otherwise, it is then as
-// before the call, except that a command which the call had to create first may be there.
+/// @file
+/// Changing a QUILL input in place.
+///
+///     InputEditor editor(parse_file("water.qin").input);
+///     editor.set_parameter("opt", "maxiter", "100");
+///     editor.write_file("water.qin");
+///
+/// Command names are matched as normalize_command_name() has it, so that "OPT" finds "opt";
+/// parameter names are matched trimmed and in lower case. What is stored is what was passed:
+/// nothing is trimmed, unquoted or checked. What is missing is created, and not finding something
+/// is no error. Arguments may point into the editor's own document. An editor may be used by one
+/// thread at a time; distinct editors are independent.
+///
+/// When memory runs out the document stays valid; unless a function says otherwise, it is then as
+/// before the call, except that a command which the call had to create first may be there.
 
 #include <cstdint>
 #include <optional>
@@ -36,7 +37,7 @@ namespace kelp::input::quill {
 /// Owns a document and changes it by named operations.
 class InputEditor {
  public:
-  /// Takes the document over as it is.
+  /// Takes the document over as it is; nothing in it is checked or put in order.
   KELP_QUILL_INP_EXPORT explicit InputEditor(QuillInput input);
 
   /// Returns the document, valid as long as the editor; from an editor that is about to go, moves
@@ -50,16 +51,20 @@ class InputEditor {
   /// Writes the canonical text into a file, as QuillInput::write_file().
   KELP_QUILL_INP_EXPORT void write_file(const std::string& path) const;
 
-  /// As the functions of the same names of QuillInput.
+  /// Returns what QuillInput::has_command() does.
   KELP_QUILL_INP_EXPORT bool has_command(std::string_view name) const;
+
+  /// Returns what QuillInput::has_task_command() does.
   KELP_QUILL_INP_EXPORT bool has_task_command() const;
+
+  /// Returns what QuillInput::command_names() does.
   KELP_QUILL_INP_EXPORT std::vector<std::string> command_names() const;
 
   /// Returns the value of the first command named `name` if that is an assignment with a value, and
   /// nothing otherwise. Later commands of the name are not looked at.
   KELP_QUILL_INP_EXPORT std::optional<std::string> get_assignment(std::string_view name) const;
 
-  /// Returns get_assignment("model") and get_assignment("device").
+  /// Return get_assignment("model") and get_assignment("device").
   KELP_QUILL_INP_EXPORT std::optional<std::string> model() const;
   KELP_QUILL_INP_EXPORT std::optional<std::string> device() const;
 
@@ -77,7 +82,7 @@ class InputEditor {
   /// value is present all the same.
   KELP_QUILL_INP_EXPORT void set_assignment(std::string_view name, std::string_view value);
 
-  /// Assigns `value` to "model" and to "device".
+  /// Assign `value` to "model" and to "device", as set_assignment() does.
   KELP_QUILL_INP_EXPORT void set_model(std::string_view value);
   KELP_QUILL_INP_EXPORT void set_device(std::string_view value);
 
@@ -104,11 +109,12 @@ class InputEditor {
                                               std::string_view parameter_name,
                                               std::uint64_t occurrence = 0);
 
-  /// As QuillInput::remove_command().
+  /// Removes one command, or all of a name, and returns whether there was one, as
+  /// QuillInput::remove_command().
   KELP_QUILL_INP_EXPORT bool remove_command(std::string_view name,
                                             std::optional<std::uint64_t> occurrence = std::nullopt);
 
-  /// Appends a command as it is, next to others of its name.
+  /// Appends a command as it is, be there others of its name or not.
   KELP_QUILL_INP_EXPORT void add_command(HeaderCommand&& command);
   KELP_QUILL_INP_EXPORT void add_command(const HeaderCommand& command);
 
@@ -139,7 +145,7 @@ class InputEditor {
   KELP_QUILL_INP_EXPORT void add_atom(const AtomRecord& atom);
   KELP_QUILL_INP_EXPORT void add_atom(const kelp::core::Atom& atom);
 
-  /// Appends a post-processing line as it is.
+  /// Appends a post-processing line as it is, equal ones included.
   KELP_QUILL_INP_EXPORT void add_post_command(const PostCommand& command);
   KELP_QUILL_INP_EXPORT void add_post_command(PostCommand&& command);
 

@@ -1,9 +1,12 @@
 #ifndef KELP_INPUT_QUILL_EXPORT_HPP
 #define KELP_INPUT_QUILL_EXPORT_HPP
 
-// KELP_QUILL_INP_EXPORT marks what the shared library offers; everything else in it is hidden.
-// The build defines KELP_QUILL_INP_STATIC for a static library and for those who link it, and
-// CMake defines kelp_quill_inp_EXPORTS while it compiles the shared one.
+/// @file
+/// What makes a function part of the shared library's interface. The build defines
+/// KELP_QUILL_INP_STATIC for a static library and for those who link it, and CMake defines
+/// kelp_quill_inp_EXPORTS while it compiles the shared one.
+
+/// Marks what the shared library offers; everything else in it is hidden.
 #if defined(KELP_QUILL_INP_STATIC)
 #define KELP_QUILL_INP_EXPORT
 #elif defined(_WIN32) && defined(kelp_quill_inp_EXPORTS)

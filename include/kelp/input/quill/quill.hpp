@@ -1,7 +1,14 @@
 #ifndef KELP_INPUT_QUILL_QUILL_HPP
 #define KELP_INPUT_QUILL_QUILL_HPP
 
-// Everything that the library offers.
+/// @file
+/// Everything that the library offers.
+///
+///     #include "kelp/input/quill/quill.hpp"
+///
+/// @namespace kelp::input::quill
+/// Reading, looking up, editing, building and writing QUILL inputs. Nothing of the library stands
+/// outside this namespace but the macro KELP_QUILL_INP_EXPORT.
 
 #include "kelp/input/quill/builder.hpp"
 #include "kelp/input/quill/document.hpp"

@@ -1,15 +1,17 @@
 #ifndef KELP_INPUT_QUILL_READER_HPP
 #define KELP_INPUT_QUILL_READER_HPP
 
-// Reading QUILL inputs.
-//
-//   const ParseResult result = parse_file("water.qin");
-//   if (!result.ok) std::cerr << result.error << '\n';
-//   for (const std::string& warning : result.warnings) std::cerr << warning << '\n';
-//   std::cout << result.input.geometry.atoms.size() << " atoms\n";
-//
-// No text is refused: whatever cannot be understood becomes a warning that names its line, and the
-// lines after it are read as usual. Reading keeps no state; any number of threads may read at once.
+/// @file
+/// Reading QUILL inputs.
+///
+///     const ParseResult result = parse_file("water.qin");
+///     if (!result.ok) std::cerr << result.error << '\n';
+///     for (const std::string& warning : result.warnings) std::cerr << warning << '\n';
+///     std::cout << result.input.geometry.atoms.size() << " atoms\n";
+///
+/// No text is refused: whatever cannot be understood becomes a warning that names its line, and the
+/// lines after it are read as usual. Reading keeps no state; any number of threads may read at
+/// once.
 
 #include <string>
 #include <string_view>
@@ -21,17 +23,24 @@
 
 namespace kelp::input::quill {
 
-/// What reading gives: the document, and how reading went. `ok` is false only when a file could not
-/// be opened; `error` then says so and is empty otherwise. `warnings` holds one complete message
-/// per problem, in the order of the lines: "Line 3: empty QUILL header command", with lines counted
-/// from 1. Warnings leave `ok` true.
+/// What reading gives: the document, and how reading went.
 struct ParseResult {
+  /// Everything that could be read; an empty document when `ok` is false.
   QuillInput input;
+
+  /// False only when a file could not be opened. Warnings leave it true.
   bool ok = false;
+
+  /// Says which file could not be opened; empty while `ok` is true.
   std::string error;
+
+  /// One complete message per problem, in the order of the lines: "Line 3: empty QUILL header
+  /// command", with lines counted from 1.
   std::vector<std::string> warnings;
 
   ParseResult() = default;
+
+  /// Takes all members, in their order; without a second one, `ok` is false.
   ParseResult(QuillInput document, bool was_read = false, std::string failure = {},
               std::vector<std::string> diagnostics = {})
       : input(std::move(document)),

@@ -1,15 +1,16 @@
 #ifndef KELP_INPUT_QUILL_WRITER_HPP
 #define KELP_INPUT_QUILL_WRITER_HPP
 
-// The canonical text of the pieces of a QUILL input; QuillInput::to_string() gives that of a whole
-// one.
-//
-//   to_string(HeaderCommand{"model", HeaderCommandKind::Assignment, "m1"});       // "#model = m1"
-//   to_string(PostCommand{PostCommandKind::Scan, {1, 2}, 1.5, 10});               // "S 1 2 1.5 10"
-//
-// Stored strings go out byte for byte: nothing is quoted, escaped or checked, and a kind outside
-// its enumeration gives no text of its own. No locale has any influence. The functions read their
-// argument only and may run in several threads at once.
+/// @file
+/// The canonical text of the pieces of a QUILL input; QuillInput::to_string() gives that of a whole
+/// one.
+///
+///     to_string(HeaderCommand{"model", HeaderCommandKind::Assignment, "m1"});  // "#model = m1"
+///     to_string(PostCommand{PostCommandKind::Scan, {1, 2}, 1.5, 10});          // "S 1 2 1.5 10"
+///
+/// Stored strings go out byte for byte: nothing is quoted, escaped or checked, and a kind outside
+/// its enumeration gives no text of its own. No locale has any influence. The functions read their
+/// argument only and may run in several threads at once.
 
 #include <string>
 
