@@ -5,6 +5,8 @@
 //
 // Include lines and using directives are gathered at the top. Each block becomes a function, or, if
 // it defines main, a namespace whose main is called. Compiler messages name the page and its lines.
+//
+// A block marked as "text" behind one of C++ is what that one prints.
 
 #include <fstream>
 #include <iostream>
@@ -16,7 +18,8 @@ namespace {
 
 struct Block {
   std::size_t first_line;
-  std::vector<std::string> lines;
+  std::vector<std::string> lines = {};
+  std::string printed = {};
 };
 
 bool starts_with(const std::string& line, const std::string& prefix) {
@@ -25,16 +28,21 @@ bool starts_with(const std::string& line, const std::string& prefix) {
 
 std::vector<Block> find_blocks(std::istream& page) {
   std::vector<Block> blocks;
-  bool is_inside = false;
+  std::string language;
+  std::string language_before;
   std::string line;
+  bool is_inside = false;
   for (std::size_t number = 1; std::getline(page, line); ++number) {
-    if (is_inside && line == "```") {
-      is_inside = false;
-    } else if (is_inside) {
+    if (starts_with(line, "```")) {
+      is_inside = !is_inside;
+      if (!is_inside) continue;
+      language_before = language;
+      language = line.substr(3);
+      if (language == "cpp") blocks.push_back({number + 1});
+    } else if (is_inside && language == "cpp") {
       blocks.back().lines.push_back(line);
-    } else if (line == "```cpp") {
-      is_inside = true;
-      blocks.push_back({number + 1, {}});
+    } else if (is_inside && language == "text" && language_before == "cpp") {
+      blocks.back().printed += line + "\n";
     }
   }
   return blocks;
@@ -60,8 +68,22 @@ void write_block(std::ostream& out, const Block& block, const std::string& page,
   out << "}\n";
 }
 
+/// Calls a block; if the page says what that prints, compares.
+void write_call(std::ostream& out, const Block& block, const std::string& name) {
+  const std::string call = name + (defines_main(block) ? "::main_of_block();" : "();");
+  if (block.printed.empty()) {
+    out << "  " << call << "\n";
+    return;
+  }
+  out << "  {\n    std::ostringstream printed;\n"
+      << "    std::streambuf* const before = std::cout.rdbuf(printed.rdbuf());\n"
+      << "    " << call << "\n    std::cout.rdbuf(before);\n"
+      << "    std::cout << printed.str();\n"
+      << "    assert(printed.str() == R\"printed(" << block.printed << ")printed\");\n  }\n";
+}
+
 void write_program(std::ostream& out, const std::vector<Block>& blocks, const std::string& page) {
-  out << "#undef NDEBUG\n#include <cassert>\n#include <iostream>\n";
+  out << "#undef NDEBUG\n#include <cassert>\n#include <iostream>\n#include <sstream>\n";
   for (const Block& block : blocks) {
     for (const std::string& line : block.lines) {
       if (belongs_on_top(line)) out << line << "\n";
@@ -72,7 +94,7 @@ void write_program(std::ostream& out, const std::vector<Block>& blocks, const st
   for (std::size_t i = 0; i < blocks.size(); ++i) {
     const std::string name = "block_" + std::to_string(i + 1);
     write_block(out, blocks[i], page, name);
-    calls << "  " << name << (defines_main(blocks[i]) ? "::main_of_block();\n" : "();\n");
+    write_call(calls, blocks[i], name);
   }
   out << "#undef main\nint main() {\n" << calls.str() << "}\n";
 }

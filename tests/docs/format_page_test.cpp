@@ -1,0 +1,126 @@
+// The page on the format is read as a reader would read it: every input on it gives the diagnostics
+// and the canonical text that the page claims, and no diagnostic of the reader is missing.
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "fenced_blocks.hpp"
+#include "kelp/input/quill/quill.hpp"
+
+namespace kelp::input::quill {
+namespace {
+
+/// An input on the page, and what the blocks behind it say of it.
+struct Claim {
+  std::string heading;
+  std::size_t line;
+  std::string input;
+  std::string diagnostics = {};  // one per line
+  std::string written = {};
+};
+
+std::vector<Claim> find_claims() {
+  std::vector<Claim> claims;
+  for (const FencedBlock& block : find_fenced_blocks(content_of_page("docs/format.md"))) {
+    if (block.language == "qin") {
+      claims.push_back({block.heading, block.line, block.text});
+    } else if (block.language == "diagnostics") {
+      claims.back().diagnostics = block.text;
+    } else if (block.language == "written") {
+      claims.back().written = block.text;
+    }
+  }
+  return claims;
+}
+
+std::string joined(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += line + "\n";
+  return text;
+}
+
+TEST(FormatPage, ForetellsTheDiagnosticsOfEveryInput) {
+  const std::vector<Claim> claims = find_claims();
+  ASSERT_FALSE(claims.empty());
+  for (const Claim& claim : claims)
+    EXPECT_EQ(joined(parse_string(claim.input).warnings), claim.diagnostics)
+        << "docs/format.md:" << claim.line;
+}
+
+TEST(FormatPage, ForetellsTheCanonicalText) {
+  std::size_t count = 0;
+  for (const Claim& claim : find_claims()) {
+    if (claim.written.empty()) continue;
+    ++count;
+    EXPECT_EQ(parse_string(claim.input).input.to_string(), claim.written)
+        << "docs/format.md:" << claim.line;
+  }
+  EXPECT_GT(count, 0U);
+}
+
+/// The texts in quotes that consist of several words, in all sources of the reader; such a text is
+/// part of a message. Those of two lines are written as one here.
+std::set<std::string> messages_of_the_reader() {
+  std::set<std::string> messages;
+  const std::string folder = std::string(KELP_QUILL_INP_SOURCE_DIR) + "/src/reader";
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    std::string code = content_of_page("src/reader/" + entry.path().filename().string());
+    code = std::regex_replace(code, std::regex("[ \t]*//[^\n]*"), "");
+    const std::regex text("\"([^\"\\\\\n]+ [^\"\\\\\n]+)\"");
+    for (std::sregex_iterator match(code.begin(), code.end(), text), end; match != end; ++match)
+      messages.insert((*match)[1]);
+  }
+  return messages;
+}
+
+/// What a diagnostic says, without its line and without the piece of text that it quotes last.
+std::string message_of(const std::string& diagnostic) {
+  const std::string message = std::regex_replace(diagnostic, std::regex("^Line [0-9]+: "), "");
+  return std::regex_replace(message, std::regex(" '[A-Za-z]+'$"), "");
+}
+
+/// The messages that have a section of their own, with an example that gives them and nothing else.
+std::set<std::string> explained_messages() {
+  std::set<std::string> messages;
+  const std::vector<Claim> claims = find_claims();
+  for (const Claim& claim : claims) {
+    const std::string title = claim.heading.substr(claim.heading.find(' ') + 1);
+    std::set<std::string> found;
+    for (const std::string& warning : parse_string(claim.input).warnings)
+      found.insert(message_of(warning));
+    if (found == std::set<std::string>{title}) messages.insert(title);
+  }
+  return messages;
+}
+
+TEST(FormatPage, ExplainsEveryMessageOfTheReader) {
+  std::set<std::string> expected;
+  for (const std::string& message : messages_of_the_reader()) {
+    const bool is_an_error = message.find("Failed") == 0;
+    const std::string quoted_piece = " '";
+    const std::size_t end = message.rfind(quoted_piece);
+    const bool ends_in_a_piece = end != std::string::npos && end + 2 == message.size();
+    if (!is_an_error) expected.insert(ends_in_a_piece ? message.substr(0, end) : message);
+  }
+  EXPECT_GE(expected.size(), 9U);
+  EXPECT_EQ(explained_messages(), expected);
+}
+
+TEST(FormatPage, HasACureForEveryMessage) {
+  const std::vector<Claim> claims = find_claims();
+  for (const std::string& message : explained_messages()) {
+    const auto is_cure = [&](const Claim& claim) {
+      return claim.heading == "### " + message && claim.diagnostics.empty();
+    };
+    EXPECT_EQ(std::count_if(claims.begin(), claims.end(), is_cure), 1) << message;
+  }
+}
+
+}  // namespace
+}  // namespace kelp::input::quill

@@ -1,0 +1,101 @@
+// Documentation that nobody runs goes wrong. So every page has a row that says which kinds of code
+// blocks it may hold, and each of these kinds is tried by some test:
+//
+//   cpp, text        compiled and run (extract_code.cpp); text behind cpp is what that prints
+//   qin, diagnostics, written
+//                    read and written (format_page_test.cpp)
+//   console          carried out in a shell, with what it prints (tests/tools/quill_inp)
+//   cmake, sh        built and run (first_program.sh, tests/package, and the scripts of CI)
+//   abnf             the grammar, beside the inputs that show its rules
+//
+// A block without a language is a drawing or the output of a program that has a golden file.
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "fenced_blocks.hpp"
+
+namespace kelp::input::quill {
+namespace {
+
+using Languages = std::set<std::string>;
+
+const std::map<std::string, Languages> languages_tried = {
+    {"CONTRIBUTING.md", {"sh"}},
+    {"README.md", {"", "cmake", "console", "cpp", "sh", "text"}},
+    {"docs/architecture.md", {""}},
+    {"docs/editing.md", {"cpp"}},
+    {"docs/embedding.md", {"cpp"}},
+    {"docs/format.md", {"abnf", "cpp", "diagnostics", "qin", "written"}},
+    {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
+    {"docs/packaging.md", {"cmake", "sh"}},
+    {"docs/performance.md", {"sh"}},
+    {"docs/quill-inp.md", {"console"}},
+};
+
+std::vector<std::string> pages() {
+  const std::filesystem::path root = KELP_QUILL_INP_SOURCE_DIR;
+  std::vector<std::string> names = {"README.md", "CONTRIBUTING.md"};
+  for (const auto& entry : std::filesystem::directory_iterator(root / "docs")) {
+    if (entry.path().extension() == ".md")
+      names.push_back("docs/" + entry.path().filename().string());
+  }
+  return names;
+}
+
+TEST(Pages, HoldNoCodeThatIsNotTried) {
+  for (const std::string& page : pages()) {
+    const auto row = languages_tried.find(page);
+    if (row == languages_tried.end()) {
+      ADD_FAILURE() << page << " has no row here";
+      continue;
+    }
+    for (const FencedBlock& block : find_fenced_blocks(content_of_page(page)))
+      EXPECT_THAT(row->second, testing::Contains(block.language)) << page << ":" << block.line;
+  }
+}
+
+/// The names behind a word such as "scripts/" in the shell blocks of all pages.
+std::set<std::string> names_in_shell_blocks(const std::string& pattern) {
+  std::set<std::string> names;
+  const std::regex name(pattern);
+  for (const std::string& page : pages()) {
+    for (const FencedBlock& block : find_fenced_blocks(content_of_page(page))) {
+      if (block.language != "sh") continue;
+      const std::string& text = block.text;
+      for (std::sregex_iterator match(text.begin(), text.end(), name), end; match != end; ++match)
+        names.insert((*match)[1]);
+    }
+  }
+  return names;
+}
+
+TEST(Pages, NameScriptsThatExist) {
+  const std::set<std::string> scripts =
+      names_in_shell_blocks("(?:^|\\n| )(scripts/[\\w./-]+|.ci/run)");
+  EXPECT_THAT(scripts, testing::Contains("scripts/test.sh"));
+  const std::filesystem::path root = KELP_QUILL_INP_SOURCE_DIR;
+  for (const std::string& script : scripts) {
+    const auto permissions = std::filesystem::status(root / script).permissions();
+    EXPECT_NE(permissions & std::filesystem::perms::owner_exec, std::filesystem::perms::none)
+        << script;
+  }
+}
+
+TEST(Pages, NamePresetsThatExist) {
+  const std::set<std::string> presets = names_in_shell_blocks("--preset ([\\w-]+)");
+  EXPECT_THAT(presets, testing::Contains("dev"));
+  const std::string known = content_of_page("CMakePresets.json");
+  for (const std::string& preset : presets)
+    EXPECT_THAT(known, testing::HasSubstr("\"name\": \"" + preset + "\"")) << preset;
+}
+
+}  // namespace
+}  // namespace kelp::input::quill
