@@ -1,0 +1,30 @@
+# Prepares a header for the reference, without moving a line:
+#
+# - What the compiler writes, and destructors, need no entry of their own.
+# - A comment counts for all declarations below it up to the next empty line, overloads for the
+#   most part; Doxygen gives it to the first one only, so it is repeated for the others.
+
+/= default;$/ || /~[A-Za-z]+\(\);$/ { print ""; next }
+
+/^ *\/\/\/( |$)/ {
+  text = $0
+  sub(/^ *\/\/\/ ?/, "", text)
+  comment = is_comment ? comment " " text : text
+  is_comment = 1
+  print
+  next
+}
+
+/^ *$/ { comment = "" }
+
+/^ *(KELP_QUILL_INP_EXPORT|const|[A-Za-z:]+) / && !is_comment && comment != "" && is_complete {
+  print "/** " comment " */ " $0
+  is_complete = /[;}]$/
+  next
+}
+
+{
+  is_comment = 0
+  is_complete = /[;}]$/
+  print
+}
