@@ -45,5 +45,5 @@ for file in "$site"/*.html; do
   sed -i "/^<nav/,/^<\/nav>/s|href=\"$name\"|& aria-current=\"page\"|" "$file"
 done
 
-#scripts/support/check_site.sh "$site"
+scripts/support/check_site.sh "$site"
 echo "the site is in $site, its first page is $site/index.html"

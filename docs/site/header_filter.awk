@@ -1,10 +1,10 @@
 # Prepares a header for the reference, without moving a line:
 #
-# - What the compiler writes, and destructors, need no entry of their own.
+# - Copying, moving and destroying do what they always do and need no entries.
 # - A comment counts for all declarations below it up to the next empty line, overloads for the
 #   most part; Doxygen gives it to the first one only, so it is repeated for the others.
 
-/= default;$/ || /~[A-Za-z]+\(\);$/ { print ""; next }
+/= default;$/ || /~[A-Za-z]+\(\);$/ || /\(const [A-Za-z]+& other\);$/ { print ""; next }
 
 /^ *\/\/\/( |$)/ {
   text = $0

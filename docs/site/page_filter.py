@@ -62,7 +62,7 @@ def line_on_site(page, line, is_first_heading):
     if not is_first_heading:
         return f"{line} {{#{name_of(page)}-{anchor_of(heading[2])}}}"
     is_main_page = name_of(page) == "index"
-    return line if is_main_page else f"{line} {{#{name_of(page)}}}"
+    return line if is_main_page else f"{line} {{#{name_of(page)}}}\n\n[TOC]"
 
 
 def main():

@@ -209,8 +209,8 @@ struct QuillInput {
   KELP_QUILL_INP_EXPORT ~QuillInput();
 
   /// Returns the command that is number `occurrence`, counted from 0, among the commands whose name
-  /// matches `name` (see normalize_command_name), or a null pointer when there are not so many. The
-  /// pointer is valid until a command is inserted or removed. Linear in the number of commands.
+  /// matches `name` (see normalize_command_name()), or a null pointer when there are not so many.
+  /// The pointer is valid until a command is inserted or removed. Linear in the number of commands.
   KELP_QUILL_INP_EXPORT const HeaderCommand* find_command(std::string_view name,
                                                           std::uint64_t occurrence = 0) const;
   KELP_QUILL_INP_EXPORT HeaderCommand* find_command(std::string_view name,
