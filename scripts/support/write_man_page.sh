@@ -40,6 +40,8 @@ chmod +x "$scratch/quill-inp"
 help2man --no-info --include "$include" "$scratch/quill-inp" |
   sed '/^\.TH /s/"1" "[^"]*"/"1" ""/' |
   awk '
+    is_example && $0 == ".HP" { $0 = ".br" }
+    is_example && $0 == ".br" { print; next }
     /^\./ { is_example = is_example && $0 == ".IP" || /^\.SS "Example:"/; follows = 0 }
     !/^\./ { if (is_example && follows) print ".br"; follows = 1 }
     { print }
