@@ -3,10 +3,10 @@
 tool=build/dev/tools/quill-inp/quill-inp
 
 build_tool() {
-  need_packages "${test_packages[@]}" libcli11-dev nlohmann-json3-dev
+  need_packages "${test_packages[@]}"
   local log=build/dev/tool.log
   mkdir -p build/dev
-  if ! { cmake --preset dev -DKELP_QUILL_INP_BUILD_TOOLS=ON &&
+  if ! { cmake --preset dev &&
     cmake --build --preset dev --target quill-inp; } >"$log" 2>&1; then
     tail -n 30 "$log" >&2
     echo "The build failed; the whole output is in $log." >&2

@@ -1,0 +1,78 @@
+# Completion of quill-inp for bash.
+
+_quill_inp_options() {
+  local write='--in-place -i --diff --backup --break-hard-links'
+  local loss='--allow-loss --max-change'
+  local geometry='--atoms --xyz --trajectory'
+  local lines='--bond --angle --dihedral --atom --scan --post --raw'
+  local general='--help -h --quiet -q --color --max-size --stdin-filename'
+  case ${1:-} in
+    show) echo "--json --lines $general" ;;
+    fmt) echo "$write --check $loss $general" ;;
+    set) echo "$geometry $write $loss $general" ;;
+    unset) echo "$write $loss $general" ;;
+    add) echo "$lines $write $loss $general" ;;
+    new)
+      echo "--task --param --model --device --charge --multiplicity $geometry $lines $loss $general"
+      ;;
+    from-json) echo "$loss $general" ;;
+    get | json) echo "$general" ;;
+    *) echo '--help -h --version' ;;
+  esac
+}
+
+_quill_inp_keys() {
+  case ${1:-} in
+    get) echo '@charge @multiplicity @geometry @files @atoms' ;;
+    set) echo '@charge= @multiplicity=' ;;
+    unset) echo '@charge @multiplicity' ;;
+  esac
+}
+
+# Offers the words that begin with $2, and no blank behind one that waits for a value.
+_quill_inp_offer() {
+  mapfile -t COMPREPLY < <(compgen -W "$1" -- "$2")
+  if [[ ${#COMPREPLY[@]} -eq 1 && ${COMPREPLY[0]} == *= ]]; then compopt -o nospace 2>/dev/null; fi
+}
+
+_quill_inp_files() {
+  compopt -o filenames 2>/dev/null
+  mapfile -t COMPREPLY < <(compgen -f -- "$1")
+}
+
+_quill_inp() {
+  local word=${COMP_WORDS[COMP_CWORD]}
+  local before=${COMP_WORDS[COMP_CWORD - 1]}
+  local verb=${COMP_WORDS[1]}
+  COMPREPLY=()
+
+  # bash makes three words of "--color=auto".
+  if [[ $word == = ]]; then word=''; fi
+  if [[ $before == = ]]; then before=${COMP_WORDS[COMP_CWORD - 2]}; fi
+
+  if [[ $COMP_CWORD -eq 1 ]]; then
+    if [[ $word == -* ]]; then
+      _quill_inp_offer "$(_quill_inp_options)" "$word"
+    else
+      _quill_inp_offer 'show fmt get set unset add new json from-json' "$word"
+    fi
+    return
+  fi
+
+  case $before in
+    --color) _quill_inp_offer 'auto always never' "$word" ;;
+    --atoms | --xyz | --trajectory | --post) _quill_inp_files "$word" ;;
+    --task) _quill_inp_offer 'sp opt ts freq irc scan' "$word" ;;
+    --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
+      --atom | --scan | --raw | --max-change | --max-size | --stdin-filename) ;;
+    *)
+      case $word in
+        -*) _quill_inp_offer "$(_quill_inp_options "$verb")" "$word" ;;
+        @*) _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word" ;;
+        *) _quill_inp_files "$word" ;;
+      esac
+      ;;
+  esac
+}
+
+complete -F _quill_inp quill-inp

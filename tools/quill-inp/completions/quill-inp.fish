@@ -1,0 +1,62 @@
+# Completion of quill-inp for fish.
+
+set -l verbs show fmt get set unset add new json from-json
+set -l writing '__fish_seen_subcommand_from fmt set unset add'
+set -l losing '__fish_seen_subcommand_from fmt set unset add new from-json'
+set -l placing '__fish_seen_subcommand_from set new'
+set -l adding '__fish_seen_subcommand_from add new'
+set -l making '__fish_seen_subcommand_from new'
+set -l general "__fish_seen_subcommand_from $verbs"
+set -l first "not __fish_seen_subcommand_from $verbs"
+
+complete -c quill-inp -n $first -f
+complete -c quill-inp -n $first -l version -d 'Print the version'
+complete -c quill-inp -s h -l help -d 'Print help'
+complete -c quill-inp -n $first -a show -d 'Summarise inputs'
+complete -c quill-inp -n $first -a fmt -d 'Lay inputs out in the canonical way'
+complete -c quill-inp -n $first -a get -d 'Print what an input says under a key'
+complete -c quill-inp -n $first -a set -d 'Set values, parameters and the geometry'
+complete -c quill-inp -n $first -a unset -d 'Remove commands and parameters'
+complete -c quill-inp -n $first -a add -d 'Add constraints, scans and other lines at the end'
+complete -c quill-inp -n $first -a new -d 'Print an input made from nothing'
+complete -c quill-inp -n $first -a json -d 'Print an input as JSON, without loss'
+complete -c quill-inp -n $first -a from-json -d 'Print an input that was JSON as a QUILL text'
+
+complete -c quill-inp -n $general -s q -l quiet -d 'Report errors only'
+complete -c quill-inp -n $general -l color -xa 'auto always never' -d 'Use colour'
+complete -c quill-inp -n $general -l max-size -x -d 'Refuse larger files'
+complete -c quill-inp -n $general -l stdin-filename -x -d 'What to call standard input'
+
+complete -c quill-inp -n '__fish_seen_subcommand_from show' -l json -d 'Print JSON'
+complete -c quill-inp -n '__fish_seen_subcommand_from show' -l lines -d 'Print what every line is'
+complete -c quill-inp -n '__fish_seen_subcommand_from fmt' -l check -d 'Only name the files that would change'
+
+complete -c quill-inp -n $writing -s i -l in-place -d 'Write the file'
+complete -c quill-inp -n $writing -l diff -d 'Only print what would change'
+complete -c quill-inp -n $writing -l backup -d 'Keep the old text beside the file'
+complete -c quill-inp -n $writing -l break-hard-links -d 'Write a file that has other names, too'
+complete -c quill-inp -n $losing -l allow-loss -d 'Go on when something gets lost'
+complete -c quill-inp -n $losing -l max-change -x -d 'Accept numbers rounded by up to this'
+
+complete -c quill-inp -n $placing -l atoms -r -d 'Inline the atoms of an XYZ file'
+complete -c quill-inp -n $placing -l xyz -r -d 'Refer to XYZ files'
+complete -c quill-inp -n $placing -l trajectory -r -d 'Refer to an XYZ trajectory'
+
+complete -c quill-inp -n $adding -l bond -x -d 'Hold the distance of two atoms'
+complete -c quill-inp -n $adding -l angle -x -d 'Hold the angle of three atoms'
+complete -c quill-inp -n $adding -l dihedral -x -d 'Hold the dihedral of four atoms'
+complete -c quill-inp -n $adding -l atom -x -d 'Hold the place of an atom'
+complete -c quill-inp -n $adding -l scan -x -d 'Scan a distance, angle or dihedral'
+complete -c quill-inp -n $adding -l post -r -d 'Name a post-processing file'
+complete -c quill-inp -n $adding -l raw -x -d 'Add a line of text as it is'
+
+complete -c quill-inp -n $making -l task -xa 'sp opt ts freq irc scan' -d 'What to compute'
+complete -c quill-inp -n $making -l param -x -d 'A parameter of the task in front of it'
+complete -c quill-inp -n $making -l model -x -d 'The model'
+complete -c quill-inp -n $making -l device -x -d 'The device'
+complete -c quill-inp -n $making -l charge -x -d 'The charge'
+complete -c quill-inp -n $making -l multiplicity -x -d 'The multiplicity'
+
+complete -c quill-inp -n '__fish_seen_subcommand_from get unset' -a '@charge @multiplicity'
+complete -c quill-inp -n '__fish_seen_subcommand_from get' -a '@geometry @files @atoms'
+complete -c quill-inp -n '__fish_seen_subcommand_from set' -a '@charge= @multiplicity='
