@@ -6,7 +6,7 @@
 // Include lines and using directives are gathered at the top. Each block becomes a function, or, if
 // it defines main, a namespace whose main is called. Compiler messages name the page and its lines.
 //
-// A block marked as "text" behind one of C++ is what that one prints.
+// A block of "text", or of no language, right behind one of C++ is what that one prints.
 
 #include <fstream>
 #include <iostream>
@@ -41,7 +41,7 @@ std::vector<Block> find_blocks(std::istream& page) {
       if (language == "cpp") blocks.push_back({number + 1});
     } else if (is_inside && language == "cpp") {
       blocks.back().lines.push_back(line);
-    } else if (is_inside && language == "text" && language_before == "cpp") {
+    } else if (is_inside && language_before == "cpp" && (language.empty() || language == "text")) {
       blocks.back().printed += line + "\n";
     }
   }

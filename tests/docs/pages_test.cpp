@@ -1,14 +1,14 @@
 // Documentation that nobody runs goes wrong. So every page has a row that says which kinds of code
 // blocks it may hold, and each of these kinds is tried by some test:
 //
-//   cpp, text        compiled and run (extract_code.cpp); text behind cpp is what that prints
+//   cpp              compiled and run (extract_code.cpp)
+//   text, none       behind cpp, what that prints; in README.md, what the reader says of an input;
+//                    else a drawing
 //   qin, diagnostics, written
 //                    read and written (format_page_test.cpp)
 //   console          carried out in a shell, with what it prints (tests/tools/quill_inp)
 //   cmake, sh        built and run (first_program.sh, tests/package, and the scripts of CI)
 //   abnf             the grammar, beside the inputs that show its rules
-//
-// A block without a language is a drawing or the output of a program that has a golden file.
 
 #include <gmock/gmock.h>
 
@@ -21,6 +21,7 @@
 #include <vector>
 
 #include "fenced_blocks.hpp"
+#include "kelp/input/quill/quill.hpp"
 
 namespace kelp::input::quill {
 namespace {
@@ -35,8 +36,8 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/embedding.md", {"cpp"}},
     {"docs/format.md", {"abnf", "cpp", "diagnostics", "qin", "written"}},
     {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
-    {"docs/packaging.md", {"cmake", "sh"}},
-    {"docs/performance.md", {"sh"}},
+    {"docs/packaging.md", {"cmake", "cpp", "sh"}},
+    {"docs/performance.md", {"", "sh"}},
     {"docs/quill-inp.md", {"console"}},
 };
 
@@ -95,6 +96,20 @@ TEST(Pages, NamePresetsThatExist) {
   const std::string known = content_of_page("CMakePresets.json");
   for (const std::string& preset : presets)
     EXPECT_THAT(known, testing::HasSubstr("\"name\": \"" + preset + "\"")) << preset;
+}
+
+/// "Line 7: message" of "a.qin" becomes "a.qin:7: warning: message".
+std::string located(const std::string& path, const std::string& diagnostic) {
+  return std::regex_replace(diagnostic, std::regex("^Line ([0-9]+): "), path + ":$1: warning: ") +
+         "\n";
+}
+
+TEST(Pages, ShowWhatTheReaderSaysOfTheCarelessInput) {
+  const std::string path = "examples/inputs/careless.qin";
+  std::string said;
+  for (const std::string& warning : parse_string(content_of_page(path)).warnings)
+    said += located(path, warning);
+  EXPECT_THAT(content_of_page("README.md"), testing::HasSubstr("```\n" + said + "```\n"));
 }
 
 }  // namespace

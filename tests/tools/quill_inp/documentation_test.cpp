@@ -93,6 +93,10 @@ TEST(ToolDocumentation, ShowsWhatThePageSays) { expect_examples_to_hold(QUILL_IN
 
 TEST(ToolDocumentation, ShowsWhatTheReadmeSays) { expect_examples_to_hold(QUILL_INP_README); }
 
+TEST(ToolDocumentation, ShowsWhatTheFirstStepsSay) {
+  expect_examples_to_hold(QUILL_INP_FIRST_STEPS);
+}
+
 TEST(ToolDocumentation, NamesEveryVerbAndOption) {
   const std::string page = content_of(QUILL_INP_PAGE);
   const TemporaryFolder folder;
