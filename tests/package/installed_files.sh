@@ -19,8 +19,7 @@ for component in runtime development tool documentation; do
   "$cmake" --install "$build" --prefix "$scratch/$component" --component "$component" >/dev/null
 done
 
-cd "$scratch"
-find . ! -type d | sed -e 's:^\./::' -e 's:/: :' \
+found=$(cd "$scratch" && find . ! -type d | sed -e 's:^\./::' -e 's:/: :' \
   -e 's:^documentation share/doc/kelp_quill_inp/.*:documentation share/doc/kelp_quill_inp/*:' |
-  sort -u >found
-diff -u --label "in the list" --label "installed" "$list" found
+  sort -u)
+printf '%s\n' "$found" | diff -u --label "in the list" --label "installed" "$list" -
