@@ -22,7 +22,7 @@ for tree in . "$copy"; do
   build_shipped "$tree"
   rm -rf "$tree/build/debian/compared" "$tree"/build/debian/*.deb
   cmake --install "$tree/build/debian" --prefix "$tree/build/debian/compared/installed" >/dev/null
-  (cd "$tree" && cpack --preset debian) >/dev/null
+  (cd "$tree" && cpack --preset debian) >"$tree/build/debian/cpack.log" 2>&1
   mv "$tree"/build/debian/*.deb "$tree/build/debian/compared/"
 done
 diff -r build/debian/compared "$copy/build/debian/compared"
