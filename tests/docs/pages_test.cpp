@@ -8,7 +8,7 @@
 //                    read and written (format_page_test.cpp)
 //   console          carried out in a shell, with what it prints (tests/tools/quill_inp)
 //   cmake, sh        built and run (first_program.sh, tests/package, and the scripts of CI)
-//   abnf             the grammar, beside the inputs that show its rules
+//   abnf             compared with the reader on many lines (grammar_test.cpp)
 
 #include <gmock/gmock.h>
 
