@@ -7,6 +7,9 @@
 // it defines main, a namespace whose main is called. Compiler messages name the page and its lines.
 //
 // A block of "text", or of no language, right behind one of C++ is what that one prints.
+//
+// In place of a page there may be a header. Its blocks are the indented lines of its comments; they
+// are of no use but to be compiled, since they name files that are not there.
 
 #include <fstream>
 #include <iostream>
@@ -44,6 +47,20 @@ std::vector<Block> find_blocks(std::istream& page) {
     } else if (is_inside && language_before == "cpp" && (language.empty() || language == "text")) {
       blocks.back().printed += line + "\n";
     }
+  }
+  return blocks;
+}
+
+std::vector<Block> find_blocks_of_header(std::istream& header) {
+  const std::string prefix = "///     ";
+  std::vector<Block> blocks;
+  bool is_inside = false;
+  std::string line;
+  for (std::size_t number = 1; std::getline(header, line); ++number) {
+    const bool is_code = starts_with(line, prefix);
+    if (is_code && !is_inside) blocks.push_back({number});
+    if (is_code) blocks.back().lines.push_back(line.substr(prefix.size()));
+    is_inside = is_code || (is_inside && line == "///");
   }
   return blocks;
 }
@@ -107,12 +124,17 @@ int main(int argc, char** argv) {
     return 2;
   }
   std::ifstream page(argv[1]);
-  const std::vector<Block> blocks = find_blocks(page);
+  const bool is_header = std::string(argv[1]).find(".hpp") != std::string::npos;
+  const std::vector<Block> blocks = is_header ? find_blocks_of_header(page) : find_blocks(page);
   if (blocks.empty()) {
     std::cerr << argv[1] << ": no C++ code block found\n";
     return 1;
   }
   std::ofstream program(argv[2]);
+  if (is_header) {
+    program << "#include \"kelp/input/quill/quill.hpp\"\n"
+            << "using namespace kelp::input::quill;\n";
+  }
   write_program(program, blocks, argv[1]);
   program.close();
   return program ? 0 : 1;
