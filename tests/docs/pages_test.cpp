@@ -37,7 +37,7 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/format.md", {"abnf", "cpp", "diagnostics", "qin", "written"}},
     {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
     {"docs/packaging.md", {"cmake", "cpp", "sh"}},
-    {"docs/performance.md", {"", "sh"}},
+    {"docs/performance.md", {"text"}},
     {"docs/quill-inp.md", {"console"}},
 };
 
