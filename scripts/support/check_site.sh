@@ -47,6 +47,5 @@ check_page() {
 check_page index.html libkelp_quill_inp
 check_page format.html 'The QUILL format'
 check_page quill-inp.html quill-inp
-check_page classkelp_1_1input_1_1quill_1_1InputEditor.html \
-  'kelp::input::quill::InputEditor Class Reference'
+check_page classkelp_1_1input_1_1quill_1_1InputEditor.html 'InputEditor Class Reference'
 echo "pages open in a browser without an error"
