@@ -1,6 +1,6 @@
 # Sourced by the scripts beside it: which fuzz targets there are, and how they are built.
 
-fuzz_targets=(parse document edit text lines allocation_faults)
+fuzz_targets=(parse document edit text lines allocation_faults keys json surgery)
 
 # check_fuzz_target NAME
 check_fuzz_target() {
@@ -12,20 +12,21 @@ check_fuzz_target() {
   return 1
 }
 
-# longest_input NAME: the number of bytes beyond which an input has nothing new to say.
+# longest_input NAME: the number of bytes beyond which an input has little new to say.
 longest_input() {
   case $1 in
-    text) echo 96 ;;
-    lines) echo 192 ;;
-    *) echo 384 ;;
+    text | keys) echo 48 ;;
+    *) echo 128 ;;
   esac
 }
 
 build_fuzz_targets() {
-  need_packages clang cmake ninja-build libclang-rt-14-dev
+  need_packages clang cmake ninja-build libclang-rt-14-dev libcli11-dev nlohmann-json3-dev
   local log=build/fuzz/build.log
   mkdir -p build/fuzz
-  if ! { cmake --preset fuzz && cmake --build --preset fuzz; } >"$log" 2>&1; then
+  if ! { cmake --preset fuzz &&
+    cmake --build --preset fuzz --target "${fuzz_targets[@]/#/kelp_quill_inp_fuzz_}"; } \
+    >"$log" 2>&1; then
     tail -n 30 "$log" >&2
     echo "The build failed; the whole output is in $log." >&2
     return 1

@@ -1,0 +1,12 @@
+// Any bytes as a text and edits that are to change it in the lines that must change.
+
+#include <cstddef>
+#include <cstdint>
+
+#include "fuzz/target.hpp"
+#include "tools/properties/surgery.hpp"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  kelp::input::quill::edit_support::check_surgery(kelp::input::quill::as_text(data, size));
+  return 0;
+}
