@@ -12,6 +12,7 @@ option(KELP_QUILL_INP_INSTALL "Let cmake --install take the libraries and the to
 option(KELP_QUILL_INP_DEBIAN_PACKAGES "Let cpack make Debian packages; see the preset debian" OFF)
 option(KELP_QUILL_INP_HARDENING "Build with the flags that shipped programs deserve" OFF)
 option(KELP_QUILL_INP_WARNINGS_AS_ERRORS "Let a compiler warning fail the build" OFF)
+option(KELP_QUILL_INP_COVERAGE "Count what the tests reach (needs clang++)" OFF)
 set(KELP_QUILL_INP_SANITIZERS "" CACHE STRING
   "Sanitizers to build with, separated by commas, for example address,undefined")
 

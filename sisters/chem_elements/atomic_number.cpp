@@ -39,11 +39,11 @@ constexpr std::size_t place_of(std::string_view symbol) {
 
 /// The atomic number for every text with the shape of a symbol, 0 where no element has it.
 constexpr auto make_numbers() {
-  std::array<unsigned char, first_letters * second_letters> numbers{};
+  std::array<unsigned char, first_letters * second_letters> table{};
   for (std::size_t i = 0; i < symbols.size(); ++i) {
-    numbers[place_of(symbols[i])] = static_cast<unsigned char>(i + 1);
+    table[place_of(symbols[i])] = static_cast<unsigned char>(i + 1);
   }
-  return numbers;
+  return table;
 }
 
 constexpr auto numbers = make_numbers();

@@ -56,17 +56,17 @@ class Explanation {
   }
 
   void explain_other_role(const AccountedLine& line) {
-    std::string words = line.role == LineRole::Dropped ? "would be dropped with a warning"
+    std::string found = line.role == LineRole::Dropped ? "would be dropped with a warning"
                                                        : "would be read as " + name_found(line);
     if (may_be_next(line)) {
-      words += ", not " + std::string(line.role == LineRole::Dropped ? "read as " : "as ") +
+      found += ", not " + std::string(line.role == LineRole::Dropped ? "read as " : "as ") +
                name_part(parts_[next_], meant_);
       if (is_taken_for_an_earlier_section(line))
-        words += "; another post-processing line in front of it avoids that";
+        found += "; another post-processing line in front of it avoids that";
     } else {
-      words += ", which is not meant";
+      found += ", which is not meant";
     }
-    explain(line, words);
+    explain(line, found);
   }
 
   std::string name_found(const AccountedLine& line) const {

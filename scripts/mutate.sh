@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Changes the libraries' sources at one point at a time and says how many of the changes the tests
+# notice. Fails when fewer than 95 in 100 are noticed, and when one is not that is not listed with its
+# reason in tests/mutation/equivalent.txt.
+#
+#   scripts/mutate.sh                        1000 changes, half an hour on two cores
+#   scripts/mutate.sh --seed 2 --sample 25   others, and fewer
+#   scripts/mutate.sh src/reader/post_line.cpp
+#
+# It can be stopped at any time: what is known of a change stays in build/mutation/results.jsonl.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/packages.sh
+
+need_packages "${test_packages[@]}" python3
+
+log=build/dev/build.log
+mkdir -p build/dev
+if ! { cmake --preset dev && cmake --build --preset dev; } >"$log" 2>&1; then
+  tail -n 30 "$log" >&2
+  echo "The build failed; the whole output is in $log." >&2
+  exit 1
+fi
+exec python3 -B scripts/support/mutation "$@"

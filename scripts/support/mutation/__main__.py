@@ -1,0 +1,148 @@
+"""Applies mutants to the libraries and says how many of them the tests notice; see mutate.sh."""
+
+import argparse
+import json
+import queue
+import random
+import sys
+import threading
+from collections import Counter
+from pathlib import Path
+
+import equivalent
+from mutants import Source, enumerations_in
+from trial import Build, Worker, measure
+
+ROOT = Path(__file__).resolve().parents[3]
+SCRATCH = ROOT / "build" / "mutation"
+RESULTS = SCRATCH / "results.jsonl"
+EQUIVALENT = ROOT / "tests" / "mutation" / "equivalent.txt"
+LOWEST_SHARE = 0.95
+SAMPLE = 1000
+
+
+def all_mutants(names):
+    enumerations = {}
+    for header in sorted((ROOT / "include").glob("**/*.hpp")):
+        enumerations |= enumerations_in(header.read_text())
+    files = sorted(path.relative_to(ROOT) for part in ("src", "sisters")
+                   for path in (ROOT / part).glob("**/*.[ch]pp"))
+    wanted = [file for file in files if not names or str(file) in names]
+    if names and len(wanted) != len(set(names)):
+        raise SystemExit("These are files of src/ and sisters/: " + ", ".join(map(str, files)))
+    return [mutant for file in wanted
+            for mutant in Source(str(file), (ROOT / file).read_text(), enumerations).mutants()]
+
+
+class Results:
+    """What earlier runs have found out, by the mutant's key. A mutant that survived is tried again
+    when the tests have changed."""
+
+    def __init__(self, tests):
+        self.tests = tests
+        self.lock = threading.Lock()
+        self.known = {}
+        if RESULTS.exists():
+            for line in RESULTS.read_text().splitlines():
+                entry = json.loads(line)
+                if entry["result"] != "survived" or entry["tests"] == tests:
+                    self.known[entry["key"]] = entry["result"]
+
+    def add(self, mutant, result, program):
+        entry = {"key": mutant.key(), "result": result, "tests": self.tests, "by": program,
+                 "file": mutant.file, "kind": mutant.kind, "lines": mutant.lines()}
+        with self.lock, RESULTS.open("a") as file:
+            self.known[mutant.key()] = result
+            file.write(json.dumps(entry) + "\n")
+
+
+def work(build, worker, originals, jobs, results):
+    """The program that noticed the last mutant of a file is asked first about the next one."""
+    last_killer = {}
+    while True:
+        try:
+            mutant = jobs.get_nowait()
+        except queue.Empty:
+            return
+        order = sorted(build.programs, key=lambda path: (
+            build.seconds[path] * (0.01 if last_killer.get(mutant.file) == path.name else 1)))
+        result, program = worker.try_mutant(mutant, originals, order)
+        if program:
+            last_killer[mutant.file] = program
+        results.add(mutant, result, program)
+
+
+def try_all(build, mutants, results, count):
+    workers = [Worker(build, f"worker{i}") for i in range(count)]
+    originals = measure(build, workers[0])
+    jobs = queue.Queue()
+    for mutant in mutants:
+        jobs.put(mutant)
+    threads = [threading.Thread(target=work, args=(build, worker, originals, jobs, results))
+               for worker in workers]
+    for thread in threads:
+        thread.start()
+    for thread in threads:
+        thread.join()
+
+
+def report(mutants, results, reasons):
+    """Prints the figures and what is left to do, and says whether that is nothing."""
+    outcome = {mutant: results.known[mutant.key()] for mutant in mutants}
+    counts = Counter(outcome.values())
+    survivors = [mutant for mutant in mutants if outcome[mutant] == "survived"]
+    unargued = [m for m in survivors if (m.file, *m.lines()) not in reasons]
+    for mutant in unargued:
+        before, after = mutant.lines()
+        print(f"{mutant.file}\n- {before}\n+ {after}\n(line {mutant.line_number()})\n")
+    total = counts["killed"] + counts["survived"]
+    share = counts["killed"] / total if total else 1.0
+    print(f"{total} mutants, {counts['killed']} noticed ({100 * share:.1f} %), "
+          f"{len(survivors) - len(unargued)} equivalent, {len(unargued)} neither; besides, "
+          f"{counts['invalid']} do not compile and {counts['same']} change no instruction")
+    # A small sample may hold any number of equivalent mutants.
+    return not unargued and (share >= LOWEST_SHARE or total < 400)
+
+
+def stale_reasons(mutants, results, reasons):
+    alive = {(m.file, *m.lines()) for m in mutants if results.known[m.key()] == "survived"}
+    return [entry for entry in reasons if entry not in alive]
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="mutate.sh", description=__doc__)
+    parser.add_argument("--seed", type=int, default=1, help="which mutants the sample holds")
+    parser.add_argument("--sample", type=int, default=SAMPLE, metavar="N",
+                        help="how many mutants to apply (%(default)s); 0 for all there are")
+    parser.add_argument("--workers", type=int, default=2)
+    parser.add_argument("--list", action="store_true", help="print the mutants and stop")
+    parser.add_argument("files", nargs="*", help="files of src/ and sisters/; all if none is given")
+    arguments = parser.parse_args()
+
+    mutants = all_mutants(arguments.files)
+    if arguments.sample and not arguments.files:
+        # A small sample is the beginning of a large one, so what is known of it holds for both.
+        random.Random(arguments.seed).shuffle(mutants)
+        mutants = mutants[:arguments.sample]
+    if arguments.list:
+        for mutant in mutants:
+            print(f"{mutant.file}:{mutant.line_number()} {mutant.kind}: {mutant.lines()[1]}")
+        return 0
+
+    SCRATCH.mkdir(parents=True, exist_ok=True)
+    build = Build(ROOT, ROOT / "build" / "dev", SCRATCH)
+    results = Results(build.tests_digest())
+    untried = [mutant for mutant in mutants if mutant.key() not in results.known]
+    if untried:
+        try_all(build, untried, results, arguments.workers)
+    reasons = equivalent.read(EQUIVALENT)
+    fine = report(mutants, results, reasons)
+    if arguments.sample == 0 and not arguments.files:
+        for file, before, after in stale_reasons(mutants, results, reasons):
+            fine = False
+            print(f"There is a reason for what no test misses:\n{file}\n- {before}\n+ {after}\n")
+    return 0 if fine else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())

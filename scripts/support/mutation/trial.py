@@ -1,0 +1,186 @@
+"""Builds one mutant beside a finished build of the tests, and runs them on it.
+
+Only what contains the mutant is compiled and linked again: an object, the shared library it is part
+of, and those test programs that link the object itself. The others meet the mutant's library by
+being made to load it first; it has the name of the one they would load.
+"""
+
+import hashlib
+import json
+import os
+import resource
+import shlex
+import shutil
+import subprocess
+import time
+from pathlib import Path
+
+LIBRARIES = ("kelp_core_text", "kelp_chem_elements", "kelp_quill_inp")
+MEMORY = 4 << 30
+LARGEST_FILE = 256 << 20
+
+
+class Build:
+    """The finished build: how its objects are made, what they are linked into, and the tests."""
+
+    def __init__(self, root, folder, scratch):
+        self.root = root
+        self.folder = folder
+        self.scratch = scratch
+        commands = json.loads((folder / "compile_commands.json").read_text())
+        self.compile = {}  # the arguments by source
+        self.object = {}  # the object's path, as linking names it, by source
+        for entry in commands:
+            source = os.path.relpath(entry["file"], root)
+            output = entry.get("output") or shlex.split(entry["command"])[-3]
+            if source.startswith(("src/", "sisters/")) and source not in self.compile:
+                self.compile[source] = shlex.split(entry["command"])
+                self.object[source] = output
+        self.libraries = [next(folder.glob(f"**/lib{name}.so.*.*.*")) for name in LIBRARIES]
+        self.programs = sorted(
+            path for part in ("unit", "interface", "properties")
+            for path in (folder / "tests" / part).glob("**/kelp_quill_inp_*_test")
+            # The first measures time; the second contains a source instead of linking it.
+            if "scale" not in path.name and "plain_number_text" not in path.name)
+        self.link = {path: self.link_command(path) for path in self.libraries + self.programs}
+        self.users = self.find_users()
+        self.seconds = {}
+
+    def link_command(self, target):
+        name = os.path.relpath(target, self.folder)
+        text = subprocess.run(["ninja", "-C", self.folder, "-t", "commands", "-s", name],
+                              check=True, capture_output=True, text=True).stdout
+        command = next(part for part in text.split(" && ") if f" -o {name}" in part)
+        return shlex.split(command)
+
+    def find_users(self):
+        """The sources that are compiled anew when a file changes, by the file."""
+        text = subprocess.run(["ninja", "-C", self.folder, "-t", "deps"], check=True,
+                              capture_output=True, text=True).stdout
+        users, output = {}, ""
+        source_of = {path: source for source, path in self.object.items()}
+        for line in text.splitlines():
+            if not line.startswith(" "):
+                output = line.split(":")[0]
+            elif output in source_of:
+                path = os.path.relpath(self.folder / line.strip(), self.root)
+                users.setdefault(path, []).append(source_of[output])
+        return users
+
+    def tests_digest(self):
+        stamps = [f"{path} {path.stat().st_mtime_ns}" for path in self.programs]
+        return hashlib.sha256("\n".join(stamps).encode()).hexdigest()[:16]
+
+
+class Worker:
+    """A copy of the sources in which one mutant at a time is put in place."""
+
+    def __init__(self, build, name):
+        self.build = build
+        self.folder = build.scratch / name
+        self.tree = self.folder / "tree"
+        shutil.rmtree(self.folder, ignore_errors=True)
+        for part in ("src", "sisters"):
+            shutil.copytree(build.root / part, self.tree / part)
+        (self.folder / "tmp").mkdir()
+
+    def object_path(self, source):
+        return self.folder / (source + ".o")
+
+    def compile(self, source):
+        """Makes the object of a source in this worker's tree, and says whether that is possible."""
+        arguments = []
+        for argument in self.build.compile[source]:
+            for part in ("src", "sisters"):
+                argument = argument.replace(f"{self.build.root}/{part}", f"{self.tree}/{part}")
+            if not argument.startswith(("-W", "-g")):
+                arguments.append(argument)
+        target = self.object_path(source)
+        target.parent.mkdir(parents=True, exist_ok=True)
+        arguments[arguments.index("-o") + 1] = str(target)
+        for flag in ("-MF", "-MT"):
+            if flag in arguments:
+                arguments[arguments.index(flag) + 1] = os.devnull
+        return subprocess.run(arguments + ["-O0", "-w"], cwd=self.build.folder,
+                              capture_output=True).returncode == 0
+
+    def link(self, target, objects, linked):
+        """Links a target with other objects; `linked` are targets that were, by their old path."""
+        output = self.folder / target.name
+        names = {self.build.object[source]: str(path) for source, path in objects.items()}
+        names |= {os.path.relpath(old, self.build.folder): str(new) for old, new in linked.items()}
+        names[os.path.relpath(target, self.build.folder)] = str(output)
+        command = [names.get(argument, argument) for argument in self.build.link[target]]
+        subprocess.run(command, cwd=self.build.folder, check=True, capture_output=True)
+        return output
+
+    def run(self, program, libraries, seconds):
+        """Whether a test program passes within a time."""
+        environment = dict(os.environ, TMPDIR=str(self.folder / "tmp"),
+                           LD_PRELOAD=":".join(map(str, libraries)))
+        try:
+            return subprocess.run(
+                [program, "--gtest_fail_fast", "--gtest_brief=1"], cwd=self.folder / "tmp",
+                env=environment, timeout=seconds, preexec_fn=limit_resources,
+                stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                stderr=subprocess.DEVNULL).returncode == 0
+        except subprocess.TimeoutExpired:
+            return False
+
+    def try_mutant(self, mutant, originals, order):
+        """Returns "killed" and by which program, "survived", "invalid" or "same"."""
+        place = self.tree / mutant.file
+        place.write_text(mutant.mutated())
+        try:
+            sources = self.build.users[mutant.file]
+            if not all(self.compile(source) for source in sources):
+                return "invalid", ""
+            changed = {source: self.object_path(source) for source in sources
+                       if self.object_path(source).read_bytes() != originals[source]}
+            if not changed:
+                return "same", ""
+            return self.test(changed, order)
+        finally:
+            place.write_text(mutant.text)
+            shutil.rmtree(self.folder / "tmp")
+            (self.folder / "tmp").mkdir()
+
+    def test(self, changed, order):
+        linked = {}
+        objects = {self.build.object[source] for source in changed}
+        for library in self.build.libraries:
+            if objects & set(self.build.link[library]):
+                linked[library] = self.link(library, changed, linked)
+        for program in order:
+            tried = program
+            if objects & set(self.build.link[program]):
+                tried = self.link(program, changed, linked)
+            if not self.run(tried, linked.values(), 6 + 8 * self.build.seconds[program]):
+                return "killed", program.name
+        return "survived", ""
+
+
+def limit_resources():
+    resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
+    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+    resource.setrlimit(resource.RLIMIT_FSIZE, (LARGEST_FILE, LARGEST_FILE))
+
+
+def measure(build, worker):
+    """Compiles every source unchanged, and runs every program once on the result. Returns the
+    objects. What fails here would make every mutant look killed."""
+    originals = {}
+    for source in build.compile:
+        if not worker.compile(source):
+            raise SystemExit(f"{source} does not compile")
+        originals[source] = worker.object_path(source).read_bytes()
+    objects = {source: worker.object_path(source) for source in build.compile}
+    linked = {}
+    for library in build.libraries:
+        linked[library] = worker.link(library, objects, linked)
+    for program in build.programs:
+        start = time.monotonic()
+        if not worker.run(program, linked.values(), 120):
+            raise SystemExit(f"{program.name} fails without any mutant")
+        build.seconds[program] = time.monotonic() - start
+    return originals
