@@ -1,8 +1,11 @@
 #!/usr/bin/env bash
 # Fails on any finding of cppcheck or of g++'s analyzer in the libraries, the tools and the examples.
-# scripts/support/cppcheck_suppressions.txt says what is left out of the first and why. The second
-# is run without its check for values that are not initialised: g++ 12 takes every object that a
-# function returns by value for one.
+# scripts/support/cppcheck_suppressions.txt says what is left out of the first and why. The second,
+# which g++ 12 has mainly for C, is run without its check for values that are not initialised, since
+# it takes every object that a function returns by value for one, and without these sources:
+#   - those with templates of CLI11 or of the JSON library in them: it takes gigabytes and no end
+#   - add: a list in braces is copied to memory that it takes for null, though new never returns that
+#   - fmt, from_json: it does not see that std::function's destructor frees what the function holds
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
@@ -15,9 +18,18 @@ cppcheck --quiet --error-exitcode=1 -j "$(nproc)" --std=c++17 --language=c++ \
   -I include -I src/support -I src -I tools src sisters examples tools
 echo "cppcheck has no findings"
 
+with_templates='arguments|document_from_json|document_to_json|help_formatter|json_text|run|summary_json|verb'
+targets=(kelp_core_text kelp_chem_elements kelp_quill_inp examples/all tools/edit_support/all)
+for source in tools/quill-inp/*.cpp; do
+  name=$(basename "$source")
+  if [[ ! ${name%.cpp} =~ ^($with_templates|add|fmt|from_json|main)$ ]]; then
+    targets+=("tools/quill-inp/CMakeFiles/kelp_quill_inp_tool.dir/$name.o")
+  fi
+done
+
 log=build/analyzer/build.log
 mkdir -p build/analyzer
-if ! { cmake --preset analyzer && cmake --build --preset analyzer; } >"$log" 2>&1; then
+if ! { cmake --preset analyzer && cmake --build --preset analyzer --target "${targets[@]}"; } >"$log" 2>&1; then
   grep -E 'error:|warning:' "$log" >&2 || tail -n 30 "$log" >&2
   echo "The whole output is in $log." >&2
   exit 1

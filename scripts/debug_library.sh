@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# Runs every test with the checks of the standard library's debug mode: iterators, ranges and indices
-# of all containers. The mode changes the containers, so GoogleTest is built in it as well, from the
-# sources that its Debian package brings.
+# Runs every test, or those of one folder, with the checks of the standard library's debug mode:
+# iterators, ranges and indices of all containers. The mode changes the containers, so GoogleTest is
+# built in it as well, from the sources that its Debian package brings.
+#
+#   scripts/debug_library.sh [unit | interface]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
@@ -21,4 +23,8 @@ if ! {
   echo "GoogleTest could not be built; the whole output is in $log." >&2
   exit 1
 fi
-cmake --workflow --preset debug-library
+
+folder=${1:+tests/$1}
+cmake --preset debug-library
+cmake --build --preset debug-library ${folder:+--target "$folder/all"}
+ctest --test-dir "build/debug-library/$folder" --output-on-failure --no-tests=error -j "$(nproc)"

@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
-# Runs the unit and interface tests under valgrind; an error or a leak fails. What measures time is
-# left out, since time is another thing there.
+# Runs the unit and interface tests, or those of one folder, under valgrind; an error or a leak fails.
+# What measures time is left out, since time is another thing there.
+#
+#   scripts/valgrind.sh [unit | interface]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
@@ -15,6 +17,7 @@ if ! { cmake --preset dev && cmake --build --preset dev; } >"$log" 2>&1; then
   exit 1
 fi
 
+if [ $# -eq 0 ]; then set -- unit interface; fi
 status=0
 while IFS= read -r program; do
   name=$(basename "$program")
@@ -27,6 +30,6 @@ while IFS= read -r program; do
     printf '%-45s fails\n' "$name" >&2
     cat "$output.tests" "$output" >&2
   fi
-done < <(find build/dev/tests/unit build/dev/tests/interface -name 'kelp_quill_inp_*_test' \
-  -type f -executable ! -name '*scale*' | sort)
+done < <(find "${@/#/build/dev/tests/}" -name 'kelp_quill_inp_*_test' -type f -executable \
+  ! -name '*scale*' | sort)
 exit "$status"

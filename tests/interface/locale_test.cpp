@@ -5,9 +5,9 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <ios>
-#include <iterator>
 #include <locale>
 #include <sstream>
 #include <stdexcept>
@@ -30,7 +30,9 @@ std::string file_content(const std::string& path) {
   std::ifstream file;
   file.imbue(std::locale::classic());
   file.open(path, std::ios_base::binary);
-  return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+  std::string content(std::filesystem::file_size(path), '\0');
+  file.read(content.data(), static_cast<std::streamsize>(content.size()));
+  return content;
 }
 
 /// All that the library makes of the text below: gathered under a locale, compared under another.

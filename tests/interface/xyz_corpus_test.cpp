@@ -9,8 +9,6 @@
 #include <cstddef>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <ios>
 #include <iterator>
 #include <set>
 #include <sstream>
@@ -21,6 +19,7 @@
 #include "interface/expected.hpp"
 #include "kelp/input/quill/quill.hpp"
 #include "support/comparison.hpp"
+#include "support/file_content.hpp"
 #include "support/printing.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -28,11 +27,6 @@ namespace kelp::input::quill {
 namespace {
 
 using Lines = std::vector<std::string>;
-
-std::string file_content(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios_base::binary);
-  return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-}
 
 /// The lines of a text with whatever ends them, so that they can be put together again.
 Lines lines_with_ends(const std::string& text) {
@@ -185,7 +179,7 @@ std::size_t check_folder(const std::filesystem::path& folder) {
   }
   std::size_t frame_count = 0;
   for (const std::filesystem::path& path : paths) {
-    const Lines lines = lines_with_ends(file_content(path));
+    const Lines lines = lines_with_ends(file_content(path).value());
     SCOPED_TRACE(path.filename().string());
     check_lines(lines);
     for (const Lines& frame : frames_of(lines)) {

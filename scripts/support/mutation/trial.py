@@ -1,8 +1,9 @@
 """Builds one mutant beside a finished build of the tests, and runs them on it.
 
 Only what contains the mutant is compiled and linked again: an object, the shared library it is part
-of, and those test programs that link the object itself. The others meet the mutant's library by
-being made to load it first; it has the name of the one they would load.
+of, and those test programs that link the object itself or include a header that is the mutant. The
+others meet the mutant's library by being made to load it first; it has the name of the one they
+would load.
 """
 
 import hashlib
@@ -15,6 +16,7 @@ import subprocess
 import time
 from pathlib import Path
 
+SOURCES = ("src/", "sisters/")
 LIBRARIES = ("kelp_core_text", "kelp_chem_elements", "kelp_quill_inp")
 MEMORY = 4 << 30
 LARGEST_FILE = 256 << 20
@@ -33,7 +35,7 @@ class Build:
         for entry in commands:
             source = os.path.relpath(entry["file"], root)
             output = entry.get("output") or shlex.split(entry["command"])[-3]
-            if source.startswith(("src/", "sisters/")) and source not in self.compile:
+            if source.startswith(SOURCES + ("tests/unit/",)) and source not in self.compile:
                 self.compile[source] = shlex.split(entry["command"])
                 self.object[source] = output
         self.libraries = [next(folder.glob(f"**/lib{name}.so.*.*.*")) for name in LIBRARIES]
@@ -45,6 +47,7 @@ class Build:
         self.link = {path: self.link_command(path) for path in self.libraries + self.programs}
         self.users = self.find_users()
         self.seconds = {}
+        self.originals = scratch / "originals"
 
     def link_command(self, target):
         name = os.path.relpath(target, self.folder)
@@ -54,7 +57,7 @@ class Build:
         return shlex.split(command)
 
     def find_users(self):
-        """The sources that are compiled anew when a file changes, by the file."""
+        """The sources, those of unit tests among them, that contain a file, by the file."""
         text = subprocess.run(["ninja", "-C", self.folder, "-t", "deps"], check=True,
                               capture_output=True, text=True).stdout
         users, output = {}, ""
@@ -107,7 +110,9 @@ class Worker:
     def link(self, target, objects, linked):
         """Links a target with other objects; `linked` are targets that were, by their old path."""
         output = self.folder / target.name
-        names = {self.build.object[source]: str(path) for source, path in objects.items()}
+        names = {self.build.object[source]: str(self.build.originals / (source + ".o"))
+                 for source in self.build.compile if source.startswith(SOURCES)}
+        names |= {self.build.object[source]: str(path) for source, path in objects.items()}
         names |= {os.path.relpath(old, self.build.folder): str(new) for old, new in linked.items()}
         names[os.path.relpath(target, self.build.folder)] = str(output)
         command = [names.get(argument, argument) for argument in self.build.link[target]]
@@ -132,32 +137,40 @@ class Worker:
         place = self.tree / mutant.file
         place.write_text(mutant.mutated())
         try:
-            sources = self.build.users[mutant.file]
+            users = self.build.users[mutant.file]
+            sources = [source for source in users if source.startswith(SOURCES)]
             if not all(self.compile(source) for source in sources):
                 return "invalid", ""
             changed = {source: self.object_path(source) for source in sources
                        if self.object_path(source).read_bytes() != originals[source]}
             if not changed:
                 return "same", ""
-            return self.test(changed, order)
+            return self.test(changed, [user for user in users if user not in sources], order)
         finally:
             place.write_text(mutant.text)
             shutil.rmtree(self.folder / "tmp")
             (self.folder / "tmp").mkdir()
 
-    def test(self, changed, order):
+    def test(self, changed, tests, order):
         linked = {}
-        objects = {self.build.object[source] for source in changed}
         for library in self.build.libraries:
-            if objects & set(self.build.link[library]):
+            if self.uses(library, changed):
                 linked[library] = self.link(library, changed, linked)
         for program in order:
             tried = program
-            if objects & set(self.build.link[program]):
-                tried = self.link(program, changed, linked)
+            own_tests = [test for test in tests if self.uses(program, [test])]
+            if own_tests or self.uses(program, changed):
+                if not all(self.compile(test) for test in own_tests):
+                    return "invalid", ""
+                own_objects = {test: self.object_path(test) for test in own_tests}
+                tried = self.link(program, changed | own_objects, linked)
             if not self.run(tried, linked.values(), 6 + 8 * self.build.seconds[program]):
                 return "killed", program.name
         return "survived", ""
+
+    def uses(self, target, sources):
+        objects = {self.build.object[source] for source in sources}
+        return bool(objects.intersection(self.build.link[target]))
 
 
 def limit_resources():
@@ -166,15 +179,16 @@ def limit_resources():
     resource.setrlimit(resource.RLIMIT_FSIZE, (LARGEST_FILE, LARGEST_FILE))
 
 
-def measure(build, worker):
+def measure(build):
     """Compiles every source unchanged, and runs every program once on the result. Returns the
     objects. What fails here would make every mutant look killed."""
-    originals = {}
+    worker = Worker(build, build.originals.name)
+    objects = {}
     for source in build.compile:
-        if not worker.compile(source):
-            raise SystemExit(f"{source} does not compile")
-        originals[source] = worker.object_path(source).read_bytes()
-    objects = {source: worker.object_path(source) for source in build.compile}
+        if source.startswith(SOURCES):
+            if not worker.compile(source):
+                raise SystemExit(f"{source} does not compile")
+            objects[source] = worker.object_path(source)
     linked = {}
     for library in build.libraries:
         linked[library] = worker.link(library, objects, linked)
@@ -183,4 +197,4 @@ def measure(build, worker):
         if not worker.run(program, linked.values(), 120):
             raise SystemExit(f"{program.name} fails without any mutant")
         build.seconds[program] = time.monotonic() - start
-    return originals
+    return {source: path.read_bytes() for source, path in objects.items()}
