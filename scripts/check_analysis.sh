@@ -10,7 +10,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
 
-need_packages "${build_packages[@]}" cppcheck libcli11-dev nlohmann-json3-dev
+need_packages "${tool_packages[@]}" cppcheck
 
 cppcheck --quiet --error-exitcode=1 -j "$(nproc)" --std=c++17 --language=c++ \
   --enable=warning,style,performance,portability \

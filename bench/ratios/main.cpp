@@ -1,7 +1,7 @@
 // Prints what the library costs as ratios against other ways to do the same, measured in turns in
 // one run. See docs/performance.md.
 
-#include <cstdlib>
+#include <charconv>
 #include <exception>
 #include <iostream>
 #include <string>
@@ -26,7 +26,9 @@ bool read_options(const std::vector<std::string>& arguments, Options& options) {
     if (arguments[i] == "--check") {
       options.check = true;
     } else if (arguments[i] == "--rounds" && i + 1 < arguments.size()) {
-      options.rounds = std::atoi(arguments[++i].c_str());
+      options.rounds = 0;
+      const std::string& number = arguments[++i];
+      std::from_chars(number.data(), number.data() + number.size(), options.rounds);
     } else if (arguments[i] == "--only" && i + 1 < arguments.size()) {
       options.only = arguments[++i];
     } else {

@@ -57,6 +57,6 @@ void* operator new(std::size_t size) { return kelp::input::quill::bench::allocat
 
 void operator delete(void* block) noexcept { kelp::input::quill::bench::release(block); }
 
-void operator delete(void* block, std::size_t) noexcept {
+void operator delete(void* block, std::size_t /*size*/) noexcept {
   kelp::input::quill::bench::release(block);
 }

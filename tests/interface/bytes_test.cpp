@@ -183,7 +183,8 @@ TEST_P(ByteInSample, MayStandAnywhere) {
 }
 
 std::string name_of(const testing::TestParamInfo<std::tuple<std::string, int>>& info) {
-  const auto sample = std::find(std::begin(samples), std::end(samples), std::get<0>(info.param));
+  const auto* const sample =
+      std::find(std::begin(samples), std::end(samples), std::get<0>(info.param));
   return "Sample" + std::to_string(sample - std::begin(samples)) + "Byte" +
          std::to_string(std::get<1>(info.param));
 }
