@@ -235,6 +235,7 @@ const TaskRow task_rows[] = {
     {"AParameterIsNoTask", {{"x", HeaderCommandKind::ParameterList, {}, {{"opt"}}}}, false},
     {"OneCharacterShort", {{"s"}, {"op"}, {"t"}, {"fre"}, {"ir"}, {"sca"}}, false},
     {"OneCharacterTooMany", {{"spx"}, {"opts"}, {"tss"}, {"freqs"}, {"irc2"}, {"scans"}}, false},
+    {"NoName", {{""}, {" # "}}, false},
     {"OtherNames", {{"md"}, {"optfreq"}, {"sp opt"}, {"neb"}, {"pt"}, {"can"}}, false},
 };
 

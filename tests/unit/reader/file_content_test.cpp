@@ -53,6 +53,14 @@ INSTANTIATE_TEST_SUITE_P(AroundTheSizesOfBuffers, FileOfSize,
                          testing::Values(1, 2, 8190, 8191, 8192, 8193, chunk - 1, chunk, chunk + 1,
                                          3 * chunk + 5));
 
+TEST(FileContent, TakesTheRoomOfTheFileAndNoMore) {
+  const TemporaryFolder folder;
+  const std::string content = bytes_of_size(3 * chunk + 5);
+  const std::optional<std::string> read = read_file_content(folder.write("bytes", content));
+  ASSERT_TRUE(read.has_value());
+  EXPECT_EQ(read->capacity(), content.size());
+}
+
 TEST(FileContent, DoesNotDependOnTheSizeThatTheFileSystemTells) {
   // Files under /proc have the size 0, whatever can be read from them.
   const std::optional<std::string> read = read_file_content("/proc/self/cmdline");

@@ -1,0 +1,99 @@
+// The text of a whole input grows into room that was reserved at once. Text that has to grow again
+// takes twice the room, which shows.
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "kelp/input/quill/quill.hpp"
+
+namespace kelp::input::quill {
+namespace {
+
+std::string name_of_size(std::size_t size) { return std::string(size, 'n'); }
+
+template <typename Part>
+std::vector<Part> many(const Part& part) {
+  return std::vector<Part>(1400, part);
+}
+
+QuillInput with_commands(const HeaderCommand& command) {
+  QuillInput input;
+  input.commands = many(command);
+  return input;
+}
+
+QuillInput with_parameters() {
+  QuillInput input;
+  input.commands.emplace_back("opt", HeaderCommandKind::ParameterList);
+  input.commands.back().parameters = many(CommandParameter{name_of_size(10), name_of_size(24)});
+  return input;
+}
+
+QuillInput with_atoms() {
+  QuillInput input;
+  input.geometry.kind = GeometryKind::Atoms;
+  input.geometry.atoms = many(AtomRecord{"O", 0.0, -1.5, 0.1173});
+  return input;
+}
+
+QuillInput with_files() {
+  QuillInput input;
+  input.geometry.kind = GeometryKind::XyzFile;
+  input.geometry.xyz_files = many(name_of_size(60));
+  return input;
+}
+
+QuillInput with_post_commands(const PostCommand& command) {
+  QuillInput input;
+  input.post_commands = many(command);
+  return input;
+}
+
+PostCommand raw_line() {
+  PostCommand command;
+  command.raw_text = name_of_size(60);
+  return command;
+}
+
+PostCommand post_file() {
+  PostCommand command(PostCommandKind::PostFile);
+  command.post_file = name_of_size(200);
+  return command;
+}
+
+struct Row {
+  std::string name;
+  QuillInput input;
+};
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
+
+class RoomOfAnInput : public testing::TestWithParam<Row> {};
+
+TEST_P(RoomOfAnInput, IsReservedAtOnce) {
+  const std::string text = GetParam().input.to_string();
+  EXPECT_LT(text.capacity(), text.size() + text.size() / 5);
+}
+
+const Row rows[] = {
+    {"OfFlags", with_commands(HeaderCommand{name_of_size(30)})},
+    {"OfAssignments", with_commands(HeaderCommand{name_of_size(10), HeaderCommandKind::Assignment,
+                                                  name_of_size(30)})},
+    {"OfParameters", with_parameters()},
+    {"OfAtoms", with_atoms()},
+    {"OfFiles", with_files()},
+    {"OfScans", with_post_commands(PostCommand{
+                    PostCommandKind::Scan, {10001, 10002, 10003, 10004}, -123.456, 10000})},
+    {"OfPostFiles", with_post_commands(post_file())},
+    {"OfRawLines", with_post_commands(raw_line())},
+};
+
+INSTANTIATE_TEST_SUITE_P(Table, RoomOfAnInput, testing::ValuesIn(rows),
+                         [](const auto& row) { return row.param.name; });
+
+}  // namespace
+}  // namespace kelp::input::quill
