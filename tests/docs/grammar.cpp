@@ -60,6 +60,9 @@ Grammar::Grammar(const std::string& rules) {
   }
 }
 
+// The functions call one another as the rules of the notation do; a page's rules are not deep.
+// NOLINTBEGIN(misc-no-recursion)
+
 std::string Grammar::expression(const std::string& rule) const {
   if (rule == "ALPHA") return "[A-Za-z]";
   if (rule == "DIGIT") return "[0-9]";
@@ -89,7 +92,7 @@ std::string Grammar::repetition(const std::string& text, std::size_t& at) const 
   const bool is_range = text[at] == '*';
   if (is_range) ++at;
   const std::string most = is_range ? take_digits(text, at) : least;
-  const std::string piece = element(text, at);
+  std::string piece = element(text, at);
   if (!is_range && least.empty()) return piece;
   const std::string from = least.empty() ? "0" : least;
   return "(?:" + piece + "){" + from + (is_range ? "," + most : "") + "}";
@@ -116,5 +119,7 @@ std::string Grammar::element(const std::string& text, std::size_t& at) const {
   if (at == start) throw std::invalid_argument("not a rule: " + text.substr(at));
   return expression(text.substr(start, at - start));
 }
+
+// NOLINTEND(misc-no-recursion)
 
 }  // namespace kelp::input::quill
