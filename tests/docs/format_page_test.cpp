@@ -112,6 +112,24 @@ TEST(FormatPage, ExplainsEveryMessageOfTheReader) {
   EXPECT_EQ(explained_messages(), expected);
 }
 
+/// The properties of documents that do not read back, of which tests/properties/ shows that there
+/// are no others.
+std::vector<std::string> reasons_not_to_read_back() {
+  const std::string code = content_of_page("tests/properties/expressible.cpp");
+  const std::regex row("\\{\"([^\"]+)\",\\s+has_|\\{\"([^\"]+)\",\\s+breaks_");
+  std::vector<std::string> reasons;
+  for (std::sregex_iterator match(code.begin(), code.end(), row), end; match != end; ++match)
+    reasons.push_back((*match)[1].str() + (*match)[2].str());
+  return reasons;
+}
+
+TEST(FormatPage, ListsEveryReasonNotToReadBack) {
+  const std::vector<std::string> reasons = reasons_not_to_read_back();
+  EXPECT_EQ(reasons.size(), 16U);
+  const std::string page = content_of_page("docs/format.md");
+  for (const std::string& reason : reasons) EXPECT_THAT(page, testing::HasSubstr("- " + reason));
+}
+
 TEST(FormatPage, HasACureForEveryMessage) {
   const std::vector<Claim> claims = find_claims();
   for (const std::string& message : explained_messages()) {
