@@ -1,9 +1,9 @@
 """Applies mutants to the libraries and says how many of them the tests notice; see mutate.sh."""
 
 import argparse
+import hashlib
 import json
 import queue
-import random
 import sys
 import threading
 from collections import Counter
@@ -34,6 +34,19 @@ def all_mutants(names):
         raise SystemExit("These are files of src/ and sisters/: " + ", ".join(map(str, files)))
     return [mutant for file in wanted
             for mutant in Source(str(file), (ROOT / file).read_text(), enumerations).mutants()]
+
+
+def sample_of(mutants, seed, count):
+    """The first mutants in an order in which each has a place of its own: a small sample is the
+    beginning of a large one, and both stay the same where the sources do."""
+    seen = Counter()
+    places = {}
+    for mutant in mutants:
+        identity = (mutant.file, *mutant.lines())
+        seen[identity] += 1
+        text = "\0".join(map(str, (seed, *identity, seen[identity])))
+        places[mutant] = hashlib.sha256(text.encode()).digest()
+    return sorted(mutants, key=places.get)[:count]
 
 
 class Results:
@@ -123,9 +136,7 @@ def main():
 
     mutants = all_mutants(arguments.files)
     if arguments.sample and not arguments.files:
-        # A small sample is the beginning of a large one, so what is known of it holds for both.
-        random.Random(arguments.seed).shuffle(mutants)
-        mutants = mutants[:arguments.sample]
+        mutants = sample_of(mutants, arguments.seed, arguments.sample)
     if arguments.list:
         for mutant in mutants:
             print(f"{mutant.file}:{mutant.line_number()} {mutant.kind}: {mutant.lines()[1]}")
