@@ -1,5 +1,5 @@
-// Prints what reading texts of every shape costs where they are as large as they get, and what is
-// quadratic by contract costs as it grows.
+// Prints what reading texts of every shape costs where they are as large as they get, against half
+// of that, and what is quadratic by contract costs as it grows.
 
 #include <cstddef>
 #include <cstdio>
@@ -15,24 +15,45 @@ namespace {
 constexpr double bytes_per_megabyte = 1e6;
 constexpr double nanoseconds_per_second = 1e9;
 
+struct Reading {
+  Cost cost;
+  std::size_t text_size = 0;
+  bool is_read = false;
+};
+
+/// The best of three attempts: other programs only ever add to the time.
+Reading reading_of(const Shape& shape, std::size_t size) {
+  const std::string text = shape.text(size);
+  Reading best;
+  for (int attempt = 0; attempt < 3; ++attempt) {
+    ParseResult result;
+    const Cost cost = cost_of([&] { result = parse_string(text); });
+    const bool is_best = attempt == 0 || cost.seconds < best.cost.seconds;
+    if (is_best) best = {cost, text.size(), shape.is_read(result, size)};
+  }
+  return best;
+}
+
 /// Returns whether what was read was what was asked for.
 bool print_reading(const Shape& shape) {
-  const std::string text = shape.text(shape.full_size);
-  ParseResult result;
-  const Cost cost = cost_of([&] { result = parse_string(text); });
-  const auto size = static_cast<double>(text.size());
-  std::printf("%-26.*s %10zu %8.1f %8.2f %8.2f %8.2f\n", static_cast<int>(shape.name.size()),
-              shape.name.data(), shape.full_size, size / bytes_per_megabyte, cost.seconds,
-              cost.seconds * nanoseconds_per_second / size,
-              static_cast<double>(cost.peak_bytes) / size);
-  return shape.is_read(result, shape.full_size);
+  const Reading half = reading_of(shape, shape.full_size / 2);
+  const Reading full = reading_of(shape, shape.full_size);
+  const auto size = static_cast<double>(full.text_size);
+  std::printf(
+      "%-26.*s %10zu %8.1f %8.2f %8.2f %8.2f %8.2f %8.2f\n", static_cast<int>(shape.name.size()),
+      shape.name.data(), shape.full_size, size / bytes_per_megabyte, full.cost.seconds,
+      full.cost.seconds * nanoseconds_per_second / size,
+      static_cast<double>(full.cost.peak_bytes) / size, full.cost.seconds / half.cost.seconds,
+      static_cast<double>(full.cost.peak_bytes) / static_cast<double>(half.cost.peak_bytes));
+  return half.is_read && full.is_read;
 }
 
 template <typename Work>
 void print_growth(const char* what, std::size_t size, Work work) {
   const double first = cost_of([&] { work(size); }).seconds;
   const double second = cost_of([&] { work(2 * size); }).seconds;
-  std::printf("%-44s %7zu %8.3f %9zu %8.3f\n", what, size, first, 2 * size, second);
+  std::printf("%-44s %7zu %8.3f %9zu %8.3f %8.2f\n", what, size, first, 2 * size, second,
+              second / first);
 }
 
 void add_atoms_to_a_builder(std::size_t n) {
@@ -53,11 +74,14 @@ void find_every_occurrence(std::size_t n) {
 }
 
 int print_figures() {
-  std::printf("%-26s %10s %8s %8s %8s %8s\n", "reading", "size", "MB", "s", "ns/byte", "byte/byte");
+  std::printf("%-26s %10s %8s %8s %8s %8s %17s\n", "", "", "", "", "", "memory", "against half");
+  std::printf("%-26s %10s %8s %8s %8s %8s %8s %8s\n", "reading", "size", "MB", "s", "ns/byte",
+              "/byte", "time", "memory");
   bool is_read = true;
   for (const Shape& shape : shapes()) is_read = print_reading(shape) && is_read;
 
-  std::printf("\n%-44s %7s %8s %9s %8s\n", "quadratic by contract", "size", "s", "twice", "s");
+  std::printf("\n%-44s %7s %8s %9s %8s %8s\n", "quadratic by contract", "size", "s", "twice", "s",
+              "ratio");
   print_growth("adding atoms to a builder, one by one", 1000, add_atoms_to_a_builder);
   print_growth("setting flags of different names", 1000, set_flags_of_other_names);
   print_growth("finding every command of one name", 1000, find_every_occurrence);
