@@ -15,7 +15,8 @@ need_packages "${test_packages[@]}" libbenchmark-dev clang clang-tidy
 
 files=()
 if [ $# -eq 0 ]; then
-  set -- src sisters tools bench examples tests/properties tests/scale tests/exactness fuzz
+  set -- src sisters tools bench examples tests/properties tests/tools/properties tests/scale \
+    tests/exactness fuzz
   files=('!' -name '*_test.cpp')
 fi
 cmake --preset clang -B build/tidy -DKELP_QUILL_INP_BUILD_BENCHMARKS=ON >/dev/null
