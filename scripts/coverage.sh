@@ -21,8 +21,9 @@ if ! { cmake --preset coverage && cmake --build --preset coverage; } >"$log" 2>&
 fi
 
 rm -rf "$profiles"  # asking the programs for the names of their tests counts, too
-# One program has functions of the library's names with other bodies, whose counts would not fit.
-if ! ctest --preset coverage --exclude-regex WithoutWideIntegers >"$build/tests.log" 2>&1; then
+# One program has functions of the library's names with other bodies, whose counts would not fit. One
+# test limits the size of the files that the tool may write, and the counts are in such a file.
+if ! ctest --preset coverage --exclude-regex 'WithoutWideIntegers|FilesMayNotGrow' >"$build/tests.log" 2>&1; then
   tail -n 50 "$build/tests.log" >&2
   exit 1
 fi

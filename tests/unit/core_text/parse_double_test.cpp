@@ -90,6 +90,7 @@ const Row numbers[] = {
      "9007199254740993." + std::string(2'000, '0') + "1d0", 9007199254740994.0},
     {"TheNeighbourBelowHalfwayWithZerosInFortran",
      "9007199254740993." + std::string(2'000, '0') + "d0", 9007199254740992.0},
+    {"ZeroForAnExponentTooSmallOfManyDigits", std::string(900, '9') + "e-99999999999", 0.0},
     {"Infinity", "inf", Limits::infinity()},
     {"InfinityInCapitals", "INF", Limits::infinity()},
     {"InfinityInMixedCase", "iNf", Limits::infinity()},
@@ -199,6 +200,7 @@ const NoNumber others[] = {
     {"AMagnitudeTooLargeForItsDigits", "1" + std::string(400, '0')},
     {"AMagnitudeTooLargeForItsExponent", "1e99999999999999999999"},
     {"ANegativeMagnitudeTooLargeForItsExponent", "-1d99999999999999999999"},
+    {"AMagnitudeTooLargeForItsExponentOfManyDigits", std::string(900, '9') + "e99999999999"},
     {"ASmallFractionTooLargeForItsExponent", "0.0001e99999999999999999999"},
 };
 

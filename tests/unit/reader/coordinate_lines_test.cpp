@@ -234,6 +234,7 @@ TEST_P(RestAfterFirstWord, Is) {
 
 const RestRow rests[] = {
     {"NothingOfNothing", "", ""},
+    {"NothingOfABlank", " ", ""},
     {"NothingOfBlanks", " \t", ""},
     {"NothingOfOneWord", "POST", ""},
     {"NothingOfOneWordAndBlanks", "POST \t", ""},
