@@ -90,6 +90,7 @@ const Row numbers[] = {
      "9007199254740993." + std::string(2'000, '0') + "1d0", 9007199254740994.0},
     {"TheNeighbourBelowHalfwayWithZerosInFortran",
      "9007199254740993." + std::string(2'000, '0') + "d0", 9007199254740992.0},
+    {"ZeroForAFractionTooSmall", "0." + std::string(400, '0') + "1", 0.0},
     {"ZeroForAnExponentTooSmallOfManyDigits", std::string(900, '9') + "e-99999999999", 0.0},
     {"Infinity", "inf", Limits::infinity()},
     {"InfinityInCapitals", "INF", Limits::infinity()},
