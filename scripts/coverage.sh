@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Runs every test but the fuzz targets and says how much of the libraries and the tools they reach.
+# Runs every test but the fuzz targets, built with clang++ and under the address and undefined behaviour
+# sanitizers, and says how much of the libraries and the tools they reach.
 # Fails below 100 % of functions and lines and 98 % of branches of the libraries, at a branch not
 # reached that tests/coverage/unreached.txt gives no reason for, and below 95 % of lines of the tools.
 set -euo pipefail
