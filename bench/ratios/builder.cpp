@@ -64,6 +64,7 @@ void compare_with_copies(RatioTable& table, const InputBuilder& start, const Ope
   Building building(start, operation);
   QuillInput target;
   const auto copy_twice = [&] {
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): it is what is timed
     const QuillInput copy(building.document());
     target = copy;
   };

@@ -144,8 +144,10 @@ class BareReading {
   static PostCommandKind kind_of(std::string_view keyword) {
     if (keyword == "POST") return PostCommandKind::PostFile;
     constexpr std::string_view letters = "CBADS";  // in the order of the enumerators
-    const std::size_t place = keyword.size() == 1 ? letters.find(keyword.front()) : letters.npos;
-    return place == letters.npos ? PostCommandKind::Raw : static_cast<PostCommandKind>(place);
+    const std::size_t place =
+        keyword.size() == 1 ? letters.find(keyword.front()) : std::string_view::npos;
+    return place == std::string_view::npos ? PostCommandKind::Raw
+                                           : static_cast<PostCommandKind>(place);
   }
 
   std::vector<std::string> lines_;

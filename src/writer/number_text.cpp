@@ -49,7 +49,7 @@ std::optional<std::uint64_t> to_millionths(double value) {
   return is_tie ? rounded & ~std::uint64_t{1} : rounded;
 }
 #else
-std::optional<std::uint64_t> to_millionths(double) { return std::nullopt; }
+std::optional<std::uint64_t> to_millionths(double /*value*/) { return std::nullopt; }
 #endif
 
 // Eight characters are made at once, in the eight bytes of an integer; the first one is the lowest
