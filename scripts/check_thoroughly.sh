@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# What would take too long for every change, and is run before a release: the analyses over everything,
+# the tests in other modes, a second build of what is shipped, longer fuzzing, mutants, exactness, scale.
+# Takes some hours on two cores.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+
+step() { printf '\n=== %s (after %d s)\n' "$*" "$SECONDS"; }
+
+step "clang-tidy over everything"
+./check_tidy.sh src sisters tools bench examples tests fuzz
+
+step "g++'s analyzer"
+./check_analysis.sh
+
+step "the tests with the standard library's checks, with a char that has no sign, under valgrind"
+./debug_library.sh
+./unsigned_char.sh
+./valgrind.sh
+
+step "the same bytes from two folders"
+./check_reproducible.sh
+
+step "fuzz targets"
+./fuzz.sh 200000
+
+step "ten million numbers of every kind"
+./exactness.sh
+
+step "the largest texts"
+./scale.sh
+
+step "mutants"
+./mutate.sh
