@@ -10,7 +10,8 @@ import re
 import sys
 
 ROOT = pathlib.Path.cwd()
-NAMES = {"README.md": "index", "examples/inputs/README.md": "example-inputs"}
+NAMES = {"README.md": "index", "examples/inputs/README.md": "example-inputs",
+         "editors/README.md": "editors"}
 FENCE = re.compile(r"^```")
 HEADING = re.compile(r"^(#{1,4}) (.*)$")
 LINK = re.compile(r"\]\((?![a-z]+:)([^)#\s]*)(#[^)\s]*)?\)")
