@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # What would take too long for every change, and is run before a release: the analyses over everything,
-# the tests in other modes, a second build of what is shipped, longer fuzzing, mutants, exactness, scale.
-# Takes some hours on two cores.
+# the tests in other modes, what is shipped, longer fuzzing, mutants, exactness, scale. Takes some hours
+# on two cores.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
@@ -18,7 +18,9 @@ step "the tests with the standard library's checks, with a char that has no sign
 ./unsigned_char.sh
 ./valgrind.sh
 
-step "the same bytes from two folders"
+step "what is shipped: hardening, Debian packages, the same bytes from two folders"
+./check_hardening.sh
+./check_debian.sh
 ./check_reproducible.sh
 
 step "fuzz targets"
