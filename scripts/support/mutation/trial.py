@@ -38,7 +38,10 @@ class Build:
             if source.startswith(SOURCES + ("tests/unit/",)) and source not in self.compile:
                 self.compile[source] = shlex.split(entry["command"])
                 self.object[source] = output
-        self.libraries = [next(folder.glob(f"**/lib{name}.so.*.*.*")) for name in LIBRARIES]
+        # Not anywhere: a test builds the libraries once more, in a folder of its own.
+        self.libraries = [next(library for part in SOURCES
+                               for library in (folder / part).glob(f"**/lib{name}.so.*.*.*"))
+                          for name in LIBRARIES]
         self.programs = sorted(
             path for part in ("unit", "interface")
             for path in (folder / "tests" / part).glob("**/kelp_quill_inp_*_test")
