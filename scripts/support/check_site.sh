@@ -28,6 +28,7 @@ open_page() {
     --disable-background-networking --disable-component-update --disable-sync \
     --user-data-dir="$scratch/profile" --enable-logging=stderr --dump-dom "file://$1" \
     >"$scratch/page" 2>"$scratch/log" || fail "$1 does not open: $(tail -n 5 "$scratch/log")"
+  # grep fails when the console is silent, as it should be.
   grep ':CONSOLE' "$scratch/log" >"$scratch/console" || true
 }
 

@@ -33,6 +33,7 @@ if [ ! -s "$scratch/calls" ]; then
 fi
 
 # tsort takes a line with the same name twice for no relation at all, and names circles of others.
+# It fails when there is a circle, and grep when there is none; the file says which it was.
 {
   awk '$1 == $2 { print $1 }' "$scratch/calls"
   tsort "$scratch/calls" 2>&1 >"$scratch/order" | sed -n 's/^tsort: \([^ ]*\)$/\1/p'

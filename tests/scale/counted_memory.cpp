@@ -22,7 +22,8 @@ Counts counts;
 
 // Memory that was freed stays with the program. Fetching it anew costs more than most of what is
 // done with it, and glibc does so for blocks above a size, where twice as much would cost far more.
-// NOLINTBEGIN(concurrency-mt-unsafe): no other thread is there yet
+// It happens before main, where no other thread is there yet.
+// NOLINTBEGIN(concurrency-mt-unsafe)
 [[maybe_unused]] const bool is_memory_kept =
     mallopt(M_MMAP_MAX, 0) != 0 && mallopt(M_TRIM_THRESHOLD, -1) != 0;
 // NOLINTEND(concurrency-mt-unsafe)
