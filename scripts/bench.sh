@@ -7,16 +7,11 @@
 #   scripts/bench.sh --only read --rounds 101
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 
 need_packages "${build_packages[@]}" libbenchmark-dev
 
-log=build/bench/build.log
-mkdir -p build/bench
 echo "Building in build/bench ..."
-if ! { cmake --preset bench && cmake --build --preset bench; } >"$log" 2>&1; then
-  tail -n 30 "$log" >&2
-  echo "The build failed; the whole output is in $log." >&2
-  exit 1
-fi
+build_preset bench
 build/bench/bench/kelp_quill_inp_ratios "$@"

@@ -7,6 +7,7 @@
 #   scripts/check_abi.sh --accept    describes the libraries anew; docs/packaging.md says when
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 
 need_packages "${build_packages[@]}" abigail-tools
@@ -15,13 +16,7 @@ accept=no
 if [ "${1:-}" = --accept ]; then accept=yes; fi
 
 build=build/abi
-log=$build/build.log
-mkdir -p "$build"
-if ! { cmake --preset abi && cmake --build --preset abi; } >"$log" 2>&1; then
-  tail -n 30 "$log" >&2
-  echo "The build failed; the whole output is in $log." >&2
-  exit 1
-fi
+build_preset abi
 
 # describe LIBRARY DESCRIPTION: nothing in it depends on the machine or on the order of lines.
 describe() {

@@ -3,6 +3,7 @@
 # the help of the tool lists.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 . scripts/support/tool.sh
 

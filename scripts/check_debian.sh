@@ -3,6 +3,7 @@
 # and builds a program against the library as their users would, and removes them again.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 . scripts/support/shipped_build.sh
 

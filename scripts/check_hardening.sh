@@ -3,6 +3,7 @@
 # installed, that they are hardened as cmake/hardening.cmake says.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 . scripts/support/shipped_build.sh
 

@@ -3,6 +3,7 @@
 # that is installed and the Debian packages byte for byte.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 . scripts/support/shipped_build.sh
 

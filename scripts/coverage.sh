@@ -5,21 +5,16 @@
 # reached that tests/coverage/unreached.txt gives no reason for, and below 95 % of lines of the tools.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 
 need_packages "${test_packages[@]}" clang llvm libclang-rt-14-dev python3
 
 build=build/coverage
 profiles=$build/profiles
-log=$build/build.log
-mkdir -p "$build"
 # Programs write their counts where this says; those of one library are added up in one file.
 export LLVM_PROFILE_FILE=$PWD/$profiles/%m.profraw
-if ! { cmake --preset coverage && cmake --build --preset coverage; } >"$log" 2>&1; then
-  tail -n 30 "$log" >&2
-  echo "The build failed; the whole output is in $log." >&2
-  exit 1
-fi
+build_preset coverage
 
 rm -rf "$profiles"  # those of an earlier run would be added up with these
 # What limits the size of files limits the counts, too. What tries the same ways with other bytes, or

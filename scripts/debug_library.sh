@@ -6,23 +6,19 @@
 #   scripts/debug_library.sh [unit | interface]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 
 need_packages "${test_packages[@]}" googletest
 
-build=build/debug-library-googletest
-log=$build/build.log
-mkdir -p "$build"
-if ! {
-  cmake -S /usr/src/googletest -B "$build" -G Ninja \
+googletest=build/debug-library-googletest
+build_googletest() {
+  cmake -S /usr/src/googletest -B "$googletest" -G Ninja \
     -DCMAKE_CXX_FLAGS="-D_GLIBCXX_DEBUG -D_GLIBCXX_DEBUG_PEDANTIC" \
-    -DCMAKE_INSTALL_PREFIX="$PWD/$build/installed" &&
-    cmake --build "$build" --target install
-} >"$log" 2>&1; then
-  tail -n 30 "$log" >&2
-  echo "GoogleTest could not be built; the whole output is in $log." >&2
-  exit 1
-fi
+    -DCMAKE_INSTALL_PREFIX="$PWD/$googletest/installed" &&
+    cmake --build "$googletest" --target install
+}
+quietly "$googletest/build.log" build_googletest
 
 folder=${1:+tests/$1}
 cmake --preset debug-library

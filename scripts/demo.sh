@@ -3,23 +3,14 @@
 # one is read and written back, a careless one is read for its diagnostics, and one is edited.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 
 need_packages "${tool_packages[@]}"
 
 build=build/demo
-log=$build/build.log
-mkdir -p "$build"
 echo "Building in $build ..."
-if ! {
-  cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
-    -DKELP_QUILL_INP_BUILD_EXAMPLES=ON -DKELP_QUILL_INP_BUILD_TOOLS=ON &&
-    cmake --build "$build"
-} >"$log" 2>&1; then
-  tail -n 30 "$log" >&2
-  echo "The build failed; the whole output is in $log." >&2
-  exit 1
-fi
+build_preset demo
 
 inputs=examples/inputs
 echo

@@ -9,6 +9,7 @@
 # build/fuzz/new/, where scripts/fuzz_corpus.sh takes it from.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 . scripts/support/fuzz_targets.sh
 

@@ -5,6 +5,7 @@
 #   scripts/fuzz_corpus.sh [TARGET...]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 . scripts/support/fuzz_targets.sh
 

@@ -5,8 +5,8 @@
 #   man_page.sh --check    fails when the page in the tree is another, or is badly formed
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
-
 . scripts/support/tool.sh
 
 need_packages help2man man-db groff-base

@@ -10,15 +10,10 @@
 # It can be stopped at any time: what is known of a change stays in build/mutation/results.jsonl.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 
 need_packages "${test_packages[@]}" python3
 
-log=build/dev/build.log
-mkdir -p build/dev
-if ! { cmake --preset dev && cmake --build --preset dev; } >"$log" 2>&1; then
-  tail -n 30 "$log" >&2
-  echo "The build failed; the whole output is in $log." >&2
-  exit 1
-fi
+build_preset dev
 exec python3 -B scripts/support/mutation "$@"

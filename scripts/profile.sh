@@ -5,21 +5,15 @@
 #   scripts/profile.sh [ROWS]   the ROWS most expensive functions, fifteen unless told
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 
 need_packages "${build_packages[@]}" libbenchmark-dev valgrind
 
 rows=${1:-15}
 build=build/bench
-log=$build/build.log
-mkdir -p "$build"
 echo "Building in $build ..."
-if ! { cmake --preset bench && cmake --build --preset bench --target kelp_quill_inp_profiled; } \
-  >"$log" 2>&1; then
-  tail -n 30 "$log" >&2
-  echo "The build failed; the whole output is in $log." >&2
-  exit 1
-fi
+build_preset bench kelp_quill_inp_profiled
 
 for what in read write; do
   echo "== $what"

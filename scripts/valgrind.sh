@@ -6,17 +6,12 @@
 #   scripts/valgrind.sh [unit | interface]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
 
 need_packages "${test_packages[@]}" valgrind
 
-log=build/dev/build.log
-mkdir -p build/dev
-if ! { cmake --preset dev && cmake --build --preset dev; } >"$log" 2>&1; then
-  tail -n 30 "$log" >&2
-  echo "The build failed; the whole output is in $log." >&2
-  exit 1
-fi
+build_preset dev
 
 many='*AsStrtod*:*AsPrintf*:*Halfway*:*Random*:*OfEvery*:*OfFixedNotation*'
 if [ $# -eq 0 ]; then set -- unit interface; fi

@@ -1,4 +1,5 @@
-# Sourced by the scripts beside it: which fuzz targets there are, and how they are built.
+# Sourced by the scripts beside it: which fuzz targets there are, and how they are built; needs builds.sh
+# and packages.sh.
 
 fuzz_targets=(parse document edit text lines allocation_faults keys json surgery)
 
@@ -22,13 +23,5 @@ longest_input() {
 
 build_fuzz_targets() {
   need_packages clang cmake ninja-build libclang-rt-14-dev libcli11-dev nlohmann-json3-dev
-  local log=build/fuzz/build.log
-  mkdir -p build/fuzz
-  if ! { cmake --preset fuzz &&
-    cmake --build --preset fuzz --target "${fuzz_targets[@]/#/kelp_quill_inp_fuzz_}"; } \
-    >"$log" 2>&1; then
-    tail -n 30 "$log" >&2
-    echo "The build failed; the whole output is in $log." >&2
-    return 1
-  fi
+  build_preset fuzz "${fuzz_targets[@]/#/kelp_quill_inp_fuzz_}"
 }
