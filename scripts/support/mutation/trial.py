@@ -18,6 +18,8 @@ from pathlib import Path
 
 SOURCES = ("src/", "sisters/")
 LIBRARIES = ("kelp_core_text", "kelp_chem_elements", "kelp_quill_inp")
+# What a mutant does that has no defined behaviour, the tests under the sanitizers would notice.
+FLAGS = ["-O0", "-w", "-fsanitize=undefined", "-fsanitize-undefined-trap-on-error"]
 MEMORY = 4 << 30
 LARGEST_FILE = 256 << 20
 
@@ -107,7 +109,7 @@ class Worker:
         for flag in ("-MF", "-MT"):
             if flag in arguments:
                 arguments[arguments.index(flag) + 1] = os.devnull
-        return subprocess.run(arguments + ["-O0", "-w"], cwd=self.build.folder,
+        return subprocess.run(arguments + FLAGS, cwd=self.build.folder,
                               capture_output=True).returncode == 0
 
     def link(self, target, objects, linked):
