@@ -40,7 +40,7 @@ class CanonicalText {
   // integer below 2^54 times 2^-1075. All numbers that begin with the same 768 digits thus lie on
   // one side of it, but for the one that ends there. One more "1" stands for whatever follows.
   static constexpr std::size_t most_digits = 768;
-  static constexpr std::size_t most_behind_digits = 6;  // "1e-323"
+  static constexpr std::size_t most_behind_digits = std::string_view("1e-323").size();
 
   char* digits_end() { return text_.data() + 1 + count_; }
 

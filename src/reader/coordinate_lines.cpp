@@ -26,11 +26,10 @@ bool is_blank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0;
 std::optional<ChargeAndMultiplicity> parse_charge_and_multiplicity(std::string_view line) {
   const std::vector<std::string> tokens = text::split_whitespace(line);
   if (tokens.size() != 2) return std::nullopt;
-  int charge = 0;
-  int multiplicity = 0;
-  if (!text::try_parse_int(tokens[0], charge)) return std::nullopt;
-  if (!text::try_parse_int(tokens[1], multiplicity)) return std::nullopt;
-  return ChargeAndMultiplicity{charge, multiplicity};
+  ChargeAndMultiplicity numbers{};
+  if (!text::try_parse_int(tokens[0], numbers.charge)) return std::nullopt;
+  if (!text::try_parse_int(tokens[1], numbers.multiplicity)) return std::nullopt;
+  return numbers;
 }
 
 // reference-line = ( "XYZ" / "XYZTRAJ" ) [ path ] ; keyword in any letter case, path with its

@@ -33,7 +33,6 @@ std::size_t append_bytes(std::filebuf& file, std::size_t limit, std::string& con
 
 std::string read_to_end(std::filebuf& file, std::size_t size_hint) {
   std::string content;
-  content.reserve(size_hint);
   append_bytes(file, size_hint, content);
   // The size is a hint only: a pipe has none, and a file may grow while it is read.
   while (file.sgetc() != std::filebuf::traits_type::eof()) append_bytes(file, chunk_size, content);

@@ -51,6 +51,7 @@ HeaderCommand parse_assignment(std::string_view body, std::size_t equals) {
                        unquote_value(std::string(body.substr(equals + 1))));
 }
 
+/// `body` ends in no blank, so whatever follows the parenthesis is text.
 HeaderCommand parse_parameterised(std::string_view body, std::size_t open,
                                   std::vector<std::string>& warnings, std::uint64_t line_number) {
   HeaderCommand command(text::trim(body.substr(0, open)), HeaderCommandKind::ParameterList);
@@ -61,7 +62,7 @@ HeaderCommand parse_parameterised(std::string_view body, std::size_t open,
     return command;
   }
   command.parameters = parse_parameter_list(body.substr(open + 1, close - open - 1));
-  if (!text::trim(body.substr(close + 1)).empty()) {
+  if (close + 1 < body.size()) {
     warnings.push_back(line_diagnostic(line_number, message::trailing_text));
   }
   return command;

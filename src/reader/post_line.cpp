@@ -27,14 +27,9 @@ bool parse_atom_numbers(const std::vector<std::string>& tokens, std::size_t end,
 /// scan = "S" 2*4integer number integer
 bool parse_scan(const std::vector<std::string>& tokens, PostCommand& command) {
   const std::size_t value_at = tokens.size() - 2;
-  double value = 0.0;
-  int steps = 0;
-  if (!parse_atom_numbers(tokens, value_at, command.atom_indices)) return false;
-  if (!text::try_parse_double(tokens[value_at], value)) return false;
-  if (!text::try_parse_int(tokens[value_at + 1], steps)) return false;
-  command.scan_value = value;
-  command.scan_steps = steps;
-  return true;
+  return parse_atom_numbers(tokens, value_at, command.atom_indices) &&
+         text::try_parse_double(tokens[value_at], command.scan_value.emplace()) &&
+         text::try_parse_int(tokens[value_at + 1], command.scan_steps.emplace());
 }
 
 /// Reads what follows the keyword of a line that has the number of tokens of its kind.

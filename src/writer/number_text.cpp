@@ -5,6 +5,7 @@
 #include <cstring>
 #include <limits>
 #include <optional>
+#include <string_view>
 
 namespace kelp::input::quill {
 
@@ -13,14 +14,13 @@ namespace {
 constexpr int coordinate_decimals = 6;
 constexpr std::uint64_t millionths_per_unit = 1'000'000;
 
-// A sign, every digit before the point of the largest double, the point and the decimals.
+// The largest double has a digit and max_exponent10 more before the point.
 constexpr std::size_t longest_coordinate =
-    1 + std::numeric_limits<double>::max_exponent10 + 1 + 1 + coordinate_decimals;
+    std::numeric_limits<double>::max_exponent10 + std::string_view("-1.000000").size();
 
-// A sign, six digits, the point and an exponent such as "e-308".
-constexpr std::size_t longest_scan_value = 1 + 6 + 1 + 5;
+constexpr std::size_t longest_scan_value = std::string_view("-1.23457e-308").size();
 
-constexpr std::size_t longest_integer = std::numeric_limits<std::int32_t>::digits10 + 2;
+constexpr std::size_t longest_integer = std::string_view("-2147483648").size();
 
 #if defined(__SIZEOF_INT128__) && !defined(KELP_QUILL_INP_PORTABLE_NUMBERS)
 __extension__ using Uint128 = unsigned __int128;
@@ -31,21 +31,23 @@ __extension__ using Uint128 = unsigned __int128;
 ///
 /// A double is m * 2^-s with m < 2^53, so m * 10^6 < 2^73 is exact in 128 bits, and of the sum with
 /// half a millionth only the bits below 2^s are lost: all of them are 0 exactly for a tie. From
-/// s = 75 on the result is less than half a millionth. Below 2^20, s is at least 33.
+/// s = 75 on the result is less than half a millionth; the sum holds it up to s = 127. Below 2^20,
+/// s is at least 33.
 std::optional<std::uint64_t> to_millionths(double value) {
   constexpr double limit = 999'999.0;
   constexpr int mantissa_bits = std::numeric_limits<double>::digits - 1;
   constexpr std::uint64_t hidden_bit = std::uint64_t{1} << mantissa_bits;
+  constexpr unsigned sum_bits = 128;
   if (!(std::fabs(value) < limit)) return std::nullopt;
   std::uint64_t bits = 0;
   std::memcpy(&bits, &value, sizeof bits);
   const auto exponent = static_cast<unsigned>(bits >> mantissa_bits) & 0x7FFU;
   const unsigned shift = 1075U - exponent;
-  if (shift >= 75U) return 0;
+  if (shift >= sum_bits) return 0;
   const Uint128 product = Uint128{(bits & (hidden_bit - 1)) | hidden_bit} * millionths_per_unit;
   const Uint128 sum = product + (Uint128{1} << (shift - 1));
   const auto rounded = static_cast<std::uint64_t>(sum >> shift);
-  const bool is_tie = sum << (128U - shift) == 0;
+  const bool is_tie = sum << (sum_bits - shift) == 0;
   return is_tie ? rounded & ~std::uint64_t{1} : rounded;
 }
 #else

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "model/post_line_shapes.hpp"
@@ -149,21 +150,22 @@ void append_post_command(std::string& out, const PostCommand& command) {
 /// How much room to reserve, so that a whole input is written without growing the text: the stored
 /// strings and what stands around them, and usual lengths for numbers. Text that needs more grows.
 std::size_t expected_size(const HeaderCommand& command) {
-  std::size_t size = command.name.size() + 7;
+  std::size_t size = command.name.size() + std::string_view("# = \n").size();
   if (command.value) size += command.value->size();
   for (const CommandParameter& parameter : command.parameters) {
-    size += parameter.name.size() + 3;
+    size += parameter.name.size() + std::string_view("=, ").size();
     if (parameter.value) size += parameter.value->size();
   }
   return size;
 }
 
 std::size_t expected_size(const GeometryBlock& geometry) {
-  std::size_t size = 24;
+  std::size_t size = std::string_view("-2147483648 -2147483648\n").size();
   if (geometry.kind == GeometryKind::Atoms) {
     size += geometry.atoms.size() * atom_line_size;
   } else {
-    for (const std::string& path : geometry.xyz_files) size += path.size() + 9;
+    for (const std::string& path : geometry.xyz_files)
+      size += path.size() + std::string_view("XYZTRAJ \n").size();
   }
   return size;
 }

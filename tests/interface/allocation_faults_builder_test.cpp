@@ -227,6 +227,15 @@ TEST(ABuilder, HandsTheParametersOfATaskOverWithoutCopyingThem) {
             of_copying + of_editing + of_copying_back);
 }
 
+TEST(ABuilder, MakesRoomForAnAtomTogetherWithTheCopyItIsAddedTo) {
+  InputBuilder builder;
+  builder.set_geometry(std::vector<AtomRecord>(100, AtomRecord{"O", 0.0, 0.0, 0.0}));
+  const AtomRecord oxygen{"O", 0.0, 0.0, 1.0};
+  constexpr std::uint64_t of_the_copy = 1;
+  constexpr std::uint64_t of_copying_back = 1;
+  EXPECT_EQ(allocations_of([&] { builder.add_atom(oxygen); }), of_the_copy + of_copying_back);
+}
+
 TEST(ABuilder, GivesAWholeTextOrNone) {
   const InputBuilder builder = make_builder(Start::WithAtoms);
   EXPECT_GT(expect_whole_answer_or_none([&] { return builder.to_string(); }), 0U);

@@ -163,6 +163,17 @@ TEST(ReadingAtoms, KeepsNoRoomForLinesThatAreNone) {
   EXPECT_EQ(parse_string("0 1\nnote\n").input.geometry.atoms.capacity(), 0U);
 }
 
+TEST(ReadingAtoms, TakesLessThanTwiceTheRoomOfTheAtoms) {
+  constexpr std::size_t lines = 60;
+  for (std::size_t count = 1; count <= lines; ++count) {
+    std::string text;
+    for (std::size_t i = 0; i < lines; ++i) text += i < count ? "O 0 0 0\n" : "note\n";
+    const ParseResult result = parse_string(text);
+    EXPECT_EQ(result.input.geometry.atoms.size(), count);
+    EXPECT_LT(result.input.geometry.atoms.capacity(), 2 * count);
+  }
+}
+
 TEST(ReadingTwice, GivesTheSameAgain) {
   const std::string text = "#opt(\n1 2\nXx 1 2 3\nB 1 x";
   const ParseResult first = parse_string(text);

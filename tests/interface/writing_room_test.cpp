@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -13,11 +15,13 @@
 namespace kelp::input::quill {
 namespace {
 
+constexpr std::size_t number_of_parts = 1400;
+
 std::string name_of_size(std::size_t size) { return std::string(size, 'n'); }
 
 template <typename Part>
 std::vector<Part> many(const Part& part) {
-  return std::vector<Part>(1400, part);
+  return std::vector<Part>(number_of_parts, part);
 }
 
 QuillInput with_commands(const HeaderCommand& command) {
@@ -68,6 +72,7 @@ PostCommand post_file() {
 struct Row {
   std::string name;
   QuillInput input;
+  std::size_t unused;  ///< the bytes reserved for each part beyond those that it takes
 };
 
 void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
@@ -75,25 +80,44 @@ void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 class RoomOfAnInput : public testing::TestWithParam<Row> {};
 
 TEST_P(RoomOfAnInput, IsReservedAtOnce) {
+  constexpr std::size_t for_everything_else = 32;
   const std::string text = GetParam().input.to_string();
-  EXPECT_LT(text.capacity(), text.size() + text.size() / 5);
+  EXPECT_LE(text.capacity(),
+            text.size() + number_of_parts * GetParam().unused + for_everything_else);
 }
 
 const Row rows[] = {
-    {"OfFlags", with_commands(HeaderCommand{name_of_size(30)})},
-    {"OfAssignments", with_commands(HeaderCommand{name_of_size(10), HeaderCommandKind::Assignment,
-                                                  name_of_size(30)})},
-    {"OfParameters", with_parameters()},
-    {"OfAtoms", with_atoms()},
-    {"OfFiles", with_files()},
-    {"OfScans", with_post_commands(PostCommand{
-                    PostCommandKind::Scan, {10001, 10002, 10003, 10004}, -123.456, 10000})},
-    {"OfPostFiles", with_post_commands(post_file())},
-    {"OfRawLines", with_post_commands(raw_line())},
+    {"OfFlags", with_commands(HeaderCommand{name_of_size(30)}), 3},
+    {"OfAssignments",
+     with_commands(
+         HeaderCommand{name_of_size(10), HeaderCommandKind::Assignment, name_of_size(30)}),
+     0},
+    {"OfParameters", with_parameters(), 0},
+    {"OfAtoms", with_atoms(), 0},
+    {"OfFiles", with_files(), 4},
+    {"OfTheLongestScanValues",
+     with_post_commands(
+         PostCommand{PostCommandKind::Scan, {10001, 10002, 10003, 10004}, -1.23456e-300, 1000000}),
+     0},
+    {"OfPostFiles", with_post_commands(post_file()), 18},
+    {"OfRawLines", with_post_commands(raw_line()), 0},
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, RoomOfAnInput, testing::ValuesIn(rows),
                          [](const auto& row) { return row.param.name; });
+
+TEST(RoomOfAnInput, IsThatOfTheLongestTextItCanTake) {
+  QuillInput input;
+  input.commands.emplace_back("model", HeaderCommandKind::Assignment, name_of_size(40));
+  input.geometry.has_charge_and_multiplicity = true;
+  input.geometry.charge = std::numeric_limits<std::int32_t>::min();
+  input.geometry.multiplicity = std::numeric_limits<std::int32_t>::min();
+  input.geometry.kind = GeometryKind::XyzTrajectory;
+  input.geometry.xyz_files = {name_of_size(60)};
+  input.post_commands = {raw_line()};
+  const std::string text = input.to_string();
+  EXPECT_EQ(text.capacity(), text.size());
+}
 
 }  // namespace
 }  // namespace kelp::input::quill
