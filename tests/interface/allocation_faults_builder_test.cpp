@@ -227,13 +227,30 @@ TEST(ABuilder, HandsTheParametersOfATaskOverWithoutCopyingThem) {
             of_copying + of_editing + of_copying_back);
 }
 
-TEST(ABuilder, MakesRoomForAnAtomTogetherWithTheCopyItIsAddedTo) {
-  InputBuilder builder;
-  builder.set_geometry(std::vector<AtomRecord>(100, AtomRecord{"O", 0.0, 0.0, 0.0}));
-  const AtomRecord oxygen{"O", 0.0, 0.0, 1.0};
+TEST(ABuilder, MakesRoomForWhatItAddsTogetherWithTheCopyItIsAddedTo) {
   constexpr std::uint64_t of_the_copy = 1;
   constexpr std::uint64_t of_copying_back = 1;
-  EXPECT_EQ(allocations_of([&] { builder.add_atom(oxygen); }), of_the_copy + of_copying_back);
+  static const AtomRecord hydrogen{"H", 0.0, 0.0, 1.0};
+  PostCommand short_line;
+  short_line.raw_text = "end";
+  InputBuilder flags;
+  InputBuilder lines;
+  InputBuilder atoms_only;
+  for (int i = 0; i < 100; ++i) {
+    flags.add_command(flag("opt"));
+    lines.add_post_command(short_line);
+    atoms_only.add_atom(hydrogen);
+  }
+  // A copied list has no room to spare.
+  const auto allocations_in_a_copy = [](InputBuilder builder, const auto& operation) {
+    return allocations_of([&] { operation(builder); });
+  };
+  EXPECT_EQ(allocations_in_a_copy(flags, [](auto& builder) { builder.set_flag("freq"); }),
+            of_the_copy + of_copying_back);
+  EXPECT_EQ(allocations_in_a_copy(lines, [](auto& builder) { builder.set_post_file("a"); }),
+            of_the_copy + of_copying_back);
+  EXPECT_EQ(allocations_in_a_copy(atoms_only, [](auto& builder) { builder.add_atom(hydrogen); }),
+            of_the_copy + of_copying_back);
 }
 
 TEST(ABuilder, GivesAWholeTextOrNone) {

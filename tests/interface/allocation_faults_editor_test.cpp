@@ -242,6 +242,17 @@ TEST(WhatNeedsNoMemory, CannotRunOutOfIt) {
   EXPECT_EQ(window.allocations(), 0U);
 }
 
+TEST(AnEditor, MakesRoomForAllAtomsOfAGeometryAtOnce) {
+  constexpr std::uint64_t of_converting = 1;
+  constexpr std::uint64_t of_copying = 1;
+  const kelp::core::Geometry geometry{
+      std::vector<kelp::core::Atom>(100, kelp::core::Atom{"O", 0.0, 0.0, 0.0})};
+  InputEditor editor{QuillInput()};
+  const AllocationWindow window;
+  editor.set_geometry(geometry);
+  EXPECT_EQ(window.allocations(), of_converting + of_copying);
+}
+
 TEST(AFailedAllocation, LeavesNoHalfAnAnswerOfAnEditor) {
   const InputEditor editor(long_document(Geometry::Atoms));
   const QuillInput before = editor.document();

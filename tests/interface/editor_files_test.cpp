@@ -153,6 +153,12 @@ TEST(AnEmptiedList, KeepsItsRoomWhenTheFirstAtomIsAdded) {
   EXPECT_GE(editor.document().geometry.xyz_files.capacity(), 100U);
 }
 
+TEST(TheFirstAtom, TakesRoomForItselfOnly) {
+  InputEditor editor{QuillInput()};
+  editor.add_atom(AtomRecord{"H", 0.0, 0.0, 0.0});
+  EXPECT_EQ(editor.document().geometry.atoms.capacity(), 1U);
+}
+
 }  // namespace
 
 }  // namespace kelp::input::quill
