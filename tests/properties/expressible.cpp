@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 
+#include "properties/obvious_elements.hpp"
 #include "properties/obvious_reader.hpp"
 #include "properties/obvious_text.hpp"
 #include "properties/obvious_writer.hpp"

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "properties/obvious_elements.hpp"
 #include "properties/obvious_reader.hpp"
 #include "properties/obvious_text.hpp"
 

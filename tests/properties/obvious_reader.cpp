@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "properties/obvious_elements.hpp"
 #include "properties/obvious_text.hpp"
 
 namespace kelp::input::quill::obvious {

@@ -1,7 +1,5 @@
 #include "properties/obvious_text.hpp"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
@@ -15,17 +13,6 @@ constexpr std::string_view blanks = " \t\n\v\f\r";
 constexpr std::string_view lower_letters = "abcdefghijklmnopqrstuvwxyz";
 constexpr std::string_view upper_letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 constexpr std::string_view digits = "0123456789";
-
-// Period by period.
-constexpr std::array<std::string_view, 118> element_symbols = {
-    "H",  "He", "Li", "Be", "B",  "C",  "N",  "O",  "F",  "Ne", "Na", "Mg", "Al", "Si", "P",
-    "S",  "Cl", "Ar", "K",  "Ca", "Sc", "Ti", "V",  "Cr", "Mn", "Fe", "Co", "Ni", "Cu", "Zn",
-    "Ga", "Ge", "As", "Se", "Br", "Kr", "Rb", "Sr", "Y",  "Zr", "Nb", "Mo", "Tc", "Ru", "Rh",
-    "Pd", "Ag", "Cd", "In", "Sn", "Sb", "Te", "I",  "Xe", "Cs", "Ba", "La", "Ce", "Pr", "Nd",
-    "Pm", "Sm", "Eu", "Gd", "Tb", "Dy", "Ho", "Er", "Tm", "Yb", "Lu", "Hf", "Ta", "W",  "Re",
-    "Os", "Ir", "Pt", "Au", "Hg", "Tl", "Pb", "Bi", "Po", "At", "Rn", "Fr", "Ra", "Ac", "Th",
-    "Pa", "U",  "Np", "Pu", "Am", "Cm", "Bk", "Cf", "Es", "Fm", "Md", "No", "Lr", "Rf", "Db",
-    "Sg", "Bh", "Hs", "Mt", "Ds", "Rg", "Cn", "Nh", "Fl", "Mc", "Lv", "Ts", "Og"};
 
 bool is_one_of(char c, std::string_view set) { return set.find(c) != std::string_view::npos; }
 
@@ -145,16 +132,6 @@ std::optional<double> number(std::string_view token) {
   const double value = std::strtod(exchanged(token, "dD", "ee").c_str(), nullptr);
   if (std::isinf(value)) return std::nullopt;
   return value;
-}
-
-std::string normal_symbol(std::string_view symbol) {
-  return upper(symbol.substr(0, 1)) + lower(symbol.substr(std::min<std::size_t>(1, symbol.size())));
-}
-
-std::optional<int> atomic_number(std::string_view symbol) {
-  const auto* const place = std::find(element_symbols.begin(), element_symbols.end(), symbol);
-  if (place == element_symbols.end()) return std::nullopt;
-  return static_cast<int>(place - element_symbols.begin()) + 1;
 }
 
 }  // namespace kelp::input::quill::obvious

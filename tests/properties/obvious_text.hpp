@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-// The text and element functions once more, written for nothing but to be seen to be right: one
+// The text functions once more, written for nothing but to be seen to be right: one
 // byte at a time, numbers by the C library. They are right in the "C" locale only.
 
 namespace kelp::input::quill::obvious {
@@ -27,9 +27,6 @@ std::string rest_after_first_word(std::string_view text);
 
 std::optional<int> integer(std::string_view token);
 std::optional<double> number(std::string_view token);
-
-std::string normal_symbol(std::string_view symbol);
-std::optional<int> atomic_number(std::string_view symbol);
 
 }  // namespace kelp::input::quill::obvious
 

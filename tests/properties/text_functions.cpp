@@ -11,6 +11,7 @@
 
 #include "kelp/chem/elements.hpp"
 #include "kelp/core/text.hpp"
+#include "properties/obvious_elements.hpp"
 #include "properties/obvious_text.hpp"
 #include "properties/violation.hpp"
 

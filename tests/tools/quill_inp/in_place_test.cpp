@@ -106,15 +106,19 @@ INSTANTIATE_TEST_SUITE_P(
                     ModeRow{"NoUmaskAtAll", 0644, 0}, ModeRow{"UmaskOfEverything", 0644, 0777}),
     [](const auto& row) { return row.param.name; });
 
-TEST(InPlace, NeedsTheRightToWriteTheFile) {
-  const TemporaryFolder folder;
-  const std::string path = folder.write("a.qin", water);
-  chmod(path.c_str(), 0444);
+Outcome change_without_privileges(const TemporaryFolder& folder) {
   Request request;
   request.arguments = change;
   request.folder = folder.path();
   request.without_privileges = true;
-  EXPECT_EQ(run_program(request),
+  return run_program(request);
+}
+
+TEST(InPlace, NeedsTheRightToWriteTheFile) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("a.qin", water);
+  chmod(path.c_str(), 0444);
+  EXPECT_EQ(change_without_privileges(folder),
             ended(2, "", "a.qin: error: cannot be written: Permission denied\n"));
   EXPECT_EQ(content_of(path), water);
 }
@@ -123,13 +127,10 @@ TEST(InPlace, NeedsTheRightToWriteTheFolder) {
   const TemporaryFolder folder;
   const std::string path = folder.write("a.qin", water);
   chmod(folder.path().c_str(), 0555);
-  Request request;
-  request.arguments = change;
-  request.folder = folder.path();
-  request.without_privileges = true;
-  EXPECT_EQ(run_program(request), ended(2, "",
-                                        "a.qin: error: cannot create a temporary file in the same "
-                                        "folder: Permission denied\n"));
+  EXPECT_EQ(change_without_privileges(folder),
+            ended(2, "",
+                  "a.qin: error: cannot create a temporary file in the same "
+                  "folder: Permission denied\n"));
   chmod(folder.path().c_str(), 0755);
   EXPECT_EQ(content_of(path), water);
   EXPECT_EQ(names_in(folder.path()), Names{"a.qin"});
@@ -139,12 +140,8 @@ TEST(InPlace, NeedsTheRightToReadTheFolder) {
   const TemporaryFolder folder;
   const std::string path = folder.write("a.qin", water);
   chmod(folder.path().c_str(), 0333);
-  Request request;
-  request.arguments = change;
-  request.folder = folder.path();
-  request.without_privileges = true;
   EXPECT_EQ(
-      run_program(request),
+      change_without_privileges(folder),
       ended(2, "", "a.qin: error: the folder of the file cannot be opened: Permission denied\n"));
   chmod(folder.path().c_str(), 0755);
   EXPECT_EQ(content_of(path), water);

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "files.hpp"
@@ -28,31 +29,20 @@ std::string output_failure(const std::string& reason) {
 
 class EveryVerbThatPrints : public testing::TestWithParam<std::vector<std::string>> {};
 
-TEST_P(EveryVerbThatPrints, TellsThatStandardOutputIsFull) {
+TEST_P(EveryVerbThatPrints, TellsWhyItCannot) {
   const TemporaryFolder folder;
   folder.write("a.qin", water);
   folder.write("a.json", "{}");
-  Request request = call(folder, GetParam());
-  request.out = Connection::FullDevice;
-  EXPECT_EQ(run_program(request), ended(2, "", output_failure("No space left on device")));
-}
-
-TEST_P(EveryVerbThatPrints, TellsThatNobodyReadsItsOutput) {
-  const TemporaryFolder folder;
-  folder.write("a.qin", water);
-  folder.write("a.json", "{}");
-  Request request = call(folder, GetParam());
-  request.out = Connection::BrokenPipe;
-  EXPECT_EQ(run_program(request), ended(2, "", output_failure("Broken pipe")));
-}
-
-TEST_P(EveryVerbThatPrints, TellsThatItHasNoOutput) {
-  const TemporaryFolder folder;
-  folder.write("a.qin", water);
-  folder.write("a.json", "{}");
-  Request request = call(folder, GetParam());
-  request.out = Connection::Closed;
-  EXPECT_EQ(run_program(request), ended(2, "", output_failure("Bad file descriptor")));
+  const std::pair<Connection, const char*> reasons[] = {
+      {Connection::FullDevice, "No space left on device"},
+      {Connection::BrokenPipe, "Broken pipe"},
+      {Connection::Closed, "Bad file descriptor"},
+  };
+  for (const auto& [connection, reason] : reasons) {
+    Request request = call(folder, GetParam());
+    request.out = connection;
+    EXPECT_EQ(run_program(request), ended(2, "", output_failure(reason)));
+  }
 }
 
 using Arguments = std::vector<std::string>;

@@ -13,13 +13,15 @@
 #include <vector>
 
 #include "parsed_double.hpp"
-#include "restatement.hpp"
+#include "properties/obvious_text.hpp"
 #include "text_samples.hpp"
 
 // Every number here, however it was made, is read as the C library reads it, bit by bit.
 
 namespace kelp::core::text {
 namespace {
+
+namespace obvious = kelp::input::quill::obvious;
 
 using Random = std::mt19937_64;
 using Limits = std::numeric_limits<double>;
@@ -53,8 +55,7 @@ std::string in_17_digits(double value) {
 /// Does nothing more in a test that has failed: one number says enough.
 void expect_as_strtod(const std::string& token) {
   if (testing::Test::HasFailure()) return;
-  EXPECT_EQ(parsed(token), ParsedDouble(restated::parse_double(token)))
-      << testing::PrintToString(token);
+  EXPECT_EQ(parsed(token), ParsedDouble(obvious::number(token))) << testing::PrintToString(token);
 }
 
 /// The number as it stands, with either sign, and with the exponent letters of Fortran.
@@ -133,7 +134,7 @@ TEST(ParseDoubleAsStrtod, OfPowersOfTenAndTheirNeighbours) {
   for (int exponent = -400; exponent <= 400; ++exponent) {
     const std::string power = "1e" + std::to_string(exponent);
     expect_all_forms_as_strtod(power);
-    const double value = restated::parse_double(power).value_or(Limits::max());
+    const double value = obvious::number(power).value_or(Limits::max());
     expect_all_forms_as_strtod(in_17_digits(std::nextafter(value, 0.0)));
     expect_all_forms_as_strtod(in_17_digits(std::nextafter(value, Limits::infinity())));
   }

@@ -4,11 +4,13 @@
 #include <string>
 
 #include "kelp/core/text.hpp"
-#include "restatement.hpp"
+#include "properties/obvious_text.hpp"
 #include "text_samples.hpp"
 
 namespace kelp::core::text {
 namespace {
+
+namespace obvious = kelp::input::quill::obvious;
 
 using namespace std::string_literals;
 
@@ -45,16 +47,16 @@ INSTANTIATE_TEST_SUITE_P(Table, LetterCase, testing::ValuesIn(rows),
 TEST(LetterCaseOfEveryByte, IsThatOfTheCLocale) {
   for (const char c : every_byte()) {
     const std::string text(1, c);
-    EXPECT_EQ(to_lower_copy(text), restated::to_lower_copy(text)) << testing::PrintToString(text);
-    EXPECT_EQ(to_upper_copy(text), restated::to_upper_copy(text)) << testing::PrintToString(text);
+    EXPECT_EQ(to_lower_copy(text), obvious::lower(text)) << testing::PrintToString(text);
+    EXPECT_EQ(to_upper_copy(text), obvious::upper(text)) << testing::PrintToString(text);
   }
 }
 
 TEST(LetterCaseOfRandomTexts, IsThatOfTheCLocale) {
   for (const std::string& text : random_texts()) {
     const ExactBlock block(text);
-    ASSERT_EQ(to_lower_copy(block.view()), restated::to_lower_copy(text));
-    ASSERT_EQ(to_upper_copy(block.view()), restated::to_upper_copy(text));
+    ASSERT_EQ(to_lower_copy(block.view()), obvious::lower(text));
+    ASSERT_EQ(to_upper_copy(block.view()), obvious::upper(text));
   }
 }
 

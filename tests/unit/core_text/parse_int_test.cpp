@@ -8,11 +8,13 @@
 #include <vector>
 
 #include "kelp/core/text.hpp"
-#include "restatement.hpp"
+#include "properties/obvious_text.hpp"
 #include "text_samples.hpp"
 
 namespace kelp::core::text {
 namespace {
+
+namespace obvious = kelp::input::quill::obvious;
 
 using namespace std::string_literals;
 
@@ -118,7 +120,7 @@ TEST(ParseIntNearPowers, ReadsWhatFitsAnIntAndNothingElse) {
     const bool fits = number >= INT32_MIN && number <= INT32_MAX;
     const auto value = fits ? std::optional<int>(static_cast<int>(number)) : std::nullopt;
     EXPECT_EQ(parsed(digits), value) << digits;
-    EXPECT_EQ(restated::parse_int(digits), value) << digits;
+    EXPECT_EQ(obvious::integer(digits), value) << digits;
     if (number >= 0) {
       EXPECT_EQ(parsed("+" + digits), value) << digits;
     }
@@ -127,14 +129,14 @@ TEST(ParseIntNearPowers, ReadsWhatFitsAnIntAndNothingElse) {
 
 TEST(ParseIntOfEveryShortToken, ReadsASignAndDigitsOnly) {
   for (const std::string& token : every_short_text("09+-.e x", 6)) {
-    ASSERT_EQ(parsed(token), restated::parse_int(token)) << testing::PrintToString(token);
+    ASSERT_EQ(parsed(token), obvious::integer(token)) << testing::PrintToString(token);
   }
 }
 
 TEST(ParseIntOfEveryByte, TakesDigitsOnly) {
   for (const char c : every_byte()) {
     for (const std::string& token : {""s + c, c + "1"s, "1"s + c, "-"s + c, "1"s + c + "2"}) {
-      EXPECT_EQ(parsed(token), restated::parse_int(token)) << testing::PrintToString(token);
+      EXPECT_EQ(parsed(token), obvious::integer(token)) << testing::PrintToString(token);
     }
   }
 }
@@ -144,7 +146,7 @@ TEST(ParseIntOfRandomNumbers, GivesWhatStrtollGives) {
   for (int i = 0; i < 100'000; ++i) {
     const auto bits = static_cast<std::int64_t>(random());
     const std::string token = std::to_string(bits >> (random() % 64));
-    ASSERT_EQ(parsed(ExactBlock(token).view()), restated::parse_int(token)) << token;
+    ASSERT_EQ(parsed(ExactBlock(token).view()), obvious::integer(token)) << token;
   }
 }
 

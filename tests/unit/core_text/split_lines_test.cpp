@@ -7,11 +7,13 @@
 #include <vector>
 
 #include "kelp/core/text.hpp"
-#include "restatement.hpp"
+#include "properties/obvious_text.hpp"
 #include "text_samples.hpp"
 
 namespace kelp::core::text {
 namespace {
+
+namespace obvious = kelp::input::quill::obvious;
 
 using namespace std::string_literals;
 
@@ -66,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(Table, SplitLines, testing::ValuesIn(rows),
 TEST(SplitLinesOfEveryByte, EndsALineAtALineFeedOnly) {
   for (const char c : every_byte()) {
     for (const std::string& text : {""s + c, "a"s + c + "b", "a"s + c + "\nb", "a\n"s + c}) {
-      EXPECT_EQ(split_lines(text), restated::split_lines(text)) << testing::PrintToString(text);
+      EXPECT_EQ(split_lines(text), obvious::lines(text)) << testing::PrintToString(text);
     }
   }
 }
@@ -74,7 +76,7 @@ TEST(SplitLinesOfEveryByte, EndsALineAtALineFeedOnly) {
 TEST(SplitLinesOfRandomTexts, EndsALineAtEachLineFeed) {
   for (const std::string& text : random_texts()) {
     const Lines lines = split_lines(ExactBlock(text).view());
-    ASSERT_EQ(lines, restated::split_lines(text)) << testing::PrintToString(text);
+    ASSERT_EQ(lines, obvious::lines(text)) << testing::PrintToString(text);
     const auto line_feeds = std::count(text.begin(), text.end(), '\n');
     const bool is_ended = text.empty() || text.back() == '\n';
     ASSERT_EQ(lines.size(), static_cast<std::size_t>(line_feeds) + (is_ended ? 0 : 1));

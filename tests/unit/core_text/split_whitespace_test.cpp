@@ -10,11 +10,13 @@
 #include <vector>
 
 #include "kelp/core/text.hpp"
-#include "restatement.hpp"
+#include "properties/obvious_text.hpp"
 #include "text_samples.hpp"
 
 namespace kelp::core::text {
 namespace {
+
+namespace obvious = kelp::input::quill::obvious;
 
 using namespace std::string_literals;
 
@@ -66,7 +68,7 @@ TEST(SplitWhitespaceOfEveryByte, SplitsAtTheWhiteSpaceOfTheCLocaleWhereverItStan
       for (const char c : every_byte()) {
         std::string text(size, 'w');
         text[place] = c;
-        ASSERT_EQ(split_whitespace(ExactBlock(text).view()), restated::split_whitespace(text))
+        ASSERT_EQ(split_whitespace(ExactBlock(text).view()), obvious::words(text))
             << testing::PrintToString(text);
       }
     }
@@ -80,11 +82,11 @@ TEST(SplitWhitespaceAtEveryTwoPlaces, FindsEachWord) {
         std::string text(size, 'w');
         text[first] = '\t';
         text[second] = ' ';
-        ASSERT_EQ(split_whitespace(text), restated::split_whitespace(text)) << text;
+        ASSERT_EQ(split_whitespace(text), obvious::words(text)) << text;
         std::replace_if(
             text.begin(), text.end(), [](char c) { return c != 'w'; }, 'x');
         std::replace(text.begin(), text.end(), 'w', ' ');
-        ASSERT_EQ(split_whitespace(text), restated::split_whitespace(text)) << text;
+        ASSERT_EQ(split_whitespace(text), obvious::words(text)) << text;
       }
     }
   }
@@ -93,7 +95,7 @@ TEST(SplitWhitespaceAtEveryTwoPlaces, FindsEachWord) {
 TEST(SplitWhitespaceOfRandomTexts, GivesEveryOtherByteInOrder) {
   for (const std::string& text : random_texts()) {
     const Words words = split_whitespace(ExactBlock(text).view());
-    ASSERT_EQ(words, restated::split_whitespace(text)) << testing::PrintToString(text);
+    ASSERT_EQ(words, obvious::words(text)) << testing::PrintToString(text);
     std::string rest;
     std::copy_if(text.begin(), text.end(), std::back_inserter(rest),
                  [](unsigned char c) { return std::isspace(c) == 0; });
@@ -106,7 +108,7 @@ TEST(SplitWhitespaceOfATextOfAnyLength, TakesTheRoomOfItsWordsAndNoMore) {
     std::string text;
     while (text.size() < size) text += text.size() % 7 < 4 ? 'w' : ' ';
     const Words words = split_whitespace(text);
-    ASSERT_EQ(words, restated::split_whitespace(text)) << text;
+    ASSERT_EQ(words, obvious::words(text)) << text;
     ASSERT_EQ(words.capacity(), words.size()) << text;
   }
 }

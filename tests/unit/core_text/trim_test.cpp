@@ -4,11 +4,13 @@
 #include <string>
 
 #include "kelp/core/text.hpp"
-#include "restatement.hpp"
+#include "properties/obvious_text.hpp"
 #include "text_samples.hpp"
 
 namespace kelp::core::text {
 namespace {
+
+namespace obvious = kelp::input::quill::obvious;
 
 using namespace std::string_literals;
 
@@ -47,14 +49,14 @@ INSTANTIATE_TEST_SUITE_P(Table, Trim, testing::ValuesIn(rows),
 TEST(TrimOfEveryByte, RemovesTheWhiteSpaceOfTheCLocaleAndNothingElse) {
   for (const char c : every_byte()) {
     for (const std::string& text : {""s + c, c + "word"s, "word"s + c, "two"s + c + "words"}) {
-      EXPECT_EQ(trim(text), restated::trim(text)) << testing::PrintToString(text);
+      EXPECT_EQ(trim(text), obvious::trim(text)) << testing::PrintToString(text);
     }
   }
 }
 
 TEST(TrimOfRandomTexts, IsTheTextWithoutItsOuterWhiteSpace) {
   for (const std::string& text : random_texts()) {
-    ASSERT_EQ(trim(ExactBlock(text).view()), restated::trim(text)) << testing::PrintToString(text);
+    ASSERT_EQ(trim(ExactBlock(text).view()), obvious::trim(text)) << testing::PrintToString(text);
   }
 }
 
