@@ -8,8 +8,8 @@
 //
 // A block of "text", or of no language, right behind one of C++ is what that one prints.
 //
-// In place of a page there may be a header. Its blocks are the indented lines of its comments; they
-// are of no use but to be compiled, since they name files that are not there.
+// In place of a page there may be a header. Its blocks are the indented lines of its comments. In
+// "EXPRESSION;  // VALUE" the comment is what the expression gives.
 
 #include <fstream>
 #include <iostream>
@@ -51,6 +51,14 @@ std::vector<Block> find_blocks(std::istream& page) {
   return blocks;
 }
 
+/// Lets a line of a header assert what its comment says.
+std::string with_assertion(const std::string& line) {
+  const std::size_t comment = line.find("  // ");
+  const std::size_t end = line.find(';');
+  if (comment == std::string::npos || end > comment) return line;
+  return "assert((" + line.substr(0, end) + ") == (" + line.substr(comment + 5) + "));";
+}
+
 std::vector<Block> find_blocks_of_header(std::istream& header) {
   const std::string prefix = "///     ";
   std::vector<Block> blocks;
@@ -59,7 +67,7 @@ std::vector<Block> find_blocks_of_header(std::istream& header) {
   for (std::size_t number = 1; std::getline(header, line); ++number) {
     const bool is_code = starts_with(line, prefix);
     if (is_code && !is_inside) blocks.push_back({number});
-    if (is_code) blocks.back().lines.push_back(line.substr(prefix.size()));
+    if (is_code) blocks.back().lines.push_back(with_assertion(line.substr(prefix.size())));
     is_inside = is_code || (is_inside && line == "///");
   }
   return blocks;

@@ -14,8 +14,8 @@
 /// Every operation does what the InputEditor operation of the same name does, and the result is the
 /// document that the same calls of an editor would give. Each operation either succeeds or leaves
 /// the builder's document as it was, except that a copy at its very end may run out of memory
-/// half-way. The price is two copies of the document for each call that finds or replaces
-/// something: to add thousands of atoms one by one, use an InputEditor, or set_geometry() once.
+/// half-way. The price is two copies of the document for each call that does not say that it costs
+/// none: to add thousands of atoms one by one, use an InputEditor, or set_geometry() once.
 ///
 /// A builder may be used by one thread at a time; distinct builders are independent.
 

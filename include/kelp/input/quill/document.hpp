@@ -151,10 +151,10 @@ struct PostCommand {
   /// checked, and they are not converted between counting from 0 and from 1.
   std::vector<std::int32_t> atom_indices;
 
-  /// Where a scan ends, in the unit of the file. Written with up to six significant digits.
+  /// The value of a scan, in the unit of the file. Written with up to six significant digits.
   std::optional<double> scan_value;
 
-  /// In how many steps a scan gets there. Written also when `scan_value` is missing.
+  /// The number of steps of a scan. Written also when `scan_value` is missing.
   std::optional<std::int32_t> scan_steps;
 
   /// The path of a post file, with its inner blanks. It is never opened.

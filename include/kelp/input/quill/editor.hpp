@@ -14,8 +14,13 @@
 /// is no error. Arguments may point into the editor's own document. An editor may be used by one
 /// thread at a time; distinct editors are independent.
 ///
-/// When memory runs out the document stays valid; unless a function says otherwise, it is then as
-/// before the call, except that a command which the call had to create first may be there.
+/// A view that has a length and no data cannot be stored: a function that is to make a name, a
+/// value or a path of it throws std::logic_error, "basic_string: construction from null is not
+/// valid". No such view can be looked for.
+///
+/// When that ends a call, or memory runs out, the document stays valid; unless a function says
+/// otherwise, it is then as before the call, except that a command which the call had to create
+/// first may be there.
 
 #include <cstdint>
 #include <optional>
@@ -132,10 +137,9 @@ class InputEditor {
   KELP_QUILL_INP_EXPORT void set_geometry(const kelp::core::Geometry& geometry);
 
   /// Replaces the geometry by references to any number of XYZ files, to one, and to a trajectory.
-  /// Throws std::logic_error, "basic_string: construction from null is not valid", for a view that
-  /// has a length and no data. When that or a lack of memory ends the call, set_xyz_files() and
-  /// set_xyz_trajectory() may have set the kind and removed the atoms already; for the same reason
-  /// the path of set_xyz_trajectory() must not be a view of an atom's symbol.
+  /// When memory runs out the kind may have been set and the atoms removed already. So it is after
+  /// a path of set_xyz_trajectory() without data; for the same reason that path must not be a view
+  /// of an atom's symbol.
   KELP_QUILL_INP_EXPORT void set_xyz_files(const std::vector<std::string>& files);
   KELP_QUILL_INP_EXPORT void set_xyz_file(std::string_view path);
   KELP_QUILL_INP_EXPORT void set_xyz_trajectory(std::string_view path);
@@ -159,12 +163,11 @@ class InputEditor {
   KELP_QUILL_INP_EXPORT void add_angle_constraint(int a, int b, int c);
   KELP_QUILL_INP_EXPORT void add_dihedral_constraint(int a, int b, int c, int d);
 
-  /// Appends a scan to `value` in `steps` steps. Two atoms name a bond, three an angle, four a
-  /// dihedral; any number is stored.
+  /// Appends a scan with its value and number of steps. Two atoms name a bond, three an angle, four
+  /// a dihedral; any number is stored.
   KELP_QUILL_INP_EXPORT void add_scan(const std::vector<int>& atoms, double value, int steps);
 
-  /// Appends a post-processing file; earlier ones stay. Throws for a view without data as
-  /// set_xyz_file() does.
+  /// Appends a post-processing file; earlier ones stay.
   KELP_QUILL_INP_EXPORT void set_post_file(std::string_view path);
 
  private:

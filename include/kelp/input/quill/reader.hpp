@@ -9,9 +9,9 @@
 ///     for (const std::string& warning : result.warnings) std::cerr << warning << '\n';
 ///     std::cout << result.input.geometry.atoms.size() << " atoms\n";
 ///
-/// No text is refused: whatever cannot be understood becomes a warning that names its line, and the
-/// lines after it are read as usual. Reading keeps no state; any number of threads may read at
-/// once.
+/// No text is refused: a line that cannot be understood is kept as text or becomes a warning that
+/// names it, and the lines after it are read as usual. Reading keeps no state; any number of
+/// threads may read at once.
 
 #include <string>
 #include <string_view>

@@ -12,8 +12,9 @@
 //
 // White space is the blank, "\t", "\n", "\v", "\f" and "\r". Every other byte, NUL and those above
 // 0x7F included, is an ordinary character, so UTF-8 text passes through unharmed. Nothing is thrown
-// for any text, unless memory for a result runs out. Every function is one pass, linear in the
-// length of its text. No function keeps any state; any number of threads may call them at once.
+// for any text, unless memory for a result runs out. Every function takes a time that is
+// linear in the length of its text. No function keeps any state; any number of threads may call
+// them at once.
 
 #include <string>
 #include <string_view>
