@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -88,10 +89,10 @@ const EditCase file_rows[] = {
 INSTANTIATE_TEST_SUITE_P(Table, SetXyz, testing::ValuesIn(file_rows), row_name<EditCase>);
 
 /// A path of three bytes that are nowhere.
-std::string_view path_without_data() { return {nullptr, 3}; }
+std::string_view text_without_data() { return {nullptr, 3}; }
 
 template <typename Operation>
-void expect_no_path(Operation operation) {
+void expect_text_refused(Operation operation) {
   try {
     operation();
     ADD_FAILURE() << "nothing was thrown";
@@ -103,22 +104,56 @@ void expect_no_path(Operation operation) {
 TEST(APathWithoutData, LeavesTheDocumentAsItIsWhenItIsThatOfOneFile) {
   const QuillInput before = placed(Kind::Atoms, three_atoms, {"a.xyz"});
   InputEditor editor(before);
-  expect_no_path([&] { editor.set_xyz_file(path_without_data()); });
+  expect_text_refused([&] { editor.set_xyz_file(text_without_data()); });
   EXPECT_EQ(editor.document(), before);
 }
 
 TEST(APathWithoutData, ComesAfterTheKindAndTheAtomsWhenItIsThatOfATrajectory) {
   InputEditor editor(placed(Kind::Atoms, three_atoms, {"a.xyz"}));
-  expect_no_path([&] { editor.set_xyz_trajectory(path_without_data()); });
+  expect_text_refused([&] { editor.set_xyz_trajectory(text_without_data()); });
   EXPECT_EQ(editor.document(), placed(Kind::XyzTrajectory, no_atoms, {"a.xyz"}));
 }
 
 TEST(APathWithoutData, AddsNoPostFile) {
   const QuillInput before = placed(Kind::Atoms, three_atoms, {"a.xyz"});
   InputEditor editor(before);
-  expect_no_path([&] { editor.set_post_file(path_without_data()); });
+  expect_text_refused([&] { editor.set_post_file(text_without_data()); });
   EXPECT_EQ(editor.document(), before);
 }
+
+using Change = void (*)(InputEditor&, std::string_view);
+
+struct WithoutDataRow {
+  const char* name;
+  Change change;
+};
+
+void PrintTo(const WithoutDataRow& row, std::ostream* out) { *out << row.name; }
+
+class ATextWithoutData : public testing::TestWithParam<WithoutDataRow> {};
+
+TEST_P(ATextWithoutData, LeavesTheDocumentAsItIs) {
+  InputEditor editor{QuillInput()};
+  expect_text_refused([&] { GetParam().change(editor, text_without_data()); });
+  EXPECT_EQ(editor.document(), QuillInput());
+}
+
+const WithoutDataRow without_data_rows[] = {
+    {"AsTheNameOfAFlag", [](auto& editor, auto text) { editor.set_flag(text); }},
+    {"AsTheNameOfATask", [](auto& editor, auto text) { editor.set_task(text, {}); }},
+    {"AsTheNameOfAnAssignment", [](auto& editor, auto text) { editor.set_assignment(text, "v"); }},
+    {"AsTheValueOfAnAssignment",
+     [](auto& editor, auto text) { editor.set_assignment("basis", text); }},
+    {"AsTheModel", [](auto& editor, auto text) { editor.set_model(text); }},
+    {"AsTheDevice", [](auto& editor, auto text) { editor.set_device(text); }},
+    {"AsTheNameOfAParameter",
+     [](auto& editor, auto text) { editor.set_parameter("opt", text, "1"); }},
+    {"AsTheValueOfAParameter",
+     [](auto& editor, auto text) { editor.set_parameter("opt", "tight", text); }},
+};
+
+INSTANTIATE_TEST_SUITE_P(Table, ATextWithoutData, testing::ValuesIn(without_data_rows),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 /// An editor whose two lists have room for more than they hold.
 InputEditor roomy_editor(Kind kind) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -143,10 +144,11 @@ std::locale shifted_locale() { return std::locale(std::locale::classic(), new Sh
 /// compiled for the occasion, so that the test does not depend on those that are installed.
 class CurrentCLocale {
  public:
-  CurrentCLocale(const std::string& language, const std::string& encoding)
+  /// `source` is the name of a locale's source, or the path of one.
+  CurrentCLocale(const std::string& source, const std::string& encoding)
       : before_(std::setlocale(LC_ALL, nullptr)) {
-    const std::string name = language + "." + encoding;
-    const std::string command = "localedef --no-archive -i " + language + " -f " + encoding + " '" +
+    const std::string name = "compiled." + encoding;
+    const std::string command = "localedef --no-archive -i '" + source + "' -f " + encoding + " '" +
                                 folder_.path(name) + "'";
     if (std::system(command.c_str()) != 0)
       throw std::runtime_error(
@@ -228,6 +230,53 @@ TEST(Locale, OfTheCLibraryWithDecimalCommaChangesNothing) {
   EXPECT_EQ(by_a_stream, "1,500000") << "the locale is not in force";
   expect_as_ever(of_c_alone);
   expect_as_ever(of_both);
+}
+
+/// The source of a locale in which the no-break space is white space.
+std::string source_with_a_further_space() {
+  std::string source =
+      "comment_char %\nescape_char /\n"
+      "LC_CTYPE\n"
+      "upper <U0041>..<U005A>\n"
+      "lower <U0061>..<U007A>\n"
+      "toupper (<U0061>,<U0041>)\n"
+      "tolower (<U0041>,<U0061>)\n"
+      "space <U0009>..<U000D>;<U0020>;<U00A0>\n"
+      "END LC_CTYPE\n";
+  for (const char* const category :
+       {"COLLATE", "MONETARY", "NUMERIC", "TIME", "MESSAGES", "PAPER", "NAME", "ADDRESS",
+        "TELEPHONE", "MEASUREMENT", "IDENTIFICATION"}) {
+    source += "LC_"s + category + "\ncopy \"de_DE\"\nEND LC_" + category + "\n";
+  }
+  return source;
+}
+
+TEST(Locale, DecidesOnTheBlanksBehindAFirstWordOnlyWhereBytesAreBlanks) {
+  const TemporaryFolder folder;
+  const std::string text = "XYZ \xA0 a.xyz\nPOST \xA0 out\n";
+  ParseResult in_one_byte;
+  ParseResult in_utf8;
+  {
+    const CurrentCLocale locale(folder.write("source", source_with_a_further_space()),
+                                "ISO-8859-1");
+    in_one_byte = parse_string(text);
+  }
+  {
+    const CurrentCLocale locale("de_DE", "UTF-8");
+    in_utf8 = parse_string(text);
+  }
+  EXPECT_EQ(in_one_byte, read_as({{}, files({"a.xyz"}), {post_file("out", "POST \xA0 out")}}));
+  EXPECT_EQ(in_utf8,
+            read_as({{}, files({"\xA0 a.xyz"}), {post_file("\xA0 out", "POST \xA0 out")}}));
+}
+
+TEST(Locale, DoesNotDecideOnLetterCase) {
+  const CurrentCLocale locale("de_DE", "ISO-8859-1");
+  const QuillInput input = parse_string("#\xE4\n\xE4\xC4 1 2 3\n").input;
+  EXPECT_EQ(std::tolower(0xC4), 0xE4) << "the locale is not in force";
+  EXPECT_EQ(input, QuillInput({flag("\xE4")}, atoms({{"\xE4\xC4", 1, 2, 3}})));
+  EXPECT_TRUE(input.has_command("\xE4"));
+  EXPECT_FALSE(input.has_command("\xC4"));
 }
 
 TEST(Locale, DecidesOnTheLettersOfASymbolOnlyWhereBytesAreLetters) {

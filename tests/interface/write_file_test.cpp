@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
+#include <typeinfo>
 
 #include "kelp/input/quill/document.hpp"
 #include "support/comparison.hpp"
@@ -53,6 +54,7 @@ std::string message_of_writing(const QuillInput& input, const std::string& path)
   try {
     input.write_file(path);
   } catch (const std::runtime_error& error) {
+    EXPECT_EQ(typeid(error), typeid(std::runtime_error)) << "something derived from it";
     return std::string(error.what(), failure.size() + path.size());
   }
   return "nothing was thrown";
