@@ -18,7 +18,6 @@ void QuillInput::write_file(const std::string& path) const {
   }
   const std::string text = to_string();
   file.sputn(text.data(), static_cast<std::streamsize>(text.size()));
-  file.close();
 }
 
 }  // namespace kelp::input::quill

@@ -118,16 +118,26 @@ void expect_whole_file_or_none(const Door& door) {
   const std::optional<std::string> whole = door.to_string();
   const std::optional<std::string> earlier = "an earlier file";
   const TemporaryFolder folder;
+  bool was_emptied = false;
   const std::uint64_t failures = fail_each_allocation(
       [&] { return folder.write("out.qin", *earlier); },
       [&](const std::string& path) { door.write_file(path); },
       [&](const std::string& path, std::uint64_t failing) {
-        // The file is opened, and emptied by that, before the text is made.
         const std::optional<std::string> content = file_content(path);
         EXPECT_TRUE(content == earlier || content == "") << "allocation " << failing;
+        was_emptied = was_emptied || content == "";
       },
       [&](const std::string& path) { EXPECT_EQ(file_content(path), whole); });
   EXPECT_GT(failures, 0U);
+  EXPECT_TRUE(was_emptied) << "the file is opened, and emptied by that, before the text is made";
+}
+
+TEST(RemovingEveryCommandOfAName, TakesOneAllocationForItsListOfMatches) {
+  QuillInput input;
+  input.commands.assign(1000, HeaderCommand("opt"));
+  const AllocationWindow window;
+  EXPECT_TRUE(input.remove_command("opt"));
+  EXPECT_EQ(window.allocations(), 1U);
 }
 
 TEST(AFailedAllocation, LeavesNoHalfAFile) {

@@ -19,7 +19,8 @@ from pathlib import Path
 SOURCES = ("src/", "sisters/")
 LIBRARIES = ("kelp_core_text", "kelp_chem_elements", "kelp_quill_inp")
 # What a mutant does that has no defined behaviour, the tests under the sanitizers would notice.
-FLAGS = ["-O0", "-w", "-fsanitize=undefined", "-fsanitize-undefined-trap-on-error"]
+FLAGS = ["-O0", "-w", "-D_GLIBCXX_ASSERTIONS", "-fsanitize=undefined",
+         "-fsanitize-undefined-trap-on-error"]
 MEMORY = 4 << 30
 LARGEST_FILE = 256 << 20
 

@@ -91,6 +91,16 @@ TEST(SplitLinesOfManyTerminators, CountsEachOfThem) {
   }
 }
 
+TEST(SplitLinesOfOneTerminator, CountsItOnceWhereverItStands) {
+  for (std::size_t place = 0; place < 400; ++place) {
+    std::string text(400, 'a');
+    text[place] = '\n';
+    const Lines lines = split_lines(text);
+    ASSERT_EQ(lines.size(), place == 399 ? 1U : 2U) << place;
+    ASSERT_EQ(lines.capacity(), lines.size()) << place;
+  }
+}
+
 TEST(SplitLinesOfALongText, TakesTheRoomOfItsLinesAndNoMore) {
   std::string text;
   for (int i = 0; i < 1'000; ++i) text += "H 0.0 0.0 0.0\n";
