@@ -3,8 +3,8 @@
 # notice. Fails when fewer than 95 in 100 are noticed, and when one is not that is not listed with its
 # reason in tests/mutation/equivalent.txt.
 #
-#   scripts/mutate.sh                        1000 changes, half an hour on two cores
-#   scripts/mutate.sh --seed 2 --sample 25   others, and fewer
+#   scripts/mutate.sh                        every change, half an hour on two cores
+#   scripts/mutate.sh --seed 2 --sample 25   some of them
 #   scripts/mutate.sh src/reader/post_line.cpp
 #
 # It can be stopped at any time: what is known of a change stays in build/mutation/results.jsonl.

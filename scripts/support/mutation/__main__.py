@@ -18,7 +18,6 @@ SCRATCH = ROOT / "build" / "mutation"
 RESULTS = SCRATCH / "results.jsonl"
 EQUIVALENT = ROOT / "tests" / "mutation" / "equivalent.txt"
 LOWEST_SHARE = 0.95
-SAMPLE = 1000
 
 
 def all_mutants(names):
@@ -127,8 +126,8 @@ def stale_reasons(mutants, results, reasons):
 def main():
     parser = argparse.ArgumentParser(prog="mutate.sh", description=__doc__)
     parser.add_argument("--seed", type=int, default=1, help="which mutants the sample holds")
-    parser.add_argument("--sample", type=int, default=SAMPLE, metavar="N",
-                        help="how many mutants to apply (%(default)s); 0 for all there are")
+    parser.add_argument("--sample", type=int, metavar="N",
+                        help="how many mutants to apply; all if not given")
     parser.add_argument("--workers", type=int, default=2)
     parser.add_argument("--list", action="store_true", help="print the mutants and stop")
     parser.add_argument("files", nargs="*", help="files of src/ and sisters/; all if none is given")
@@ -150,7 +149,7 @@ def main():
         try_all(build, untried, results, arguments.workers)
     reasons = equivalent.read(EQUIVALENT)
     fine = report(mutants, results, reasons)
-    if arguments.sample == 0 and not arguments.files:
+    if not arguments.sample and not arguments.files:
         for file, before, after in stale_reasons(mutants, results, reasons):
             fine = False
             print(f"There is a reason for what no test misses:\n{file}\n- {before}\n+ {after}\n")
