@@ -70,13 +70,22 @@ struct stat state_of(int file) {
   return state;
 }
 
+void require_apart_from_output(Session& session, const struct stat& state) {
+  if (session.output().goes_into(state)) {
+    throw Trouble(
+        "is also the standard output; redirect that to another file (fmt, set, unset and add have "
+        "--in-place)");
+  }
+}
+
 std::string read_at_most(int file, std::uint64_t limit) {
   std::string content = read_to_end(file, limit);
   if (content.size() > limit) throw_too_large(limit);
   return content;
 }
 
-void read_file(InputSource& source, std::uint64_t limit) {
+void read_file(InputSource& source, Session& session) {
+  const std::uint64_t limit = session.options().max_size;
   const std::string resolved = resolve_links(source.argument);
   FileOrigin origin = split_path(resolved);
   // Not blocking, so that a pipe that nobody writes to can be refused instead of waited for. A link
@@ -85,6 +94,7 @@ void read_file(InputSource& source, std::uint64_t limit) {
   if (file.number() < 0) throw_system_trouble("cannot be opened", errno);
   origin.state = state_of(file.number());
   require_regular(origin.state, limit);
+  require_apart_from_output(session, origin.state);
   source.content = read_at_most(file.number(), limit);
   if (!is_same_state(origin.state, state_of(file.number())))
     throw Trouble("changed while it was read");
@@ -104,6 +114,15 @@ std::string read_stream(std::istream& in, std::uint64_t limit) {
   return content;
 }
 
+std::string read_standard_input(Session& session) {
+  const std::uint64_t limit = session.options().max_size;
+  std::istream& in = session.take_standard_input();
+  if (&in != &std::cin) return read_stream(in, limit);
+  require_apart_from_output(session, state_of(STDIN_FILENO));
+  // A stream takes a failed read for the end of the text; the descriptor tells them apart.
+  return read_at_most(STDIN_FILENO, limit);
+}
+
 bool is_same_time(const struct timespec& left, const struct timespec& right) {
   return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
 }
@@ -114,15 +133,19 @@ InputSource read_input(Session& session, const std::string& argument) {
   InputSource source;
   source.argument = argument;
   source.name = session.shown_name(argument);
-  const std::uint64_t limit = session.options().max_size;
-  if (argument != "-") {
-    read_file(source, limit);
-    return source;
+  if (argument == "-") {
+    source.content = read_standard_input(session);
+  } else {
+    read_file(source, session);
   }
-  std::istream& in = session.take_standard_input();
-  // A stream takes a failed read for the end of the text; the descriptor tells them apart.
-  source.content = &in == &std::cin ? read_at_most(STDIN_FILENO, limit) : read_stream(in, limit);
   return source;
+}
+
+void require_apart_from_output(Session& session, const std::string& argument) {
+  struct stat state {};
+  const bool is_there =
+      argument == "-" ? fstat(STDIN_FILENO, &state) == 0 : stat(argument.c_str(), &state) == 0;
+  if (is_there) require_apart_from_output(session, state);
 }
 
 bool is_same_state(const struct stat& left, const struct stat& right) {

@@ -29,8 +29,14 @@ struct InputSource {
 
 /// Reads the file that `argument` names, or standard input for "-". Throws Trouble when there is no
 /// such file, when a link leads nowhere, when it is not a regular file, when it is larger than the
-/// session accepts, when it changes while it is read, and when it cannot be read.
+/// session accepts, when it changes while it is read, when it is where standard output goes, and
+/// when it cannot be read.
 InputSource read_input(Session& session, const std::string& argument);
+
+/// Throws Trouble when `argument` names the file that standard output goes into: the shell may have
+/// emptied it, and what is printed would end up in what is read. Says nothing of files that are not
+/// there.
+void require_apart_from_output(Session& session, const std::string& argument);
 
 /// Returns whether two states are those of the same file with, as far as the system tells, the same
 /// content: device, inode, size, and the times of the last change of content and of state.

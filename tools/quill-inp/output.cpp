@@ -46,6 +46,12 @@ void Output::write_diff(std::string_view diff, ColorMode mode) {
   }
 }
 
+bool Output::goes_into(const struct stat& file) const {
+  struct stat state {};
+  return &stream_ == &std::cout && S_ISREG(file.st_mode) && fstat(STDOUT_FILENO, &state) == 0 &&
+         state.st_dev == file.st_dev && state.st_ino == file.st_ino;
+}
+
 std::optional<std::string> Output::find_failure() {
   if (!has_written_) return std::nullopt;
   errno = 0;

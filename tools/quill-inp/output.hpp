@@ -1,6 +1,8 @@
 #ifndef KELP_INPUT_QUILL_TOOL_OUTPUT_HPP
 #define KELP_INPUT_QUILL_TOOL_OUTPUT_HPP
 
+#include <sys/stat.h>
+
 #include <optional>
 #include <ostream>
 #include <string>
@@ -25,6 +27,10 @@ class Output {
 
   /// Writes a difference, in colour where that is wanted.
   void write_diff(std::string_view diff, ColorMode mode);
+
+  /// Returns whether data goes into the regular file of this state. Whatever is no regular file may
+  /// be read and written at once: a terminal, /dev/null.
+  bool goes_into(const struct stat& file) const;
 
   /// Returns why not everything arrived that was written, or nothing when it did.
   std::optional<std::string> find_failure();

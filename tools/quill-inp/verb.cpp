@@ -9,6 +9,7 @@
 #include <CLI/App.hpp>
 
 #include "quill-inp/arguments.hpp"
+#include "quill-inp/input_source.hpp"
 #include "quill-inp/suggestion.hpp"
 #include "quill-inp/trouble.hpp"
 
@@ -58,6 +59,15 @@ std::uint64_t parse_size(const std::string& text) {
                    "'");
 }
 
+/// Carries `action` out for every file and returns the worst code.
+ExitCode process_all(Session& session, const std::vector<std::string>& arguments,
+                     const std::function<ExitCode(const std::string&)>& action) {
+  ExitCode worst = ExitCode::Done;
+  for (const std::string& argument : arguments)
+    worst = worse_of(worst, for_file(session, argument, [&] { return action(argument); }));
+  return worst;
+}
+
 }  // namespace
 
 CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string& description,
@@ -99,10 +109,12 @@ ExitCode for_file(Session& session, const std::string& argument,
 
 ExitCode for_each_file(Session& session, const std::vector<std::string>& arguments,
                        const std::function<ExitCode(const std::string&)>& action) {
-  ExitCode worst = ExitCode::Done;
-  for (const std::string& argument : arguments)
-    worst = worse_of(worst, for_file(session, argument, [&] { return action(argument); }));
-  return worst;
+  // The texts of the other files would go into an input as well.
+  const ExitCode code = process_all(session, arguments, [&](const std::string& argument) {
+    require_apart_from_output(session, argument);
+    return ExitCode::Done;
+  });
+  return code == ExitCode::Done ? process_all(session, arguments, action) : code;
 }
 
 }  // namespace kelp::input::quill::tool

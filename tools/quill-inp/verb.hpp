@@ -49,6 +49,7 @@ ExitCode for_file(Session& session, const std::string& argument,
                   const std::function<ExitCode()>& action);
 
 /// Carries `action` out for every file, whatever becomes of those before it. The worst code wins.
+/// When standard output goes into one of the files, that is reported and none is processed.
 ExitCode for_each_file(Session& session, const std::vector<std::string>& arguments,
                        const std::function<ExitCode(const std::string&)>& action);
 

@@ -2,6 +2,7 @@
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <cstring>
@@ -125,6 +126,82 @@ TEST(StandardInput, ThatIsAFolderIsAnError) {
   const TemporaryFolder folder;
   EXPECT_EQ(run_shell(folder.path(), "quill-inp fmt - < ."),
             ended(2, "<stdin>: error: cannot be read: Is a directory\n", ""));
+}
+
+/// One row of a table: a command of the shell that lets standard output go into a file that is
+/// read.
+struct RedirectionRow {
+  std::string name;
+  std::string command;
+  std::string refused;  // what the message begins with
+};
+
+class Redirection : public testing::TestWithParam<RedirectionRow> {};
+
+const char* const also_output =
+    "is also the standard output; redirect that to another file (fmt, set, unset and add "
+    "have --in-place)\n";
+
+TEST_P(Redirection, OntoTheInputIsRefused) {
+  const TemporaryFolder folder;
+  const std::string other = "#other\n";
+  folder.write("a.qin", water);
+  folder.write("b.qin", other);
+  ASSERT_EQ(symlink("a.qin", folder.path("link").c_str()), 0);
+  ASSERT_EQ(link(folder.path("a.qin").c_str(), folder.path("second").c_str()), 0);
+  EXPECT_EQ(run_shell(folder.path(), GetParam().command),
+            ended(2, GetParam().refused + also_output, ""));
+  EXPECT_EQ(content_of(folder.path("a.qin")), water);
+  EXPECT_EQ(content_of(folder.path("b.qin")), other);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, Redirection,
+    testing::Values(
+        RedirectionRow{"OfFmt", "quill-inp fmt a.qin >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfFmtCheck", "quill-inp fmt --check a.qin >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfFmtDiff", "quill-inp fmt --diff a.qin >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfFmtInPlace", "quill-inp fmt -i a.qin >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfSet", "quill-inp set a.qin model=m2 >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfUnset", "quill-inp unset a.qin model >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfAdd", "quill-inp add a.qin --bond 1,2 >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfJson", "quill-inp json a.qin >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfFromJson", "quill-inp from-json a.qin >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfShow", "quill-inp show a.qin >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfGet", "quill-inp get a.qin model >> a.qin", "a.qin: error: "},
+        RedirectionRow{"OfNew", "quill-inp new --atoms a.qin >> a.qin",
+                       "<new>: error: --atoms: a.qin: "},
+        RedirectionRow{"OfStandardInput", "quill-inp fmt - < a.qin >> a.qin", "<stdin>: error: "},
+        RedirectionRow{"OfStandardInputByName", "quill-inp fmt /dev/stdin < a.qin >> a.qin",
+                       "/dev/stdin: error: "},
+        RedirectionRow{"ToALink", "quill-inp fmt a.qin >> link", "a.qin: error: "},
+        RedirectionRow{"FromALink", "quill-inp fmt link >> a.qin", "link: error: "},
+        RedirectionRow{"ToAnotherName", "quill-inp fmt a.qin >> second", "a.qin: error: "},
+        RedirectionRow{"BehindAnotherFile", "quill-inp fmt b.qin a.qin >> a.qin", "a.qin: error: "},
+        RedirectionRow{"BehindAnotherFileOfStandardInput",
+                       "quill-inp show b.qin - < a.qin >> a.qin", "<stdin>: error: "}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(StandardOutput, ThatEmptiedTheInputIsNoSuccess) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", water);
+  EXPECT_EQ(run_shell(folder.path(), "quill-inp set a.qin model=m2 > a.qin"),
+            ended(2, std::string("a.qin: error: ") + also_output, ""));
+  EXPECT_EQ(content_of(folder.path("a.qin")), "");
+}
+
+TEST(StandardOutput, ThatGoesIntoAnotherFileIsNotRefused) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", water);
+  const std::string commands =
+      "set -e\n"
+      "quill-inp fmt a.qin > b.qin\n"
+      "quill-inp fmt none a.qin > c.qin || echo $?\n"
+      "quill-inp fmt -q - < /dev/null > /dev/null\n";
+  EXPECT_EQ(run_shell(folder.path(), commands),
+            ended(0, "none: error: cannot be opened: No such file or directory\n2\n", ""));
+  EXPECT_EQ(content_of(folder.path("b.qin")), water);
+  EXPECT_EQ(content_of(folder.path("c.qin")), water);
 }
 
 TEST(Pipes, OfThreeCallsPassTheTextOn) {
