@@ -22,6 +22,18 @@ bool is_symbolic_link(const std::string& path) {
   return lstat(path.c_str(), &state) == 0 && S_ISLNK(state.st_mode);
 }
 
+std::string_view kind_of_file(mode_t mode) {
+  if (S_ISDIR(mode)) return "a folder";
+  if (S_ISFIFO(mode)) return "a pipe";
+  if (S_ISSOCK(mode)) return "a socket";
+  return "a device";
+}
+
+[[noreturn]] void throw_not_regular(mode_t mode) {
+  throw Trouble("is " + std::string(kind_of_file(mode)) +
+                ", not a regular file; '-' reads standard input");
+}
+
 struct Free {
   void operator()(char* pointer) const { std::free(pointer); }
 };
@@ -32,6 +44,10 @@ std::string resolve_links(const std::string& path) {
   const std::unique_ptr<char, Free> resolved(realpath(path.c_str(), nullptr));
   if (resolved) return resolved.get();
   const int error = errno;
+  // Under /dev/fd are links that lead to open files without a name, which is how a shell passes on
+  // a pipe.
+  struct stat state {};
+  if (stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode)) throw_not_regular(state.st_mode);
   if (error == ENOENT && is_symbolic_link(path))
     throw Trouble("is a symbolic link to a file that does not exist");
   throw_system_trouble("cannot be opened", error);
@@ -49,18 +65,8 @@ FileOrigin split_path(const std::string& resolved) {
   throw Trouble("is larger than " + std::to_string(limit) + " bytes, see --max-size");
 }
 
-std::string_view kind_of_file(mode_t mode) {
-  if (S_ISDIR(mode)) return "a folder";
-  if (S_ISFIFO(mode)) return "a pipe";
-  if (S_ISSOCK(mode)) return "a socket";
-  return "a device";
-}
-
 void require_regular(const struct stat& state, std::uint64_t limit) {
-  if (!S_ISREG(state.st_mode)) {
-    throw Trouble("is " + std::string(kind_of_file(state.st_mode)) +
-                  ", not a regular file; '-' reads standard input");
-  }
+  if (!S_ISREG(state.st_mode)) throw_not_regular(state.st_mode);
   if (static_cast<std::uint64_t>(state.st_size) > limit) throw_too_large(limit);
 }
 

@@ -269,6 +269,15 @@ TEST(FilesThatAreNotRegular, AreRefused) {
             ended(2, "0 1\n", refusal("folder", "a folder") + refusal("pipe", "a pipe")));
 }
 
+TEST(FilesThatAreNotRegular, AreRefusedWhereOnlyALinkToThemHasAName) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "0 1\n");
+  EXPECT_EQ(run_in(folder.path(), {"show", "/dev/stdin"}, "0 1\n"),
+            ended(2, "", refusal("/dev/stdin", "a pipe")));
+  EXPECT_EQ(run_in(folder.path(), {"fmt", "/dev/fd/0", "a.qin"}, "0 1\n"),
+            ended(2, "0 1\n", refusal("/dev/fd/0", "a pipe")));
+}
+
 TEST(UnreadableFiles, AreReportedAndTheOthersProcessed) {
   const TemporaryFolder folder;
   folder.write("a.qin", "0 1\n");
