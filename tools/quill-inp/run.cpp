@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <exception>
 #include <memory>
-#include <new>
 #include <optional>
 
 #include <CLI/App.hpp>
@@ -160,10 +159,8 @@ int run(const std::vector<std::string>& arguments, std::istream& in, std::ostrea
   ExitCode code = ExitCode::Trouble;
   try {
     code = run_program(arguments, in, output, err);
-  } catch (const std::bad_alloc&) {
-    reporter.error({program_name}, "out of memory");
   } catch (const std::exception& error) {
-    reporter.error({program_name}, error.what());
+    reporter.error({program_name}, explain(error));
   }
   if (const std::optional<std::string> failure = output.find_failure()) {
     reporter.error({program_name}, *failure);

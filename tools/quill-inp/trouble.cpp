@@ -1,8 +1,14 @@
 #include "quill-inp/trouble.hpp"
 
+#include <new>
 #include <system_error>
 
 namespace kelp::input::quill::tool {
+
+std::string explain(const std::exception& error) {
+  const bool is_memory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
+  return is_memory ? "out of memory" : error.what();
+}
 
 void throw_system_trouble(const std::string& action, int error) {
   throw Trouble(action + ": " + system_message(error));

@@ -1,6 +1,7 @@
 #ifndef KELP_INPUT_QUILL_TOOL_TROUBLE_HPP
 #define KELP_INPUT_QUILL_TOOL_TROUBLE_HPP
 
+#include <exception>
 #include <stdexcept>
 #include <string>
 
@@ -18,6 +19,9 @@ class UsageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
+
+/// Returns why an exception ended the processing of a file, or the call, in words for a person.
+std::string explain(const std::exception& error);
 
 /// Throws the Trouble of a failed system call: `action`, ": ", and what the system says of `error`,
 /// an errno.

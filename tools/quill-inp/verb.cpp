@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cstdint>
+#include <exception>
 #include <limits>
 #include <optional>
 #include <string_view>
@@ -101,8 +102,10 @@ ExitCode for_file(Session& session, const std::string& argument,
                   const std::function<ExitCode()>& action) {
   try {
     return action();
-  } catch (const Trouble& trouble) {
-    session.reporter().error({session.shown_name(argument)}, trouble.what());
+  } catch (const UsageError&) {
+    throw;
+  } catch (const std::exception& error) {
+    session.reporter().error({session.shown_name(argument)}, explain(error));
     return ExitCode::Trouble;
   }
 }

@@ -44,7 +44,9 @@ void add_common_options(CLI::App& verb);
 /// Reads the options that every verb has, see CommonOptions. Throws UsageError for bad values.
 CommonOptions read_common_options(const CLI::App& verb);
 
-/// Carries `action` out for a file. A Trouble is reported, with the file's name, and the exit code.
+/// Carries `action` out for a file and returns its exit code. Whatever it throws is reported with
+/// the file's name, and is ExitCode::Trouble, but for a UsageError, which concerns no file and
+/// passes.
 ExitCode for_file(Session& session, const std::string& argument,
                   const std::function<ExitCode()>& action);
 
