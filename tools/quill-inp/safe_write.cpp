@@ -4,9 +4,12 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <utility>
 
 #include "quill-inp/access_rights.hpp"
 #include "quill-inp/file_descriptor.hpp"
+#include "quill-inp/held_signals.hpp"
+#include "quill-inp/provisional_name.hpp"
 #include "quill-inp/temporary_file.hpp"
 #include "quill-inp/trouble.hpp"
 
@@ -93,14 +96,38 @@ std::vector<std::string> fill(TemporaryFile& temporary, const Target& target,
   return losses;
 }
 
-void keep_backup(const Target& target, std::string_view text, const std::string& suffix) {
-  const std::string name = target.origin.name + suffix;
-  TemporaryFile temporary(target.folder.number());
-  fill(temporary, target, text);
-  if (!temporary.take_free_name(name)) {
-    throw Trouble("the backup '" + name +
+/// A backup in the making: a copy of the old text, and the name that it is to have.
+struct Backup {
+  TemporaryFile file;
+  std::string name;
+
+  Backup(const Target& target, std::string_view old_text, const std::string& suffix)
+      : file(target.folder.number()), name(target.origin.name + suffix) {
+    fill(file, target, old_text);
+  }
+};
+
+/// Gives the backup its name. The caller holds the signals.
+void place(Backup& backup) {
+  if (!backup.file.take_free_name(backup.name)) {
+    throw Trouble("the backup '" + backup.name +
                   "' exists already, and would be lost; --backup=SUFFIX gives another name");
   }
+}
+
+/// Gives the file the place of the target, and the backup, if there is one, its name: both or none,
+/// so that what failed can be tried again. The backup has its name first; at no moment is the old
+/// text without one.
+void place(TemporaryFile& file, std::optional<Backup>& backup, const Target& target) {
+  const HeldSignals held;
+  std::optional<ProvisionalName> backup_name;
+  if (backup) {
+    place(*backup);
+    backup_name.emplace(target.folder.number(), std::move(backup->name));
+  }
+  require_unchanged(target);
+  file.take_place_of(target.origin.name);
+  if (backup_name) backup_name->keep();
 }
 
 /// The new name is on disk only when the folder is. Some file systems cannot flush folders.
@@ -121,11 +148,11 @@ std::vector<std::string> replace_content(const InputSource& source, std::string_
   const Target target = open_target(*source.origin);
   require_one_name(target, options);
   require_writable(target);
-  if (options.backup_suffix) keep_backup(target, source.content, *options.backup_suffix);
+  std::optional<Backup> backup;
+  if (options.backup_suffix) backup.emplace(target, source.content, *options.backup_suffix);
   TemporaryFile temporary(target.folder.number());
   std::vector<std::string> losses = fill(temporary, target, new_text);
-  require_unchanged(target);
-  temporary.take_place_of(target.origin.name);
+  place(temporary, backup, target);
   flush_folder(target);
   return losses;
 }

@@ -19,7 +19,8 @@ namespace kelp::input::quill::tool {
 
 /// How to replace a file.
 struct ReplaceOptions {
-  /// What to append to the name of the file for that of a copy of the old text; no copy without it.
+  /// What to append to the name of the file for that of a copy of the old text; no copy without it,
+  /// nor where the file keeps the old text.
   std::optional<std::string> backup_suffix = std::nullopt;
   /// Whether a file with several names may be replaced, which leaves the others with the old text.
   bool breaks_hard_links = false;

@@ -1,15 +1,17 @@
 #ifndef KELP_INPUT_QUILL_TOOL_TEMPORARY_FILE_HPP
 #define KELP_INPUT_QUILL_TOOL_TEMPORARY_FILE_HPP
 
+#include <optional>
 #include <string>
 
 #include "quill-inp/file_descriptor.hpp"
+#include "quill-inp/provisional_name.hpp"
 
 namespace kelp::input::quill::tool {
 
 /// A new file in a folder, which only its owner can open, and which is gone again when the object
 /// goes, unless it was given its final name: on every error, and on SIGINT, SIGTERM and SIGHUP,
-/// too, which then do what they would have done without it. There may be one at a time.
+/// too, which then do what they would have done without it.
 class TemporaryFile {
  public:
   /// Creates the file in the open folder. Throws Trouble when that fails.
@@ -17,9 +19,8 @@ class TemporaryFile {
 
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
-  ~TemporaryFile();
 
-  const std::string& name() const { return name_; }
+  const std::string& name() const { return name_->text(); }
   FileDescriptor& file() { return file_; }
 
   /// Gives the file its final name, in place of the file that has it. Throws Trouble on failure.
@@ -31,9 +32,8 @@ class TemporaryFile {
 
  private:
   int folder_;
-  std::string name_;
   FileDescriptor file_;
-  bool is_placed_ = false;
+  std::optional<ProvisionalName> name_ = std::nullopt;
 };
 
 }  // namespace kelp::input::quill::tool

@@ -2,6 +2,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstring>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -78,6 +80,23 @@ TEST(Backup, KeepsTheOldTextBesideTheFile) {
             ended(0, "", ""));
   EXPECT_EQ(content_of(path + "~"), changed_water());
   EXPECT_EQ(names_in(folder.path()), (Names{"a.qin", "a.qin.bak", "a.qin~"}));
+}
+
+TEST(Backup, IsGoneWhenTheCallFailedAndNotInTheWayOfTheNext) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("a.qin", water);
+  Request request;
+  request.arguments = {"set", "-q", "-i", "--backup", "a.qin", "model=a-longer-name"};
+  request.folder = folder.path();
+  request.largest_file = std::strlen(water);
+  EXPECT_EQ(run_program(request),
+            ended(2, "", "a.qin: error: cannot be written: File too large\n"));
+  EXPECT_EQ(names_in(folder.path()), Names{"a.qin"});
+  EXPECT_EQ(content_of(path), water);
+  request.largest_file = std::nullopt;
+  EXPECT_EQ(run_program(request), ended(0, "", ""));
+  EXPECT_EQ(names_in(folder.path()), (Names{"a.qin", "a.qin.bak"}));
+  EXPECT_EQ(content_of(path + ".bak"), water);
 }
 
 TEST(Backup, StandsBesideTheFileThatALinkLeadsTo) {

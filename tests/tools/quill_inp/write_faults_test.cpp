@@ -10,6 +10,7 @@
 #include <optional>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "files.hpp"
@@ -20,13 +21,14 @@ namespace kelp::input::quill::tool {
 namespace {
 
 constexpr unsigned mode = 0640;
+constexpr const char* backup_name = "a.qin.bak";
 
 const bool is_in_memory = use_memory_for_temporary_files();
 
 /// A file in a folder of its own, and a program that is told to change it.
 class FaultyWrite {
  public:
-  explicit FaultyWrite(bool keeps_backup = false) {
+  explicit FaultyWrite(bool keeps_backup = false) : keeps_backup_(keeps_backup) {
     path_ = folder_.write("a.qin", water);
     chmod(path_.c_str(), mode);
     request_.arguments = {"set", "-q", "-i", "a.qin", "model=m2"};
@@ -53,6 +55,12 @@ class FaultyWrite {
     return run();
   }
 
+  /// The same call once more, with nothing in its way.
+  Outcome run_undisturbed() {
+    request_.environment.erase("LD_PRELOAD");
+    return run();
+  }
+
   /// The calls that the write makes when all goes well.
   std::vector<std::string> list_calls() {
     const TemporaryFolder logs;
@@ -72,6 +80,15 @@ class FaultyWrite {
     return names;
   }
 
+  /// What they are to be after a call that could clean up: the new text has a backup beside it, if
+  /// that was asked for, and the old text has nothing.
+  std::vector<std::string> others_wanted() const {
+    if (!keeps_backup_ || content() == water) return {};
+    return {backup_name};
+  }
+
+  std::string backup() const { return content_of(folder_.path(backup_name)); }
+
   /// Whether nobody may do with any file of the folder what he may not do with the target.
   bool nothing_is_wider() const {
     for (const std::string& name : names_in(folder_.path())) {
@@ -81,6 +98,7 @@ class FaultyWrite {
   }
 
  private:
+  bool keeps_backup_;
   TemporaryFolder folder_;
   std::string path_;
   Request request_;
@@ -146,50 +164,66 @@ TEST(Write, KilledAtAnyCallLeavesTheOldOrTheNewTextBesideABackup) {
     EXPECT_TRUE(is_old_or_new(write.content())) << calls[call - 1];
     EXPECT_TRUE(write.nothing_is_wider()) << calls[call - 1];
     for (const std::string& name : write.others()) {
-      if (name == "a.qin.bak") {
-        EXPECT_EQ(content_of(write.request().folder + "/" + name), water);
+      if (name == backup_name) {
+        EXPECT_EQ(write.backup(), water);
       }
     }
   }
 }
 
-class Signal : public testing::TestWithParam<int> {};
+const char* words_for(bool keeps_backup) { return keeps_backup ? "WithBackup" : "WithoutBackup"; }
 
-TEST_P(Signal, AtAnyCallRemovesTheTemporaryFile) {
-  const std::vector<std::string> calls = calls_of_a_write();
+class Signal : public testing::TestWithParam<std::tuple<int, bool>> {
+ protected:
+  static int number() { return std::get<int>(GetParam()); }
+  static bool keeps_backup() { return std::get<bool>(GetParam()); }
+};
+
+TEST_P(Signal, AtAnyCallLeavesNothingInTheWayOfTheNextTry) {
+  const std::vector<std::string> calls = calls_of_a_write(keeps_backup());
   for (std::size_t call = 1; call <= calls.size(); ++call) {
-    FaultyWrite write;
-    const Outcome outcome = write.run_with_fault(call, "signal " + std::to_string(GetParam()));
-    EXPECT_EQ(outcome.signal, GetParam()) << calls[call - 1];
+    FaultyWrite write(keeps_backup());
+    const Outcome outcome = write.run_with_fault(call, "signal " + std::to_string(number()));
+    EXPECT_EQ(outcome.signal, number()) << calls[call - 1];
     EXPECT_TRUE(is_old_or_new(write.content())) << calls[call - 1];
-    EXPECT_EQ(write.others(), std::vector<std::string>()) << calls[call - 1];
+    EXPECT_EQ(write.others(), write.others_wanted()) << calls[call - 1];
+    EXPECT_EQ(write.run_undisturbed(), ended(0, "", "")) << calls[call - 1];
+    EXPECT_EQ(write.others(), write.others_wanted()) << calls[call - 1];
   }
 }
 
 TEST_P(Signal, ThatIsIgnoredStaysIgnored) {
-  const std::vector<std::string> calls = calls_of_a_write();
+  const std::vector<std::string> calls = calls_of_a_write(keeps_backup());
   for (std::size_t call = 1; call <= calls.size(); ++call) {
-    FaultyWrite write;
-    write.request().ignored_signals = {GetParam()};
-    EXPECT_EQ(write.run_with_fault(call, "signal " + std::to_string(GetParam())), ended(0, "", ""))
+    FaultyWrite write(keeps_backup());
+    write.request().ignored_signals = {number()};
+    EXPECT_EQ(write.run_with_fault(call, "signal " + std::to_string(number())), ended(0, "", ""))
         << calls[call - 1];
     EXPECT_EQ(write.content(), changed_water());
-    EXPECT_EQ(write.others(), std::vector<std::string>());
+    EXPECT_EQ(write.others(), write.others_wanted());
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Signals, Signal, testing::Values(SIGINT, SIGTERM, SIGHUP),
-                         [](const auto& row) { return sigabbrev_np(row.param); });
+INSTANTIATE_TEST_SUITE_P(Signals, Signal,
+                         testing::Combine(testing::Values(SIGINT, SIGTERM, SIGHUP),
+                                          testing::Bool()),
+                         [](const auto& row) {
+                           return std::string(sigabbrev_np(std::get<int>(row.param))) +
+                                  words_for(std::get<bool>(row.param));
+                         });
 
-class Failure : public testing::TestWithParam<bool> {};
+/// A write without and with --backup.
+class AnyWrite : public testing::TestWithParam<bool> {};
 
-/// Calls whose failure changes nothing: closing what was only read.
+/// Calls whose failure changes nothing of the file: closing what was only read, and removing what
+/// the backup was called before it had its name.
 bool may_fail(const std::vector<std::string>& calls, std::size_t call) {
-  const std::size_t write = position(calls, "write");
-  return calls[call - 1] == "close" && (call < write || call > position(calls, "fsync") + 2);
+  const bool closes_what_was_written =
+      call > 1 && calls[call - 2] == "fsync" && call < position(calls, "renameat");
+  return calls[call - 1] == "unlinkat" || (calls[call - 1] == "close" && !closes_what_was_written);
 }
 
-TEST_P(Failure, OfAnyCallLeavesTheOldOrTheNewTextAndNothingElse) {
+TEST_P(AnyWrite, ThatFailsLeavesTheOldOrTheNewTextAndNothingElse) {
   const std::vector<std::string> calls = calls_of_a_write(GetParam());
   std::map<std::string, int> failures;
   for (std::size_t call = 1; call <= calls.size(); ++call) {
@@ -209,58 +243,74 @@ TEST_P(Failure, OfAnyCallLeavesTheOldOrTheNewTextAndNothingElse) {
           << outcome.err;
       ++failures[name];
     }
-    // Where the removal itself fails, the name stays.
-    std::vector<std::string> others = write.others();
-    others.erase(std::remove(others.begin(), others.end(), "a.qin.bak"), others.end());
-    EXPECT_EQ(others.size(), name == "unlinkat" ? 1U : 0U) << name;
+    if (name != "unlinkat") {
+      EXPECT_EQ(write.others(), write.others_wanted()) << name;
+    } else {
+      EXPECT_EQ(write.others().size(), write.others_wanted().size() + 1) << name;
+    }
   }
   for (const char* name : {"openat", "read", "write", "fsync", "close", "fchmod", "renameat"})
     EXPECT_GE(failures[name], 1) << name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Backup, Failure, testing::Bool(),
-                         [](const auto& row) { return row.param ? "Kept" : "NotKept"; });
-
-TEST(Failure, OfWhatMakesTheWriteSafeIsNeverPassedOver) {
-  const std::vector<std::string> calls = calls_of_a_write();
+TEST_P(AnyWrite, PassesOverNoFailureOfWhatMakesItSafe) {
+  const std::vector<std::string> calls = calls_of_a_write(GetParam());
   for (std::size_t call = 1; call <= calls.size(); ++call) {
     const std::string& name = calls[call - 1];
-    if (may_fail(calls, call) || name.find("xattr") != std::string::npos) continue;
-    FaultyWrite write;
+    if (name.find("xattr") != std::string::npos || may_fail(calls, call)) continue;
+    FaultyWrite write(GetParam());
     EXPECT_EQ(write.run_with_fault(call, "errno " + std::to_string(EIO)).code, 2)
         << name << " number " << call;
   }
 }
 
-TEST(Interruption, OfAnyCallThatMayBeTriedAgainChangesNothing) {
-  const std::vector<std::string> calls = calls_of_a_write();
+TEST_P(AnyWrite, ThatFailedCanBeTriedAgain) {
+  const std::size_t count = calls_of_a_write(GetParam()).size();
+  for (std::size_t call = 1; call <= count; ++call) {
+    FaultyWrite write(GetParam());
+    if (write.run_with_fault(call, "errno " + std::to_string(EIO)).code == 0) continue;
+    EXPECT_EQ(write.run_undisturbed(), ended(0, "", "")) << call;
+    EXPECT_EQ(write.content(), changed_water()) << call;
+    EXPECT_EQ(write.others(), write.others_wanted()) << call;
+    EXPECT_TRUE(!GetParam() || write.backup() == water) << call;
+  }
+}
+
+TEST_P(AnyWrite, GoesOnAfterAnInterruption) {
+  const std::vector<std::string> calls = calls_of_a_write(GetParam());
   for (std::size_t call = 1; call <= calls.size(); ++call) {
     const std::string& name = calls[call - 1];
     if (name != "openat" && name != "read" && name != "write" && name != "fsync" && name != "close")
       continue;
-    FaultyWrite write;
+    FaultyWrite write(GetParam());
     EXPECT_EQ(write.run_with_fault(call, "errno " + std::to_string(EINTR)), ended(0, "", ""))
         << name;
     EXPECT_EQ(write.content(), changed_water());
-    EXPECT_EQ(write.others(), std::vector<std::string>());
+    EXPECT_EQ(write.others(), write.others_wanted());
   }
 }
 
-TEST(ShortWrites, AreContinued) {
-  FaultyWrite write;
+TEST_P(AnyWrite, ContinuesShortWrites) {
+  FaultyWrite write(GetParam());
   write.request().environment["QUILL_INP_SHORT"] = "1";
   EXPECT_EQ(write.run(), ended(0, "", ""));
   EXPECT_EQ(write.content(), changed_water());
 }
 
-TEST(FullDisk, LeavesTheOldText) {
-  const std::vector<std::string> calls = calls_of_a_write();
-  FaultyWrite write;
-  EXPECT_EQ(write.run_with_fault(position(calls, "write") + 1, "errno " + std::to_string(ENOSPC)),
-            ended(2, "", "a.qin: error: cannot be written: No space left on device\n"));
-  EXPECT_EQ(write.content(), water);
-  EXPECT_EQ(write.others(), std::vector<std::string>());
+TEST_P(AnyWrite, LeavesTheOldTextOnAFullDisk) {
+  const std::vector<std::string> calls = calls_of_a_write(GetParam());
+  for (std::size_t call = 1; call <= calls.size(); ++call) {
+    if (calls[call - 1] != "write") continue;
+    FaultyWrite write(GetParam());
+    EXPECT_EQ(write.run_with_fault(call, "errno " + std::to_string(ENOSPC)),
+              ended(2, "", "a.qin: error: cannot be written: No space left on device\n"));
+    EXPECT_EQ(write.content(), water);
+    EXPECT_EQ(write.others(), std::vector<std::string>());
+  }
 }
+
+INSTANTIATE_TEST_SUITE_P(Backup, AnyWrite, testing::Bool(),
+                         [](const auto& row) { return words_for(row.param); });
 
 TEST(FolderThatCannotBeFlushed, IsNoErrorWhereTheFileSystemHasNoWayTo) {
   const std::vector<std::string> calls = calls_of_a_write();
