@@ -1,9 +1,11 @@
 // Preloaded into the program by the tests of writing: counts the system calls that concern files,
-// and makes a chosen one of them fail, or a signal arrive in front of it.
+// and makes a chosen one of them fail, or something happen in front of it.
 //
 //   QUILL_INP_CALL_LOG    a file that gets the name of every call, one per line
 //   QUILL_INP_FAULT_AT    the number of a call, counted from 1
-//   QUILL_INP_FAULT       what happens there: "errno N" or "signal N"
+//   QUILL_INP_FAULT       what happens there: "errno N", it fails; "signal N", that arrives; "run
+//                         COMMAND", the shell does that; of a read also "corrupt", a bit of what it
+//                         gives is another, and "end", it gives nothing
 //   QUILL_INP_SHORT       set: every write takes only half of what it is given
 //
 // Calls on the standard streams do not count.
@@ -31,6 +33,14 @@ Function* find_next(const char* name) {
 }
 
 long calls = 0;
+bool corrupts = false;  // the call that follows, if it is a read
+bool ends = false;      // likewise
+
+/// Runs a command as another program would be run, without this library.
+void run_command(const char* command) {
+  unsetenv("LD_PRELOAD");
+  if (std::system(command) != 0) std::abort();
+}
 
 void log_call(const char* name) {
   const char* path = std::getenv("QUILL_INP_CALL_LOG");
@@ -48,6 +58,10 @@ bool fails(const char* name) {
   const char* at = std::getenv("QUILL_INP_FAULT_AT");
   const char* fault = std::getenv("QUILL_INP_FAULT");
   if (at == nullptr || fault == nullptr || std::strtol(at, nullptr, 10) != calls) return false;
+  constexpr char run[] = "run ";
+  if (std::strncmp(fault, run, sizeof run - 1) == 0) run_command(fault + sizeof run - 1);
+  corrupts = std::strcmp(fault, "corrupt") == 0;
+  ends = std::strcmp(fault, "end") == 0;
   int number = 0;
   if (std::sscanf(fault, "signal %d", &number) == 1) {
     kill(getpid(), number);
@@ -89,8 +103,12 @@ int openat64(int folder, const char* name, int flags, ...) {
 }
 
 ssize_t read(int file, void* data, size_t size) {
+  corrupts = ends = false;
   if (fails_on("read", file)) return -1;
-  return find_next<ssize_t(int, void*, size_t)>("read")(file, data, size);
+  if (ends) return 0;
+  const ssize_t count = find_next<ssize_t(int, void*, size_t)>("read")(file, data, size);
+  if (corrupts && count > 0) *static_cast<char*>(data) ^= 1;
+  return count;
 }
 
 ssize_t write(int file, const void* data, size_t size) {

@@ -1,5 +1,7 @@
-// Every system call of a write in place, failed and interrupted in turn.
+// Every system call of a write in place, failed and interrupted in turn, and other programs that
+// work on the same file meanwhile.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -8,6 +10,7 @@
 #include <csignal>
 #include <map>
 #include <optional>
+#include <ostream>
 #include <sstream>
 #include <string>
 #include <tuple>
@@ -88,6 +91,7 @@ class FaultyWrite {
   }
 
   std::string backup() const { return content_of(folder_.path(backup_name)); }
+  std::string path() const { return path_; }
 
   /// Whether nobody may do with any file of the folder what he may not do with the target.
   bool nothing_is_wider() const {
@@ -309,8 +313,102 @@ TEST_P(AnyWrite, LeavesTheOldTextOnAFullDisk) {
   }
 }
 
+TEST_P(AnyWrite, ReadsBackWhatItWrote) {
+  const std::vector<std::string> calls = calls_of_a_write(GetParam());
+  int times = 0;
+  for (std::size_t call = position(calls, "fsync"); call <= calls.size(); ++call) {
+    // The first read of a file gives the text, the second one its end.
+    if (calls[call - 1] != "read" || calls[call - 2] != "openat") continue;
+    ++times;
+    for (const char* fault : {"corrupt", "end"}) {
+      FaultyWrite write(GetParam());
+      const struct stat before = write.state();
+      EXPECT_EQ(
+          write.run_with_fault(call, fault),
+          ended(2, "", "a.qin: error: the temporary file does not hold what was written to it\n"));
+      EXPECT_EQ(write.content(), water);
+      EXPECT_EQ(write.state().st_ino, before.st_ino);
+      EXPECT_EQ(write.others(), std::vector<std::string>());
+    }
+  }
+  EXPECT_EQ(times, GetParam() ? 2 : 1);
+}
+
 INSTANTIATE_TEST_SUITE_P(Backup, AnyWrite, testing::Bool(),
                          [](const auto& row) { return words_for(row.param); });
+
+/// One row of a table: what another program does to the file, and what is there afterwards.
+struct MeanwhileRow {
+  std::string name;
+  std::string command;
+  std::optional<std::string> content = std::nullopt;  // none: there is no such file
+  mode_t kind = S_IFREG;
+  std::vector<std::string> others = {};
+};
+
+void PrintTo(const MeanwhileRow& row, std::ostream* stream) { *stream << row.name; }
+
+class ChangeMeanwhile : public testing::TestWithParam<std::tuple<MeanwhileRow, bool>> {};
+
+TEST_P(ChangeMeanwhile, IsNotOverwritten) {
+  const auto& [row, keeps_backup] = GetParam();
+  const std::vector<std::string> calls = calls_of_a_write(keeps_backup);
+  // When the file was read, while the new text is on its way, and at the last look.
+  for (const char* name : {"close", "fsync", "fstatat"}) {
+    FaultyWrite write(keeps_backup);
+    const struct timespec long_ago[2] = {{1, 0}, {1, 0}};
+    ASSERT_EQ(utimensat(AT_FDCWD, write.path().c_str(), long_ago, 0), 0);
+    EXPECT_EQ(write.run_with_fault(position(calls, name) + 1, "run " + row.command),
+              ended(2, "",
+                    "a.qin: error: was changed by somebody else after it was read; nothing was "
+                    "written\n"))
+        << name;
+    EXPECT_EQ(write.others(), row.others) << name;
+    if (row.kind != 0) {
+      EXPECT_EQ(write.state().st_mode & S_IFMT, row.kind) << name;
+    }
+    if (row.content) {
+      EXPECT_EQ(write.content(), *row.content) << name;
+    }
+  }
+}
+
+std::string rewritten_water() {
+  std::string text = water;
+  return text.replace(1, 3, "OPT");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, ChangeMeanwhile,
+    testing::Combine(
+        testing::Values(
+            MeanwhileRow{"Changed", "echo other > a.qin", "other\n"},
+            MeanwhileRow{"AppendedTo", "echo other >> a.qin", water + std::string("other\n")},
+            MeanwhileRow{"Rewritten", "printf '#OPT' 1<> a.qin", rewritten_water()},
+            // The clock of the file system may be coarse.
+            MeanwhileRow{"RewrittenWithTheOldTime",
+                         "sleep 0.02; printf '#OPT' 1<> a.qin; touch -d @1 a.qin",
+                         rewritten_water()},
+            MeanwhileRow{"Touched", "touch a.qin", water},
+            MeanwhileRow{"Replaced", "echo other > b; mv b a.qin", "other\n"},
+            MeanwhileRow{"ReplacedByItsCopy", "cp -p a.qin b; mv b a.qin", water},
+            MeanwhileRow{"Removed", "rm a.qin", std::nullopt, 0},
+            MeanwhileRow{"MadeALink", "mv a.qin b; ln -s b a.qin", water, S_IFLNK, {"b"}},
+            MeanwhileRow{"MadeADanglingLink", "ln -sf none a.qin", std::nullopt, S_IFLNK},
+            MeanwhileRow{"MadeAFolder", "rm a.qin; mkdir a.qin", std::nullopt, S_IFDIR}),
+        testing::Bool()),
+    [](const auto& row) {
+      return std::get<MeanwhileRow>(row.param).name + words_for(std::get<bool>(row.param));
+    });
+
+TEST(ChangeWhileReading, IsNoticed) {
+  const std::vector<std::string> calls = calls_of_a_write();
+  FaultyWrite write;
+  // The file is looked at once more before it is closed.
+  EXPECT_EQ(write.run_with_fault(position(calls, "close"), "run echo other >> a.qin"),
+            ended(2, "", "a.qin: error: changed while it was read\n"));
+  EXPECT_EQ(write.content(), water + std::string("other\n"));
+}
 
 TEST(FolderThatCannotBeFlushed, IsNoErrorWhereTheFileSystemHasNoWayTo) {
   const std::vector<std::string> calls = calls_of_a_write();
