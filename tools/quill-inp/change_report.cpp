@@ -1,6 +1,7 @@
 #include "quill-inp/change_report.hpp"
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "kelp/core/text.hpp"
@@ -31,10 +32,11 @@ std::size_t end_of_run(const std::vector<LineChange>& changes, std::size_t begin
 
 }  // namespace
 
-void report_changes(Session& session, const std::string& name, std::string_view old_text,
-                    const edit_support::SurgicalEdit& edit) {
+std::vector<ChangeNote> describe_changes(const std::string& name, std::string_view old_text,
+                                         const edit_support::SurgicalEdit& edit) {
   const std::vector<std::string> old_lines = core::text::split_lines(old_text);
   const std::vector<std::string> new_lines = core::text::split_lines(edit.text);
+  std::vector<ChangeNote> notes;
   for (std::size_t begin = 0; begin < edit.changes.size();) {
     const std::size_t end = end_of_run(edit.changes, begin);
     const LineChange& change = edit.changes[begin];
@@ -45,9 +47,10 @@ void report_changes(Session& session, const std::string& name, std::string_view 
     } else {
       message += ": " + (change.new_line ? new_lines : old_lines)[first - 1];
     }
-    session.reporter().note({name, first}, message);
+    notes.push_back({{name, first}, std::move(message)});
     begin = end;
   }
+  return notes;
 }
 
 }  // namespace kelp::input::quill::tool

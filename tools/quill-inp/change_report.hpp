@@ -3,17 +3,24 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "edit_support/surgical_edit.hpp"
-#include "quill-inp/session.hpp"
+#include "quill-inp/reporter.hpp"
 
 namespace kelp::input::quill::tool {
 
-/// Notes every line that an edit changed, added or removed: one by one with its text, and several
-/// of the same kind in a row as one range. Removed lines go by their old numbers, others by their
-/// new ones.
-void report_changes(Session& session, const std::string& name, std::string_view old_text,
-                    const edit_support::SurgicalEdit& edit);
+/// What to note of a change.
+struct ChangeNote {
+  Place place = {};
+  std::string message = {};
+};
+
+/// Describes every line that an edit of the file `name` changes, adds or removes: one by one with
+/// its text, and several of the same kind in a row as one range. Removed lines go by their old
+/// numbers, others by their new ones.
+std::vector<ChangeNote> describe_changes(const std::string& name, std::string_view old_text,
+                                         const edit_support::SurgicalEdit& edit);
 
 }  // namespace kelp::input::quill::tool
 

@@ -61,8 +61,12 @@ ExitCode edit_file(Session& session, const std::string& argument,
   note_number_changes(session, source.name, edit.proof.comparison.number_changes);
   if (!accept_losses(session, source.name, list_all_losses(source, result, plan, edit), policy))
     return ExitCode::Trouble;
+  // Whatever fails for want of memory once the file holds the new text would say that it does not,
+  // so what takes much of it comes first.
+  std::vector<ChangeNote> notes;
+  if (delivery.in_place) notes = describe_changes(source.name, source.content, edit);
   const ExitCode code = deliver(session, source, edit.text, delivery);
-  if (delivery.in_place) report_changes(session, source.name, source.content, edit);
+  for (const ChangeNote& note : notes) session.reporter().note(note.place, note.message);
   return code;
 }
 

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <istream>
 #include <map>
 #include <ostream>
@@ -12,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "files.hpp"
 #include "quill-inp/run.hpp"
 #include "support/failing_allocator.hpp"
 #include "support/temporary_folder.hpp"
@@ -19,13 +21,14 @@
 namespace kelp::input::quill::tool {
 namespace {
 
-constexpr const char* first_text = "#a\n\n0 1\n";
+using Names = std::vector<std::string>;
 
 /// Standard input, which takes down how many allocations there were before it was read: what comes
 /// before belongs to the command line, and not to a file.
 class FirstFile : public std::streambuf {
  public:
-  explicit FirstFile(const AllocationWindow& window) : window_(window) {}
+  FirstFile(const AllocationWindow& window, std::string text)
+      : window_(window), text_(std::move(text)) {}
   std::uint64_t allocations_before() const { return allocations_before_; }
 
  private:
@@ -37,8 +40,8 @@ class FirstFile : public std::streambuf {
   }
 
   const AllocationWindow& window_;
+  std::string text_;
   std::uint64_t allocations_before_ = 0;
-  std::string text_ = first_text;
 };
 
 /// What is written, without allocating: a stream would take a failure of that for one to write.
@@ -61,7 +64,8 @@ struct MeteredCall {
 };
 
 /// Runs the program in this process, with one of its allocations failing, or with 0 none.
-MeteredCall run_failing(const std::vector<std::string>& arguments, std::uint64_t failing) {
+MeteredCall run_failing(const std::vector<std::string>& arguments, const std::string& input,
+                        std::uint64_t failing) {
   Captured out_text;
   Captured err_text;
   std::ostream out(&out_text);
@@ -69,7 +73,7 @@ MeteredCall run_failing(const std::vector<std::string>& arguments, std::uint64_t
   MeteredCall call;
   {
     const AllocationWindow window(failing);
-    FirstFile in_text(window);
+    FirstFile in_text(window, input);
     std::istream in(&in_text);
     call.code = run(arguments, in, out, err);
     call.allocations_before = in_text.allocations_before();
@@ -81,14 +85,15 @@ MeteredCall run_failing(const std::vector<std::string>& arguments, std::uint64_t
 }
 
 TEST(OutOfMemory, ForOneFileStopsNoOther) {
+  const std::string input = "#a\n\n0 1\n";
   const TemporaryFolder folder;
   const std::vector<std::pair<std::string, std::string>> files = {
-      {"<stdin>", first_text},
+      {"<stdin>", input},
       {folder.write("b.qin", "#b(c=d)\n\n0 2\n"), "#b(c=d)\n\n0 2\n"},
       {folder.write("c.qin", "#e = f\n\nXYZ g\n"), "#e = f\n\nXYZ g\n"}};
   const std::vector<std::string> arguments = {"fmt", "-", folder.path("b.qin"),
                                               folder.path("c.qin")};
-  const MeteredCall undisturbed = run_failing(arguments, 0);
+  const MeteredCall undisturbed = run_failing(arguments, input, 0);
   ASSERT_EQ(undisturbed.code, 0);
   std::map<std::string, std::string> outputs = {{"", undisturbed.out}};
   for (const auto& [file, ignored] : files) {
@@ -98,7 +103,7 @@ TEST(OutOfMemory, ForOneFileStopsNoOther) {
 
   std::map<std::string, int> times;
   for (std::uint64_t i = undisturbed.allocations_before + 1; i <= undisturbed.allocations; ++i) {
-    const MeteredCall call = run_failing(arguments, i);
+    const MeteredCall call = run_failing(arguments, input, i);
     ASSERT_EQ(outputs.count(call.err), 1U) << call.err;
     EXPECT_EQ(call.out, outputs[call.err]) << call.err;
     EXPECT_EQ(call.code, call.err.empty() ? 0 : 2) << call.err;
@@ -107,6 +112,29 @@ TEST(OutOfMemory, ForOneFileStopsNoOther) {
   for (const auto& [err, ignored] : outputs) {
     EXPECT_TRUE(err.empty() || times[err] > 10) << err;
   }
+}
+
+TEST(OutOfMemory, LeavesTheOldTextAloneOrTheNewTextBesideItsBackup) {
+  const std::string input = "1\n\nHe 0 0 1\n";
+  const std::string old_text = "0 1\nHe 0 0 0\n";
+  const std::string new_text = "0 1\nHe       0.000000      0.000000      1.000000\n";
+  const TemporaryFolder folder;
+  const std::string path = folder.write("a.qin", old_text);
+  const std::vector<std::string> arguments = {"set", "-q", "-i", "--backup", path, "--atoms", "-"};
+  const MeteredCall undisturbed = run_failing(arguments, input, 0);
+  int failures = 0;
+  for (std::uint64_t i = undisturbed.allocations_before + 1; i <= undisturbed.allocations; ++i) {
+    folder.write("a.qin", old_text);
+    std::filesystem::remove(path + ".bak");
+    const MeteredCall call = run_failing(arguments, input, i);
+    const bool failed = call.code == 2;
+    EXPECT_EQ(call.err, failed ? path + ": error: out of memory\n" : "") << i;
+    EXPECT_EQ(content_of(path), failed ? old_text : new_text) << i;
+    EXPECT_EQ(names_in(folder.path()), failed ? Names{"a.qin"} : (Names{"a.qin", "a.qin.bak"}))
+        << i;
+    failures += failed ? 1 : 0;
+  }
+  EXPECT_GT(failures, 10);
 }
 
 }  // namespace
