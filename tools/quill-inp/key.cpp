@@ -129,6 +129,10 @@ Key parse_key(std::string_view text) {
   return parse_command_key(text);
 }
 
+bool has_value(std::string_view setting) {
+  return find_equals_sign(setting) != std::string_view::npos;
+}
+
 Setting parse_setting(std::string_view text) {
   const std::size_t equals = find_equals_sign(text);
   Setting setting;

@@ -47,6 +47,9 @@ struct Setting {
   std::optional<std::string> value = std::nullopt;
 };
 
+/// Returns whether a setting has a value: an "=" that no backslash precedes.
+bool has_value(std::string_view setting);
+
 /// Reads a setting. The first "=" that no backslash precedes ends the key; the value is everything
 /// after it, as it is. Throws as parse_key() does.
 Setting parse_setting(std::string_view text);

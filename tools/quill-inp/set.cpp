@@ -4,6 +4,7 @@
 #include "quill-inp/arguments.hpp"
 #include "quill-inp/edit_file.hpp"
 #include "quill-inp/geometry_options.hpp"
+#include "quill-inp/setting_options.hpp"
 #include "quill-inp/setting_plan.hpp"
 #include "quill-inp/trouble.hpp"
 #include "quill-inp/verb.hpp"
@@ -16,14 +17,14 @@ constexpr const char* example =
     "Example:\n"
     "  quill-inp set -i water.qin opt.maxiter=100 model=m1 @charge=-1\n"
     "\n"
-    "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N].PARAMETER, @charge or @multiplicity; without\n"
-    "=VALUE a command or parameter without a value is set. Only the lines that must change do.";
+    "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N].PARAMETER, @charge or @multiplicity; for "
+    "--flag\n"
+    "COMMAND or COMMAND.PARAMETER. Settings are made in the order in which they are given. Only "
+    "the\n"
+    "lines that must change do.";
 
-ExitCode set(Session& session, const CLI::App& app, const std::string& argument,
-             const std::vector<std::string>& texts) {
-  std::vector<Setting> settings;
-  settings.reserve(texts.size());
-  for (const std::string& text : texts) settings.push_back(parse_setting(text));
+ExitCode set(Session& session, const CLI::App& app, const std::string& argument) {
+  const std::vector<Setting> settings = read_settings(app);
   const Delivery delivery = read_delivery(app);
   const LossPolicy policy = read_loss_policy(app);
   const std::optional<edit_support::Edit> geometry = read_geometry(session, app);
@@ -41,16 +42,14 @@ ExitCode set(Session& session, const CLI::App& app, const std::string& argument,
 Verb add_set(CLI::App& program) {
   CLI::App* app = add_verb(program, "set", "Set values, parameters and the geometry", example);
   add_argument(*app, "FILE", "The input");
-  add_optional_arguments(*app, "KEY=VALUE", "What to set, all or nothing");
+  add_setting_options(*app);
   add_geometry_options(*app);
   add_delivery_options(*app, false);
   add_loss_options(*app);
   add_common_options(*app);
   return {app, [=](Session& session) {
             const std::string argument = *value_of(*app, "FILE");
-            return for_file(session, argument, [&] {
-              return set(session, *app, argument, values_of(*app, "KEY=VALUE"));
-            });
+            return for_file(session, argument, [&] { return set(session, *app, argument); });
           }};
 }
 

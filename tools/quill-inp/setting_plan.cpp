@@ -58,7 +58,9 @@ class SettingPlanner {
       throw UsageError("'" + setting.key_text +
                        "' cannot be set by a value; use --atoms, --xyz or --trajectory");
     }
-    const std::int32_t number = parse_integer(setting.key_text, setting.value.value_or(""));
+    if (!setting.value)
+      throw UsageError("'" + setting.key_text + "' cannot be set without a value");
+    const std::int32_t number = parse_integer(setting.key_text, *setting.value);
     SetChargeAndMultiplicity edit;
     (key == SpecialKey::Charge ? edit.charge : edit.multiplicity) = number;
     plan_.edits.emplace_back(edit);

@@ -98,6 +98,8 @@ void check_key(std::string_view text) {
   if (!setting) return;
   const std::string whole = setting->key_text + (setting->value ? "=" + *setting->value : "");
   require(whole == text, "a setting is its key and its value", text);
+  require(has_value(text) == setting->value.has_value(), "a setting has the value that it shows",
+          text);
   require(is_same(setting->key, parse_key(setting->key_text)), "a setting has the key of its text",
           text);
 }

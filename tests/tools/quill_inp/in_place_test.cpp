@@ -24,7 +24,7 @@ const std::vector<std::string> change = {"set", "-q", "-i", "a.qin", "model=m2"}
 TEST(InPlace, ReportsTheLinesThatChanged) {
   const TemporaryFolder folder;
   folder.write("a.qin", "#a\n#b = 1\n#c(d)\n\n0 1\nHe 0 0 0\nHe 0 0 1\n");
-  EXPECT_EQ(run_in(folder.path(), {"set", "-i", "a.qin", "b=2", "e"}),
+  EXPECT_EQ(run_in(folder.path(), {"set", "-i", "a.qin", "b=2", "--flag", "e"}),
             ended(0, "", "a.qin:2: note: changed: #b = 2\na.qin:4: note: added: #e\n"));
   EXPECT_EQ(run_in(folder.path(), {"unset", "-i", "a.qin", "a", "@charge"}),
             ended(0, "", "a.qin:1: note: removed: #a\na.qin:6: note: removed: 0 1\n"));

@@ -156,6 +156,10 @@ TEST_P(ParsedSetting, IsAKeyAndAValue) {
   EXPECT_EQ(setting.value, GetParam().value);
 }
 
+TEST_P(ParsedSetting, IsKnownToHaveAValue) {
+  EXPECT_EQ(has_value(GetParam().text), GetParam().value.has_value());
+}
+
 INSTANTIATE_TEST_SUITE_P(Table, ParsedSetting, testing::ValuesIn(setting_rows),
                          [](const auto& row) { return std::string(row.param.name); });
 

@@ -9,7 +9,7 @@ _quill_inp_options() {
   case ${1:-} in
     show) echo "--json --lines $general" ;;
     fmt) echo "$write --check $loss $general" ;;
-    set) echo "$geometry $write $loss $general" ;;
+    set) echo "--flag $geometry $write $loss $general" ;;
     unset) echo "$write $loss $general" ;;
     add) echo "$lines $write $loss $general" ;;
     new)
@@ -63,7 +63,7 @@ _quill_inp() {
     --color) _quill_inp_offer 'auto always never' "$word" ;;
     --atoms | --xyz | --trajectory | --post) _quill_inp_files "$word" ;;
     --task) _quill_inp_offer 'sp opt ts freq irc scan' "$word" ;;
-    --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
+    --flag | --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
       --atom | --scan | --raw | --max-change | --max-size | --stdin-filename) ;;
     *)
       case $word in

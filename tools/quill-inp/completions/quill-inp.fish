@@ -38,6 +38,7 @@ complete -c quill-inp -n $writing -l break-hard-links -d 'Write a file that has 
 complete -c quill-inp -n $losing -l allow-loss -d 'Go on when something gets lost'
 complete -c quill-inp -n $losing -l max-change -x -d 'Accept numbers rounded by up to this'
 
+complete -c quill-inp -n '__fish_seen_subcommand_from set' -l flag -x -d 'Set a command or parameter that has no value'
 complete -c quill-inp -n $placing -l atoms -r -d 'Inline the atoms of an XYZ file'
 complete -c quill-inp -n $placing -l xyz -r -d 'Refer to XYZ files'
 complete -c quill-inp -n $placing -l trajectory -r -d 'Refer to an XYZ trajectory'
