@@ -24,6 +24,17 @@ void warn_of_unknown_elements(Session& session, const std::string& name,
   }
 }
 
+/// An option that takes any number of paths takes a setting behind them for one, too.
+std::string require_path(const std::string& option, const std::string& text) {
+  if (text.find('=') < text.find('/')) {
+    throw UsageError(option + " takes a path, and '" + text +
+                     "' looks like a setting; settings of 'set' stand in front of the options or "
+                     "behind '--', and a path of this name is written './" +
+                     text + "'");
+  }
+  return text;
+}
+
 std::vector<AtomRecord> read_atoms(Session& session, const std::string& argument) {
   try {
     const InputSource source = read_input(session, argument);
@@ -46,13 +57,15 @@ void add_geometry_options(CLI::App& verb) {
 
 std::optional<edit_support::Edit> read_geometry(Session& session, const CLI::App& verb) {
   const auto atoms = value_of(verb, "--atoms");
-  const auto files = values_of(verb, "--xyz");
+  std::vector<std::string> files;
+  for (const std::string& path : values_of(verb, "--xyz"))
+    files.push_back(require_path("--xyz", path));
   const auto trajectory = value_of(verb, "--trajectory");
   const int given = (atoms ? 1 : 0) + (files.empty() ? 0 : 1) + (trajectory ? 1 : 0);
   if (given > 1) throw UsageError("--atoms, --xyz and --trajectory exclude each other");
   if (atoms) return edit_support::SetAtoms{read_atoms(session, *atoms)};
   if (!files.empty()) return edit_support::SetXyzFiles{files};
-  if (trajectory) return edit_support::SetTrajectory{*trajectory};
+  if (trajectory) return edit_support::SetTrajectory{require_path("--trajectory", *trajectory)};
   return std::nullopt;
 }
 

@@ -17,11 +17,9 @@ constexpr const char* example =
     "Example:\n"
     "  quill-inp set -i water.qin opt.maxiter=100 model=m1 @charge=-1\n"
     "\n"
-    "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N].PARAMETER, @charge or @multiplicity; for "
-    "--flag\n"
-    "COMMAND or COMMAND.PARAMETER. Settings are made in the order in which they are given. Only "
-    "the\n"
-    "lines that must change do.";
+    "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N].PARAMETER, @charge or @multiplicity, for\n"
+    "--flag COMMAND or COMMAND.PARAMETER. Settings are made in the order in which they stand;\n"
+    "behind --xyz they would be paths. Only the lines that must change do.";
 
 ExitCode set(Session& session, const CLI::App& app, const std::string& argument) {
   const std::vector<Setting> settings = read_settings(app);

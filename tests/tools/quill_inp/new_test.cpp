@@ -80,6 +80,16 @@ const Call calls[] = {
     {"TwoGeometries",
      {"new", "--atoms", "water.xyz", "--xyz", "a"},
      usage_error("--atoms, --xyz and --trajectory exclude each other")},
+    {"ASettingForAPath",
+     {"new", "--xyz", "a", "model=m2"},
+     usage_error("--xyz takes a path, and 'model=m2' looks like a setting; settings of 'set' stand "
+                 "in front of the options or behind '--', and a path of this name is written "
+                 "'./model=m2'")},
+    {"ASettingForATrajectory",
+     {"new", "--trajectory=model=m2"},
+     usage_error("--trajectory takes a path, and 'model=m2' looks like a setting; settings of "
+                 "'set' stand in front of the options or behind '--', and a path of this name is "
+                 "written './model=m2'")},
     {"TheSameOptionTwice",
      {"new", "--charge", "1", "--charge", "2"},
      usage_error("--charge can be given only once")},

@@ -28,6 +28,12 @@ Outcome refused(const std::string& message) {
   return ended(2, "", "water.qin: error: refused: " + message + " (--allow-loss goes on)\n");
 }
 
+std::string not_a_path(const std::string& option) {
+  return option +
+         " takes a path, and 'model=m2' looks like a setting; settings of 'set' stand in front of "
+         "the options or behind '--', and a path of this name is written './model=m2'";
+}
+
 class Set : public testing::TestWithParam<Call> {};
 
 const Call calls[] = {
@@ -112,6 +118,12 @@ const Call calls[] = {
     {"XyzFilesAndValues",
      {"set", "water.qin", "model=m2", "--xyz", "a.xyz"},
      ended(0, "#opt(maxiter=50, tight)\n#model = m2\n\n0 1\nXYZ a.xyz\n", "")},
+    {"ValuesBehindTheXyzFiles",
+     {"set", "water.qin", "--xyz", "a.xyz", "--", "model=m2"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m2\n\n0 1\nXYZ a.xyz\n", "")},
+    {"PathsWithEqualsSigns",
+     {"set", "water.qin", "--xyz", "./model=m2", "a/b=c"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\nXYZ ./model=m2\nXYZ a/b=c\n", "")},
     {"Trajectory",
      {"set", "water.qin", "--trajectory", "t.xyz"},
      ended(0, "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\nXYZTRAJ t.xyz\n", "")},
@@ -234,6 +246,23 @@ const Call calls[] = {
     {"AnEmptyWord",
      {"set", "water.qin", ""},
      usage_error("expected KEY=VALUE, not ''; a setting without a value is made by --flag KEY")},
+    {"ASettingBehindPaths",
+     {"set", "-i", "water.qin", "--xyz", "a.xyz", "model=m2"},
+     usage_error(not_a_path("--xyz"))},
+    {"ASettingAttachedAsAPath",
+     {"set", "water.qin", "--xyz=model=m2"},
+     usage_error(not_a_path("--xyz"))},
+    {"ASettingAsATrajectory",
+     {"set", "water.qin", "--trajectory", "model=m2"},
+     usage_error(not_a_path("--trajectory"))},
+    {"ASettingAttachedAsATrajectory",
+     {"set", "water.qin", "--trajectory=model=m2"},
+     usage_error(not_a_path("--trajectory"))},
+    {"ASettingWithASlashInItsValueBehindPaths",
+     {"set", "water.qin", "--xyz", "a.xyz", "model=a/b"},
+     usage_error("--xyz takes a path, and 'model=a/b' looks like a setting; settings of 'set' "
+                 "stand in front of the options or behind '--', and a path of this name is written "
+                 "'./model=a/b'")},
     {"NothingToSet", {"set", "water.qin"}, usage_error("nothing to set")},
     {"TwoGeometries",
      {"set", "water.qin", "--xyz", "a", "--trajectory", "b"},
