@@ -13,13 +13,28 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// Returns the header lines that change and say more than the command that they were read as.
+void report_notes(Session& session, const InputSource& source, const ParseResult& result,
+                  const std::vector<PlanNote>& notes) {
+  if (notes.empty()) return;
+  const auto account = edit_support::account_for_lines(source.content, result);
+  for (const PlanNote& note : notes) {
+    Place place{source.name};
+    if (note.command) {
+      const auto at =
+          edit_support::find_line(account, edit_support::LineRole::Command, note.command);
+      place.line = account.at(at.value()).number;
+    }
+    session.reporter().note(place, note.text);
+  }
+}
+
+/// Returns the header lines that change or go and say more than the command that they were read as.
 std::vector<std::string> list_lost_texts(std::string_view text, const ParseResult& result,
                                          const edit_support::SurgicalEdit& edit) {
   const auto account = edit_support::account_for_lines(text, result);
   std::vector<std::string> lost;
   for (const edit_support::LineChange& change : edit.changes) {
-    if (!change.old_line || !change.new_line) continue;
+    if (!change.old_line) continue;
     const edit_support::AccountedLine& line = account[*change.old_line - 1];
     if (line.role == edit_support::LineRole::Command &&
         says_more_than(line.content(text), result.input.commands[*line.index]))
@@ -52,7 +67,7 @@ ExitCode edit_file(Session& session, const std::string& argument,
   const ParseResult result = parse_string(source.content);
   report_warnings(session.reporter(), source.name, result);
   const EditPlan plan = make_plan(result.input);
-  for (const std::string& text : plan.notes) session.reporter().note({source.name}, text);
+  report_notes(session, source, result, plan.notes);
   for (const std::string& text : plan.missing) session.reporter().note({source.name}, text);
   if (!plan.missing.empty()) return ExitCode::No;
 

@@ -1,7 +1,9 @@
 #ifndef KELP_INPUT_QUILL_TOOL_EDIT_FILE_HPP
 #define KELP_INPUT_QUILL_TOOL_EDIT_FILE_HPP
 
+#include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,6 +13,12 @@
 
 namespace kelp::input::quill::tool {
 
+/// Something to say of an edit: of the input, or of one of its commands as it was read.
+struct PlanNote {
+  std::string text = {};
+  std::optional<std::size_t> command = std::nullopt;  // into QuillInput::commands
+};
+
 /// What to do to an input, once it was read: the edits, what the input says now and would not say
 /// any more without having been asked about it, what the edits are about and is not there, and what
 /// else there is to say about them.
@@ -18,7 +26,7 @@ struct EditPlan {
   std::vector<edit_support::Edit> edits = {};
   std::vector<std::string> losses = {};
   std::vector<std::string> missing = {};
-  std::vector<std::string> notes = {};
+  std::vector<PlanNote> notes = {};
 };
 
 /// Reads an input, makes a plan for it, carries all of the plan out or nothing, and delivers the

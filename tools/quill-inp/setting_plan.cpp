@@ -38,7 +38,7 @@ class SettingPlanner {
       return;
     }
     if (const auto note = explain_new_name(editor_.document(), setting.key_text, key))
-      plan_.notes.push_back(*note);
+      plan_.notes.push_back({*note});
     if (key.parameter) {
       set_parameter(setting, key, command);
     } else {

@@ -1,9 +1,13 @@
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "edit_support/tracked_document.hpp"
 #include "kelp/core/text.hpp"
 #include "quill-inp/answer.hpp"
 #include "quill-inp/arguments.hpp"
@@ -20,20 +24,23 @@ constexpr const char* example =
     "  quill-inp unset -i water.qin opt.tight device\n"
     "\n"
     "KEY is as for 'get'. COMMAND removes every command of the name, COMMAND[N] one of them,\n"
-    "COMMAND.PARAMETER a parameter of the first one; @charge or @multiplicity the line that\n"
-    "has both. When a key has no match, nothing is removed and the exit code is 1.";
+    "COMMAND.PARAMETER a parameter of the first one, given twice also the second parameter of the\n"
+    "name; @charge or @multiplicity the line that has both. When a key has no match, nothing is\n"
+    "removed and the exit code is 1.";
 
-/// A key in the form in which names are compared, so that one that is given twice is found.
+/// A key in the form in which names are compared.
 struct Removal {
   std::string command = {};
   std::optional<std::uint64_t> occurrence = std::nullopt;
   std::optional<std::string> parameter = std::nullopt;
-
-  bool operator==(const Removal& other) const {
-    return command == other.command && occurrence == other.occurrence &&
-           parameter == other.parameter;
-  }
 };
+
+/// Numbers of commands are those of the file, so that one given twice is the same command. A
+/// parameter given twice is another one of the name.
+bool asks_for_the_same(const Removal& left, const Removal& right) {
+  return !left.parameter && !right.parameter && left.command == right.command &&
+         left.occurrence == right.occurrence;
+}
 
 Removal to_removal(const CommandKey& key) {
   Removal removal{normalize_command_name(key.command), key.occurrence, std::nullopt};
@@ -83,7 +90,8 @@ Request parse_request(const std::vector<std::string>& texts) {
     if (const auto* command_key = std::get_if<CommandKey>(&key)) {
       const Removal removal = to_removal(*command_key);
       auto& all = request.removals;
-      if (std::find(all.begin(), all.end(), removal) == all.end()) all.push_back(removal);
+      const auto is_same = [&](const Removal& other) { return asks_for_the_same(removal, other); };
+      if (std::none_of(all.begin(), all.end(), is_same)) all.push_back(removal);
     } else if (stands_on_charge_line(std::get<SpecialKey>(key))) {
       request.clears_charge_and_multiplicity = true;
     } else {
@@ -92,6 +100,37 @@ Request parse_request(const std::vector<std::string>& texts) {
   }
   std::stable_sort(request.removals.begin(), request.removals.end(), goes_before);
   return request;
+}
+
+/// Returns the index of a command that there is.
+std::size_t index_of(const QuillInput& input, const Removal& removal) {
+  const HeaderCommand* command =
+      input.find_command(removal.command, removal.occurrence.value_or(0));
+  return static_cast<std::size_t>(command - input.commands.data());
+}
+
+/// Notes the parameters that stay and have the name of one that goes: what was to have no effect
+/// any more may still have it.
+std::vector<PlanNote> note_remaining_parameters(const Request& request, const QuillInput& input,
+                                                const std::vector<edit_support::Edit>& edits) {
+  std::set<std::pair<std::size_t, std::string>> asked;
+  for (const Removal& removal : request.removals) {
+    if (removal.parameter) asked.emplace(index_of(input, removal), *removal.parameter);
+  }
+  edit_support::TrackedDocument after(input);
+  for (const edit_support::Edit& edit : edits) after.apply(edit);
+  std::vector<PlanNote> notes;
+  for (std::size_t i = 0; i < after.origins().size(); ++i) {
+    const HeaderCommand& command = after.document().commands[i];
+    for (const auto& [index, name] : asked) {
+      const auto remaining = find_parameter_index(command, name);
+      if (after.origins()[i] == index && remaining) {
+        notes.push_back(
+            {"another parameter '" + command.parameters[*remaining].name + "' remains", index});
+      }
+    }
+  }
+  return notes;
 }
 
 EditPlan make_plan(const Request& request, const QuillInput& input) {
@@ -103,6 +142,7 @@ EditPlan make_plan(const Request& request, const QuillInput& input) {
   for (const Removal& removal : request.removals) plan.edits.push_back(to_edit(removal));
   if (request.clears_charge_and_multiplicity)
     plan.edits.emplace_back(edit_support::ClearChargeAndMultiplicity{});
+  if (plan.missing.empty()) plan.notes = note_remaining_parameters(request, input, plan.edits);
   return plan;
 }
 

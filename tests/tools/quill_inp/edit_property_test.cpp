@@ -60,7 +60,9 @@ Reported read_notes(const std::string& path, const std::string& notes) {
     std::size_t first = 0;
     char kind[8] = {};
     int length = 0;
-    if (std::sscanf(rest.c_str(), "%zu: note: %7[a-z]%n", &first, kind, &length) != 2) continue;
+    const bool has_line =
+        std::sscanf(rest.c_str(), "%zu: note: %7[a-z]%n", &first, kind, &length) == 2;
+    if (!has_line || kinds.count(kind) == 0) continue;
     std::size_t last = first;
     const char* const behind = rest.c_str() + length;
     if (std::sscanf(behind, ", up to line %zu", &last) != 1) {
