@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "kelp/core/text.hpp"
+#include "kelp/input/quill/document.hpp"
 #include "quill-inp/suggestion.hpp"
 #include "quill-inp/trouble.hpp"
 
@@ -78,20 +79,13 @@ class KeyCursor {
   std::size_t position_ = 0;
 };
 
-/// One "#" may be typed, as in the file; the name is stored without it.
-std::string without_hash(const std::string& name) {
-  const std::string trimmed = core::text::trim(name);
-  const bool has_hash = !trimmed.empty() && trimmed.front() == '#';
-  return has_hash ? core::text::trim(std::string_view(trimmed).substr(1)) : trimmed;
-}
-
 /// key = name [ "[" number "]" ] [ "." name ]
 CommandKey parse_command_key(std::string_view text) {
   KeyCursor cursor(text);
   CommandKey key;
   const std::string name = cursor.piece();
   if (core::text::trim(name).empty()) throw_bad_key(text, "there is no name");
-  key.command = without_hash(name);
+  key.command = stored_command_name(name);
   if (cursor.consume('[')) key.occurrence = cursor.occurrence();
   if (cursor.consume('.')) {
     key.parameter = cursor.piece();
@@ -124,6 +118,14 @@ std::size_t find_equals_sign(std::string_view text) {
 
 }  // namespace
 
+std::string stored_command_name(std::string_view typed) {
+  const std::string trimmed = core::text::trim(typed);
+  const bool has_hash = !trimmed.empty() && trimmed.front() == '#';
+  return has_hash ? core::text::trim(std::string_view(trimmed).substr(1)) : trimmed;
+}
+
+bool is_nameless(std::string_view command) { return normalize_command_name(command).empty(); }
+
 Key parse_key(std::string_view text) {
   if (!text.empty() && text.front() == '@') return parse_special_key(text);
   return parse_command_key(text);
@@ -138,6 +140,9 @@ Setting parse_setting(std::string_view text) {
   Setting setting;
   setting.key_text = std::string(text.substr(0, equals));
   setting.key = parse_key(setting.key_text);
+  const auto* key = std::get_if<CommandKey>(&setting.key);
+  if (key != nullptr && is_nameless(key->command))
+    throw_bad_key(setting.key_text, "there is no name");
   if (equals != std::string_view::npos) setting.value = std::string(text.substr(equals + 1));
   return setting;
 }

@@ -17,6 +17,13 @@
 
 namespace kelp::input::quill::tool {
 
+/// Returns the name of a command as it is stored, of one that was typed: without blanks around it
+/// and without the "#" that may stand in front as in the file.
+std::string stored_command_name(std::string_view typed);
+
+/// Returns whether a command of this stored name would stand in an input without any name.
+bool is_nameless(std::string_view command);
+
 /// What an input has besides header commands.
 enum class SpecialKey {
   Charge,
@@ -51,7 +58,8 @@ struct Setting {
 bool has_value(std::string_view setting);
 
 /// Reads a setting. The first "=" that no backslash precedes ends the key; the value is everything
-/// after it, as it is. Throws as parse_key() does.
+/// after it, as it is. Throws as parse_key() does, and for a command without a name: an input may
+/// have one, but nobody means to make one.
 Setting parse_setting(std::string_view text);
 
 /// Returns how the keys that begin with "@" are written, "@charge" and so on.

@@ -8,6 +8,7 @@
 #include "quill-inp/arguments.hpp"
 #include "quill-inp/document_output.hpp"
 #include "quill-inp/geometry_options.hpp"
+#include "quill-inp/key.hpp"
 #include "quill-inp/post_argument.hpp"
 #include "quill-inp/post_options.hpp"
 #include "quill-inp/trouble.hpp"
@@ -34,12 +35,18 @@ CommandParameter parse_parameter(const std::string& text) {
   return parameter;
 }
 
+std::string read_task_name(const std::string& text) {
+  std::string name = stored_command_name(text);
+  if (is_nameless(name)) throw UsageError("--task takes a name, not '" + text + "'");
+  return name;
+}
+
 /// Returns the tasks, each with the parameters that follow it on the command line.
 std::vector<HeaderCommand> read_tasks(const CLI::App& app) {
   std::vector<HeaderCommand> tasks;
   for (const OptionUse& use : uses_in_order(app, {"--task", "--param"})) {
     if (use.name == "--task") {
-      tasks.emplace_back(use.value);
+      tasks.emplace_back(read_task_name(use.value));
     } else if (tasks.empty()) {
       throw UsageError("--param belongs behind the --task that it is for");
     } else {

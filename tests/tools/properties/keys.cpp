@@ -100,6 +100,8 @@ void check_key(std::string_view text) {
   require(whole == text, "a setting is its key and its value", text);
   require(has_value(text) == setting->value.has_value(), "a setting has the value that it shows",
           text);
+  const auto* command = std::get_if<CommandKey>(&setting->key);
+  require(command == nullptr || !is_nameless(command->command), "a setting has a name", text);
   require(is_same(setting->key, parse_key(setting->key_text)), "a setting has the key of its text",
           text);
 }

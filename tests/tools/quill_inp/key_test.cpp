@@ -128,6 +128,25 @@ TEST(SpecialKey, ThatIsUnknownGetsTheNearestOne) {
   EXPECT_EQ(complaint("@"), "unknown key '@'");
 }
 
+struct NameRow {
+  std::string_view typed;
+  std::string_view stored;
+  bool is_nameless;
+};
+
+constexpr NameRow name_rows[] = {
+    {"opt", "opt", false}, {" # Opt ", "Opt", false}, {"##x", "#x", false},
+    {"", "", true},        {" \t", "", true},         {"#", "", true},
+    {"##", "#", true},     {" # # ", "#", true},      {"#.", ".", false},
+};
+
+TEST(CommandName, IsStoredWithoutTheHashThatWasTyped) {
+  for (const NameRow& row : name_rows) {
+    EXPECT_EQ(stored_command_name(row.typed), row.stored);
+    EXPECT_EQ(is_nameless(row.stored), row.is_nameless) << row.typed;
+  }
+}
+
 struct SettingRow {
   std::string_view name;
   std::string_view text;

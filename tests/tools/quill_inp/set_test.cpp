@@ -34,6 +34,13 @@ std::string not_a_path(const std::string& option) {
          "the options or behind '--', and a path of this name is written './model=m2'";
 }
 
+Outcome nameless(const std::string& key) {
+  return usage_error("bad key '" + key +
+                     "': there is no name; a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or "
+                     "COMMAND[N].PARAMETER, N counted from 0, or @charge, @multiplicity, "
+                     "@geometry, @files or @atoms");
+}
+
 class Set : public testing::TestWithParam<Call> {};
 
 const Call calls[] = {
@@ -73,11 +80,7 @@ const Call calls[] = {
     {"FlagWhoseNameHasAnEqualsSign",
      {"set", "water.qin", "--flag", R"(opt.a\=b)", "--allow-loss", "-q"},
      with_header("#opt(maxiter=50, tight, a=b)\n#model = m1\n")},
-    {"FlagThatLooksLikeAList",
-     {"set", "water.qin", "--flag", "[a]"},
-     usage_error("bad key '[a]': there is no name; a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] "
-                 "or COMMAND[N].PARAMETER, N counted from 0, or @charge, @multiplicity, @geometry, "
-                 "@files or @atoms")},
+    {"FlagThatLooksLikeAList", {"set", "water.qin", "--flag", "[a]"}, nameless("[a]")},
     {"SeveralAtOnce",
      {"set", "water.qin", "model=m2", "opt.a=1", "--flag", "opt.b", "opt.a=2", "@charge=-1"},
      ended(0, "#opt(maxiter=50, tight, a=2, b)\n#model = m2\n\n-1 1\n" + atoms, "")},
@@ -263,6 +266,10 @@ const Call calls[] = {
      usage_error("--xyz takes a path, and 'model=a/b' looks like a setting; settings of 'set' "
                  "stand in front of the options or behind '--', and a path of this name is written "
                  "'./model=a/b'")},
+    {"NamelessCommand", {"set", "water.qin", "#=x"}, nameless("#")},
+    {"NamelessCommandOfHashes", {"set", "water.qin", "##=x"}, nameless("##")},
+    {"ParameterOfANamelessCommand", {"set", "water.qin", "#.a=x"}, nameless("#.a")},
+    {"NamelessFlag", {"set", "water.qin", "--flag", "#"}, nameless("#")},
     {"NothingToSet", {"set", "water.qin"}, usage_error("nothing to set")},
     {"TwoGeometries",
      {"set", "water.qin", "--xyz", "a", "--trajectory", "b"},
