@@ -1,5 +1,7 @@
 #include "quill-inp/document_output.hpp"
 
+#include <vector>
+
 #include "edit_support/proof.hpp"
 #include "edit_support/value_spelling.hpp"
 
@@ -18,8 +20,10 @@ ExitCode print_document(Session& session, const std::string& name, const QuillIn
   const std::string text = spelled.document.to_string();
   const edit_support::Proof proof = edit_support::prove(text, document, policy.max_change);
   note_number_changes(session, name, proof.comparison.number_changes);
-  if (!accept_losses(session, name, list_losses(spelled.reasons, proof), policy))
-    return ExitCode::Trouble;
+  std::vector<Loss> losses = list_losses({spelled.reasons.begin(), spelled.reasons.end()}, proof);
+  // Their lines are those of the text that is not printed, which `name` does not stand for.
+  for (Loss& loss : losses) loss.line.reset();
+  if (!accept_losses(session, name, losses, policy)) return ExitCode::Trouble;
   report_warnings(session.reporter(), name_of_output, proof.found);
   session.output().write(text);
   return ExitCode::Done;

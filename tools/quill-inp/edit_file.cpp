@@ -29,32 +29,33 @@ void report_notes(Session& session, const InputSource& source, const ParseResult
 }
 
 /// Returns the header lines that change or go and say more than the command that they were read as.
-std::vector<std::string> list_lost_texts(std::string_view text, const ParseResult& result,
-                                         const edit_support::SurgicalEdit& edit) {
+std::vector<Loss> list_lost_texts(std::string_view text, const ParseResult& result,
+                                  const edit_support::SurgicalEdit& edit) {
   const auto account = edit_support::account_for_lines(text, result);
-  std::vector<std::string> lost;
+  std::vector<Loss> lost;
   for (const edit_support::LineChange& change : edit.changes) {
     if (!change.old_line) continue;
     const edit_support::AccountedLine& line = account[*change.old_line - 1];
     if (line.role == edit_support::LineRole::Command &&
         says_more_than(line.content(text), result.input.commands[*line.index]))
-      lost.push_back("line " + std::to_string(line.number) +
-                     " says more than its command, which would be lost: '" +
-                     core::text::trim(line.content(text)) + "'");
+      lost.emplace_back("line " + std::to_string(line.number) +
+                            " says more than its command, which would be lost: '" +
+                            core::text::trim(line.content(text)) + "'",
+                        line.number);
   }
   return lost;
 }
 
 /// Returns what gets lost: what the plan knows of, what stands on changed lines, and whatever does
 /// not read back as meant.
-std::vector<std::string> list_all_losses(const InputSource& source, const ParseResult& result,
-                                         const EditPlan& plan,
-                                         const edit_support::SurgicalEdit& edit) {
-  std::vector<std::string> losses = plan.losses;
-  const std::vector<std::string> texts = list_lost_texts(source.content, result, edit);
+std::vector<Loss> list_all_losses(const InputSource& source, const ParseResult& result,
+                                  const EditPlan& plan, const edit_support::SurgicalEdit& edit) {
+  std::vector<Loss> losses(plan.losses.begin(), plan.losses.end());
+  const std::vector<Loss> texts = list_lost_texts(source.content, result, edit);
   losses.insert(losses.end(), texts.begin(), texts.end());
-  if (!edit.holds())
-    losses.insert(losses.end(), edit.spelling_reasons.begin(), edit.spelling_reasons.end());
+  if (!edit.holds()) {
+    for (const std::string& reason : edit.spelling_reasons) losses.emplace_back(reason);
+  }
   return list_losses(std::move(losses), edit.proof);
 }
 

@@ -26,23 +26,23 @@ constexpr const char* example =
 using edit_support::AccountedLine;
 using edit_support::LineRole;
 
-std::string line_words(const AccountedLine& line, std::string_view text, const char* what) {
-  return "line " + std::to_string(line.number) + what + ": '" +
-         core::text::trim(line.content(text)) + "'";
+Loss loss_of(const AccountedLine& line, std::string_view text, const char* what) {
+  return Loss("line " + std::to_string(line.number) + what + ": '" +
+                  core::text::trim(line.content(text)) + "'",
+              line.number);
 }
 
 /// Returns what the lines of the text say and the document does not hold: the canonical text is
 /// made of the document alone.
-std::vector<std::string> list_left_out(std::string_view text, const ParseResult& result) {
-  std::vector<std::string> left_out;
+std::vector<Loss> list_left_out(std::string_view text, const ParseResult& result) {
+  std::vector<Loss> left_out;
   for (const AccountedLine& line : edit_support::account_for_lines(text, result)) {
     const bool has_no_path = line.role == LineRole::XyzReference && !line.index;
     if (line.role == LineRole::Dropped || has_no_path)
-      left_out.push_back(line_words(line, text, " would be left out"));
+      left_out.push_back(loss_of(line, text, " would be left out"));
     if (line.role == LineRole::Command &&
         says_more_than(line.content(text), result.input.commands[*line.index]))
-      left_out.push_back(
-          line_words(line, text, " says more than its command, which would be lost"));
+      left_out.push_back(loss_of(line, text, " says more than its command, which would be lost"));
   }
   return left_out;
 }
@@ -56,8 +56,8 @@ ExitCode format(Session& session, const std::string& argument, const Delivery& d
   edit_support::SpelledDocument spelled = edit_support::spell(result.input);
   const std::string text = spelled.document.to_string();
   const edit_support::Proof proof = edit_support::prove(text, result.input, policy.max_change);
-  std::vector<std::string> losses = list_left_out(source.content, result);
-  losses.insert(losses.end(), spelled.reasons.begin(), spelled.reasons.end());
+  std::vector<Loss> losses = list_left_out(source.content, result);
+  for (const std::string& reason : spelled.reasons) losses.emplace_back(reason);
   note_number_changes(session, source.name, proof.comparison.number_changes);
   if (!accept_losses(session, source.name, list_losses(std::move(losses), proof), policy))
     return ExitCode::Trouble;

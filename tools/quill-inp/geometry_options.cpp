@@ -8,6 +8,7 @@
 #include "quill-inp/arguments.hpp"
 #include "quill-inp/input_source.hpp"
 #include "quill-inp/trouble.hpp"
+#include "quill-inp/verb.hpp"
 #include "quill-inp/xyz_file.hpp"
 
 namespace kelp::input::quill::tool {
@@ -42,8 +43,8 @@ std::vector<AtomRecord> read_atoms(Session& session, const std::string& argument
     warn_of_unknown_elements(session, source.name, atoms);
     return atoms;
   } catch (const Trouble& trouble) {
-    // Another file than the one that whoever reports this is busy with.
-    throw Trouble("--atoms: " + session.shown_name(argument) + ": " + trouble.what());
+    report(session, argument, trouble);
+    throw ReportedTrouble();
   }
 }
 

@@ -17,7 +17,7 @@ void add_geometry_options(CLI::App& verb);
 
 /// Returns the edit that they ask for, if one of them was given. Reads the atoms of the file that
 /// --atoms names. Throws UsageError for two of them and for a path that looks like a setting,
-/// "model=m2", and Trouble for a file that cannot be read.
+/// "model=m2", and ReportedTrouble for a file that cannot be read.
 std::optional<edit_support::Edit> read_geometry(Session& session, const CLI::App& verb);
 
 }  // namespace kelp::input::quill::tool

@@ -1,5 +1,6 @@
 #include "quill-inp/json_text.hpp"
 
+#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <limits>
@@ -114,6 +115,22 @@ std::string without_identifier(const std::string& message) {
   return end == std::string::npos ? message : message.substr(end + 2);
 }
 
+/// A message of the JSON library as trouble. The line of "parse error at line 3, column 1: ..." is
+/// taken out of the words.
+Trouble to_trouble(const std::string& message) {
+  constexpr std::string_view before = "parse error at line ";
+  constexpr std::string_view behind = ", ";
+  std::size_t line = 0;
+  if (message.compare(0, before.size(), before) == 0) {
+    const char* const end = message.data() + message.size();
+    const char* const after = std::from_chars(message.data() + before.size(), end, line).ptr;
+    const std::string_view rest(after, static_cast<std::size_t>(end - after));
+    if (line != 0 && rest.substr(0, behind.size()) == behind)
+      return Trouble("not JSON: parse error at " + std::string(rest.substr(behind.size())), line);
+  }
+  return Trouble("not JSON: " + message);
+}
+
 }  // namespace
 
 OrderedJson string_to_json(std::string_view text) {
@@ -166,7 +183,7 @@ Json parse_json(std::string_view text) {
   try {
     return Json::parse(text, NameWatch());
   } catch (const Json::exception& error) {
-    throw Trouble("not JSON: " + without_identifier(error.what()));
+    throw to_trouble(without_identifier(error.what()));
   }
 }
 

@@ -35,8 +35,8 @@ std::string to_one_line(const OrderedJson& value);
 /// their lists each begin one. A line end follows.
 std::string to_lines(const OrderedJson& value);
 
-/// Reads a JSON text. Throws Trouble for a text that is not JSON and for an object with two members
-/// of the same name, of which one would be lost.
+/// Reads a JSON text. Throws Trouble, with the line, for a text that is not JSON, and for an object
+/// with two members of the same name, of which one would be lost.
 Json parse_json(std::string_view text);
 
 }  // namespace kelp::input::quill::tool

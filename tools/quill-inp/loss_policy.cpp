@@ -21,10 +21,9 @@ double parse_max_change(const std::string& text) {
   return change;
 }
 
-void report_accepted(Reporter& reporter, const std::string& name,
-                     const std::vector<std::string>& losses) {
+void report_accepted(Reporter& reporter, const std::string& name, const std::vector<Loss>& losses) {
   for (std::size_t i = 0; i < losses.size() && i < most_losses_told; ++i)
-    reporter.warning({name}, "lost: " + losses[i]);
+    reporter.warning({name, losses[i].line}, "lost: " + losses[i].words);
   if (losses.size() > most_losses_told) {
     reporter.warning({name}, "lost: " + std::to_string(losses.size() - most_losses_told) +
                                  " more differences of this kind");
@@ -46,25 +45,26 @@ LossPolicy read_loss_policy(const CLI::App& verb) {
   return policy;
 }
 
-std::vector<std::string> list_losses(std::vector<std::string> also,
-                                     const edit_support::Proof& proof) {
+std::vector<Loss> list_losses(std::vector<Loss> also, const edit_support::Proof& proof) {
   if (proof.holds()) return also;
-  also.push_back(proof.explanation);
+  also.emplace_back(proof.explanation, proof.line);
   for (const edit_support::DocumentDifference& difference : proof.comparison.differences) {
     if (proof.explanation.find(difference.words) == std::string::npos)
-      also.push_back(difference.words);
+      also.emplace_back(difference.words);
   }
   return also;
 }
 
-bool accept_losses(Session& session, const std::string& name,
-                   const std::vector<std::string>& losses, const LossPolicy& policy) {
+bool accept_losses(Session& session, const std::string& name, const std::vector<Loss>& losses,
+                   const LossPolicy& policy) {
   if (losses.empty()) return true;
   if (policy.allows_loss) {
     report_accepted(session.reporter(), name, losses);
     return true;
   }
-  session.reporter().error({name}, "refused: " + losses.front() + " (--allow-loss goes on)");
+  const Loss& first = losses.front();
+  session.reporter().error({name, first.line},
+                           "refused: " + first.words + " (--allow-loss goes on)");
   return false;
 }
 

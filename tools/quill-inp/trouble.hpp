@@ -1,7 +1,9 @@
 #ifndef KELP_INPUT_QUILL_TOOL_TROUBLE_HPP
 #define KELP_INPUT_QUILL_TOOL_TROUBLE_HPP
 
+#include <cstddef>
 #include <exception>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -9,10 +11,21 @@ namespace kelp::input::quill::tool {
 
 /// Why one file could not be processed. The others of the call still are. The text names no file,
 /// which whoever reports it puts in front, and may hold bytes that a terminal would obey.
+/// `line` is the number, counted from 1, of the line of the file that it is about, if it is about
+/// one.
 class Trouble : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  explicit Trouble(const std::string& message, std::optional<std::size_t> line = std::nullopt)
+      : std::runtime_error(message), line_(line) {}
+
+  std::optional<std::size_t> line() const { return line_; }
+
+ private:
+  std::optional<std::size_t> line_;
 };
+
+/// What ends the processing of a file and was reported already, for it is trouble with another one.
+class ReportedTrouble : public std::exception {};
 
 /// Why a call cannot be carried out for any file: its arguments make no sense.
 class UsageError : public std::runtime_error {

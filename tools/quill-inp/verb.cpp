@@ -12,7 +12,6 @@
 #include "quill-inp/arguments.hpp"
 #include "quill-inp/input_source.hpp"
 #include "quill-inp/suggestion.hpp"
-#include "quill-inp/trouble.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -98,12 +97,21 @@ CommonOptions read_common_options(const CLI::App& verb) {
   return options;
 }
 
+void report(Session& session, const std::string& argument, const Trouble& trouble) {
+  session.reporter().error({session.shown_name(argument), trouble.line()}, trouble.what());
+}
+
 ExitCode for_file(Session& session, const std::string& argument,
                   const std::function<ExitCode()>& action) {
   try {
     return action();
   } catch (const UsageError&) {
     throw;
+  } catch (const ReportedTrouble&) {
+    return ExitCode::Trouble;
+  } catch (const Trouble& trouble) {
+    report(session, argument, trouble);
+    return ExitCode::Trouble;
   } catch (const std::exception& error) {
     session.reporter().error({session.shown_name(argument)}, explain(error));
     return ExitCode::Trouble;

@@ -10,6 +10,7 @@
 
 #include "quill-inp/exit_code.hpp"
 #include "quill-inp/session.hpp"
+#include "quill-inp/trouble.hpp"
 
 namespace CLI {
 class App;
@@ -44,9 +45,12 @@ void add_common_options(CLI::App& verb);
 /// Reads the options that every verb has, see CommonOptions. Throws UsageError for bad values.
 CommonOptions read_common_options(const CLI::App& verb);
 
+/// Reports the trouble with the file that `argument` names, and its line if it is about one.
+void report(Session& session, const std::string& argument, const Trouble& trouble);
+
 /// Carries `action` out for a file and returns its exit code. Whatever it throws is reported with
-/// the file's name, and is ExitCode::Trouble, but for a UsageError, which concerns no file and
-/// passes.
+/// the file's name, and is ExitCode::Trouble, but for a ReportedTrouble, which is that already, and
+/// for a UsageError, which concerns no file and passes.
 ExitCode for_file(Session& session, const std::string& argument,
                   const std::function<ExitCode()>& action);
 

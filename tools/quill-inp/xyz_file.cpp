@@ -15,7 +15,7 @@ namespace text = core::text;
 namespace {
 
 [[noreturn]] void throw_at(std::size_t line, const std::string& message) {
-  throw Trouble("line " + std::to_string(line) + ": " + message);
+  throw Trouble(message, line);
 }
 
 std::size_t read_count(const std::vector<std::string>& lines) {

@@ -16,7 +16,7 @@ inline constexpr std::size_t xyz_lines_before_atoms = 2;
 /// atom with a symbol and three coordinates. Further columns are passed over. Symbols come back in
 /// the letter case of element symbols, the way the library reads them.
 ///
-/// Throws Trouble, naming the line, for a text that is not of this form, that has fewer atoms than
+/// Throws Trouble, with the line, for a text that is not of this form, that has fewer atoms than
 /// it says, or that goes on after them: a trajectory has several structures, and which of them is
 /// meant is not for this function to guess.
 std::vector<AtomRecord> read_xyz_atoms(std::string_view content);

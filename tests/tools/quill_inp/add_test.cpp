@@ -54,36 +54,43 @@ const Call calls[] = {
 
     {"AngleThatWouldBeAnAtom",
      {"add", "water.qin", "--angle", "1,2,3"},
-     refused("line 9 would be read as an atom of element A, not as an angle constraint; another "
-             "post-processing line in front of it avoids that")},
+     refused_at("water.qin", 9,
+                "would be read as an atom of element A, not as an angle constraint; another "
+                "post-processing line in front of it avoids that")},
     {"RawTextThatWouldBeAConstraint",
      {"add", "water.qin", "--raw", "B 1 2"},
-     refused("line 9 would be read otherwise: post-processing line 1 is a bond constraint instead "
-             "of raw text")},
+     refused_at("water.qin", 9,
+                "would be read otherwise: post-processing line 1 is a bond constraint instead "
+                "of raw text")},
     {"RawTextThatWouldBeDropped",
      {"add", "water.qin", "--raw", "B 1 x"},
-     refused("line 9 would be dropped with a warning, not read as raw text")},
+     refused_at("water.qin", 9, "would be dropped with a warning, not read as raw text")},
     {"RawTextWithOuterBlanks",
      {"add", "water.qin", "--raw", " x "},
-     refused("line 9 would be read otherwise: the text of post-processing line 1 is 'x' instead of "
-             "' x '")},
+     refused_at("water.qin", 9,
+                "would be read otherwise: the text of post-processing line 1 is 'x' instead of "
+                "' x '")},
     {"NoText", {"add", "water.qin", "--raw="}, refused("no line would be read as raw text ('')")},
     {"TextOfTwoLines",
      {"add", "water.qin", "--raw", "a\nb"},
-     refused("line 9 would be read otherwise: the text of post-processing line 1 is 'a' instead of "
-             "'a\\nb'")},
+     refused_at("water.qin", 9,
+                "would be read otherwise: the text of post-processing line 1 is 'a' instead of "
+                "'a\\nb'")},
     {"NoPath",
      {"add", "water.qin", "--post", ""},
-     refused("line 9 would be read otherwise: post-processing line 1 is raw text instead of a post "
-             "file")},
+     refused_at("water.qin", 9,
+                "would be read otherwise: post-processing line 1 is raw text instead of a post "
+                "file")},
     {"ScanInTooManyDigits",
      {"add", "-q", "water.qin", "--scan", "1,2:1.23456789:10"},
-     refused("line 9 would be read otherwise: the scan value of post-processing line 1 is 1.23457 "
-             "instead of 1.23456789")},
+     refused_at("water.qin", 9,
+                "would be read otherwise: the scan value of post-processing line 1 is 1.23457 "
+                "instead of 1.23456789")},
     {"ScanInTooManyDigitsForNoChangeAtAll",
      {"add", "-q", "--max-change", "0", "water.qin", "--scan", "1,2:0.00001234567:10"},
-     refused("line 9 would be read otherwise: the scan value of post-processing line 1 is "
-             "1.23457e-05 instead of 1.234567e-05")},
+     refused_at("water.qin", 9,
+                "would be read otherwise: the scan value of post-processing line 1 is "
+                "1.23457e-05 instead of 1.234567e-05")},
     {"ScanInTooManyDigitsForASmallChange",
      {"add", "-", "--scan", "1,2:0.00001234567:10"},
      ended(0, "XYZ a\n\nS 1 2 1.23457e-05 10\n",
@@ -92,7 +99,7 @@ const Call calls[] = {
     {"LossThatIsAllowed",
      {"add", "--allow-loss", "-", "--raw", " B 1 2"},
      ended(0, "XYZ a\n\n B 1 2\n",
-           "<stdin>: warning: lost: line 3 would be read otherwise: post-processing line 1 is a "
+           "<stdin>:3: warning: lost: line 3 would be read otherwise: post-processing line 1 is a "
            "bond constraint instead of raw text\n"
            "<stdin>: warning: lost: the list of atom numbers of post-processing line 1 is 1 2 "
            "instead of "

@@ -26,6 +26,13 @@ const char* const two_opts =
     "XYZ c.xyz\n"
     "B 1 x\n";
 
+Outcome refused_at(const std::string& name, int line, const std::string& message) {
+  const std::string number = std::to_string(line);
+  return ended(2, "",
+               name + ":" + number + ": error: refused: line " + number + " " + message +
+                   " (--allow-loss goes on)\n");
+}
+
 void expect_outcome(const Call& call) {
   const std::map<std::string, std::string> files = {
       {"water.qin", water},

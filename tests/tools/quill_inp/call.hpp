@@ -20,6 +20,9 @@ struct Call {
 
 inline void PrintTo(const Call& call, std::ostream* stream) { *stream << call.name; }
 
+/// Returns the outcome of a call that is refused for what its message says of a line of a file.
+Outcome refused_at(const std::string& name, int line, const std::string& message);
+
 /// Runs the call in a folder of its own, which holds the files below and nothing else, and expects
 /// its outcome, and that the call left all of them as they were.
 ///

@@ -23,10 +23,6 @@ Outcome usage_error(const std::string& message) {
       "quill-inp: error: " + message + "\nquill-inp: note: 'quill-inp fmt --help' says more\n");
 }
 
-Outcome refused(const std::string& message) {
-  return ended(2, "", "<stdin>: error: refused: " + message + " (--allow-loss goes on)\n");
-}
-
 const std::string digits = "0 1\nHe 0 0 0.12345678\nHe 0 0 1.00000049\nHe 0 0 1\n";
 
 class Fmt : public testing::TestWithParam<Call> {};
@@ -93,11 +89,12 @@ const Call calls[] = {
 
     {"RefusesLargeChangesOfNumbers",
      {"fmt", "-q", "--max-change", "4e-7", "-"},
-     refused("line 3 would be read otherwise: z of atom 2 is 1 instead of 1.00000049"),
+     refused_at("<stdin>", 3, "would be read otherwise: z of atom 2 is 1 instead of 1.00000049"),
      digits},
     {"RefusesAnyChangeOfNumbers",
      {"fmt", "-q", "--max-change", "0", "-"},
-     refused("line 2 would be read otherwise: z of atom 1 is 0.123457 instead of 0.12345678"),
+     refused_at("<stdin>", 2,
+                "would be read otherwise: z of atom 1 is 0.123457 instead of 0.12345678"),
      digits},
     {"AcceptsTheExactLimit",
      {"fmt", "-q", "--check", "--max-change=5e-7", "-"},
@@ -105,20 +102,21 @@ const Call calls[] = {
      "0 1\nHe 0 0 0.1234564\n"},
     {"RefusesAScanCutToSixDigits",
      {"fmt", "-q", "-"},
-     refused("line 3 would be read otherwise: the scan value of post-processing line 1 is 123.457 "
-             "instead of 123.45678"),
+     refused_at("<stdin>", 3,
+                "would be read otherwise: the scan value of post-processing line 1 is 123.457 "
+                "instead of 123.45678"),
      "XYZ a\nS 1 2 123.45678 10\n"},
     {"RefusesToDropALine",
      {"fmt", "-q", "-"},
-     refused("line 2 would be left out: 'B 1 x'"),
+     refused_at("<stdin>", 2, "would be left out: 'B 1 x'"),
      "XYZ a\n B 1 x \n"},
     {"RefusesToDropAReferenceWithoutPath",
      {"fmt", "-q", "-"},
-     refused("line 2 would be left out: 'XYZ'"),
+     refused_at("<stdin>", 2, "would be left out: 'XYZ'"),
      "XYZ a\nXYZ\n"},
     {"RefusesToDropAParameterWithoutName",
      {"fmt", "-q", "-"},
-     refused("line 1 says more than its command, which would be lost: '#a(b, =5)'"),
+     refused_at("<stdin>", 1, "says more than its command, which would be lost: '#a(b, =5)'"),
      "#a(b, =5)\n0 1\n"},
     {"LosesNothingWithEmptyPlacesInAList",
      {"fmt", "-"},
@@ -126,7 +124,7 @@ const Call calls[] = {
      "#a(,b,, c = 'd' ,)\n0 1\n"},
     {"RefusesToDropTrailingText",
      {"fmt", "-q", "-"},
-     refused("line 1 says more than its command, which would be lost: '#a(b) c'"),
+     refused_at("<stdin>", 1, "says more than its command, which would be lost: '#a(b) c'"),
      "#a(b) c\n0 1\n"},
     {"QuotesQuotes",
      {"fmt", "-"},
@@ -134,15 +132,15 @@ const Call calls[] = {
      "#a = '\"a'b\"'\n0 1\n"},
     {"TellsWhatBecomesOfALineWithoutTheOneInFrontOfIt",
      {"fmt", "-q", "-"},
-     refused("line 2 would be left out: 'B 1 x'"),
+     refused_at("<stdin>", 2, "would be left out: 'B 1 x'"),
      "#a\nB 1 x\n1 2\n"},
     {"TellsWhatBecomesOfALineThatComesFirst",
      {"fmt", "--allow-loss", "-"},
      ended(0, "#a\n\n1 2\n",
            "<stdin>:2: warning: ignored unrecognized QUILL post-processing line\n"
            "<stdin>: warning: No QUILL coordinate section found\n"
-           "<stdin>: warning: lost: line 2 would be left out: 'B 1 x'\n"
-           "<stdin>: warning: lost: line 3 would be read as charge and multiplicity, not as raw "
+           "<stdin>:2: warning: lost: line 2 would be left out: 'B 1 x'\n"
+           "<stdin>:3: warning: lost: line 3 would be read as charge and multiplicity, not as raw "
            "text; another post-processing line in front of it avoids that\n"
            "<stdin>: warning: lost: the charge and multiplicity are present instead of absent\n"
            "<stdin>: warning: lost: the charge is 1 instead of 0\n"
@@ -154,16 +152,17 @@ const Call calls[] = {
      ended(0, "#a(b)\n\n0 1\n",
            "<stdin>:1: warning: ignored trailing text after QUILL header command\n"
            "<stdin>:3: warning: ignored unrecognized QUILL post-processing line\n"
-           "<stdin>: warning: lost: line 1 says more than its command, which would be lost: "
+           "<stdin>:1: warning: lost: line 1 says more than its command, which would be lost: "
            "'#a(b) c'\n"
-           "<stdin>: warning: lost: line 3 would be left out: 'B 1 x'\n"),
+           "<stdin>:3: warning: lost: line 3 would be left out: 'B 1 x'\n"),
      "#a(b) c\n0 1\nB 1 x\n"},
     {"GoesOnWithTheOtherFiles",
      {"fmt", "-q", "two_opts.qin", "none.qin", "water.qin"},
-     ended(2, water,
-           "two_opts.qin: error: refused: line 2 says more than its command, which would be lost: "
-           "'#Opt(maxiter=70) and so on' (--allow-loss goes on)\n"
-           "none.qin: error: cannot be opened: No such file or directory\n")},
+     ended(
+         2, water,
+         "two_opts.qin:2: error: refused: line 2 says more than its command, which would be lost: "
+         "'#Opt(maxiter=70) and so on' (--allow-loss goes on)\n"
+         "none.qin: error: cannot be opened: No such file or directory\n")},
 
     {"DoesNotWriteWhatItChecks",
      {"fmt", "-i", "--check", "water.qin"},

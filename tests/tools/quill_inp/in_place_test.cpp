@@ -42,7 +42,7 @@ TEST(InPlace, FormatsSeveralFiles) {
   folder.write("c.qin", "# c\r\n0 1");
   EXPECT_EQ(run_in(folder.path(), {"fmt", "-q", "-i", "a.qin", "b.qin", "none", "c.qin"}),
             ended(2, "",
-                  "b.qin: error: refused: line 2 would be left out: 'B 1 x' (--allow-loss goes "
+                  "b.qin:2: error: refused: line 2 would be left out: 'B 1 x' (--allow-loss goes "
                   "on)\nnone: error: cannot be opened: No such file or directory\n"));
   EXPECT_EQ(content_of(folder.path("a.qin")), "#a\n\n0 1\n");
   EXPECT_EQ(content_of(folder.path("b.qin")), "#b\nB 1 x\n");

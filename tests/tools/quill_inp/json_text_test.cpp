@@ -114,21 +114,22 @@ TEST(JsonNumber, HasANameWhereJsonHasNoNumber) {
   EXPECT_EQ(number_from_json(parse_json("3"), "x"), 3.0);
 }
 
+/// Returns what is wrong with a text, behind the line if there is one.
 std::string complaint(std::string_view text) {
   try {
     parse_json(text);
   } catch (const Trouble& trouble) {
-    return trouble.what();
+    return (trouble.line() ? std::to_string(*trouble.line()) + ": " : "") + trouble.what();
   }
   return {};
 }
 
 TEST(JsonText, ThatIsNoneIsRefusedWithThePlace) {
   EXPECT_EQ(complaint("{\n  \"a\": 1,\n}"),
-            "not JSON: parse error at line 3, column 1: syntax error while parsing object key - "
+            "3: not JSON: parse error at column 1: syntax error while parsing object key - "
             "unexpected '}'; expected string literal");
+  EXPECT_EQ(complaint("1e999"), "not JSON: number overflow parsing '1e999'");
   EXPECT_NE(complaint(""), "");
-  EXPECT_NE(complaint("1e999"), "");
   EXPECT_NE(complaint("\"\xFF\""), "");
   EXPECT_NE(complaint("{} {}"), "");
 }

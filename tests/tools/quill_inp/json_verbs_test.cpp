@@ -53,9 +53,19 @@ const Call calls[] = {
     {"FromJsonThatIsNone",
      {"from-json", "-"},
      ended(2, "",
-           "<stdin>: error: not JSON: parse error at line 1, column 1: syntax error while "
-           "parsing value - invalid literal; last read: '#'\n"),
+           "<stdin>:1: error: not JSON: parse error at column 1: syntax error while parsing value "
+           "- invalid literal; last read: '#'\n"),
      "#opt\n"},
+    {"FromJsonThatIsNoneOnALaterLine",
+     {"from-json", "--stdin-filename=a.json", "-"},
+     ended(2, "",
+           "a.json:3: error: not JSON: parse error at column 7: syntax error while parsing object "
+           "- unexpected end of input; expected '}'\n"),
+     "{\n\n\"a\": 1"},
+    {"FromJsonWithTwoMembersOfAName",
+     {"from-json", "-"},
+     ended(2, "", "<stdin>: error: two members 'geometry' in one JSON object\n"),
+     R"({"geometry": {}, "geometry": {}})"},
     {"FromJsonOfAnotherForm",
      {"from-json", "--stdin-filename=a.json", "-"},
      ended(2, "", "a.json: error: /geometry: unknown member 'knd'; did you mean 'kind'?\n"),

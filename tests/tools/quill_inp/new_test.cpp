@@ -101,8 +101,11 @@ const Call calls[] = {
     {"AFile", {"new", "water.qin"}, usage_error("unexpected argument 'water.qin'")},
     {"UnreadableAtoms",
      {"new", "--atoms", "none.xyz"},
+     ended(2, "", "none.xyz: error: cannot be opened: No such file or directory\n")},
+    {"BadAtoms",
+     {"new", "--atoms", "water.qin"},
      ended(2, "",
-           "<new>: error: --atoms: none.xyz: cannot be opened: No such file or directory\n")},
+           "water.qin:1: error: an XYZ file begins with the number of its atoms, 1 or more\n")},
 };
 
 TEST_P(New, MakesAnInput) { expect_outcome(GetParam()); }

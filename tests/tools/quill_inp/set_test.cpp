@@ -168,7 +168,7 @@ const Call calls[] = {
     {"ParameterWithoutNameWouldGo",
      {"set", "-", "a.b=1"},
      ended(2, "",
-           "<stdin>: error: refused: line 1 says more than its command, which would be lost: "
+           "<stdin>:1: error: refused: line 1 says more than its command, which would be lost: "
            "'#a(=5, b)' (--allow-loss goes on)\n"),
      "#a(=5, b)\n0 1\n"},
     {"ParameterWithoutNameOnALineThatStays",
@@ -211,21 +211,23 @@ const Call calls[] = {
            "water.qin: warning: lost: the command 'opt' would lose its parameters\n")},
     {"TrailingTextWouldGo",
      {"set", "-q", "two_opts.qin", "opt[1].maxiter=80"},
-     ended(2, "",
-           "two_opts.qin: error: refused: line 2 says more than its command, which would be lost: "
-           "'#Opt(maxiter=70) and so on' (--allow-loss goes on)\n")},
+     ended(
+         2, "",
+         "two_opts.qin:2: error: refused: line 2 says more than its command, which would be lost: "
+         "'#Opt(maxiter=70) and so on' (--allow-loss goes on)\n")},
     {"DigitsWouldGo",
      {"set", "-q", "--max-change=1e-7", "water.qin", "--atoms", "odd.xyz"},
      ended(2, "",
-           "water.qin: error: refused: line 5 would be read otherwise: z of atom 1 is "
+           "water.qin:5: error: refused: line 5 would be read otherwise: z of atom 1 is "
            "0.123457 instead of 0.12345678 (--allow-loss goes on)\n")},
     {"LineBreakInAValue",
      {"set", "water.qin", "model=a\nb"},
      refused("the value 'a\\nb' holds a line break, and a header command is one line")},
     {"LineBreakInAPath",
      {"set", "water.qin", "--trajectory", "a\nb"},
-     refused("line 5 would be read otherwise: the path of trajectory reference 1 is 'a' instead of "
-             "'a\\nb'")},
+     refused_at("water.qin", 5,
+                "would be read otherwise: the path of trajectory reference 1 is 'a' instead of "
+                "'a\\nb'")},
 
     {"FlagWithAValue",
      {"set", "water.qin", "--flag", "opt.maxiter=5"},
@@ -297,14 +299,19 @@ const Call calls[] = {
      usage_error("--max-change takes a number from 0 on, '1e-6', not 'nan'")},
     {"UnreadableAtoms",
      {"set", "water.qin", "--atoms", "none.xyz"},
-     ended(2, "",
-           "water.qin: error: --atoms: none.xyz: cannot be opened: No such file or "
-           "directory\n")},
+     ended(2, "", "none.xyz: error: cannot be opened: No such file or directory\n")},
+    {"TooFewAtoms",
+     {"set", "water.qin", "--atoms", "-"},
+     ended(2, "", "<stdin>: error: has 1 atoms instead of 2\n"),
+     "2\n\nHe 0 0 0\n"},
+    {"AnAtomThatIsNone",
+     {"set", "-i", "water.qin", "--atoms=-", "--stdin-filename=b.xyz"},
+     ended(2, "", "b.xyz:3: error: expected an atom, a symbol and three coordinates\n"),
+     "1\n\nHe 0 0\n"},
     {"BadAtoms",
-     {"set", "water.qin", "--atoms", "water.qin"},
+     {"set", "two_opts.qin", "--atoms", "water.qin"},
      ended(2, "",
-           "water.qin: error: --atoms: water.qin: line 1: an XYZ file begins with the "
-           "number of its atoms, 1 or more\n")},
+           "water.qin:1: error: an XYZ file begins with the number of its atoms, 1 or more\n")},
     {"StandardInputTwice",
      {"set", "-", "--atoms", "-"},
      ended(2, "", "<stdin>: error: standard input was read already, and can be read only once\n"),

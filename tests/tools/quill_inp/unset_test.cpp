@@ -84,14 +84,14 @@ const Call calls[] = {
     {"TextBehindACommandThatGoes",
      {"unset", "-q", "-", "a"},
      ended(2, "",
-           "<stdin>: error: refused: line 1 says more than its command, which would be lost: "
+           "<stdin>:1: error: refused: line 1 says more than its command, which would be lost: "
            "'#a(p=1) # remark' (--allow-loss goes on)\n"),
      "#a(p=1) # remark\n0 1\n"},
     {"TextBehindACommandThatMayGo",
      {"unset", "--allow-loss", "-", "a"},
      ended(0, "0 1\n",
            "<stdin>:1: warning: ignored trailing text after QUILL header command\n"
-           "<stdin>: warning: lost: line 1 says more than its command, which would be lost: "
+           "<stdin>:1: warning: lost: line 1 says more than its command, which would be lost: "
            "'#a(p=1) # remark'\n"),
      "#a(p=1) # remark\n0 1\n"},
     {"ACommandWithoutItsClosingParenthesis",
@@ -121,7 +121,7 @@ const Call calls[] = {
     {"ARawLineMustNotBecomeAnotherThing",
      {"unset", "-", "@charge"},
      ended(2, "",
-           "<stdin>: error: refused: line 1 would be read as charge and multiplicity, not as raw "
+           "<stdin>:1: error: refused: line 1 would be read as charge and multiplicity, not as raw "
            "text; another post-processing line in front of it avoids that (--allow-loss goes "
            "on)\n"),
      "0 1\n1 2\n"},

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,34 +49,33 @@ struct BadRow {
   std::string_view name;
   std::string_view text;
   std::string_view complaint;
+  std::optional<std::size_t> line = std::nullopt;
 };
 
 class BadXyzFile : public testing::TestWithParam<BadRow> {};
 
-constexpr std::string_view no_count =
-    "line 1: an XYZ file begins with the number of its atoms, 1 or more";
-constexpr std::string_view no_atom = "line 3: expected an atom, a symbol and three coordinates";
+constexpr std::string_view no_count = "an XYZ file begins with the number of its atoms, 1 or more";
+constexpr std::string_view no_atom = "expected an atom, a symbol and three coordinates";
 
 const BadRow bad_rows[] = {
-    {"NoText", "", no_count},
-    {"NoCount", "He 0 0 0\n", no_count},
-    {"TwoCounts", "1 1\n\nHe 0 0 0\n", no_count},
-    {"NoAtoms", "0\n\n", no_count},
-    {"ANegativeCount", "-1\n\n", no_count},
+    {"NoText", "", no_count, 1},
+    {"NoCount", "He 0 0 0\n", no_count, 1},
+    {"TwoCounts", "1 1\n\nHe 0 0 0\n", no_count, 1},
+    {"NoAtoms", "0\n\n", no_count, 1},
+    {"ANegativeCount", "-1\n\n", no_count, 1},
     {"TheCountAlone", "2", "has 0 atoms instead of 2"},
     {"TheCountAndTheComment", "2\n\n", "has 0 atoms instead of 2"},
     {"OneAtomOfTwo", "2\n\nHe 0 0 0\n", "has 1 atoms instead of 2"},
     {"HugeCount", "2147483647\n\nHe 0 0 0\n", "has 1 atoms instead of 2147483647"},
-    {"TooFewColumns", "1\n\nHe 0 0\n", no_atom},
-    {"NoNumberForX", "1\n\nHe a 0 0\n", no_atom},
-    {"NoNumberForY", "1\n\nHe 0 a 0\n", no_atom},
-    {"NoNumberForZ", "1\n\nHe 0 0 a\n", no_atom},
-    {"AtomicNumberForASymbol", "1\n\n2 0 0 0\n", no_atom},
-    {"SymbolWithADigit", "1\n\nHe1 0 0 0\n", no_atom},
-    {"BlankLineBetweenAtoms", "2\n\nHe 0 0 0\n\nHe 0 0 1\n",
-     "line 4: expected an atom, a symbol and three coordinates"},
+    {"TooFewColumns", "1\n\nHe 0 0\n", no_atom, 3},
+    {"NoNumberForX", "1\n\nHe a 0 0\n", no_atom, 3},
+    {"NoNumberForY", "1\n\nHe 0 a 0\n", no_atom, 3},
+    {"NoNumberForZ", "1\n\nHe 0 0 a\n", no_atom, 3},
+    {"AtomicNumberForASymbol", "1\n\n2 0 0 0\n", no_atom, 3},
+    {"SymbolWithADigit", "1\n\nHe1 0 0 0\n", no_atom, 3},
+    {"BlankLineBetweenAtoms", "2\n\nHe 0 0 0\n\nHe 0 0 1\n", no_atom, 4},
     {"ASecondStructure", "1\n\nHe 0 0 0\n1\n\nHe 0 0 1\n",
-     "line 4: more text after the last atom; only files of one structure are read"},
+     "more text after the last atom; only files of one structure are read", 4},
 };
 
 TEST_P(BadXyzFile, IsRefusedWithTheLine) {
@@ -83,6 +84,7 @@ TEST_P(BadXyzFile, IsRefusedWithTheLine) {
     FAIL() << "no exception";
   } catch (const Trouble& trouble) {
     EXPECT_EQ(std::string_view(trouble.what()), GetParam().complaint);
+    EXPECT_EQ(trouble.line(), GetParam().line);
   }
 }
 
