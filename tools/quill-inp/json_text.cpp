@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <set>
 #include <vector>
@@ -109,6 +110,12 @@ class NameWatch {
   std::vector<std::set<std::string>> open_objects_;
 };
 
+/// The JSON library reads a number as an integer with a sign only if it has one, and loses that of
+/// "-0".
+bool is_negative_zero(const Json& value) {
+  return value.type() == Json::value_t::number_integer && value.get<std::int64_t>() == 0;
+}
+
 /// The messages of the JSON library begin with an identifier in brackets.
 std::string without_identifier(const std::string& message) {
   const std::size_t end = message.find("] ");
@@ -157,6 +164,7 @@ std::string string_from_json(const Json& value, const std::string& where) {
 }
 
 double number_from_json(const Json& value, const std::string& where) {
+  if (is_negative_zero(value)) return -0.0;
   if (value.is_number()) return value.get<double>();
   if (value.is_string()) {
     for (const SpecialNumber& special : special_numbers) {

@@ -5,7 +5,7 @@
 //
 // A string of bytes that is not UTF-8 is the object {"bytes": "6869ff"}, its bytes in hexadecimal.
 // Numbers that are not finite are the strings "inf", "-inf", "nan" and "-nan". Finite numbers come
-// back as the same double, a negative zero included.
+// back as the same double, a negative zero included, be it written -0.0 or -0.
 
 #include <string>
 #include <string_view>
@@ -23,8 +23,8 @@ using Json = nlohmann::json;
 OrderedJson string_to_json(std::string_view text);
 OrderedJson number_to_json(double number);
 
-/// Return the string or number that `value` stands for. Throw Trouble, beginning with `where`, for
-/// any other value.
+/// Return the string or number that `value`, which was read by parse_json(), stands for. Throw
+/// Trouble, beginning with `where`, for any other value.
 std::string string_from_json(const Json& value, const std::string& where);
 double number_from_json(const Json& value, const std::string& where);
 

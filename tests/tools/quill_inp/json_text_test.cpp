@@ -105,6 +105,41 @@ TEST(JsonNumber, OfAnyBitsComesBack) {
   }
 }
 
+struct ZeroRow {
+  std::string_view json;
+  double number;
+};
+
+constexpr ZeroRow zero_rows[] = {
+    {"-0", -0.0},    {"-0.0", -0.0},    {"-0e1", -0.0},
+    {"-0E-7", -0.0}, {" -0 ", -0.0},    {"0", 0.0},
+    {"0.0", 0.0},    {"0e1", 0.0},      {"-0.5", -0.5},
+    {"-1", -1.0},    {"-0.0e0", -0.0},  {"1", 1.0},
+    {"-10", -10.0},  {"-1e-999", -0.0}, {"9007199254740993", 9007199254740992.0},
+};
+
+TEST(JsonNumber, KeepsTheSignOfZero) {
+  for (const ZeroRow& row : zero_rows)
+    EXPECT_EQ(bits_of(number_from_json(parse_json(row.json), "x")), bits_of(row.number))
+        << row.json;
+}
+
+TEST(JsonNumber, KeepsTheSignOfZeroInListsAndObjects) {
+  const Json list = parse_json("[-0,0,-0]");
+  EXPECT_TRUE(std::signbit(number_from_json(list[0], "x")));
+  EXPECT_FALSE(std::signbit(number_from_json(list[1], "x")));
+  EXPECT_TRUE(std::signbit(number_from_json(list[2], "x")));
+  const Json object = parse_json(R"({"-0": -0, "a\"-0": "\"-0\\", "b": [[-0]]})");
+  EXPECT_TRUE(std::signbit(number_from_json(object["-0"], "x")));
+  EXPECT_EQ(string_from_json(object["a\"-0"], "x"), "\"-0\\");
+  EXPECT_TRUE(std::signbit(number_from_json(object["b"][0][0], "x")));
+}
+
+TEST(JsonNumber, WithALeadingZeroIsRefused) {
+  for (const char* text : {"-01", "-00", "00", "[-01]", "-0x", "- 0", "-"})
+    EXPECT_THROW(parse_json(text), Trouble) << text;
+}
+
 TEST(JsonNumber, HasANameWhereJsonHasNoNumber) {
   EXPECT_EQ(to_one_line(number_to_json(std::numeric_limits<double>::infinity())), "\"inf\"");
   EXPECT_EQ(to_one_line(number_to_json(-std::numeric_limits<double>::quiet_NaN())), "\"-nan\"");

@@ -40,6 +40,13 @@ const Call calls[] = {
            "\"c.xyz\"]\n  },\n  \"post_commands\": []\n}\n",
            "two_opts.qin:2: warning: ignored trailing text after QUILL header command\n"
            "two_opts.qin:6: warning: ignored unrecognized QUILL post-processing line\n")},
+    {"FromJsonWithNegativeZeros",
+     {"from-json", "-"},
+     ended(0, "0 1\nHe      -0.000000      0.000000     -0.000000\n\nS 1 2 -0 3\n", ""),
+     R"({"geometry": {"kind": "atoms", "charge": -0,
+         "atoms": [{"symbol": "He", "x": -0, "y": 0, "z": -0.0}]},
+         "post_commands": [
+         {"kind": "scan", "atom_indices": [1, 2], "scan_value": -0, "scan_steps": 3}]})"},
     {"FromJsonWithQuotesWhereTheyMustBe",
      {"from-json", "-"},
      ended(0, "#a(b=\"c,d\")\n\n0 1\n", ""),
