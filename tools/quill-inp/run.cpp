@@ -11,6 +11,7 @@
 #include "quill-inp/arguments.hpp"
 #include "quill-inp/exit_code.hpp"
 #include "quill-inp/help_formatter.hpp"
+#include "quill-inp/message_options.hpp"
 #include "quill-inp/output.hpp"
 #include "quill-inp/reporter.hpp"
 #include "quill-inp/suggestion.hpp"
@@ -144,7 +145,8 @@ ExitCode run_program(const std::vector<std::string>& arguments, std::istream& in
   } catch (const UsageError& error) {
     complaint = error.what();
   }
-  Reporter reporter(err, false, wants_color(ColorMode::Auto, err));
+  const MessageOptions options = find_message_options(arguments);
+  Reporter reporter(err, options.is_quiet, wants_color(options.color, err));
   reporter.error({program_name}, complaint);
   reporter.note({program_name}, help_hint(line));
   return ExitCode::Trouble;

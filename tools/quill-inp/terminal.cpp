@@ -4,11 +4,18 @@
 
 #include <cstdlib>
 #include <iostream>
-#include <string_view>
 
 namespace kelp::input::quill::tool {
 
 namespace {
+
+struct NamedColorMode {
+  const char* name;
+  ColorMode mode;
+};
+
+constexpr NamedColorMode color_modes[] = {
+    {"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}};
 
 std::string_view environment_variable(const char* name) {
   // The program has one thread, and nothing in it changes the environment.
@@ -17,6 +24,19 @@ std::string_view environment_variable(const char* name) {
 }
 
 }  // namespace
+
+std::optional<ColorMode> find_color_mode(std::string_view name) {
+  for (const NamedColorMode& row : color_modes) {
+    if (row.name == name) return row.mode;
+  }
+  return std::nullopt;
+}
+
+std::vector<std::string> color_mode_names() {
+  std::vector<std::string> names;
+  for (const NamedColorMode& row : color_modes) names.emplace_back(row.name);
+  return names;
+}
 
 bool is_terminal(const std::ostream& stream) {
   if (&stream == &std::cout) return isatty(STDOUT_FILENO) == 1;

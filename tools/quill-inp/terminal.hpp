@@ -1,7 +1,11 @@
 #ifndef KELP_INPUT_QUILL_TOOL_TERMINAL_HPP
 #define KELP_INPUT_QUILL_TOOL_TERMINAL_HPP
 
+#include <optional>
 #include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace kelp::input::quill::tool {
 
@@ -11,6 +15,12 @@ enum class ColorMode {
   Always,  // whatever the environment says
   Never,
 };
+
+/// Returns the mode of a name, "auto", "always" or "never", or nothing for another name.
+std::optional<ColorMode> find_color_mode(std::string_view name);
+
+/// Returns these names.
+std::vector<std::string> color_mode_names();
 
 /// Returns whether `stream` is the process's standard output or standard error and a terminal shows
 /// it. Any other stream is none.

@@ -17,22 +17,10 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-struct NamedColorMode {
-  const char* name;
-  ColorMode mode;
-};
-
-constexpr NamedColorMode color_modes[] = {
-    {"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}};
-
 ColorMode parse_color_mode(const std::string& text) {
-  std::vector<std::string> names;
-  for (const NamedColorMode& row : color_modes) {
-    if (row.name == text) return row.mode;
-    names.emplace_back(row.name);
-  }
+  if (const auto mode = find_color_mode(text)) return *mode;
   throw UsageError("--color takes auto, always or never, not '" + text + "'" +
-                   suggestion(text, names));
+                   suggestion(text, color_mode_names()));
 }
 
 struct SizeUnit {

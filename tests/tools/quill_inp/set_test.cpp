@@ -287,10 +287,15 @@ const Call calls[] = {
      usage_error("'@geometry' cannot be set by a value; use --atoms, --xyz or --trajectory")},
     {"WholeCommandByNumber",
      {"set", "-q", "two_opts.qin", "opt[1]=5"},
-     usage_error("'opt[1]': with a number, only COMMAND[N].PARAMETER=VALUE can be set")},
+     ended(2, "",
+           "quill-inp: error: 'opt[1]': with a number, only COMMAND[N].PARAMETER=VALUE can be "
+           "set\n")},
     {"BareParameterByNumber",
      {"set", "-q", "two_opts.qin", "--flag", "opt[1].tight"},
-     usage_error("'opt[1].tight': with a number, only COMMAND[N].PARAMETER=VALUE can be set")},
+     ended(
+         2, "",
+         "quill-inp: error: 'opt[1].tight': with a number, only COMMAND[N].PARAMETER=VALUE can be "
+         "set\n")},
     {"BadMaxChange",
      {"set", "--max-change", "-1", "water.qin", "model=a"},
      usage_error("--max-change takes a number from 0 on, '1e-6', not '-1'")},

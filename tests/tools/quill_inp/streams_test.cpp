@@ -249,6 +249,21 @@ TEST(Terminals, GetNoColourWhereItIsNotWanted) {
   EXPECT_NE(run_program(request).out, plain);
 }
 
+TEST(Terminals, GetUsageErrorsAsTheyAreWanted) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "0  1\n");
+  Request request = call(folder, {"get", "a.qin", "@x", "-q"});
+  request.err = Connection::Terminal;
+  request.environment = {{"TERM", "xterm"}, {"NO_COLOR", ""}};
+  EXPECT_EQ(run_program(request).err, "quill-inp: \x1B[1;31merror:\x1B[m unknown key '@x'\r\n");
+  request.arguments.emplace_back("--color=never");
+  const std::string plain = "quill-inp: error: unknown key '@x'\r\n";
+  EXPECT_EQ(run_program(request).err, plain);
+  request.arguments.pop_back();
+  request.environment = {{"TERM", "xterm"}, {"NO_COLOR", "1"}};
+  EXPECT_EQ(run_program(request).err, plain);
+}
+
 std::string refusal(const std::string& name, const std::string& kind) {
   return name + ": error: is " + kind + ", not a regular file; '-' reads standard input\n";
 }
