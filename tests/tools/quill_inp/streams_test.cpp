@@ -212,6 +212,34 @@ TEST(Pipes, OfThreeCallsPassTheTextOn) {
             ended(0, "m2\n(maxiter=50, tight)\n", ""));
 }
 
+TEST(Pipes, GetDataAsItIsAndTextsForReadingEscaped) {
+  const TemporaryFolder folder;
+  const std::string name = "a\x1B.qin";
+  folder.write(name, "#a=\x1B[2J\n0  1\n");
+  EXPECT_EQ(run_in(folder.path(), {"get", name, "a"}), ended(0, "\x1B[2J\n", ""));
+  EXPECT_EQ(run_in(folder.path(), {"fmt", name}), ended(0, "#a = \x1B[2J\n\n0 1\n", ""));
+  EXPECT_EQ(
+      run_in(folder.path(), {"show", name}),
+      ended(0,
+            "a\\x1b.qin\n  command       #a = \\x1b[2J\n  charge        0\n  multiplicity  1\n"
+            "  geometry      none\n",
+            ""));
+  EXPECT_EQ(run_in(folder.path(), {"show", "--lines", name}),
+            ended(0,
+                  "a\\x1b.qin\n1  command 1                #a=\\x1b[2J\n"
+                  "2  charge and multiplicity  0  1\n",
+                  ""));
+  EXPECT_EQ(
+      run_in(folder.path(), {"set", "--diff", name, "@charge=1"}),
+      ended(1, "--- a\\x1b.qin\n+++ a\\x1b.qin\n@@ -1,2 +1,2 @@\n #a=\x1B[2J\n-0  1\n+1 1\n", ""));
+  EXPECT_EQ(run_in(folder.path(), {"set", "--diff", "--color=always", name, "@charge=1"}),
+            ended(1,
+                  "\x1B[31m--- a\\x1b.qin\x1B[m\n\x1B[32m+++ a\\x1b.qin\x1B[m\n"
+                  "\x1B[36m@@ -1,2 +1,2 @@\x1B[m\n #a=\\x1b[2J\n\x1B[31m-0  1\x1B[m\n"
+                  "\x1B[32m+1 1\x1B[m\n",
+                  ""));
+}
+
 TEST(Terminals, GetColourAndNoByteThatTheyWouldObey) {
   const TemporaryFolder folder;
   folder.write("a.qin", "#a=\x1B[2J  b\n0  1\n");
