@@ -127,8 +127,8 @@ std::string without_identifier(const std::string& message) {
 Trouble to_trouble(const std::string& message) {
   constexpr std::string_view before = "parse error at line ";
   constexpr std::string_view behind = ", ";
-  std::size_t line = 0;
   if (message.compare(0, before.size(), before) == 0) {
+    std::size_t line = 0;
     const char* const end = message.data() + message.size();
     const char* const after = std::from_chars(message.data() + before.size(), end, line).ptr;
     const std::string_view rest(after, static_cast<std::size_t>(end - after));

@@ -44,11 +44,11 @@ int create_new_file(int folder, std::string& name) {
 
 TemporaryFile::TemporaryFile(int folder) : folder_(folder), file_(-1) {
   const HeldSignals held;
-  std::string name;
-  file_ = FileDescriptor(create_new_file(folder, name));
-  if (file_.number() < 0)
-    throw_system_trouble("cannot create a temporary file in the same folder", errno);
-  name_.emplace(folder, std::move(name));
+  std::string chosen;
+  const int number = create_new_file(folder, chosen);
+  if (number < 0) throw_system_trouble("cannot create a temporary file in the same folder", errno);
+  name_.emplace(folder, std::move(chosen));
+  file_ = FileDescriptor(number);
 }
 
 void TemporaryFile::take_place_of(const std::string& name) {
