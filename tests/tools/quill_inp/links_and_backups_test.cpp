@@ -82,7 +82,7 @@ TEST(Backup, KeepsTheOldTextBesideTheFile) {
   EXPECT_EQ(names_in(folder.path()), (Names{"a.qin", "a.qin.bak", "a.qin~"}));
 }
 
-TEST(Backup, IsGoneWhenTheCallFailedAndNotInTheWayOfTheNext) {
+TEST(Backup, IsGoneWhenFilesMayNotGrowAndNotInTheWayOfTheNext) {
   const TemporaryFolder folder;
   const std::string path = folder.write("a.qin", water);
   Request request;
