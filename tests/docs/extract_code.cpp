@@ -11,6 +11,7 @@
 // In place of a page there may be a header. Its blocks are the indented lines of its comments. In
 // "EXPRESSION;  // VALUE" the comment is what the expression gives.
 
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -78,10 +79,8 @@ bool belongs_on_top(const std::string& line) {
 }
 
 bool defines_main(const Block& block) {
-  for (const std::string& line : block.lines) {
-    if (starts_with(line, "int main(")) return true;
-  }
-  return false;
+  return std::any_of(block.lines.begin(), block.lines.end(),
+                     [](const auto& line) { return starts_with(line, "int main("); });
 }
 
 void write_block(std::ostream& out, const Block& block, const std::string& page,

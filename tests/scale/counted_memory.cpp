@@ -65,5 +65,9 @@ void* operator new(std::size_t size) { return kelp::input::quill::allocate(size)
 void* operator new[](std::size_t size) { return kelp::input::quill::allocate(size); }
 void operator delete(void* block) noexcept { kelp::input::quill::release(block); }
 void operator delete[](void* block) noexcept { kelp::input::quill::release(block); }
-void operator delete(void* block, std::size_t) noexcept { kelp::input::quill::release(block); }
-void operator delete[](void* block, std::size_t) noexcept { kelp::input::quill::release(block); }
+void operator delete(void* block, std::size_t /*size*/) noexcept {
+  kelp::input::quill::release(block);
+}
+void operator delete[](void* block, std::size_t /*size*/) noexcept {
+  kelp::input::quill::release(block);
+}

@@ -36,13 +36,15 @@ bool has_parameter_of(const ParseResult& result, std::size_t n) {
   return command_of(result).parameters.at(0).name.size() == n;
 }
 
-bool has_one_parameter(const ParseResult& result, std::size_t) { return has_parameters(result, 1); }
+bool has_one_parameter(const ParseResult& result, std::size_t /*size*/) {
+  return has_parameters(result, 1);
+}
 
 bool has_atoms(const ParseResult& result, std::size_t n) {
   return result.input.geometry.atoms.size() == n;
 }
 
-bool has_one_atom(const ParseResult& result, std::size_t) { return has_atoms(result, 1); }
+bool has_one_atom(const ParseResult& result, std::size_t /*size*/) { return has_atoms(result, 1); }
 
 bool has_symbol_of(const ParseResult& result, std::size_t n) {
   return result.input.geometry.atoms.at(0).symbol.size() == n;
@@ -72,7 +74,7 @@ bool has_words(const ParseResult& result, std::size_t n) {
   return has_post_file_of(result, 2 * n - 1);
 }
 
-bool has_one_atom_number(const ParseResult& result, std::size_t) {
+bool has_one_atom_number(const ParseResult& result, std::size_t /*size*/) {
   return post_command_of(result).atom_indices == std::vector<std::int32_t>{1};
 }
 

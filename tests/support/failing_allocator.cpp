@@ -63,16 +63,18 @@ namespace quill = kelp::input::quill;
 
 void* operator new(std::size_t size) { return quill::allocate_or_throw(size); }
 void* operator new[](std::size_t size) { return quill::allocate_or_throw(size); }
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
   return quill::allocate(size);
 }
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
   return quill::allocate(size);
 }
 
 void operator delete(void* block) noexcept { quill::release(block); }
 void operator delete[](void* block) noexcept { quill::release(block); }
-void operator delete(void* block, std::size_t) noexcept { quill::release(block); }
-void operator delete[](void* block, std::size_t) noexcept { quill::release(block); }
-void operator delete(void* block, const std::nothrow_t&) noexcept { quill::release(block); }
-void operator delete[](void* block, const std::nothrow_t&) noexcept { quill::release(block); }
+void operator delete(void* block, std::size_t /*size*/) noexcept { quill::release(block); }
+void operator delete[](void* block, std::size_t /*size*/) noexcept { quill::release(block); }
+void operator delete(void* block, const std::nothrow_t& /*tag*/) noexcept { quill::release(block); }
+void operator delete[](void* block, const std::nothrow_t& /*tag*/) noexcept {
+  quill::release(block);
+}

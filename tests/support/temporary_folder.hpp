@@ -47,8 +47,8 @@ class TemporaryFolder {
     std::random_device random;
     for (;;) {
       // Only one of several processes that try the same name at once is told that it made it.
-      const auto path = std::filesystem::temp_directory_path() /
-                        ("kelp_quill_inp_test." + std::to_string(random()));
+      auto path = std::filesystem::temp_directory_path() /
+                  ("kelp_quill_inp_test." + std::to_string(random()));
       if (std::filesystem::create_directory(path)) return path;
     }
   }

@@ -62,11 +62,11 @@ class Validator {
 
   bool has_properties(const Json& value, const Json& properties, const Json& schema) const {
     if (schema.at("additionalProperties") != false) throw std::runtime_error("open object");
-    for (const auto& member : value.items()) {
-      if (!properties.contains(member.key())) return false;
-      if (!is_valid(member.value(), properties[member.key()])) return false;
-    }
-    return true;
+    const auto members = value.items();
+    return std::all_of(members.begin(), members.end(), [&](const auto& member) {
+      return properties.contains(member.key()) &&
+             is_valid(member.value(), properties[member.key()]);
+    });
   }
 
   static bool has_type(const Json& value, const std::string& type) {

@@ -12,4 +12,5 @@
 
 #undef __SIZEOF_INT128__
 
-#include "writer/number_text.cpp"
+// The source itself, since it is to be compiled with another definition.
+#include "writer/number_text.cpp"  // NOLINT(bugprone-suspicious-include)
