@@ -12,5 +12,5 @@
 
 #undef __SIZEOF_INT128__
 
-// The source itself, since it is to be compiled with another definition.
-#include "writer/number_text.cpp"  // NOLINT(bugprone-suspicious-include)
+// The source itself, since it is to be compiled without the macro.
+#include "writer/number_text.cpp"  // NOLINT(bugprone-suspicious-include): what the test is about
