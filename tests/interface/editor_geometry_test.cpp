@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <ctime>
 #include <limits>
 #include <string>
 #include <utility>
@@ -133,26 +132,6 @@ const EditCase add_atom_rows[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, AddAtom, testing::ValuesIn(add_atom_rows), row_name<EditCase>);
-
-/// Processor seconds for `count` atoms added one by one, the best of several attempts.
-double seconds_to_add(int count) {
-  double best = std::numeric_limits<double>::infinity();
-  for (int attempt = 0; attempt < 7; ++attempt) {
-    InputEditor editor{QuillInput()};
-    const std::clock_t start = std::clock();
-    for (int i = 0; i < count; ++i) editor.add_atom(hydrogen);
-    const std::clock_t end = std::clock();
-    EXPECT_EQ(editor.document().geometry.atoms.size(), static_cast<std::size_t>(count));
-    best = std::min(best, static_cast<double>(end - start) / CLOCKS_PER_SEC);
-  }
-  return best;
-}
-
-TEST(AddAtom, OneByOneIsLinear) {
-  const double once = seconds_to_add(100'000);
-  const double twice = seconds_to_add(200'000);
-  EXPECT_LT(twice, 3.0 * once) << once << " s for 100,000 atoms, " << twice << " s for 200,000";
-}
 
 }  // namespace
 

@@ -2,11 +2,13 @@
 // of that, and what is quadratic by contract costs as it grows.
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
+#include <ctime>
 #include <string>
 
 #include "kelp/input/quill/quill.hpp"
-#include "scale/measuring.hpp"
+#include "scale/counted_memory.hpp"
 #include "scale/shapes.hpp"
 
 namespace kelp::input::quill {
@@ -14,6 +16,22 @@ namespace {
 
 constexpr double bytes_per_megabyte = 1e6;
 constexpr double nanoseconds_per_second = 1e9;
+
+struct Cost {
+  /// Of the processor, for this process alone: what else the machine does hardly counts.
+  double seconds = 0.0;
+  /// Bytes that were allocated at the same time, beyond those before the work.
+  std::int64_t peak_bytes = 0;
+};
+
+template <typename Work>
+Cost cost_of(Work work) {
+  const MemoryCount memory;
+  const std::clock_t start = std::clock();
+  work();
+  const std::clock_t end = std::clock();
+  return {static_cast<double>(end - start) / CLOCKS_PER_SEC, memory.peak_bytes()};
+}
 
 struct Reading {
   Cost cost;

@@ -36,6 +36,10 @@ bool has_parameter_of(const ParseResult& result, std::size_t n) {
   return command_of(result).parameters.at(0).name.size() == n;
 }
 
+bool has_parameter_value_of(const ParseResult& result, std::size_t n) {
+  return command_of(result).parameters.at(0).value.value().size() == n;
+}
+
 bool has_one_parameter(const ParseResult& result, std::size_t /*size*/) {
   return has_parameters(result, 1);
 }
@@ -70,6 +74,10 @@ bool has_post_file_of(const ParseResult& result, std::size_t n) {
   return post_command_of(result).post_file.size() == n;
 }
 
+bool has_short_post_file(const ParseResult& result, std::size_t /*size*/) {
+  return has_post_file_of(result, 1);
+}
+
 bool has_words(const ParseResult& result, std::size_t n) {
   return has_post_file_of(result, 2 * n - 1);
 }
@@ -100,75 +108,82 @@ std::string repeated(std::string_view piece, std::size_t count) {
 const std::vector<Shape>& shapes() {
   static const std::vector<Shape> all = {
       // Many lines.
-      {"EmptyLines", 1 * million, 10 * million,
+      {"EmptyLines", 40 * thousand, 10 * million,
        [](std::size_t n) { return repeated("\n", n) + "#"; }, warns_behind},
-      {"EmptyHeaderLines", 40 * thousand, 1 * million,
+      {"EmptyHeaderLines", 4 * thousand, 1 * million,
        [](std::size_t n) { return repeated("#\n", n); }, has_commands},
-      {"HeaderLines", 20 * thousand, 1 * million,
+      {"HeaderLines", 2 * thousand, 1 * million,
        [](std::size_t n) { return repeated("#opt(maxiter=50, tight)\n", n); }, has_commands},
-      {"AtomLines", 40 * thousand, 4 * million,
+      {"AtomLines", 2 * thousand, 4 * million,
        [](std::size_t n) { return repeated("C   -0.729000   -2.609047    2.312980\n", n); },
        has_atoms},
-      {"AtomsOfNoElement", 30 * thousand, 1 * million,
+      {"AtomsOfNoElement", 4 * thousand, 1 * million,
        [](std::size_t n) { return repeated("Xx 0 0 0\n", n); }, has_warnings},
-      {"References", 40 * thousand, 2 * million,
+      {"References", 4 * thousand, 2 * million,
        [](std::size_t n) { return repeated("XYZ a.xyz\n", n); }, has_paths},
-      {"ReferencesWithoutPaths", 40 * thousand, 2 * million,
+      {"ReferencesWithoutPaths", 4 * thousand, 2 * million,
        [](std::size_t n) { return repeated("XYZ\n", n); }, has_warnings},
-      {"Constraints", 30 * thousand, 2 * million,
+      {"Constraints", 4 * thousand, 2 * million,
        [](std::size_t n) { return "0 1\n" + repeated("B 1 2\n", n); }, has_post_commands},
-      {"MalformedConstraints", 30 * thousand, 2 * million,
+      {"MalformedConstraints", 4 * thousand, 2 * million,
        [](std::size_t n) { return "0 1\n" + repeated("B 1 x\n", n); }, has_warnings},
-      {"LinesOfText", 60 * thousand, 4 * million,
+      {"LinesOfText", 4 * thousand, 4 * million,
        [](std::size_t n) { return "0 1\n" + repeated("x\n", n); }, has_post_commands},
 
       // One line.
-      {"OneLongWord", 2 * million, 256 * million, [](std::size_t n) { return repeated("x", n); },
+      {"OneLongWord", 40 * thousand, 256 * million, [](std::size_t n) { return repeated("x", n); },
        has_raw_text_of},
-      {"NulBytes", 2 * million, 256 * million, [](std::size_t n) { return repeated(nul, n); },
+      {"NulBytes", 40 * thousand, 256 * million, [](std::size_t n) { return repeated(nul, n); },
        has_raw_text_of},
-      {"Words", 200 * thousand, 16 * million,
+      {"Words", 10 * thousand, 16 * million,
        [](std::size_t n) { return "POST" + repeated(" x", n); }, has_words},
-      {"BlanksInside", 2 * million, 128 * million,
+      {"BlanksInside", 40 * thousand, 128 * million,
        [](std::size_t n) { return "a" + repeated(" ", n - 2) + "b"; }, has_raw_text_of},
-      {"BlanksAround", 1 * million, 64 * million,
+      {"BlanksAround", 20 * thousand, 64 * million,
        [](std::size_t n) {
          return repeated("\v", n) + "#a(" + repeated("\f", n) + "b" + repeated("\r", n) + ")" +
                 repeated("\t", n);
        },
        has_one_parameter},
-      {"HashSigns", 8 * million, 128 * million,
+      {"HashSigns", 40 * thousand, 128 * million,
        [](std::size_t n) { return "#" + repeated("#", n); }, has_name_of},
-      {"EqualsSigns", 8 * million, 128 * million,
+      {"EqualsSigns", 40 * thousand, 128 * million,
        [](std::size_t n) { return "#a=" + repeated("=", n); }, has_value_of},
-      {"AQuotedValue", 8 * million, 128 * million,
+      {"AQuotedValue", 40 * thousand, 128 * million,
        [](std::size_t n) { return "#a = '" + repeated("'", n) + "'"; }, has_value_of},
-      {"OpeningParentheses", 2 * million, 64 * million,
+      {"OpeningParentheses", 40 * thousand, 64 * million,
        [](std::size_t n) { return "#a(" + repeated("(", n); }, has_parameter_of},
-      {"ClosingParentheses", 2 * million, 64 * million,
+      {"ClosingParentheses", 40 * thousand, 64 * million,
        [](std::size_t n) { return "#a(" + repeated(")", n) + ")"; }, has_parameter_of},
-      {"Parameters", 40 * thousand, 1 * million,
+      {"Parameters", 4 * thousand, 1 * million,
        [](std::size_t n) { return "#a(" + repeated("b=c, ", n) + ")"; }, has_parameters},
-      {"Commas", 500 * thousand, 16 * million,
+      {"Commas", 20 * thousand, 16 * million,
        [](std::size_t n) { return "#a(" + repeated(",", n) + "b)"; }, has_one_parameter},
-      {"Quotes", 2 * million, 64 * million,
+      {"Quotes", 40 * thousand, 64 * million,
        [](std::size_t n) { return "#a(" + repeated("'", n) + ")"; }, has_parameter_of},
-      {"OneLongPath", 2 * million, 128 * million,
+      {"CommasBehindALongName", 20 * thousand, 16 * million,
+       [](std::size_t n) { return "#" + repeated("x", n) + "(" + repeated(",", n) + ")"; },
+       has_name_of},
+      {"CommasInQuotes", 40 * thousand, 64 * million,
+       [](std::size_t n) { return "#a(b='" + repeated(",", n) + "')"; }, has_parameter_value_of},
+      {"OneLongPath", 40 * thousand, 128 * million,
        [](std::size_t n) { return "XYZ " + repeated("p", n); }, has_path_of},
-      {"OneLongPostFile", 2 * million, 128 * million,
+      {"OneLongPostFile", 40 * thousand, 128 * million,
        [](std::size_t n) { return "POST " + repeated("p", n); }, has_post_file_of},
-      {"OneLongSymbol", 2 * million, 64 * million,
+      {"BlanksBeforeAPostFile", 40 * thousand, 128 * million,
+       [](std::size_t n) { return "POST" + repeated(" ", n) + "p"; }, has_short_post_file},
+      {"OneLongSymbol", 40 * thousand, 64 * million,
        [](std::size_t n) { return repeated("X", n) + " 0 0 0"; }, has_symbol_of},
 
       // Numbers of many digits, which are numbers all the same.
-      {"DigitsOfAFraction", 2 * million, 64 * million,
+      {"DigitsOfAFraction", 40 * thousand, 64 * million,
        [](std::size_t n) { return "H 0 0 0." + repeated("9", n); }, has_one_atom},
-      {"DigitsBeforeAnExponent", 2 * million, 64 * million,
+      {"DigitsBeforeAnExponent", 40 * thousand, 64 * million,
        [](std::size_t n) { return "H 0 0 1" + repeated("0", n) + "e-" + std::to_string(n); },
        has_one_atom},
-      {"DigitsOfAnExponent", 2 * million, 64 * million,
+      {"DigitsOfAnExponent", 40 * thousand, 64 * million,
        [](std::size_t n) { return "H 0 0 1d-" + repeated("0", n) + "1"; }, has_one_atom},
-      {"LeadingZerosOfAnInteger", 2 * million, 64 * million,
+      {"LeadingZerosOfAnInteger", 40 * thousand, 64 * million,
        [](std::size_t n) { return "C " + repeated("0", n) + "1"; }, has_one_atom_number},
   };
   return all;

@@ -14,7 +14,8 @@ namespace kelp::input::quill {
 /// A way in which a text may be large.
 struct Shape {
   std::string_view name;
-  /// How often the piece is repeated: for a test, and where it is to be as large as it gets.
+  /// How often the piece is repeated: for a test, where what grows with the square of it outweighs
+  /// everything else, and where it is to be as large as it gets.
   std::size_t test_size;
   std::size_t full_size;
   std::string (*text)(std::size_t size);

@@ -48,8 +48,8 @@ class Build:
         self.programs = sorted(
             path for part in ("unit", "interface")
             for path in (folder / "tests" / part).glob("**/kelp_quill_inp_*_test")
-            # The first measures time; the second contains a source instead of linking it.
-            if "scale" not in path.name and "plain_number_text" not in path.name)
+            # Contains a source instead of linking it.
+            if "plain_number_text" not in path.name)
         self.link = {path: self.link_command(path) for path in self.libraries + self.programs}
         self.users = self.find_users()
         self.seconds = {}

@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Fails if a task of tasks.cpp takes more than twice the instructions, and a little, for twice the
+# size. Instructions are the same whatever else the machine does, unlike times; what grows with the
+# square takes four times as many.
+#
+#   check_instructions.sh VALGRIND PROGRAM
+set -euo pipefail
+
+counts=$(mktemp -d)
+trap 'rm -rf "$counts"' EXIT
+if ! "$1" --tool=callgrind --instr-atstart=no --callgrind-out-file="$counts/counts" "$2" \
+  2>"$counts/messages"; then
+  cat "$counts/messages" >&2
+  exit 1
+fi
+
+# One file a task and size, but for the last one, of what is counted at the end.
+awk '
+  /^desc: Trigger: Client Request: / { task = $5; size = $6 }
+  /^(summary|totals): / && task != "" {
+    if (!(task in least)) { order[++tasks] = task; sizes[task] = size; least[task] = $2 }
+    else if (size == 2 * sizes[task]) { twice[task] = $2 }
+    task = ""
+  }
+  END {
+    print "task                                  size   instructions     for twice   ratio"
+    for (i = 1; i <= tasks; ++i) {
+      task = order[i]
+      if (!(task in twice)) { print task " was not counted at twice its size"; failed = 1; continue }
+      ratio = twice[task] / least[task]
+      is_linear = ratio <= 2.05
+      if (!is_linear) failed = 1
+      printf "%-34s %7d %14.0f %13.0f %7.3f%s\n", task, sizes[task], least[task], twice[task], ratio,
+        is_linear ? "" : "  more than 2.05"
+    }
+    if (tasks == 0) { print "nothing was counted"; failed = 1 }
+    exit failed
+  }
+' $(ls -v "$counts"/counts.*)
