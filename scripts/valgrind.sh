@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
 . scripts/support/packages.sh
 
-need_packages "${test_packages[@]}" valgrind
+need_packages "${test_packages[@]}"
 
 build_preset dev
 

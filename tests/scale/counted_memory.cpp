@@ -20,9 +20,9 @@ struct Counts {
 // Zero before the first allocation of any initialiser.
 Counts counts;
 
-// Memory that was freed stays with the program. Fetching it anew costs more than most of what is
-// done with it, and glibc does so for blocks above a size, where twice as much would cost far more.
-// It happens before main, where no other thread is there yet.
+// Memory that was freed stays with the program. Blocks above a size glibc fetches anew each time,
+// in whole pages: twice as large may be more than twice the bytes, and take far more than twice the
+// time. It happens before main, where no other thread is there yet.
 // NOLINTBEGIN(concurrency-mt-unsafe)
 [[maybe_unused]] const bool is_memory_kept =
     mallopt(M_MMAP_MAX, 0) != 0 && mallopt(M_TRIM_THRESHOLD, -1) != 0;

@@ -45,27 +45,34 @@ class Build:
         self.libraries = [next(library for part in SOURCES
                                for library in (folder / part).glob(f"**/lib{name}.so.*.*.*"))
                           for name in LIBRARIES]
-        self.programs = sorted(
-            path for part in ("unit", "interface")
-            for path in (folder / "tests" / part).glob("**/kelp_quill_inp_*_test")
-            # Contains a source instead of linking it.
-            if "plain_number_text" not in path.name)
+        self.programs = self.test_programs()
         self.link = {path: self.link_command(path) for path in self.libraries + self.programs}
         self.users = self.find_users()
         self.seconds = {}
         self.originals = scratch / "originals"
 
+    def ninja(self, *arguments):
+        return subprocess.run(["ninja", "-C", self.folder, "-t", *arguments],
+                              check=True, capture_output=True, text=True).stdout
+
+    def test_programs(self):
+        """Those that are built, not those that lie there from an earlier build."""
+        rules = (line.partition(": ") for line in self.ninja("targets", "all").splitlines())
+        names = (name for name, _, rule in rules if rule.startswith("CXX_EXECUTABLE_LINKER")
+                 and name.startswith(("tests/unit/", "tests/interface/")))
+        # The program that is left out contains a source instead of linking it.
+        return sorted(self.folder / name for name in names
+                      if name.endswith("_test") and "plain_number_text" not in name)
+
     def link_command(self, target):
         name = os.path.relpath(target, self.folder)
-        text = subprocess.run(["ninja", "-C", self.folder, "-t", "commands", "-s", name],
-                              check=True, capture_output=True, text=True).stdout
+        text = self.ninja("commands", "-s", name)
         command = next(part for part in text.split(" && ") if f" -o {name}" in part)
         return shlex.split(command)
 
     def find_users(self):
         """The sources, those of unit tests among them, that contain a file, by the file."""
-        text = subprocess.run(["ninja", "-C", self.folder, "-t", "deps"], check=True,
-                              capture_output=True, text=True).stdout
+        text = self.ninja("deps")
         users, output = {}, ""
         source_of = {path: source for source, path in self.object.items()}
         for line in text.splitlines():
