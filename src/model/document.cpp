@@ -1,8 +1,6 @@
 #include "kelp/input/quill/document.hpp"
 
-#include "kelp/input/quill/reader.hpp"
-
-// These members stand here, and not in the headers, so that programs which only pass documents
+// These members are defined here and not in the header, so that programs which only pass documents
 // around carry no copy of the member-wise code.
 
 namespace kelp::input::quill {
@@ -16,7 +14,5 @@ PostCommand::~PostCommand() = default;
 QuillInput::QuillInput(const QuillInput& other) = default;
 
 QuillInput::~QuillInput() = default;
-
-ParseResult::~ParseResult() = default;
 
 }  // namespace kelp::input::quill

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstddef>
 #include <vector>
 
 #include "kelp/chem/elements.hpp"
@@ -14,11 +15,30 @@ namespace text = kelp::core::text;
 
 namespace {
 
+constexpr std::size_t atom_tokens = 4;
+
 // The C library's tests take the value of an unsigned char; a plain char above 0x7F may be
 // negative.
 bool is_letter(char c) { return std::isalpha(static_cast<unsigned char>(c)) != 0; }
 
 bool is_blank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
+
+/// Reads four tokens as those of an atom, the symbol aside, and returns how many of them fit, from
+/// the first on.
+std::size_t read_atom_tokens(const std::vector<std::string>& tokens, AtomRecord& atom) {
+  if (!std::all_of(tokens[0].begin(), tokens[0].end(), is_letter)) return 0;
+  if (!text::try_parse_double(tokens[1], atom.x)) return 1;
+  if (!text::try_parse_double(tokens[2], atom.y)) return 2;
+  return text::try_parse_double(tokens[3], atom.z) ? atom_tokens : 3;
+}
+
+/// Only blanks come between two tokens, so the first place where a token is found is its own.
+std::string_view view_of_token(std::string_view line, const std::vector<std::string>& tokens,
+                               std::size_t index) {
+  std::size_t at = 0;
+  for (std::size_t i = 0; i < index; ++i) at = line.find(tokens[i], at) + tokens[i].size();
+  return line.substr(line.find(tokens[index], at), tokens[index].size());
+}
 
 }  // namespace
 
@@ -51,11 +71,7 @@ bool parse_xyz_reference(std::string_view line, std::string& keyword, std::strin
 // atom-line = letters number number number
 bool parse_atom_line(std::string_view line, AtomRecord& atom) {
   const std::vector<std::string> tokens = text::split_whitespace(line);
-  if (tokens.size() != 4) return false;
-  if (!std::all_of(tokens[0].begin(), tokens[0].end(), is_letter)) return false;
-  if (!text::try_parse_double(tokens[1], atom.x)) return false;
-  if (!text::try_parse_double(tokens[2], atom.y)) return false;
-  if (!text::try_parse_double(tokens[3], atom.z)) return false;
+  if (tokens.size() != atom_tokens || read_atom_tokens(tokens, atom) != atom_tokens) return false;
   atom.symbol = elements::normalize_symbol(tokens[0]);
   return true;
 }
@@ -64,6 +80,16 @@ std::optional<AtomRecord> parse_atom_line(std::string_view line) {
   std::optional<AtomRecord> atom(std::in_place);
   if (!parse_atom_line(line, *atom)) atom.reset();
   return atom;
+}
+
+std::optional<std::string_view> find_token_unlike_an_atom(std::string_view line) {
+  const std::vector<std::string> tokens = text::split_whitespace(line);
+  if (tokens.size() > atom_tokens) return view_of_token(line, tokens, atom_tokens);
+  if (tokens.size() < atom_tokens) return line.substr(line.size());
+  AtomRecord atom;
+  const std::size_t fitting = read_atom_tokens(tokens, atom);
+  if (fitting == atom_tokens) return std::nullopt;
+  return view_of_token(line, tokens, fitting);
 }
 
 std::string rest_after_first_word(std::string_view text) {

@@ -37,6 +37,11 @@ std::optional<AtomRecord> parse_atom_line(std::string_view line);
 /// an atom that has been written byte by byte is slow to move at once.
 bool parse_atom_line(std::string_view line, AtomRecord& atom);
 
+/// Returns the token because of which a line is not one of an atom, as a view of it: the fifth one
+/// of a line that has more than four, or else the first one of the wrong form. A line of fewer than
+/// four tokens gives the empty view at its end, and the line of an atom gives nothing.
+std::optional<std::string_view> find_token_unlike_an_atom(std::string_view line);
+
 /// Returns what follows the first run of non-blank characters and the blanks after that run. The
 /// end is not trimmed.
 std::string rest_after_first_word(std::string_view text);

@@ -3,9 +3,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "kelp/input/quill/lines.hpp"
 
 namespace kelp::input::quill {
 
@@ -13,12 +16,19 @@ namespace kelp::input::quill {
 /// an input, so no section ever sees one. Each line is trimmed once, when the cursor reaches it.
 class LineCursor {
  public:
-  /// Stands on the first line of `text` that is not blank, or at the end.
+  /// Begins at the first line of `text` that is not blank, or at the end.
   explicit LineCursor(std::string_view text);
+
+  /// Makes the cursor keep `records`, which has one entry for each of all_lines() and must live as
+  /// long as the cursor. Without it the roles of lines are not kept.
+  void keep(std::vector<LineRecord>& records) { records_ = records.data(); }
+
+  /// Every line of the text, blank ones included, without its terminator.
+  const std::vector<std::string>& all_lines() const { return lines_; }
 
   bool at_end() const { return index_ == lines_.size(); }
 
-  /// The line as it stands in the text, without its terminator; not to be asked at the end.
+  /// The line as it is in the text, without its terminator; not to be asked at the end.
   const std::string& line() const { return lines_[index_]; }
 
   /// The line without outer blanks, never empty; not to be asked at the end.
@@ -30,8 +40,9 @@ class LineCursor {
   /// How many lines there are from this one to the end, blank ones included.
   std::size_t remaining() const { return lines_.size() - index_; }
 
-  /// Moves on to the next line that is not blank, or to the end; not to be called at the end.
-  void advance();
+  /// Takes the line for what it was read as, and moves on to the next line that is not blank, or to
+  /// the end. `index` is the position in the list that `role` names. Not to be called at the end.
+  void take(LineRole role, std::optional<std::size_t> index = std::nullopt);
 
  private:
   void skip_blank_lines();
@@ -39,6 +50,7 @@ class LineCursor {
   std::vector<std::string> lines_;
   std::size_t index_ = 0;
   std::string trimmed_;
+  LineRecord* records_ = nullptr;
 };
 
 }  // namespace kelp::input::quill

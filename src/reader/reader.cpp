@@ -4,11 +4,13 @@
 #include <utility>
 
 #include "kelp/chem/elements.hpp"
+#include "kelp/input/quill/lines.hpp"
 #include "reader/coordinate_lines.hpp"
 #include "reader/diagnostics.hpp"
 #include "reader/file_content.hpp"
 #include "reader/header_line.hpp"
 #include "reader/line_cursor.hpp"
+#include "reader/line_records.hpp"
 #include "reader/post_line.hpp"
 
 namespace kelp::input::quill {
@@ -16,9 +18,10 @@ namespace kelp::input::quill {
 namespace {
 
 void read_header(LineCursor& cursor, ParseResult& result) {
-  for (; !cursor.at_end() && cursor.trimmed().front() == '#'; cursor.advance()) {
-    result.input.commands.push_back(
-        parse_header_command_line(cursor.line(), result.warnings, cursor.number()));
+  std::vector<HeaderCommand>& commands = result.input.commands;
+  while (!cursor.at_end() && cursor.trimmed().front() == '#') {
+    commands.push_back(parse_header_command_line(cursor.line(), result.warnings, cursor.number()));
+    cursor.take(LineRole::Command, commands.size() - 1);
   }
 }
 
@@ -29,22 +32,26 @@ void read_charge_and_multiplicity(LineCursor& cursor, GeometryBlock& geometry) {
   geometry.charge = numbers->charge;
   geometry.multiplicity = numbers->multiplicity;
   geometry.has_charge_and_multiplicity = true;
-  cursor.advance();
+  cursor.take(LineRole::ChargeAndMultiplicity);
 }
 
-void store_path(std::string&& path, std::string_view complaint, const LineCursor& cursor,
-                ParseResult& result) {
+/// Takes a reference line, which may have no path.
+void take_reference(LineCursor& cursor, LineRole role, std::string&& path,
+                    std::string_view complaint, ParseResult& result) {
+  std::vector<std::string>& paths = result.input.geometry.xyz_files;
   if (path.empty()) {
     result.warnings.push_back(line_diagnostic(cursor.number(), complaint));
+    cursor.take(role);
   } else {
-    result.input.geometry.xyz_files.push_back(std::move(path));
+    paths.push_back(std::move(path));
+    cursor.take(role, paths.size() - 1);
   }
 }
 
 void read_trajectory(LineCursor& cursor, std::string path, ParseResult& result) {
   result.input.geometry.kind = GeometryKind::XyzTrajectory;
-  store_path(std::move(path), message::trajectory_without_path, cursor, result);
-  cursor.advance();
+  take_reference(cursor, LineRole::Trajectory, std::move(path), message::trajectory_without_path,
+                 result);
 }
 
 void read_xyz_files(LineCursor& cursor, ParseResult& result) {
@@ -53,15 +60,15 @@ void read_xyz_files(LineCursor& cursor, ParseResult& result) {
   std::string path;
   while (!cursor.at_end() && parse_xyz_reference(cursor.line(), keyword, path) &&
          keyword == xyz_keyword) {
-    store_path(std::move(path), message::xyz_without_path, cursor, result);
-    cursor.advance();
+    take_reference(cursor, LineRole::XyzReference, std::move(path), message::xyz_without_path,
+                   result);
   }
 }
 
 void read_atoms(LineCursor& cursor, ParseResult& result) {
   std::vector<AtomRecord>& atoms = result.input.geometry.atoms;
   atoms.reserve(cursor.remaining());
-  for (; !cursor.at_end(); cursor.advance()) {
+  while (!cursor.at_end()) {
     AtomRecord& atom = atoms.emplace_back();
     if (!parse_atom_line(cursor.trimmed(), atom)) {
       atoms.pop_back();
@@ -70,6 +77,7 @@ void read_atoms(LineCursor& cursor, ParseResult& result) {
     if (!chem::elements::atomic_number_from_symbol(atom.symbol)) {
       result.warnings.push_back(unknown_element_diagnostic(cursor.number(), atom.symbol));
     }
+    cursor.take(LineRole::Atom, atoms.size() - 1);
   }
   // Most inputs hold little but atoms, and then the room reserved was right. Where it was not, a
   // document should not hold on to it for the rest of its life.
@@ -77,7 +85,7 @@ void read_atoms(LineCursor& cursor, ParseResult& result) {
   if (!atoms.empty()) result.input.geometry.kind = GeometryKind::Atoms;
 }
 
-/// The first line decides on the form; what stands in another form after it is post-processing.
+/// The first line decides on the form; lines of another form after it are post-processing.
 void read_coordinates(LineCursor& cursor, ParseResult& result) {
   if (cursor.at_end()) return;
   std::string keyword;
@@ -93,20 +101,20 @@ void read_coordinates(LineCursor& cursor, ParseResult& result) {
 
 void read_post_lines(LineCursor& cursor, ParseResult& result) {
   std::vector<PostCommand>& commands = result.input.post_commands;
-  for (; !cursor.at_end(); cursor.advance()) {
-    if (!parse_post_line(cursor.trimmed(), commands.emplace_back())) {
+  while (!cursor.at_end()) {
+    if (parse_post_line(cursor.trimmed(), commands.emplace_back())) {
+      cursor.take(LineRole::PostCommand, commands.size() - 1);
+    } else {
       commands.pop_back();
       result.warnings.push_back(line_diagnostic(cursor.number(), message::unrecognized_post_line));
+      cursor.take(LineRole::Dropped);
     }
   }
 }
 
-}  // namespace
-
-ParseResult parse_string(std::string_view text) {
+ParseResult read_input(LineCursor& cursor) {
   ParseResult result;
   result.ok = true;
-  LineCursor cursor(text);
   read_header(cursor, result);
   read_charge_and_multiplicity(cursor, result.input.geometry);
   read_coordinates(cursor, result);
@@ -116,6 +124,24 @@ ParseResult parse_string(std::string_view text) {
     result.warnings.emplace_back(message::no_coordinates);
   }
   return result;
+}
+
+}  // namespace
+
+ParseResult::~ParseResult() = default;
+
+ParseResult parse_string(std::string_view text) {
+  LineCursor cursor(text);
+  return read_input(cursor);
+}
+
+ParsedLines parse_lines(std::string_view text) {
+  LineCursor cursor(text);
+  ParsedLines parsed;
+  parsed.lines = locate_lines(text, cursor.all_lines());
+  cursor.keep(parsed.lines);
+  parsed.result = read_input(cursor);
+  return parsed;
 }
 
 ParseResult parse_file(const std::string& path) {

@@ -166,8 +166,10 @@ TEST(AFailedAllocation, LeavesNoHalfAMessageOfAFileThatCannotBeWritten) {
 }
 
 TEST(AFailedAllocation, LeavesNoHalfADocumentReadFromAText) {
-  for (const std::string& text : texts)
+  for (const std::string& text : texts) {
     EXPECT_GT(expect_whole_answer_or_none([&] { return parse_string(text); }), 0U) << text;
+    EXPECT_GT(expect_whole_answer_or_none([&] { return parse_lines(text).lines; }), 0U) << text;
+  }
 }
 
 TEST(AFailedAllocation, LeavesNoHalfADocumentReadFromAFile) {

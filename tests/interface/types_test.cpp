@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "kelp/input/quill/document.hpp"
+#include "kelp/input/quill/lines.hpp"
 #include "kelp/input/quill/reader.hpp"
 #include "support/comparison.hpp"
 #include "support/printing.hpp"
@@ -33,6 +34,8 @@ static_assert(is_plain_value<GeometryBlock>());
 static_assert(is_plain_value<PostCommand>());
 static_assert(is_plain_value<QuillInput>());
 static_assert(is_plain_value<ParseResult>());
+static_assert(is_plain_value<LineRecord>());
+static_assert(is_plain_value<ParsedLines>());
 
 template <typename Kind>
 constexpr bool is_32_bit_kind() {
@@ -61,6 +64,15 @@ static_assert(PostCommandKind::DihedralConstraint == PostCommandKind{3});
 static_assert(PostCommandKind::Scan == PostCommandKind{4});
 static_assert(PostCommandKind::PostFile == PostCommandKind{5});
 static_assert(PostCommandKind::Raw == PostCommandKind{6});
+
+static_assert(LineRole::Blank == LineRole{0});
+static_assert(LineRole::Command == LineRole{1});
+static_assert(LineRole::ChargeAndMultiplicity == LineRole{2});
+static_assert(LineRole::Atom == LineRole{3});
+static_assert(LineRole::XyzReference == LineRole{4});
+static_assert(LineRole::Trajectory == LineRole{5});
+static_assert(LineRole::PostCommand == LineRole{6});
+static_assert(LineRole::Dropped == LineRole{7});
 
 template <typename Member, typename Type>
 constexpr bool is = std::is_same_v<Member, Type>;

@@ -9,6 +9,7 @@ namespace kelp::input::quill {
 void check_text(std::string_view text) {
   const ParseResult result = parse_string(text);
   check_result(text, result);
+  check_lines(text, parse_lines(text));
   check_against_obvious_reader(text, result);
   check_that_layout_does_not_matter(text);
   check_document(result.input);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "properties/counted_lines.hpp"
 #include "properties/obvious_elements.hpp"
 #include "properties/obvious_reader.hpp"
 #include "properties/obvious_text.hpp"
@@ -131,6 +132,18 @@ void check_result(std::string_view text, const ParseResult& result) {
   check_warnings(text, result);
   check_geometry(text, result);
   check_post_commands(text, result);
+}
+
+void check_lines(std::string_view text, const ParsedLines& parsed) {
+  require(parsed.result == parse_string(text), "lines are read as a text is", text);
+  std::size_t covered = 0;
+  for (const LineRecord& line : parsed.lines) {
+    require(line.offset == covered, "the records cover every byte", text);
+    covered += line.length + line.terminator_length;
+  }
+  require(covered == text.size(), "the records cover every byte", text);
+  require(parsed.lines == obvious::count_lines(text, parsed.result),
+          "the records are those that counting gives", text);
 }
 
 void check_against_obvious_reader(std::string_view text, const ParseResult& result) {

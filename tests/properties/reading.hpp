@@ -29,6 +29,10 @@ void check_post_commands(std::string_view text, const ParseResult& result);
 /// All of the above.
 void check_result(std::string_view text, const ParseResult& result);
 
+/// The records of the lines cover every byte of the text, in order, and are those that counting
+/// gives; the result beside them is that of parse_string().
+void check_lines(std::string_view text, const ParsedLines& parsed);
+
 /// The document and the warnings do not depend on blanks around lines, on the kind of line ends, on
 /// one more line end, and, but for the numbers of lines, on blank lines.
 void check_that_layout_does_not_matter(std::string_view text);

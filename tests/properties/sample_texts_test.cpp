@@ -20,10 +20,11 @@
 namespace kelp::input::quill {
 namespace {
 
-/// The properties that cost no more than three readings.
+/// The properties that cost no more than a few readings.
 void check_reading_and_writing(const std::string& text) {
   const ParseResult result = parse_string(text);
   check_result(text, result);
+  check_lines(text, parse_lines(text));
   check_against_obvious_reader(text, result);
   check_round_trip(result.input);
 }

@@ -146,6 +146,50 @@ TEST_P(SpoiledResult, IsNoticed) {
 INSTANTIATE_TEST_SUITE_P(Table, SpoiledResult, testing::ValuesIn(rows),
                          [](const auto& row) { return std::string(row.param.name); });
 
+struct LineRow {
+  std::string_view name;
+  std::function<void(ParsedLines&)> spoil;
+  std::string_view property;
+};
+
+void PrintTo(const LineRow& row, std::ostream* out) { *out << row.name; }
+
+const LineRow line_rows[] = {
+    {"AnotherResult", [](ParsedLines& p) { p.result.warnings.pop_back(); },
+     "lines are read as a text is"},
+    {"ALineLess", [](ParsedLines& p) { p.lines.pop_back(); }, "the records cover every byte"},
+    {"ALineTooLate", [](ParsedLines& p) { ++p.lines[1].offset; }, "the records cover every byte"},
+    {"AByteOfAnotherLine",
+     [](ParsedLines& p) { ++p.lines[0].length, ++p.lines[1].offset, --p.lines[1].length; },
+     "the records are those that counting gives"},
+    {"ALineEndInTheLine",
+     [](ParsedLines& p) { ++p.lines[0].length, --p.lines[0].terminator_length; },
+     "the records are those that counting gives"},
+    {"AnotherRole", [](ParsedLines& p) { p.lines[3].role = LineRole::PostCommand; },
+     "the records are those that counting gives"},
+    {"AnotherIndex", [](ParsedLines& p) { p.lines[4].index = 0; },
+     "the records are those that counting gives"},
+    {"NoIndex", [](ParsedLines& p) { p.lines[0].index.reset(); },
+     "the records are those that counting gives"},
+    {"ABlankLineTaken", [](ParsedLines& p) { p.lines[5].role = LineRole::Dropped; },
+     "the records are those that counting gives"},
+};
+
+class SpoiledLines : public testing::TestWithParam<LineRow> {};
+
+TEST_P(SpoiledLines, AreNoticed) {
+  ParsedLines parsed = parse_lines(text);
+  ASSERT_TRUE(holds([&] { check_lines(text, parsed); }));
+  GetParam().spoil(parsed);
+  const testing::AssertionResult outcome = holds([&] { check_lines(text, parsed); });
+  ASSERT_FALSE(outcome);
+  EXPECT_NE(std::string_view(outcome.message()).find(GetParam().property), std::string_view::npos)
+      << outcome.message();
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, SpoiledLines, testing::ValuesIn(line_rows),
+                         [](const auto& row) { return std::string(row.param.name); });
+
 TEST(AViolation, ShowsTheBytesItIsAbout) {
   const std::string bytes("a\n\\\x01\xFF\0b", 7);
   try {

@@ -60,4 +60,9 @@ bool operator==(const ParseResult& left, const ParseResult& right) {
          left.warnings == right.warnings;
 }
 
+bool operator==(const LineRecord& left, const LineRecord& right) {
+  return left.role == right.role && left.index == right.index && left.offset == right.offset &&
+         left.length == right.length && left.terminator_length == right.terminator_length;
+}
+
 }  // namespace kelp::input::quill

@@ -16,6 +16,7 @@ bool operator==(const GeometryBlock& left, const GeometryBlock& right);
 bool operator==(const PostCommand& left, const PostCommand& right);
 bool operator==(const QuillInput& left, const QuillInput& right);
 bool operator==(const ParseResult& left, const ParseResult& right);
+bool operator==(const LineRecord& left, const LineRecord& right);
 
 template <typename T>
 bool operator!=(const T& left, const T& right) {

@@ -59,4 +59,9 @@ void PrintTo(const ParseResult& result, std::ostream* out) {
   PrintTo(result.input, out);
 }
 
+void PrintTo(const LineRecord& line, std::ostream* out) {
+  *out << "{role " << static_cast<int>(line.role) << ", index " << shown(line.index) << ", offset "
+       << line.offset << ", length " << line.length << " and " << line.terminator_length << "}";
+}
+
 }  // namespace kelp::input::quill

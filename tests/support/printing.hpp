@@ -16,6 +16,7 @@ void PrintTo(const GeometryBlock& geometry, std::ostream* out);
 void PrintTo(const PostCommand& command, std::ostream* out);
 void PrintTo(const QuillInput& input, std::ostream* out);
 void PrintTo(const ParseResult& result, std::ostream* out);
+void PrintTo(const LineRecord& line, std::ostream* out);
 
 }  // namespace kelp::input::quill
 

@@ -201,7 +201,45 @@ const AtomRow atoms[] = {
     {"TwoSigns", "O 0 --1 0"},
     {"ANulByteBehindANumber", "O 0 0 0\0"s},
 };
+TEST_P(AtomLine, HasATokenUnlikeAnAtomUnlessItIsOne) {
+  EXPECT_EQ(find_token_unlike_an_atom(GetParam().line).has_value(), !GetParam().atom);
+}
+
 INSTANTIATE_TEST_SUITE_P(Table, AtomLine, testing::ValuesIn(atoms),
+                         [](const auto& row) { return row.param.name; });
+
+struct TokenRow {
+  std::string name;
+  std::string line;
+  std::size_t offset;
+  std::string token;
+};
+
+void PrintTo(const TokenRow& row, std::ostream* out) { *out << testing::PrintToString(row.line); }
+
+class TokenUnlikeAnAtom : public testing::TestWithParam<TokenRow> {};
+
+TEST_P(TokenUnlikeAnAtom, IsFoundInItsPlace) {
+  const std::string_view line = GetParam().line;
+  const auto token = find_token_unlike_an_atom(line);
+  ASSERT_TRUE(token.has_value());
+  EXPECT_EQ(*token, GetParam().token);
+  EXPECT_EQ(token->data() - line.data(), static_cast<std::ptrdiff_t>(GetParam().offset));
+}
+
+const TokenRow tokens[] = {
+    {"TheSymbol", " O1 0 0 0", 1, "O1"},
+    {"TheSymbolBeforeANumber", "O1 x 0 0", 0, "O1"},
+    {"X", "H 1,5 1,5 0", 2, "1,5"},
+    {"Y", "H 1 1,5 0", 4, "1,5"},
+    {"Z", "H 0 0 0x", 6, "0x"},
+    {"ATokenThatIsPartOfOneBeforeIt", "xx 0 x 0", 5, "x"},
+    {"TheFifth", "H 0 0 1 # note", 8, "#"},
+    {"TheFifthBeforeOneOfTheWrongForm", "1 O 0 0 0", 8, "0"},
+    {"TheEndOfALineOfThree", "H 0 0 ", 6, ""},
+    {"TheEndOfNothing", "", 0, ""},
+};
+INSTANTIATE_TEST_SUITE_P(Table, TokenUnlikeAnAtom, testing::ValuesIn(tokens),
                          [](const auto& row) { return row.param.name; });
 
 bool is_ascii_letter(int byte) {

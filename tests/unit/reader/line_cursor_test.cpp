@@ -1,5 +1,6 @@
 #include "reader/line_cursor.hpp"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstddef>
@@ -8,6 +9,9 @@
 #include <string>
 #include <tuple>
 #include <vector>
+
+#include "support/comparison.hpp"
+#include "support/printing.hpp"
 
 namespace kelp::input::quill {
 namespace {
@@ -27,7 +31,7 @@ void PrintTo(const Row& row, std::ostream* out) { *out << testing::PrintToString
 
 std::vector<Stop> walk(LineCursor& cursor) {
   std::vector<Stop> stops;
-  for (; !cursor.at_end(); cursor.advance())
+  for (; !cursor.at_end(); cursor.take(LineRole::Command))
     stops.emplace_back(cursor.line(), cursor.trimmed(), cursor.number(), cursor.remaining());
   return stops;
 }
@@ -57,6 +61,19 @@ const Row rows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Table, LineCursorOver, testing::ValuesIn(rows),
                          [](const auto& row) { return row.param.name; });
+
+TEST(ALineCursor, NotesWhatTheLinesThatItTakesAre) {
+  LineCursor cursor("#a\n\nB 1 x\nb");
+  std::vector<LineRecord> records(cursor.all_lines().size());
+  cursor.keep(records);
+  cursor.take(LineRole::Command, 7);
+  cursor.take(LineRole::Dropped);
+  std::vector<LineRecord> expected(4);
+  expected[0].role = LineRole::Command;
+  expected[0].index = 7;
+  expected[2].role = LineRole::Dropped;
+  EXPECT_EQ(records, expected);
+}
 
 }  // namespace
 }  // namespace kelp::input::quill

@@ -13,6 +13,7 @@
 #include "kelp/input/quill/builder.hpp"
 #include "kelp/input/quill/document.hpp"
 #include "kelp/input/quill/editor.hpp"
+#include "kelp/input/quill/lines.hpp"
 #include "kelp/input/quill/reader.hpp"
 #include "kelp/input/quill/writer.hpp"
 
