@@ -2,8 +2,8 @@
 #include <string>
 #include <vector>
 
+#include "quill-inp/process/standard_streams.hpp"
 #include "quill-inp/run.hpp"
-#include "quill-inp/standard_streams.hpp"
 
 int main(int argc, char** argv) {
   namespace tool = kelp::input::quill::tool;

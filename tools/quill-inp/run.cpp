@@ -8,15 +8,15 @@
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 
-#include "quill-inp/arguments.hpp"
-#include "quill-inp/exit_code.hpp"
-#include "quill-inp/help_formatter.hpp"
-#include "quill-inp/message_options.hpp"
-#include "quill-inp/output.hpp"
-#include "quill-inp/reporter.hpp"
-#include "quill-inp/suggestion.hpp"
-#include "quill-inp/trouble.hpp"
-#include "quill-inp/verb.hpp"
+#include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/help_formatter.hpp"
+#include "quill-inp/command_line/message_options.hpp"
+#include "quill-inp/process/exit_code.hpp"
+#include "quill-inp/process/trouble.hpp"
+#include "quill-inp/session/output.hpp"
+#include "quill-inp/session/reporter.hpp"
+#include "quill-inp/text/suggestion.hpp"
+#include "quill-inp/verbs/verb.hpp"
 
 namespace kelp::input::quill::tool {
 

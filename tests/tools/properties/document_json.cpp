@@ -4,9 +4,9 @@
 #include <string>
 
 #include "properties/violation.hpp"
-#include "quill-inp/document_json.hpp"
-#include "quill-inp/trouble.hpp"
-#include "quill-inp/utf8.hpp"
+#include "quill-inp/formats/document_json.hpp"
+#include "quill-inp/process/trouble.hpp"
+#include "quill-inp/text/utf8.hpp"
 #include "support/comparison.hpp"
 #include "tools/properties/made_edits.hpp"
 

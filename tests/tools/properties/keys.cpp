@@ -9,9 +9,9 @@
 #include "properties/obvious_reader.hpp"
 #include "properties/obvious_text.hpp"
 #include "properties/violation.hpp"
-#include "quill-inp/key.hpp"
-#include "quill-inp/post_argument.hpp"
-#include "quill-inp/trouble.hpp"
+#include "quill-inp/command_line/post_argument.hpp"
+#include "quill-inp/keys/key.hpp"
+#include "quill-inp/process/trouble.hpp"
 
 namespace kelp::input::quill::tool {
 

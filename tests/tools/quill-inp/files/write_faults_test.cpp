@@ -1,0 +1,437 @@
+// Every system call of a write in place, failed and interrupted in turn, and other programs that
+// work on the same file meanwhile.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <map>
+#include <optional>
+#include <ostream>
+#include <sstream>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "support/temporary_folder.hpp"
+#include "tools/quill-inp/support/files.hpp"
+#include "tools/quill-inp/support/program.hpp"
+
+namespace kelp::input::quill::tool {
+namespace {
+
+constexpr unsigned mode = 0640;
+constexpr const char* backup_name = "a.qin.bak";
+
+const bool is_in_memory = use_memory_for_temporary_files();
+
+/// A file in a folder of its own, and a program that is told to change it.
+class FaultyWrite {
+ public:
+  explicit FaultyWrite(bool keeps_backup = false) : keeps_backup_(keeps_backup) {
+    path_ = folder_.write("a.qin", water);
+    chmod(path_.c_str(), mode);
+    request_.arguments = {"set", "-q", "-i", "a.qin", "model=m2"};
+    if (keeps_backup) request_.arguments.emplace_back("--backup");
+    request_.folder = folder_.path();
+    request_.umask = 0;
+    request_.environment = {{"LD_PRELOAD", QUILL_INP_FAILING_CALLS},
+                            {"ASAN_OPTIONS", "verify_asan_link_order=0"}};
+  }
+
+  Request& request() { return request_; }
+  std::string content() const { return content_of(path_); }
+  unsigned mode_of_file() const { return mode_of(path_); }
+  struct stat state() const {
+    return state_of(path_);
+  }
+  void write_other(const std::string& name) const { folder_.write(name, "other"); }
+
+  Outcome run() const { return run_program(request_); }
+
+  Outcome run_with_fault(std::size_t call, const std::string& fault) {
+    request_.environment["QUILL_INP_FAULT_AT"] = std::to_string(call);
+    request_.environment["QUILL_INP_FAULT"] = fault;
+    return run();
+  }
+
+  /// The same call once more, with nothing in its way.
+  Outcome run_undisturbed() {
+    request_.environment.erase("LD_PRELOAD");
+    return run();
+  }
+
+  /// The calls that the write makes when all goes well.
+  std::vector<std::string> list_calls() {
+    const TemporaryFolder logs;
+    const std::string log = logs.write("calls", "");
+    request_.environment["QUILL_INP_CALL_LOG"] = log;
+    EXPECT_EQ(run(), ended(0, "", ""));
+    std::istringstream lines(content_of(log));
+    std::vector<std::string> calls;
+    for (std::string line; std::getline(lines, line);) calls.push_back(line);
+    return calls;
+  }
+
+  /// Names in the folder but for that of the file.
+  std::vector<std::string> others() const {
+    std::vector<std::string> names = names_in(folder_.path());
+    names.erase(std::remove(names.begin(), names.end(), "a.qin"), names.end());
+    return names;
+  }
+
+  /// What they are to be after a call that could clean up: the new text has a backup beside it, if
+  /// that was asked for, and the old text has nothing.
+  std::vector<std::string> others_wanted() const {
+    if (!keeps_backup_ || content() == water) return {};
+    return {backup_name};
+  }
+
+  std::string backup() const { return content_of(folder_.path(backup_name)); }
+  std::string path() const { return path_; }
+
+  /// Whether nobody may do with any file of the folder what he may not do with the target.
+  bool nothing_is_wider() const {
+    for (const std::string& name : names_in(folder_.path())) {
+      if ((mode_of(folder_.path(name)) & ~mode) != 0) return false;
+    }
+    return true;
+  }
+
+ private:
+  bool keeps_backup_;
+  TemporaryFolder folder_;
+  std::string path_;
+  Request request_;
+};
+
+std::vector<std::string> calls_of_a_write(bool keeps_backup = false) {
+  return FaultyWrite(keeps_backup).list_calls();
+}
+
+bool is_old_or_new(const std::string& content) {
+  return content == water || content == changed_water();
+}
+
+std::size_t position(const std::vector<std::string>& calls, const std::string& name) {
+  return static_cast<std::size_t>(std::find(calls.begin(), calls.end(), name) - calls.begin());
+}
+
+TEST(Write, TakesItsStepsInOrder) {
+  std::vector<std::string> steps;
+  for (const std::string& call : calls_of_a_write()) {
+    // How often a file is read or looked at is of no concern.
+    const bool counts =
+        call != "read" && call != "fstat" && call.find("xattr") == std::string::npos;
+    if (counts) steps.push_back(call);
+  }
+  const std::vector<std::string> expected = {
+      "openat",                // the file
+      "close",                 //
+      "openat",                // its folder
+      "openat",                // the file in the folder
+      "faccessat",             // may it be written
+      "openat",                // the temporary file
+      "fchmod",                // the mode
+      "write",     "fsync",    // the text
+      "close",     "openat",   // reading it back
+      "close",     "fstatat",  // is the file still the one that was read
+      "renameat",  "fsync"     // the new name
+  };
+  ASSERT_GE(steps.size(), expected.size());
+  EXPECT_TRUE(std::equal(expected.begin(), expected.end(), steps.begin()))
+      << testing::PrintToString(steps);
+}
+
+TEST(Write, KilledAtAnyCallLeavesTheOldOrTheNewText) {
+  const std::vector<std::string> calls = calls_of_a_write();
+  const std::size_t rename = position(calls, "renameat") + 1;
+  ASSERT_LT(rename, calls.size());
+  for (std::size_t call = 1; call <= calls.size(); ++call) {
+    FaultyWrite write;
+    const Outcome outcome = write.run_with_fault(call, "signal " + std::to_string(SIGKILL));
+    EXPECT_EQ(outcome.signal, SIGKILL) << calls[call - 1];
+    EXPECT_EQ(write.content(), call <= rename ? water : changed_water()) << calls[call - 1];
+    EXPECT_EQ(write.mode_of_file(), mode);
+    EXPECT_TRUE(write.nothing_is_wider()) << calls[call - 1];
+  }
+}
+
+TEST(Write, KilledAtAnyCallLeavesTheOldOrTheNewTextBesideABackup) {
+  const std::vector<std::string> calls = calls_of_a_write(true);
+  for (std::size_t call = 1; call <= calls.size(); ++call) {
+    FaultyWrite write(true);
+    write.run_with_fault(call, "signal " + std::to_string(SIGKILL));
+    EXPECT_TRUE(is_old_or_new(write.content())) << calls[call - 1];
+    EXPECT_TRUE(write.nothing_is_wider()) << calls[call - 1];
+    for (const std::string& name : write.others()) {
+      if (name == backup_name) {
+        EXPECT_EQ(write.backup(), water);
+      }
+    }
+  }
+}
+
+const char* words_for(bool keeps_backup) { return keeps_backup ? "WithBackup" : "WithoutBackup"; }
+
+class Signal : public testing::TestWithParam<std::tuple<int, bool>> {
+ protected:
+  static int number() { return std::get<int>(GetParam()); }
+  static bool keeps_backup() { return std::get<bool>(GetParam()); }
+};
+
+TEST_P(Signal, AtAnyCallLeavesNothingInTheWayOfTheNextTry) {
+  const std::vector<std::string> calls = calls_of_a_write(keeps_backup());
+  for (std::size_t call = 1; call <= calls.size(); ++call) {
+    FaultyWrite write(keeps_backup());
+    const Outcome outcome = write.run_with_fault(call, "signal " + std::to_string(number()));
+    EXPECT_EQ(outcome.signal, number()) << calls[call - 1];
+    EXPECT_TRUE(is_old_or_new(write.content())) << calls[call - 1];
+    EXPECT_EQ(write.others(), write.others_wanted()) << calls[call - 1];
+    EXPECT_EQ(write.run_undisturbed(), ended(0, "", "")) << calls[call - 1];
+    EXPECT_EQ(write.others(), write.others_wanted()) << calls[call - 1];
+  }
+}
+
+TEST_P(Signal, ThatIsIgnoredStaysIgnored) {
+  const std::vector<std::string> calls = calls_of_a_write(keeps_backup());
+  for (std::size_t call = 1; call <= calls.size(); ++call) {
+    FaultyWrite write(keeps_backup());
+    write.request().ignored_signals = {number()};
+    EXPECT_EQ(write.run_with_fault(call, "signal " + std::to_string(number())), ended(0, "", ""))
+        << calls[call - 1];
+    EXPECT_EQ(write.content(), changed_water());
+    EXPECT_EQ(write.others(), write.others_wanted());
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Signals, Signal,
+                         testing::Combine(testing::Values(SIGINT, SIGTERM, SIGHUP),
+                                          testing::Bool()),
+                         [](const auto& row) {
+                           return std::string(sigabbrev_np(std::get<int>(row.param))) +
+                                  words_for(std::get<bool>(row.param));
+                         });
+
+/// A write without and with --backup.
+class AnyWrite : public testing::TestWithParam<bool> {};
+
+/// Calls whose failure changes nothing of the file: closing what was only read, and removing what
+/// the backup was called before it had its name.
+bool may_fail(const std::vector<std::string>& calls, std::size_t call) {
+  const bool closes_what_was_written =
+      call > 1 && calls[call - 2] == "fsync" && call < position(calls, "renameat");
+  return calls[call - 1] == "unlinkat" || (calls[call - 1] == "close" && !closes_what_was_written);
+}
+
+TEST_P(AnyWrite, ThatFailsLeavesTheOldOrTheNewTextAndNothingElse) {
+  const std::vector<std::string> calls = calls_of_a_write(GetParam());
+  std::map<std::string, int> failures;
+  for (std::size_t call = 1; call <= calls.size(); ++call) {
+    const std::string& name = calls[call - 1];
+    FaultyWrite write(GetParam());
+    const Outcome outcome = write.run_with_fault(call, "errno " + std::to_string(EIO));
+    ASSERT_TRUE(outcome.code) << name;
+    EXPECT_TRUE(*outcome.code == 0 || *outcome.code == 2) << name;
+    EXPECT_TRUE(is_old_or_new(write.content())) << name;
+    EXPECT_TRUE(write.nothing_is_wider()) << name;
+    if (*outcome.code == 0) {
+      EXPECT_EQ(write.content(), changed_water()) << name;
+    } else {
+      EXPECT_EQ(outcome.err.rfind("a.qin: error: ", 0), 0U) << outcome.err;
+      EXPECT_EQ(write.content() == changed_water(),
+                outcome.err.find("holds the new text") != std::string::npos)
+          << outcome.err;
+      ++failures[name];
+    }
+    if (name != "unlinkat") {
+      EXPECT_EQ(write.others(), write.others_wanted()) << name;
+    } else {
+      EXPECT_EQ(write.others().size(), write.others_wanted().size() + 1) << name;
+    }
+  }
+  for (const char* name : {"openat", "read", "write", "fsync", "close", "fchmod", "renameat"})
+    EXPECT_GE(failures[name], 1) << name;
+}
+
+TEST_P(AnyWrite, PassesOverNoFailureOfWhatMakesItSafe) {
+  const std::vector<std::string> calls = calls_of_a_write(GetParam());
+  for (std::size_t call = 1; call <= calls.size(); ++call) {
+    const std::string& name = calls[call - 1];
+    if (name.find("xattr") != std::string::npos || may_fail(calls, call)) continue;
+    FaultyWrite write(GetParam());
+    EXPECT_EQ(write.run_with_fault(call, "errno " + std::to_string(EIO)).code, 2)
+        << name << " number " << call;
+  }
+}
+
+TEST_P(AnyWrite, ThatFailedCanBeTriedAgain) {
+  const std::size_t count = calls_of_a_write(GetParam()).size();
+  for (std::size_t call = 1; call <= count; ++call) {
+    FaultyWrite write(GetParam());
+    if (write.run_with_fault(call, "errno " + std::to_string(EIO)).code == 0) continue;
+    EXPECT_EQ(write.run_undisturbed(), ended(0, "", "")) << call;
+    EXPECT_EQ(write.content(), changed_water()) << call;
+    EXPECT_EQ(write.others(), write.others_wanted()) << call;
+    EXPECT_TRUE(!GetParam() || write.backup() == water) << call;
+  }
+}
+
+TEST_P(AnyWrite, GoesOnAfterAnInterruption) {
+  const std::vector<std::string> calls = calls_of_a_write(GetParam());
+  for (std::size_t call = 1; call <= calls.size(); ++call) {
+    const std::string& name = calls[call - 1];
+    if (name != "openat" && name != "read" && name != "write" && name != "fsync" && name != "close")
+      continue;
+    FaultyWrite write(GetParam());
+    EXPECT_EQ(write.run_with_fault(call, "errno " + std::to_string(EINTR)), ended(0, "", ""))
+        << name;
+    EXPECT_EQ(write.content(), changed_water());
+    EXPECT_EQ(write.others(), write.others_wanted());
+  }
+}
+
+TEST_P(AnyWrite, ContinuesShortWrites) {
+  FaultyWrite write(GetParam());
+  write.request().environment["QUILL_INP_SHORT"] = "1";
+  EXPECT_EQ(write.run(), ended(0, "", ""));
+  EXPECT_EQ(write.content(), changed_water());
+}
+
+TEST_P(AnyWrite, LeavesTheOldTextOnAFullDisk) {
+  const std::vector<std::string> calls = calls_of_a_write(GetParam());
+  for (std::size_t call = 1; call <= calls.size(); ++call) {
+    if (calls[call - 1] != "write") continue;
+    FaultyWrite write(GetParam());
+    EXPECT_EQ(write.run_with_fault(call, "errno " + std::to_string(ENOSPC)),
+              ended(2, "", "a.qin: error: cannot be written: No space left on device\n"));
+    EXPECT_EQ(write.content(), water);
+    EXPECT_EQ(write.others(), std::vector<std::string>());
+  }
+}
+
+TEST_P(AnyWrite, ReadsBackWhatItWrote) {
+  const std::vector<std::string> calls = calls_of_a_write(GetParam());
+  int times = 0;
+  for (std::size_t call = position(calls, "fsync"); call <= calls.size(); ++call) {
+    // The first read of a file gives the text, the second one its end.
+    if (calls[call - 1] != "read" || calls[call - 2] != "openat") continue;
+    ++times;
+    for (const char* fault : {"corrupt", "end"}) {
+      FaultyWrite write(GetParam());
+      const struct stat before = write.state();
+      EXPECT_EQ(
+          write.run_with_fault(call, fault),
+          ended(2, "", "a.qin: error: the temporary file does not hold what was written to it\n"));
+      EXPECT_EQ(write.content(), water);
+      EXPECT_EQ(write.state().st_ino, before.st_ino);
+      EXPECT_EQ(write.others(), std::vector<std::string>());
+    }
+  }
+  EXPECT_EQ(times, GetParam() ? 2 : 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Backup, AnyWrite, testing::Bool(),
+                         [](const auto& row) { return words_for(row.param); });
+
+/// One row of a table: what another program does to the file, and what is there afterwards.
+struct MeanwhileRow {
+  std::string name;
+  std::string command;
+  std::optional<std::string> content = std::nullopt;  // none: there is no such file
+  mode_t kind = S_IFREG;
+  std::vector<std::string> others = {};
+};
+
+void PrintTo(const MeanwhileRow& row, std::ostream* stream) { *stream << row.name; }
+
+class ChangeMeanwhile : public testing::TestWithParam<std::tuple<MeanwhileRow, bool>> {};
+
+TEST_P(ChangeMeanwhile, IsNotOverwritten) {
+  const auto& [row, keeps_backup] = GetParam();
+  const std::vector<std::string> calls = calls_of_a_write(keeps_backup);
+  // When the file was read, while the new text is on its way, and at the last look.
+  for (const char* name : {"close", "fsync", "fstatat"}) {
+    FaultyWrite write(keeps_backup);
+    const struct timespec long_ago[2] = {{1, 0}, {1, 0}};
+    ASSERT_EQ(utimensat(AT_FDCWD, write.path().c_str(), long_ago, 0), 0);
+    EXPECT_EQ(write.run_with_fault(position(calls, name) + 1, "run " + row.command),
+              ended(2, "",
+                    "a.qin: error: was changed by somebody else after it was read; nothing was "
+                    "written\n"))
+        << name;
+    EXPECT_EQ(write.others(), row.others) << name;
+    if (row.kind != 0) {
+      EXPECT_EQ(write.state().st_mode & S_IFMT, row.kind) << name;
+    }
+    if (row.content) {
+      EXPECT_EQ(write.content(), *row.content) << name;
+    }
+  }
+}
+
+std::string rewritten_water() {
+  std::string text = water;
+  return text.replace(1, 3, "OPT");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, ChangeMeanwhile,
+    testing::Combine(
+        testing::Values(
+            MeanwhileRow{"Changed", "echo other > a.qin", "other\n"},
+            MeanwhileRow{"AppendedTo", "echo other >> a.qin", water + std::string("other\n")},
+            MeanwhileRow{"Rewritten", "printf '#OPT' 1<> a.qin", rewritten_water()},
+            // The clock of the file system may be coarse.
+            MeanwhileRow{"RewrittenWithTheOldTime",
+                         "sleep 0.02; printf '#OPT' 1<> a.qin; touch -d @1 a.qin",
+                         rewritten_water()},
+            MeanwhileRow{"Touched", "touch a.qin", water},
+            MeanwhileRow{"Replaced", "echo other > b; mv b a.qin", "other\n"},
+            MeanwhileRow{"ReplacedByItsCopy", "cp -p a.qin b; mv b a.qin", water},
+            MeanwhileRow{"Removed", "rm a.qin", std::nullopt, 0},
+            MeanwhileRow{"MadeALink", "mv a.qin b; ln -s b a.qin", water, S_IFLNK, {"b"}},
+            MeanwhileRow{"MadeADanglingLink", "ln -sf none a.qin", std::nullopt, S_IFLNK},
+            MeanwhileRow{"MadeAFolder", "rm a.qin; mkdir a.qin", std::nullopt, S_IFDIR}),
+        testing::Bool()),
+    [](const auto& row) {
+      return std::get<MeanwhileRow>(row.param).name + words_for(std::get<bool>(row.param));
+    });
+
+TEST(ChangeWhileReading, IsNoticed) {
+  const std::vector<std::string> calls = calls_of_a_write();
+  FaultyWrite write;
+  // The file is looked at once more before it is closed.
+  EXPECT_EQ(write.run_with_fault(position(calls, "close"), "run echo other >> a.qin"),
+            ended(2, "", "a.qin: error: changed while it was read\n"));
+  EXPECT_EQ(write.content(), water + std::string("other\n"));
+}
+
+TEST(FolderThatCannotBeFlushed, IsNoErrorWhereTheFileSystemHasNoWayTo) {
+  const std::vector<std::string> calls = calls_of_a_write();
+  const std::size_t last =
+      calls.size() -
+      static_cast<std::size_t>(std::find(calls.rbegin(), calls.rend(), "fsync") - calls.rbegin());
+  FaultyWrite write;
+  EXPECT_EQ(write.run_with_fault(last, "errno " + std::to_string(EINVAL)), ended(0, "", ""));
+  EXPECT_EQ(write.content(), changed_water());
+}
+
+TEST(FileSystemWithoutLinks, StillGetsABackup) {
+  const std::vector<std::string> calls = calls_of_a_write(true);
+  const std::size_t link = position(calls, "linkat") + 1;
+  ASSERT_LE(link, calls.size());
+  FaultyWrite write(true);
+  EXPECT_EQ(write.run_with_fault(link, "errno " + std::to_string(EPERM)), ended(0, "", ""));
+  EXPECT_EQ(write.others(), std::vector<std::string>{"a.qin.bak"});
+  FaultyWrite second(true);
+  second.write_other("a.qin.bak");
+  EXPECT_EQ(second.run_with_fault(link, "errno " + std::to_string(EPERM)).code, 2);
+  EXPECT_EQ(content_of(second.request().folder + "/a.qin.bak"), "other");
+}
+
+}  // namespace
+}  // namespace kelp::input::quill::tool

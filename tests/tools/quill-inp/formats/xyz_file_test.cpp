@@ -1,0 +1,95 @@
+#include "quill-inp/formats/xyz_file.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "quill-inp/process/trouble.hpp"
+#include "support/comparison.hpp"
+#include "support/printing.hpp"
+
+namespace kelp::input::quill::tool {
+namespace {
+
+struct Row {
+  std::string_view name;
+  std::string_view text;
+  std::vector<AtomRecord> atoms;
+};
+
+class XyzFile : public testing::TestWithParam<Row> {};
+
+const AtomRecord helium = {"He", 0.0, 0.5, -1.25};
+const AtomRecord neon = {"Ne", 1.0, 2.0, 3.0};
+
+const Row rows[] = {
+    {"OneAtom", "1\na comment\nHe 0 0.5 -1.25\n", {helium}},
+    {"TwoAtoms", "2\n\nHe 0 0.5 -1.25\nNe 1 2 3\n", {helium, neon}},
+    {"NoLineEndAtTheEnd", "1\n\nHe 0 0.5 -1.25", {helium}},
+    {"DosLineEnds", "1\r\n\r\nHe 0 0.5 -1.25\r\n", {helium}},
+    {"BlanksAroundTheCount", " \t1 \n\nHe 0 0.5 -1.25\n", {helium}},
+    {"TabsAndBlanks", "1\n\n\tHe\t0   0.5\t-1.25 \n", {helium}},
+    {"FortranExponents", "1\n\nHe 0 5d-1 -1.25D0\n", {helium}},
+    {"SymbolsInAnyLetterCase", "2\n\nHE 0 0.5 -1.25\nne 1 2 3\n", {helium, neon}},
+    {"FurtherColumnsArePassedOver", "1\n\nHe 0 0.5 -1.25 0.3 text\n", {helium}},
+    {"BlankLinesBehindTheAtoms", "1\n\nHe 0 0.5 -1.25\n\n \t\n", {helium}},
+    {"ANumberAsComment", "1\n7\nHe 0 0.5 -1.25\n", {helium}},
+};
+
+TEST_P(XyzFile, GivesItsAtoms) { EXPECT_EQ(read_xyz_atoms(GetParam().text), GetParam().atoms); }
+
+INSTANTIATE_TEST_SUITE_P(Table, XyzFile, testing::ValuesIn(rows),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+struct BadRow {
+  std::string_view name;
+  std::string_view text;
+  std::string_view complaint;
+  std::optional<std::size_t> line = std::nullopt;
+};
+
+class BadXyzFile : public testing::TestWithParam<BadRow> {};
+
+constexpr std::string_view no_count = "an XYZ file begins with the number of its atoms, 1 or more";
+constexpr std::string_view no_atom = "expected an atom, a symbol and three coordinates";
+
+const BadRow bad_rows[] = {
+    {"NoText", "", no_count, 1},
+    {"NoCount", "He 0 0 0\n", no_count, 1},
+    {"TwoCounts", "1 1\n\nHe 0 0 0\n", no_count, 1},
+    {"NoAtoms", "0\n\n", no_count, 1},
+    {"ANegativeCount", "-1\n\n", no_count, 1},
+    {"TheCountAlone", "2", "has 0 atoms instead of 2"},
+    {"TheCountAndTheComment", "2\n\n", "has 0 atoms instead of 2"},
+    {"OneAtomOfTwo", "2\n\nHe 0 0 0\n", "has 1 atoms instead of 2"},
+    {"HugeCount", "2147483647\n\nHe 0 0 0\n", "has 1 atoms instead of 2147483647"},
+    {"TooFewColumns", "1\n\nHe 0 0\n", no_atom, 3},
+    {"NoNumberForX", "1\n\nHe a 0 0\n", no_atom, 3},
+    {"NoNumberForY", "1\n\nHe 0 a 0\n", no_atom, 3},
+    {"NoNumberForZ", "1\n\nHe 0 0 a\n", no_atom, 3},
+    {"AtomicNumberForASymbol", "1\n\n2 0 0 0\n", no_atom, 3},
+    {"SymbolWithADigit", "1\n\nHe1 0 0 0\n", no_atom, 3},
+    {"BlankLineBetweenAtoms", "2\n\nHe 0 0 0\n\nHe 0 0 1\n", no_atom, 4},
+    {"ASecondStructure", "1\n\nHe 0 0 0\n1\n\nHe 0 0 1\n",
+     "more text after the last atom; only files of one structure are read", 4},
+};
+
+TEST_P(BadXyzFile, IsRefusedWithTheLine) {
+  try {
+    read_xyz_atoms(GetParam().text);
+    FAIL() << "no exception";
+  } catch (const Trouble& trouble) {
+    EXPECT_EQ(std::string_view(trouble.what()), GetParam().complaint);
+    EXPECT_EQ(trouble.line(), GetParam().line);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, BadXyzFile, testing::ValuesIn(bad_rows),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,128 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tools/quill-inp/support/call.hpp"
+#include "tools/quill-inp/support/files.hpp"
+
+namespace kelp::input::quill::tool {
+namespace {
+
+Outcome refused(const std::string& message) {
+  return ended(2, "", "water.qin: error: refused: " + message + " (--allow-loss goes on)\n");
+}
+
+Outcome usage_error(const std::string& message) {
+  return ended(
+      2, "",
+      "quill-inp: error: " + message + "\nquill-inp: note: 'quill-inp add --help' says more\n");
+}
+
+class Add : public testing::TestWithParam<Call> {};
+
+const std::string path = "XYZ a\n";
+
+const Call calls[] = {
+    {"Bond", {"add", "water.qin", "--bond", "1,2"}, ended(0, water + std::string("\nB 1 2\n"), "")},
+    {"EveryKindInOrder",
+     {"add", "-", "--raw", "first line", "--angle", "1,2,3", "--dihedral=1,2,3,4", "--bond", "1,2",
+      "--atom", "7", "--scan", "1,2:1.5:10", "--post", "my file", "--bond", "3,4", "--raw", "last"},
+     ended(0,
+           "XYZ a\n\nfirst line\nA 1 2 3\nD 1 2 3 4\nB 1 2\nC 7\nS 1 2 1.5 10\nPOST my file\nB 3 "
+           "4\nlast\n",
+           ""),
+     path},
+    {"BehindLinesThatAreThere",
+     {"add", "-", "--bond", "3,4"},
+     ended(0, "XYZ a\n\nB 1 2\nB 3 4\n", ""),
+     "XYZ a\n\nB 1 2\n"},
+    {"TheMissingLineEndStaysMissing",
+     {"add", "-", "--bond", "3,4"},
+     ended(0, "XYZ a\r\nB 1 2\r\nB 3 4", ""),
+     "XYZ a\r\nB 1 2"},
+    {"TextThatLooksLikeAListOrAnOption",
+     {"add", "-", "--raw", "[x]", "--raw=--bond", "--raw=++"},
+     ended(0, "XYZ a\n\n[x]\n--bond\n++\n", ""),
+     path},
+    {"AngleBehindAnotherLine",
+     {"add", "water.qin", "--bond", "1,2", "--angle", "1,2,3"},
+     ended(0, water + std::string("\nB 1 2\nA 1 2 3\n"), "")},
+    {"ScanInSixDigits",
+     {"add", "-", "--scan", "1,2:123.456:10"},
+     ended(0, "XYZ a\n\nS 1 2 123.456 10\n", ""),
+     path},
+
+    {"AngleThatWouldBeAnAtom",
+     {"add", "water.qin", "--angle", "1,2,3"},
+     refused_at("water.qin", 9,
+                "would be read as an atom of element A, not as an angle constraint; another "
+                "post-processing line in front of it avoids that")},
+    {"RawTextThatWouldBeAConstraint",
+     {"add", "water.qin", "--raw", "B 1 2"},
+     refused_at("water.qin", 9,
+                "would be read otherwise: post-processing line 1 is a bond constraint instead "
+                "of raw text")},
+    {"RawTextThatWouldBeDropped",
+     {"add", "water.qin", "--raw", "B 1 x"},
+     refused_at("water.qin", 9, "would be dropped with a warning, not read as raw text")},
+    {"RawTextWithOuterBlanks",
+     {"add", "water.qin", "--raw", " x "},
+     refused_at("water.qin", 9,
+                "would be read otherwise: the text of post-processing line 1 is 'x' instead of "
+                "' x '")},
+    {"NoText", {"add", "water.qin", "--raw="}, refused("no line would be read as raw text ('')")},
+    {"TextOfTwoLines",
+     {"add", "water.qin", "--raw", "a\nb"},
+     refused_at("water.qin", 9,
+                "would be read otherwise: the text of post-processing line 1 is 'a' instead of "
+                "'a\\nb'")},
+    {"NoPath",
+     {"add", "water.qin", "--post", ""},
+     refused_at("water.qin", 9,
+                "would be read otherwise: post-processing line 1 is raw text instead of a post "
+                "file")},
+    {"ScanInTooManyDigits",
+     {"add", "-q", "water.qin", "--scan", "1,2:1.23456789:10"},
+     refused_at("water.qin", 9,
+                "would be read otherwise: the scan value of post-processing line 1 is 1.23457 "
+                "instead of 1.23456789")},
+    {"ScanInTooManyDigitsForNoChangeAtAll",
+     {"add", "-q", "--max-change", "0", "water.qin", "--scan", "1,2:0.00001234567:10"},
+     refused_at("water.qin", 9,
+                "would be read otherwise: the scan value of post-processing line 1 is "
+                "1.23457e-05 instead of 1.234567e-05")},
+    {"ScanInTooManyDigitsForASmallChange",
+     {"add", "-", "--scan", "1,2:0.00001234567:10"},
+     ended(0, "XYZ a\n\nS 1 2 1.23457e-05 10\n",
+           "<stdin>: note: 1 number changes, by up to 3e-11\n"),
+     path},
+    {"LossThatIsAllowed",
+     {"add", "--allow-loss", "-", "--raw", " B 1 2"},
+     ended(0, "XYZ a\n\n B 1 2\n",
+           "<stdin>:3: warning: lost: line 3 would be read otherwise: post-processing line 1 is a "
+           "bond constraint instead of raw text\n"
+           "<stdin>: warning: lost: the list of atom numbers of post-processing line 1 is 1 2 "
+           "instead of "
+           "absent\n"),
+     path},
+
+    {"NothingToAdd", {"add", "water.qin"}, usage_error("nothing to add")},
+    {"BadBond",
+     {"add", "water.qin", "--bond", "1"},
+     usage_error("--bond takes two atom numbers, '1,2', not '1'")},
+    {"BondWithoutValue", {"add", "water.qin", "--bond"}, usage_error("--bond needs a value")},
+    {"UnknownOption",
+     {"add", "water.qin", "--bnd", "1,2"},
+     usage_error("unknown option '--bnd'; did you mean '--bond'?")},
+    {"ASecondFile",
+     {"add", "water.qin", "bare.qin", "--bond", "1,2"},
+     usage_error("unexpected argument 'bare.qin'")},
+};
+
+TEST_P(Add, AppendsLines) { expect_outcome(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Table, Add, testing::ValuesIn(calls),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace kelp::input::quill::tool

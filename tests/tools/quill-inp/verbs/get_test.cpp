@@ -1,0 +1,104 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tools/quill-inp/support/call.hpp"
+
+namespace kelp::input::quill::tool {
+namespace {
+
+const std::string two_opts_warnings =
+    "two_opts.qin:2: warning: ignored trailing text after QUILL header command\n"
+    "two_opts.qin:6: warning: ignored unrecognized QUILL post-processing line\n";
+
+class Get : public testing::TestWithParam<Call> {};
+
+const Call calls[] = {
+    {"Assignment", {"get", "water.qin", "model"}, ended(0, "m1\n", "")},
+    {"AssignmentInQuotes", {"get", "by_hand.qin", "model"}, ended(0, "m1\n", "")},
+    {"NamesInAnyLetterCase",
+     {"get", "water.qin", "MODEL", "Opt.MAXITER"},
+     ended(0, "m1\n50\n", "")},
+    {"NameWithItsHash", {"get", "water.qin", "#model"}, ended(0, "m1\n", "")},
+    {"ParameterList", {"get", "by_hand.qin", "opt"}, ended(0, "(maxiter=50, tight)\n", "")},
+    {"Flag",
+     {"get", "bare.qin", "sp"},
+     ended(0, "flag\n", "bare.qin: warning: No QUILL coordinate section found\n")},
+    {"ParameterWithoutValue", {"get", "water.qin", "opt.tight"}, ended(0, "flag\n", "")},
+    {"Parameter", {"get", "water.qin", "opt.maxiter"}, ended(0, "50\n", "")},
+    {"TheFirstOfSeveral", {"get", "-q", "two_opts.qin", "opt.maxiter"}, ended(0, "50\n", "")},
+    {"TheFirstByNumber", {"get", "-q", "two_opts.qin", "opt[0].maxiter"}, ended(0, "50\n", "")},
+    {"TheSecond", {"get", "two_opts.qin", "opt[1].maxiter"}, ended(0, "70\n", two_opts_warnings)},
+    {"TheSecondAsAWhole", {"get", "two_opts.qin", "opt[1]", "-q"}, ended(0, "(maxiter=70)\n", "")},
+    {"ChargeAndMultiplicity",
+     {"get", "water.qin", "@charge", "@multiplicity"},
+     ended(0, "0\n1\n", "")},
+    {"Geometry", {"get", "water.qin", "@geometry"}, ended(0, "atoms\n", "")},
+    {"GeometryOfFiles", {"get", "-q", "two_opts.qin", "@geometry"}, ended(0, "xyz_file\n", "")},
+    {"Files", {"get", "-q", "two_opts.qin", "@files"}, ended(0, "a b.xyz\nc.xyz\n", "")},
+    {"Atoms",
+     {"get", "water.qin", "@atoms"},
+     ended(0, "O 0 0 0.117176\nH 0 0.75695 -0.468706\nH 0 -0.75695 -0.468706\n", "")},
+    {"StandardInput", {"get", "-", "model"}, ended(0, "m2\n", ""), "#model=m2\n0 1\n"},
+    {"BytesAsTheyAre",
+     {"get", "-", "model"},
+     ended(0, "a\x1B\xFF\n", ""),
+     "#model=a\x1B\xFF\n0 1\n"},
+    {"EmptyValue", {"get", "-", "model"}, ended(0, "\n", ""), "#model=\n0 1\n"},
+    {"ParametersAreSpelledToReadBack",
+     {"get", "-", "opt"},
+     ended(0, "(basis=\"a,b\")\n", ""),
+     "#opt(basis='a,b')\n0 1\n"},
+    {"NoCommand",
+     {"get", "water.qin", "freq"},
+     ended(1, "", "water.qin: note: no match for 'freq': no command 'freq'\n")},
+    {"NoCommandButOneLikeIt",
+     {"get", "water.qin", "modle"},
+     ended(1, "",
+           "water.qin: note: no match for 'modle': no command 'modle'; did you mean "
+           "'model'?\n")},
+    {"NoParameterButOneLikeIt",
+     {"get", "water.qin", "opt.maxitr"},
+     ended(1, "",
+           "water.qin: note: no match for 'opt.maxitr': the command has no parameter "
+           "'maxitr'; did you mean 'maxiter'?\n")},
+    {"NoSuchOccurrence",
+     {"get", "water.qin", "opt[1]"},
+     ended(1, "",
+           "water.qin: note: no match for 'opt[1]': there is only 1 of the command 'opt', "
+           "and [N] counts from 0\n")},
+    {"NoThirdOccurrence", {"get", "-q", "two_opts.qin", "opt[2]"}, ended(1, "", "")},
+    {"NoChargeLine", {"get", "-q", "two_opts.qin", "@charge"}, ended(1, "", "")},
+    {"NoMultiplicity", {"get", "-q", "two_opts.qin", "@multiplicity"}, ended(1, "", "")},
+    {"NoAtoms", {"get", "-q", "two_opts.qin", "@atoms"}, ended(1, "", "")},
+    {"NoFiles",
+     {"get", "water.qin", "@files"},
+     ended(1, "", "water.qin: note: no match for '@files'\n")},
+    {"NoGeometry", {"get", "-q", "bare.qin", "@geometry"}, ended(1, "", "")},
+    {"OneKeyOfTwoWithoutMatchPrintsNothing",
+     {"get", "water.qin", "model", "freq", "opt"},
+     ended(1, "", "water.qin: note: no match for 'freq': no command 'freq'\n")},
+    {"NoFile",
+     {"get", "none.qin", "model"},
+     ended(2, "", "none.qin: error: cannot be opened: No such file or directory\n")},
+    {"NoKey",
+     {"get", "water.qin"},
+     ended(2, "",
+           "quill-inp: error: KEY is required\n"
+           "quill-inp: note: 'quill-inp get --help' says more\n")},
+    {"BadKeyBeforeTheFileIsLookedAt",
+     {"get", "none.qin", "a["},
+     ended(2, "",
+           "quill-inp: error: bad key 'a[': a number and ']' must follow '['; a key is COMMAND, "
+           "COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, N counted from 0, or @charge, "
+           "@multiplicity, @geometry, @files or @atoms\n"
+           "quill-inp: note: 'quill-inp get --help' says more\n")},
+};
+
+TEST_P(Get, PrintsWhatTheInputSays) { expect_outcome(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Table, Get, testing::ValuesIn(calls),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace kelp::input::quill::tool

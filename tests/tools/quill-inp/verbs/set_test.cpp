@@ -1,0 +1,351 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tools/quill-inp/support/call.hpp"
+#include "tools/quill-inp/support/files.hpp"
+
+namespace kelp::input::quill::tool {
+namespace {
+
+const std::string atoms =
+    "O        0.000000      0.000000      0.117176\n"
+    "H        0.000000      0.756950     -0.468706\n"
+    "H        0.000000     -0.756950     -0.468706\n";
+
+const std::string behind_header = "\n0 1\n" + atoms;
+
+const std::string hint = "quill-inp: note: 'quill-inp set --help' says more\n";
+
+/// Water with other header lines.
+Outcome with_header(const std::string& header) { return ended(0, header + behind_header, ""); }
+
+Outcome usage_error(const std::string& message) {
+  return ended(2, "", "quill-inp: error: " + message + "\n" + hint);
+}
+
+Outcome refused(const std::string& message) {
+  return ended(2, "", "water.qin: error: refused: " + message + " (--allow-loss goes on)\n");
+}
+
+std::string not_a_path(const std::string& option) {
+  return option +
+         " takes a path, and 'model=m2' looks like a setting; settings of 'set' stand in front of "
+         "the options or behind '--', and a path of this name is written './model=m2'";
+}
+
+Outcome nameless(const std::string& key) {
+  return usage_error("bad key '" + key +
+                     "': there is no name; a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or "
+                     "COMMAND[N].PARAMETER, N counted from 0, or @charge, @multiplicity, "
+                     "@geometry, @files or @atoms");
+}
+
+class Set : public testing::TestWithParam<Call> {};
+
+const Call calls[] = {
+    {"ParameterThatIsThere",
+     {"set", "water.qin", "opt.maxiter=100"},
+     with_header("#opt(maxiter=100, tight)\n#model = m1\n")},
+    {"ParameterThatIsNew",
+     {"set", "water.qin", "opt.step=0.1"},
+     with_header("#opt(maxiter=50, tight, step=0.1)\n#model = m1\n")},
+    {"ParameterWithoutValue",
+     {"set", "water.qin", "--flag", "opt.loose"},
+     with_header("#opt(maxiter=50, tight, loose)\n#model = m1\n")},
+    {"ParameterWithoutValueThatIsThere",
+     {"set", "water.qin", "--flag", "opt.TIGHT"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n")},
+    {"ParameterOfACommandThatIsNew",
+     {"set", "water.qin", "freq.t=298"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#freq(t=298)\n")},
+    {"ParameterWithoutValueOfACommandThatIsNew",
+     {"set", "water.qin", "--flag=freq.raman"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#freq(raman)\n")},
+    {"EmptyParameter",
+     {"set", "water.qin", "opt.maxiter="},
+     with_header("#opt(maxiter=, tight)\n#model = m1\n")},
+    {"Assignment",
+     {"set", "water.qin", "model=m2"},
+     with_header("#opt(maxiter=50, tight)\n#model = m2\n")},
+    {"AssignmentThatIsNew",
+     {"set", "water.qin", "device=gpu"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#device = gpu\n")},
+    {"Flag",
+     {"set", "water.qin", "--flag", "freq"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#freq\n")},
+    {"FlagsInTheOrderOfTheWords",
+     {"set", "water.qin", "--flag", "a", "a=1", "b.c=1", "--allow-loss", "-q", "--flag", "b.c"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#a = 1\n#b(c)\n")},
+    {"FlagWhoseNameHasAnEqualsSign",
+     {"set", "water.qin", "--flag", R"(opt.a\=b)", "--allow-loss", "-q"},
+     with_header("#opt(maxiter=50, tight, a=b)\n#model = m1\n")},
+    {"FlagThatLooksLikeAList", {"set", "water.qin", "--flag", "[a]"}, nameless("[a]")},
+    {"SeveralAtOnce",
+     {"set", "water.qin", "model=m2", "opt.a=1", "--flag", "opt.b", "opt.a=2", "@charge=-1"},
+     ended(0, "#opt(maxiter=50, tight, a=2, b)\n#model = m2\n\n-1 1\n" + atoms, "")},
+    {"Multiplicity",
+     {"set", "water.qin", "@multiplicity=3"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m1\n\n0 3\n" + atoms, "")},
+    {"NothingToChange", {"set", "water.qin", "model=m1", "opt.maxiter=50"}, ended(0, water, "")},
+    {"ValueWithAComma",
+     {"set", "water.qin", "opt.basis=a,b"},
+     with_header("#opt(maxiter=50, tight, basis=\"a,b\")\n#model = m1\n")},
+    {"ValueWithOuterBlanks",
+     {"set", "water.qin", "model= m 1 "},
+     with_header("#opt(maxiter=50, tight)\n#model = \" m 1 \"\n")},
+    {"ValueWithQuotesAroundIt",
+     {"set", "water.qin", "model=\"m1\""},
+     with_header("#opt(maxiter=50, tight)\n#model = '\"m1\"'\n")},
+    {"ValueWithBytesOfItsOwn",
+     {"set", "water.qin", "model=\xFF\x1B"},
+     with_header("#opt(maxiter=50, tight)\n#model = \xFF\x1B\n")},
+    {"OtherLinesStayAsTheyAre",
+     {"set", "by_hand.qin", "opt.maxiter=60"},
+     ended(0,
+           "#Opt(maxiter=60, tight)\r\n#Model=\"m1\"\r\n  0   1\r\n\r\no 0 0 0.117176\r\n"
+           "h 0  0.75695 -0.468706\r\nh 0 -0.75695 -0.468706",
+           "")},
+    {"NewLinesEndAsTheOthersDo",
+     {"set", "by_hand.qin", "--flag", "freq"},
+     ended(0,
+           "# Opt ( maxiter = 50 , tight )\r\n#Model=\"m1\"\r\n#freq\r\n  0   1\r\n\r\n"
+           "o 0 0 0.117176\r\nh 0  0.75695 -0.468706\r\nh 0 -0.75695 -0.468706",
+           "")},
+    {"SecondCommandOfItsName",
+     {"set", "--allow-loss", "-q", "two_opts.qin", "opt[1].maxiter=80"},
+     ended(0, "#opt(maxiter=50)\n#Opt(maxiter=80)\n\nXYZ a b.xyz\nXYZ c.xyz\nB 1 x\n", "")},
+    {"XyzFiles",
+     {"set", "water.qin", "--xyz", "a.xyz", "b c.xyz"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\nXYZ a.xyz\nXYZ b c.xyz\n", "")},
+    {"XyzFilesAndValues",
+     {"set", "water.qin", "model=m2", "--xyz", "a.xyz"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m2\n\n0 1\nXYZ a.xyz\n", "")},
+    {"ValuesBehindTheXyzFiles",
+     {"set", "water.qin", "--xyz", "a.xyz", "--", "model=m2"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m2\n\n0 1\nXYZ a.xyz\n", "")},
+    {"PathsWithEqualsSigns",
+     {"set", "water.qin", "--xyz", "./model=m2", "a/b=c"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\nXYZ ./model=m2\nXYZ a/b=c\n", "")},
+    {"Trajectory",
+     {"set", "water.qin", "--trajectory", "t.xyz"},
+     ended(0, "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\nXYZTRAJ t.xyz\n", "")},
+    {"Atoms",
+     {"set", "-q", "two_opts.qin", "--atoms", "water.xyz"},
+     ended(0, "#opt(maxiter=50)\n#Opt(maxiter=70) and so on\n\n" + atoms + "B 1 x\n", "")},
+    {"AtomsOfUnknownElementsWithMoreDigits",
+     {"set", "water.qin", "--atoms", "odd.xyz"},
+     ended(0,
+           "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\n"
+           "He       0.000000      0.000000      0.123457\n"
+           "D        0.000000      0.000000      1.000000\n",
+           "odd.xyz:4: warning: unknown element symbol 'D'\n"
+           "water.qin: note: 1 number changes, by up to 2.2e-07\n")},
+    {"AtomsFromStandardInput",
+     {"set", "-q", "water.qin", "--atoms", "-"},
+     ended(0,
+           "#opt(maxiter=50, tight)\n#model = m1\n\n0 1\n"
+           "He       1.000000      2.000000      3.000000\n",
+           ""),
+     "1\n\nhe 1 2 3\n"},
+    {"StandardInput", {"set", "-", "model=m2"}, ended(0, "#model = m2\n0 1", ""), "#model=m1\n0 1"},
+    {"Difference",
+     {"set", "--diff", "water.qin", "model=m2"},
+     ended(1,
+           "--- water.qin\n+++ water.qin\n@@ -1,5 +1,5 @@\n #opt(maxiter=50, tight)\n-#model = m1\n"
+           "+#model = m2\n \n 0 1\n O        0.000000      0.000000      0.117176\n",
+           "")},
+    {"NoDifference", {"set", "--diff", "water.qin", "model=m1"}, ended(0, "", "")},
+    {"AngleBracketsInAName",
+     {"set", "water.qin", R"(a\.b\[0\]=1)"},
+     with_header("#opt(maxiter=50, tight)\n#model = m1\n#a.b[0] = 1\n")},
+
+    {"NewNameThatLooksLikeOneThatIsThere",
+     {"set", "water.qin", "modle=m2", "opt.maxitr=1"},
+     ended(0, "#opt(maxiter=50, tight, maxitr=1)\n#model = m1\n#modle = m2\n" + behind_header,
+           "water.qin: note: 'modle' is new; did you mean 'model'?\n"
+           "water.qin: note: 'opt.maxitr' is new; did you mean 'maxiter'?\n")},
+    {"ParameterWithoutNameWouldGo",
+     {"set", "-", "a.b=1"},
+     ended(2, "",
+           "<stdin>:1: error: refused: line 1 says more than its command, which would be lost: "
+           "'#a(=5, b)' (--allow-loss goes on)\n"),
+     "#a(=5, b)\n0 1\n"},
+    {"ParameterWithoutNameOnALineThatStays",
+     {"set", "-", "c=1"},
+     ended(0, "#a(=5, b)\n#c = 1\n0 1\n", ""),
+     "#a(=5, b)\n0 1\n"},
+
+    {"NoSuchOccurrence",
+     {"set", "water.qin", "opt[1].maxiter=1"},
+     ended(1, "",
+           "water.qin: note: no match for 'opt[1].maxiter': there is only 1 of the command "
+           "'opt', and [N] counts from 0\n")},
+    {"OneOfTwoWithoutMatchSetsNothing",
+     {"set", "-q", "water.qin", "model=m2", "freq[1].a=1"},
+     ended(1, "", "")},
+
+    {"ValueThatCannotBeSpelled",
+     {"set", "water.qin", "opt.maxiter=x\"y'z,"},
+     refused("the value 'x\"y'z,' of parameter 'maxiter' cannot be spelled: it would read back "
+             "otherwise as it stands, in double quotes and in single quotes with another parameter "
+             "after it")},
+    {"ParametersWouldGo",
+     {"set", "water.qin", "opt=5"},
+     refused("the command 'opt' would lose its parameters")},
+    {"ParametersWouldGoForAFlag",
+     {"set", "water.qin", "--flag", "opt"},
+     refused("the command 'opt' would lose its parameters")},
+    {"AValueWouldGo",
+     {"set", "water.qin", "--flag", "model"},
+     refused("the command 'model' would lose its value 'm1'")},
+    {"AValueWouldGoForAParameter",
+     {"set", "water.qin", "model.a=1"},
+     refused("the command 'model' would lose its value 'm1'")},
+    {"AParametersValueWouldGo",
+     {"set", "water.qin", "--flag", "opt.maxiter"},
+     refused("the parameter 'maxiter' would lose its value '50'")},
+    {"ParametersMayGo",
+     {"set", "--allow-loss", "water.qin", "opt=5"},
+     ended(0, "#opt = 5\n#model = m1\n" + behind_header,
+           "water.qin: warning: lost: the command 'opt' would lose its parameters\n")},
+    {"TrailingTextWouldGo",
+     {"set", "-q", "two_opts.qin", "opt[1].maxiter=80"},
+     ended(
+         2, "",
+         "two_opts.qin:2: error: refused: line 2 says more than its command, which would be lost: "
+         "'#Opt(maxiter=70) and so on' (--allow-loss goes on)\n")},
+    {"DigitsWouldGo",
+     {"set", "-q", "--max-change=1e-7", "water.qin", "--atoms", "odd.xyz"},
+     ended(2, "",
+           "water.qin:5: error: refused: line 5 would be read otherwise: z of atom 1 is "
+           "0.123457 instead of 0.12345678 (--allow-loss goes on)\n")},
+    {"LineBreakInAValue",
+     {"set", "water.qin", "model=a\nb"},
+     refused("the value 'a\\nb' holds a line break, and a header command is one line")},
+    {"LineBreakInAPath",
+     {"set", "water.qin", "--trajectory", "a\nb"},
+     refused_at("water.qin", 5,
+                "would be read otherwise: the path of trajectory reference 1 is 'a' instead of "
+                "'a\\nb'")},
+
+    {"FlagWithAValue",
+     {"set", "water.qin", "--flag", "opt.maxiter=5"},
+     usage_error("--flag takes a KEY without a value, not 'opt.maxiter=5'")},
+    {"FlagWithoutKey", {"set", "water.qin", "--flag"}, usage_error("--flag needs a value")},
+    {"AForgottenEqualsSign",
+     {"set", "-i", "water.qin", "opt.maxiter", "100"},
+     usage_error("expected KEY=VALUE, not 'opt.maxiter'; a setting without a value is made by "
+                 "--flag KEY")},
+    {"AForgottenEqualsSignBehindASetting",
+     {"set", "water.qin", "model=m2", "100"},
+     usage_error("expected KEY=VALUE, not '100'; a setting without a value is made by --flag KEY")},
+    {"ASecondFile",
+     {"set", "-i", "bare.qin", "water.qin", "model=m2"},
+     usage_error("expected KEY=VALUE, not 'water.qin'; a setting without a value is made by "
+                 "--flag KEY; there is a file of that name, and 'set' takes one FILE")},
+    {"ASecondFileWhoseNameIsNoKey",
+     {"set", "bare.qin", "./water.qin", "model=m2"},
+     usage_error("expected KEY=VALUE, not './water.qin'; a setting without a value is made by "
+                 "--flag KEY; there is a file of that name, and 'set' takes one FILE")},
+    {"AnEmptyWord",
+     {"set", "water.qin", ""},
+     usage_error("expected KEY=VALUE, not ''; a setting without a value is made by --flag KEY")},
+    {"ASettingBehindPaths",
+     {"set", "-i", "water.qin", "--xyz", "a.xyz", "model=m2"},
+     usage_error(not_a_path("--xyz"))},
+    {"ASettingAttachedAsAPath",
+     {"set", "water.qin", "--xyz=model=m2"},
+     usage_error(not_a_path("--xyz"))},
+    {"ASettingAsATrajectory",
+     {"set", "water.qin", "--trajectory", "model=m2"},
+     usage_error(not_a_path("--trajectory"))},
+    {"ASettingAttachedAsATrajectory",
+     {"set", "water.qin", "--trajectory=model=m2"},
+     usage_error(not_a_path("--trajectory"))},
+    {"ASettingWithASlashInItsValueBehindPaths",
+     {"set", "water.qin", "--xyz", "a.xyz", "model=a/b"},
+     usage_error("--xyz takes a path, and 'model=a/b' looks like a setting; settings of 'set' "
+                 "stand in front of the options or behind '--', and a path of this name is written "
+                 "'./model=a/b'")},
+    {"NamelessCommand", {"set", "water.qin", "#=x"}, nameless("#")},
+    {"NamelessCommandOfHashes", {"set", "water.qin", "##=x"}, nameless("##")},
+    {"ParameterOfANamelessCommand", {"set", "water.qin", "#.a=x"}, nameless("#.a")},
+    {"NamelessFlag", {"set", "water.qin", "--flag", "#"}, nameless("#")},
+    {"NothingToSet", {"set", "water.qin"}, usage_error("nothing to set")},
+    {"TwoGeometries",
+     {"set", "water.qin", "--xyz", "a", "--trajectory", "b"},
+     usage_error("--atoms, --xyz and --trajectory exclude each other")},
+    {"ChargeThatIsNoNumber",
+     {"set", "water.qin", "@charge=x"},
+     usage_error("@charge takes an integer, not 'x'")},
+    {"ChargeWithoutValue",
+     {"set", "water.qin", "--flag", "@charge"},
+     usage_error("'@charge' cannot be set without a value")},
+    {"GeometryByValue",
+     {"set", "water.qin", "@geometry=none"},
+     usage_error("'@geometry' cannot be set by a value; use --atoms, --xyz or --trajectory")},
+    {"WholeCommandByNumber",
+     {"set", "-q", "two_opts.qin", "opt[1]=5"},
+     ended(2, "",
+           "quill-inp: error: 'opt[1]': with a number, only COMMAND[N].PARAMETER=VALUE can be "
+           "set\n")},
+    {"BareParameterByNumber",
+     {"set", "-q", "two_opts.qin", "--flag", "opt[1].tight"},
+     ended(
+         2, "",
+         "quill-inp: error: 'opt[1].tight': with a number, only COMMAND[N].PARAMETER=VALUE can be "
+         "set\n")},
+    {"BadMaxChange",
+     {"set", "--max-change", "-1", "water.qin", "model=a"},
+     usage_error("--max-change takes a number from 0 on, '1e-6', not '-1'")},
+    {"MaxChangeThatIsNoNumber",
+     {"set", "--max-change=nan", "water.qin", "model=a"},
+     usage_error("--max-change takes a number from 0 on, '1e-6', not 'nan'")},
+    {"UnreadableAtoms",
+     {"set", "water.qin", "--atoms", "none.xyz"},
+     ended(2, "", "none.xyz: error: cannot be opened: No such file or directory\n")},
+    {"TooFewAtoms",
+     {"set", "water.qin", "--atoms", "-"},
+     ended(2, "", "<stdin>: error: has 1 atoms instead of 2\n"),
+     "2\n\nHe 0 0 0\n"},
+    {"AnAtomThatIsNone",
+     {"set", "-i", "water.qin", "--atoms=-", "--stdin-filename=b.xyz"},
+     ended(2, "", "b.xyz:3: error: expected an atom, a symbol and three coordinates\n"),
+     "1\n\nHe 0 0\n"},
+    {"BadAtoms",
+     {"set", "two_opts.qin", "--atoms", "water.qin"},
+     ended(2, "",
+           "water.qin:1: error: an XYZ file begins with the number of its atoms, 1 or more\n")},
+    {"StandardInputTwice",
+     {"set", "-", "--atoms", "-"},
+     ended(2, "", "<stdin>: error: standard input was read already, and can be read only once\n"),
+     "1\n\nHe 0 0 0\n"},
+    {"StandardInputInPlace",
+     {"set", "-i", "-", "model=m2"},
+     ended(2, "", "<stdin>: error: standard input cannot be changed in place\n"),
+     "#model=m1\n0 1"},
+    {"DifferenceInPlace",
+     {"set", "-i", "--diff", "water.qin", "model=m2"},
+     usage_error("--check and --diff never write, so they exclude --in-place")},
+    {"BackupOfNothing",
+     {"set", "--backup", "water.qin", "model=m2"},
+     usage_error("--backup needs --in-place")},
+    {"BreakingLinksOfNothing",
+     {"set", "--break-hard-links", "water.qin", "model=m2"},
+     usage_error("--break-hard-links needs --in-place")},
+    {"BackupWithoutSuffix",
+     {"set", "-i", "--backup=", "water.qin", "model=m2"},
+     usage_error("--backup takes a suffix for the name of the file, '.bak', not ''")},
+    {"BackupInAnotherFolder",
+     {"set", "-i", "--backup=/../x", "water.qin", "model=m2"},
+     usage_error("--backup takes a suffix for the name of the file, '.bak', not '/../x'")},
+};
+
+TEST_P(Set, ChangesWhatItIsTold) { expect_outcome(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Table, Set, testing::ValuesIn(calls),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,24 @@
+#ifndef KELP_INPUT_QUILL_TOOL_COMMAND_LINE_POST_ARGUMENT_HPP
+#define KELP_INPUT_QUILL_TOOL_COMMAND_LINE_POST_ARGUMENT_HPP
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "kelp/input/quill/document.hpp"
+
+namespace kelp::input::quill::tool {
+
+/// Returns the integer that `text` spells. Throws UsageError, naming the option, for any other
+/// text.
+std::int32_t parse_integer(const std::string& option, std::string_view text);
+
+/// Returns the constraint or scan that the value of a command line option spells: "--atom",
+/// "--bond", "--angle" and "--dihedral" take atom numbers separated by commas, "--scan" two to four
+/// of them, a value and a number of steps, separated by colons: "1,2:1.5:10". "--post" takes a path
+/// and "--raw" a line of text. Throws UsageError for anything else.
+PostCommand parse_post_argument(const std::string& option, const std::string& text);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_COMMAND_LINE_POST_ARGUMENT_HPP

@@ -1,0 +1,48 @@
+#include "quill-inp/command_line/setting_options.hpp"
+
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+#include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/process/trouble.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+constexpr const char* words = "KEY=VALUE";
+constexpr const char* flag = "--flag";
+
+std::string explain_bare_word(const std::string& word) {
+  std::string text =
+      "expected KEY=VALUE, not '" + word + "'; a setting without a value is made by --flag KEY";
+  std::error_code ignored;
+  if (std::filesystem::exists(word, ignored))
+    text += "; there is a file of that name, and 'set' takes one FILE";
+  return text;
+}
+
+Setting read_setting(const OptionUse& use) {
+  const bool is_flag = use.name == flag;
+  if (is_flag && has_value(use.value))
+    throw UsageError("--flag takes a KEY without a value, not '" + use.value + "'");
+  if (!is_flag && !has_value(use.value)) throw UsageError(explain_bare_word(use.value));
+  return parse_setting(use.value);
+}
+
+}  // namespace
+
+void add_setting_options(CLI::App& verb) {
+  add_optional_arguments(verb, words, "What to set, all or nothing");
+  add_repeated(verb, flag, "KEY", "Set a command or parameter that has no value");
+}
+
+std::vector<Setting> read_settings(const CLI::App& verb) {
+  std::vector<Setting> settings;
+  for (const OptionUse& use : uses_in_order(verb, {words, flag}))
+    settings.push_back(read_setting(use));
+  return settings;
+}
+
+}  // namespace kelp::input::quill::tool

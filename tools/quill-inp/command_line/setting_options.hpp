@@ -1,0 +1,24 @@
+#ifndef KELP_INPUT_QUILL_TOOL_COMMAND_LINE_SETTING_OPTIONS_HPP
+#define KELP_INPUT_QUILL_TOOL_COMMAND_LINE_SETTING_OPTIONS_HPP
+
+#include <vector>
+
+#include "quill-inp/keys/key.hpp"
+
+namespace CLI {
+class App;
+}  // namespace CLI
+
+namespace kelp::input::quill::tool {
+
+/// Adds the arguments KEY=VALUE and the option --flag to a verb, behind the file that it is for.
+void add_setting_options(CLI::App& verb);
+
+/// Returns the settings that they ask for, in the order in which they stand on the command line.
+/// Throws UsageError for bad ones, and for a word without "=": a second file name or a forgotten
+/// "=" would be written into the input.
+std::vector<Setting> read_settings(const CLI::App& verb);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_COMMAND_LINE_SETTING_OPTIONS_HPP

@@ -1,0 +1,75 @@
+#include "quill-inp/editing/delivery.hpp"
+
+#include <string>
+
+#include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/process/trouble.hpp"
+#include "quill-inp/text/unified_diff.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+constexpr const char* default_suffix = ".bak";
+
+std::string require_suffix(const std::string& suffix) {
+  if (suffix.empty() || suffix.find('/') != std::string::npos)
+    throw UsageError("--backup takes a suffix for the name of the file, '.bak', not '" + suffix +
+                     "'");
+  return suffix;
+}
+
+ExitCode tell_difference(Session& session, const InputSource& source, std::string_view new_text,
+                         const Delivery& delivery) {
+  if (source.content == new_text) return ExitCode::Done;
+  if (delivery.as_check) session.output().write(source.name + "\n");
+  if (delivery.as_diff)
+    session.output().write_diff(unified_diff(source.name, source.content, new_text),
+                                session.options().color);
+  return ExitCode::No;
+}
+
+}  // namespace
+
+void add_delivery_options(CLI::App& verb, bool has_check) {
+  add_flag(verb, "-i,--in-place", "Write the file instead of standard output");
+  if (has_check)
+    add_flag(verb, "--check", "Only name the files that would change; exit code 1 if any");
+  add_flag(verb, "--diff", "Only print what would change; exit code 1 if anything");
+  add_attached_value(verb, "--backup", "SUFFIX",
+                     "With -i, keep the old text beside the file (.bak)");
+  add_flag(verb, "--break-hard-links", "With -i, write a file that has other names, too");
+}
+
+Delivery read_delivery(const CLI::App& verb) {
+  Delivery delivery;
+  delivery.in_place = is_given(verb, "--in-place");
+  delivery.as_diff = is_given(verb, "--diff");
+  delivery.as_check = is_given(verb, "--check");
+  if (const auto suffix = attached_value_of(verb, "--backup", default_suffix))
+    delivery.replace.backup_suffix = require_suffix(*suffix);
+  delivery.replace.breaks_hard_links = is_given(verb, "--break-hard-links");
+
+  if (delivery.in_place && (delivery.as_diff || delivery.as_check))
+    throw UsageError("--check and --diff never write, so they exclude --in-place");
+  if (!delivery.in_place && delivery.replace.backup_suffix)
+    throw UsageError("--backup needs --in-place");
+  if (!delivery.in_place && delivery.replace.breaks_hard_links)
+    throw UsageError("--break-hard-links needs --in-place");
+  return delivery;
+}
+
+ExitCode deliver(Session& session, const InputSource& source, std::string_view new_text,
+                 const Delivery& delivery) {
+  if (delivery.as_check || delivery.as_diff)
+    return tell_difference(session, source, new_text, delivery);
+  if (!delivery.in_place) {
+    session.output().write(new_text);
+    return ExitCode::Done;
+  }
+  for (const std::string& note : replace_content(source, new_text, delivery.replace))
+    session.reporter().note({source.name}, note);
+  return ExitCode::Done;
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,38 @@
+#ifndef KELP_INPUT_QUILL_TOOL_EDITING_DELIVERY_HPP
+#define KELP_INPUT_QUILL_TOOL_EDITING_DELIVERY_HPP
+
+#include <string_view>
+
+#include "quill-inp/files/safe_write.hpp"
+#include "quill-inp/process/exit_code.hpp"
+#include "quill-inp/session/input_source.hpp"
+#include "quill-inp/session/session.hpp"
+
+namespace CLI {
+class App;
+}  // namespace CLI
+
+namespace kelp::input::quill::tool {
+
+/// Where the new text of a file goes.
+struct Delivery {
+  bool in_place = false;
+  bool as_diff = false;
+  bool as_check = false;  // only whether there is anything to change
+  ReplaceOptions replace = {};
+};
+
+/// Adds --in-place, --diff, --backup and --break-hard-links to a verb, and --check if it has that.
+void add_delivery_options(CLI::App& verb, bool has_check);
+
+/// Reads them. Throws UsageError for some that do not go together.
+Delivery read_delivery(const CLI::App& verb);
+
+/// Delivers the new text of a file: prints it, writes it in place of the old one, or tells whether
+/// and how it differs, which is an answer of "no". Throws Trouble when that fails.
+ExitCode deliver(Session& session, const InputSource& source, std::string_view new_text,
+                 const Delivery& delivery);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_EDITING_DELIVERY_HPP

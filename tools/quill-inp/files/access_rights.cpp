@@ -1,0 +1,104 @@
+#include "quill-inp/files/access_rights.hpp"
+
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "quill-inp/process/trouble.hpp"
+
+#if defined(__linux__)
+#include <sys/xattr.h>
+#endif
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+constexpr mode_t permission_bits = 07777;
+
+struct stat state_of(int file) {
+  struct stat state {};
+  if (fstat(file, &state) != 0)
+    throw_system_trouble("the temporary file cannot be examined", errno);
+  return state;
+}
+
+/// Whether the new file has the same owner, group and access list as the old one.
+struct Kept {
+  bool owner = false;
+  bool group = false;
+  bool access_list = false;
+};
+
+void copy_owner_and_group(const struct stat& wanted, int to, Kept& kept) {
+  struct stat state = state_of(to);
+  if (state.st_uid != wanted.st_uid || state.st_gid != wanted.st_gid) {
+    // Only the superuser gives files away, but any user may use the groups he is in.
+    if (fchown(to, wanted.st_uid, wanted.st_gid) != 0)
+      static_cast<void>(fchown(to, static_cast<uid_t>(-1), wanted.st_gid) == 0);
+    state = state_of(to);
+  }
+  kept.owner = state.st_uid == wanted.st_uid;
+  kept.group = state.st_gid == wanted.st_gid;
+}
+
+#if defined(__linux__)
+constexpr const char* access_list_attribute = "system.posix_acl_access";
+
+/// Returns whether the new file has the access list of the old one, or both have none. A folder may
+/// have given the new file one of its own, which would let others in as soon as the mode is set.
+bool copy_access_list(int from, int to) {
+  char list[4096];
+  const ssize_t size = fgetxattr(from, access_list_attribute, list, sizeof list);
+  if (size >= 0)
+    return fsetxattr(to, access_list_attribute, list, static_cast<std::size_t>(size), 0) == 0;
+  if (errno == ENOTSUP) return true;
+  if (errno != ENODATA) return false;
+  return fremovexattr(to, access_list_attribute) == 0 || errno == ENODATA;
+}
+#else
+bool copy_access_list(int, int) { return true; }
+#endif
+
+std::vector<std::string> describe_losses(const Kept& kept) {
+  std::vector<std::string> losses;
+  if (!kept.owner) losses.emplace_back("the owner could not be kept");
+  if (!kept.group) losses.emplace_back("the group could not be kept");
+  if (!kept.access_list) losses.emplace_back("the access control list could not be kept");
+  return losses;
+}
+
+}  // namespace
+
+std::vector<std::string> copy_access_rights(int from, const struct stat& state, int to) {
+  Kept kept;
+  copy_owner_and_group(state, to, kept);
+  kept.access_list = copy_access_list(from, to);
+  // With an access list the bits of the group are the most that anybody named in it may do, and
+  // without the list they would be what the group may do.
+  const bool keeps_group_bits = kept.group && kept.access_list;
+  const mode_t mode = narrowed_mode(state.st_mode & permission_bits, kept.owner, keeps_group_bits);
+  // Last, since a change of owner takes bits away, and since until here only the owner gets in.
+  if (fchmod(to, mode) != 0) throw_system_trouble("the permission bits cannot be set", errno);
+  return describe_losses(kept);
+}
+
+mode_t narrowed_mode(mode_t mode, bool keeps_owner, bool keeps_group) {
+  mode_t owner = (mode >> 6U) & 07U;
+  mode_t group = (mode >> 3U) & 07U;
+  mode_t others = mode & 07U;
+  mode_t special = mode & 07000U;
+  if (!keeps_group) {
+    group &= others;
+    others = group;
+    special &= ~static_cast<mode_t>(S_ISGID);
+  }
+  if (!keeps_owner) {
+    group &= owner;
+    others &= owner;
+    special &= ~static_cast<mode_t>(S_ISUID);
+  }
+  return special | (owner << 6U) | (group << 3U) | others;
+}
+
+}  // namespace kelp::input::quill::tool

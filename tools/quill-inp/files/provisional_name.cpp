@@ -1,0 +1,85 @@
+#include "quill-inp/files/provisional_name.hpp"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstddef>
+#include <utility>
+
+#include "quill-inp/process/held_signals.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+constexpr std::size_t signal_count = sizeof ending_signals / sizeof ending_signals[0];
+
+// What the signal handler needs. While it may run nothing of this changes: whoever changes it holds
+// the signals.
+ListedName* first_listed = nullptr;
+struct sigaction former_actions[signal_count] = {};
+
+extern "C" void remove_listed_names(int signal) {
+  const int error = errno;
+  for (const ListedName* name = first_listed; name != nullptr; name = name->next)
+    unlinkat(name->folder, name->text.c_str(), 0);
+  for (std::size_t i = 0; i < signal_count; ++i) {
+    if (ending_signals[i] == signal) sigaction(signal, &former_actions[i], nullptr);
+  }
+  // It comes through as soon as this handler returns. There is nobody to tell of a failure.
+  static_cast<void>(raise(signal));
+  errno = error;
+}
+
+void catch_signals() {
+  struct sigaction action {};
+  action.sa_handler = remove_listed_names;
+  action.sa_mask = ending_signal_set();
+  for (std::size_t i = 0; i < signal_count; ++i) {
+    sigaction(ending_signals[i], nullptr, &former_actions[i]);
+    // Who started the program under nohup wants it to go on.
+    if (former_actions[i].sa_handler != SIG_IGN) sigaction(ending_signals[i], &action, nullptr);
+  }
+}
+
+void leave_signals_alone() {
+  for (std::size_t i = 0; i < signal_count; ++i)
+    sigaction(ending_signals[i], &former_actions[i], nullptr);
+}
+
+void list(ListedName& name) {
+  if (first_listed == nullptr) catch_signals();
+  name.next = std::exchange(first_listed, &name);
+}
+
+void take_off_list(const ListedName& name) {
+  ListedName** link = &first_listed;
+  while (*link != &name) link = &(*link)->next;
+  *link = name.next;
+  if (first_listed == nullptr) leave_signals_alone();
+}
+
+}  // namespace
+
+ProvisionalName::ProvisionalName(int folder, std::string text) noexcept
+    : name_{folder, std::move(text)} {
+  const HeldSignals held;
+  list(name_);
+}
+
+ProvisionalName::~ProvisionalName() {
+  if (is_kept_) return;
+  const HeldSignals held;
+  unlinkat(name_.folder, name_.text.c_str(), 0);
+  take_off_list(name_);
+}
+
+void ProvisionalName::keep() {
+  if (is_kept_) return;
+  const HeldSignals held;
+  take_off_list(name_);
+  is_kept_ = true;
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,160 @@
+#include "quill-inp/files/safe_write.hpp"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+#include "quill-inp/files/access_rights.hpp"
+#include "quill-inp/files/provisional_name.hpp"
+#include "quill-inp/files/temporary_file.hpp"
+#include "quill-inp/process/file_descriptor.hpp"
+#include "quill-inp/process/held_signals.hpp"
+#include "quill-inp/process/trouble.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+/// The file that is to be replaced, by its name in its open folder, so that neither can be swapped
+/// for another by renaming something further up the path.
+struct Target {
+  FileDescriptor folder;
+  FileDescriptor file;
+  const FileOrigin& origin;
+};
+
+[[noreturn]] void throw_changed() {
+  throw Trouble("was changed by somebody else after it was read; nothing was written");
+}
+
+struct stat state_of(int file) {
+  struct stat state {};
+  if (fstat(file, &state) != 0) throw_system_trouble("cannot be examined", errno);
+  return state;
+}
+
+void require_unchanged(const Target& target) {
+  struct stat state {};
+  if (fstatat(target.folder.number(), target.origin.name.c_str(), &state, AT_SYMLINK_NOFOLLOW) != 0)
+    throw_changed();
+  if (!is_same_state(state, target.origin.state)) throw_changed();
+}
+
+void require_writable(const Target& target) {
+  // Replacing the file needs the right to write to its folder only, but whoever took the right to
+  // write to the file away meant something by it.
+  if (faccessat(target.folder.number(), target.origin.name.c_str(), W_OK, AT_EACCESS) != 0)
+    throw_system_trouble("cannot be written", errno);
+}
+
+void require_one_name(const Target& target, const ReplaceOptions& options) {
+  const auto names = target.origin.state.st_nlink;
+  if (names > 1 && !options.breaks_hard_links) {
+    throw Trouble("has " + std::to_string(names) +
+                  " names (hard links), of which only this one would get the new text; "
+                  "--break-hard-links accepts that");
+  }
+}
+
+Target open_target(const FileOrigin& origin) {
+  FileDescriptor folder(open_in(AT_FDCWD, origin.folder, O_RDONLY | O_DIRECTORY));
+  if (folder.number() < 0) throw_system_trouble("the folder of the file cannot be opened", errno);
+  FileDescriptor file(open_in(folder.number(), origin.name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW));
+  if (file.number() < 0 || !is_same_state(state_of(file.number()), origin.state)) throw_changed();
+  return {std::move(folder), std::move(file), origin};
+}
+
+void flush_to_disk(int file) {
+  while (fsync(file) != 0) {
+    if (errno != EINTR) throw_system_trouble("the temporary file cannot be flushed to disk", errno);
+  }
+}
+
+/// Reads the file back by its name: what counts is what others will find.
+void require_content(const Target& target, const TemporaryFile& temporary, std::string_view text) {
+  const FileDescriptor file(
+      open_in(target.folder.number(), temporary.name(), O_RDONLY | O_NOFOLLOW));
+  if (file.number() < 0) throw_system_trouble("the temporary file cannot be read back", errno);
+  if (read_to_end(file.number(), text.size()) != text)
+    throw Trouble("the temporary file does not hold what was written to it");
+}
+
+/// Puts the text into the temporary file, with the access rights of the target, and sees to it that
+/// it is there. Returns what of the rights could not be kept.
+std::vector<std::string> fill(TemporaryFile& temporary, const Target& target,
+                              std::string_view text) {
+  const int file = temporary.file().number();
+  std::vector<std::string> losses =
+      copy_access_rights(target.file.number(), target.origin.state, file);
+  write_everything(file, text);
+  flush_to_disk(file);
+  if (const int error = temporary.file().close(); error != 0)
+    throw_system_trouble("the temporary file cannot be closed", error);
+  require_content(target, temporary, text);
+  return losses;
+}
+
+/// A backup in the making: a copy of the old text, and the name that it is to have.
+struct Backup {
+  TemporaryFile file;
+  std::string name;
+
+  Backup(const Target& target, std::string_view old_text, const std::string& suffix)
+      : file(target.folder.number()), name(target.origin.name + suffix) {
+    fill(file, target, old_text);
+  }
+};
+
+/// Gives the backup its name. The caller holds the signals.
+void place(Backup& backup) {
+  if (!backup.file.take_free_name(backup.name)) {
+    throw Trouble("the backup '" + backup.name +
+                  "' exists already, and would be lost; --backup=SUFFIX gives another name");
+  }
+}
+
+/// Gives the file the place of the target, and the backup, if there is one, its name: both or none,
+/// so that what failed can be tried again. The backup has its name first; at no moment is the old
+/// text without one.
+void place(TemporaryFile& file, std::optional<Backup>& backup, const Target& target) {
+  const HeldSignals held;
+  std::optional<ProvisionalName> backup_name;
+  if (backup) {
+    place(*backup);
+    backup_name.emplace(target.folder.number(), std::move(backup->name));
+  }
+  require_unchanged(target);
+  file.take_place_of(target.origin.name);
+  if (backup_name) backup_name->keep();
+}
+
+/// The new name is on disk only when the folder is. Some file systems cannot flush folders.
+void flush_folder(const Target& target) {
+  while (fsync(target.folder.number()) != 0) {
+    if (errno == EINVAL || errno == ENOTSUP) return;
+    if (errno != EINTR)
+      throw_system_trouble("holds the new text, but the folder cannot be flushed to disk", errno);
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> replace_content(const InputSource& source, std::string_view new_text,
+                                         const ReplaceOptions& options) {
+  if (!source.origin) throw Trouble("standard input cannot be changed in place");
+  if (source.content == new_text) return {};
+  const Target target = open_target(*source.origin);
+  require_one_name(target, options);
+  require_writable(target);
+  std::optional<Backup> backup;
+  if (options.backup_suffix) backup.emplace(target, source.content, *options.backup_suffix);
+  TemporaryFile temporary(target.folder.number());
+  std::vector<std::string> losses = fill(temporary, target, new_text);
+  place(temporary, backup, target);
+  flush_folder(target);
+  return losses;
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,75 @@
+#include "quill-inp/files/temporary_file.hpp"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <random>
+#include <utility>
+
+#include "quill-inp/process/held_signals.hpp"
+#include "quill-inp/process/trouble.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+/// The name does not grow with that of the target, which may be as long as names can be.
+std::string random_name() {
+  constexpr char digits[] = "0123456789abcdef";
+  std::random_device random;
+  std::string name = ".quill-inp.";
+  for (int i = 0; i < 4; ++i) {
+    for (std::uint32_t number = random(), j = 0; j < 4; ++j, number >>= 4U)
+      name += digits[number & 0xFU];
+  }
+  return name;
+}
+
+constexpr int most_tries = 100;
+
+int create_new_file(int folder, std::string& name) {
+  for (int i = 0; i < most_tries; ++i) {
+    name = random_name();
+    const int file =
+        open_in(folder, name, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    if (file >= 0 || errno != EEXIST) return file;
+  }
+  return -1;
+}
+
+}  // namespace
+
+TemporaryFile::TemporaryFile(int folder) : folder_(folder), file_(-1) {
+  const HeldSignals held;
+  std::string chosen;
+  const int number = create_new_file(folder, chosen);
+  if (number < 0) throw_system_trouble("cannot create a temporary file in the same folder", errno);
+  name_.emplace(folder, std::move(chosen));
+  file_ = FileDescriptor(number);
+}
+
+void TemporaryFile::take_place_of(const std::string& name) {
+  const HeldSignals held;
+  if (renameat(folder_, name_->text().c_str(), folder_, name.c_str()) != 0)
+    throw_system_trouble("cannot be replaced", errno);
+  name_->keep();
+}
+
+bool TemporaryFile::take_free_name(const std::string& name) {
+  // A link is made in one step or not at all, and never takes the place of a file. The name that
+  // remains beside it goes with the object.
+  if (linkat(folder_, name_->text().c_str(), folder_, name.c_str(), 0) == 0) return true;
+  if (errno == EEXIST) return false;
+  if (errno != EPERM && errno != ENOTSUP)
+    throw_system_trouble("the backup '" + name + "' cannot be made", errno);
+  // Some file systems know no links. There the name can only be looked at first.
+  struct stat state {};
+  if (fstatat(folder_, name.c_str(), &state, AT_SYMLINK_NOFOLLOW) == 0) return false;
+  take_place_of(name);
+  return true;
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,41 @@
+#ifndef KELP_INPUT_QUILL_TOOL_FILES_TEMPORARY_FILE_HPP
+#define KELP_INPUT_QUILL_TOOL_FILES_TEMPORARY_FILE_HPP
+
+#include <optional>
+#include <string>
+
+#include "quill-inp/files/provisional_name.hpp"
+#include "quill-inp/process/file_descriptor.hpp"
+
+namespace kelp::input::quill::tool {
+
+/// A new file in a folder, which only its owner can open, and which is gone again when the object
+/// goes, unless it was given its final name: on every error, and on SIGINT, SIGTERM and SIGHUP,
+/// too, which then do what they would have done without it.
+class TemporaryFile {
+ public:
+  /// Creates the file in the open folder. Throws Trouble when that fails.
+  explicit TemporaryFile(int folder);
+
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  const std::string& name() const { return name_->text(); }
+  FileDescriptor& file() { return file_; }
+
+  /// Gives the file its final name, in place of the file that has it. Throws Trouble on failure.
+  void take_place_of(const std::string& name);
+
+  /// Gives the file its final name unless there is a file of that name already; returns whether it
+  /// did. Throws Trouble on failure.
+  bool take_free_name(const std::string& name);
+
+ private:
+  int folder_;
+  FileDescriptor file_;
+  std::optional<ProvisionalName> name_ = std::nullopt;
+};
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_FILES_TEMPORARY_FILE_HPP

@@ -1,0 +1,64 @@
+#include "quill-inp/formats/xyz_file.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+#include "kelp/chem/elements.hpp"
+#include "kelp/core/text.hpp"
+#include "quill-inp/process/trouble.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace text = core::text;
+
+namespace {
+
+[[noreturn]] void throw_at(std::size_t line, const std::string& message) {
+  throw Trouble(message, line);
+}
+
+std::size_t read_count(const std::vector<std::string>& lines) {
+  int count = 0;
+  if (lines.empty() || !text::try_parse_int(text::trim(lines.front()), count) || count < 1)
+    throw_at(1, "an XYZ file begins with the number of its atoms, 1 or more");
+  return static_cast<std::size_t>(count);
+}
+
+bool is_letter(char c) { return ('A' <= c && c <= 'Z') || ('a' <= c && c <= 'z'); }
+
+AtomRecord read_atom(const std::string& line, std::size_t number) {
+  const std::vector<std::string> words = text::split_whitespace(line);
+  AtomRecord atom;
+  const bool is_atom =
+      words.size() >= 4 && std::all_of(words[0].begin(), words[0].end(), is_letter) &&
+      text::try_parse_double(words[1], atom.x) && text::try_parse_double(words[2], atom.y) &&
+      text::try_parse_double(words[3], atom.z);
+  if (!is_atom) throw_at(number, "expected an atom, a symbol and three coordinates");
+  atom.symbol = chem::elements::normalize_symbol(words[0]);
+  return atom;
+}
+
+}  // namespace
+
+std::vector<AtomRecord> read_xyz_atoms(std::string_view content) {
+  const std::vector<std::string> lines = text::split_lines(content);
+  const std::size_t count = read_count(lines);
+  const std::size_t end = xyz_lines_before_atoms + count;
+  if (lines.size() < end) {
+    const std::size_t found =
+        std::max(lines.size(), xyz_lines_before_atoms) - xyz_lines_before_atoms;
+    throw Trouble("has " + std::to_string(found) + " atoms instead of " + std::to_string(count));
+  }
+  std::vector<AtomRecord> atoms;
+  atoms.reserve(count);
+  for (std::size_t i = xyz_lines_before_atoms; i < end; ++i)
+    atoms.push_back(read_atom(lines[i], i + 1));
+  for (std::size_t i = end; i < lines.size(); ++i) {
+    if (!text::trim(lines[i]).empty())
+      throw_at(i + 1, "more text after the last atom; only files of one structure are read");
+  }
+  return atoms;
+}
+
+}  // namespace kelp::input::quill::tool

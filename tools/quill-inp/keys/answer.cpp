@@ -1,0 +1,133 @@
+#include "quill-inp/keys/answer.hpp"
+
+#include <cstdint>
+#include <vector>
+
+#include "edit_support/value_spelling.hpp"
+#include "kelp/input/quill/writer.hpp"
+#include "quill-inp/formats/document_names.hpp"
+#include "quill-inp/summary/number_words.hpp"
+#include "quill-inp/text/suggestion.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+constexpr const char* no_value = "flag";
+
+const HeaderCommand* find(const QuillInput& input, const CommandKey& key) {
+  return input.find_command(key.command, key.occurrence.value_or(0));
+}
+
+std::string command_answer(const HeaderCommand& command) {
+  if (command.kind == HeaderCommandKind::Assignment) return command.value.value_or("");
+  if (command.kind == HeaderCommandKind::Flag) return no_value;
+  const HeaderCommand nameless("", command.kind, std::nullopt,
+                               edit_support::spell(command).command.parameters);
+  return to_string(nameless).substr(1);
+}
+
+std::optional<std::string> find_answer(const QuillInput& input, const CommandKey& key) {
+  const HeaderCommand* command = find(input, key);
+  if (command == nullptr) return std::nullopt;
+  if (!key.parameter) return command_answer(*command);
+  const std::optional<std::uint64_t> index = find_parameter_index(*command, *key.parameter);
+  if (!index) return std::nullopt;
+  return command->parameters[*index].value.value_or(no_value);
+}
+
+std::string joined_lines(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += (text.empty() ? "" : "\n") + line;
+  return text;
+}
+
+std::optional<std::string> atom_lines(const std::vector<AtomRecord>& atoms) {
+  std::vector<std::string> lines;
+  lines.reserve(atoms.size());
+  for (const AtomRecord& atom : atoms) {
+    lines.push_back(atom.symbol + " " + shortest_text(atom.x) + " " + shortest_text(atom.y) + " " +
+                    shortest_text(atom.z));
+  }
+  return lines.empty() ? std::nullopt : std::optional(joined_lines(lines));
+}
+
+std::optional<std::string> find_answer(const QuillInput& input, SpecialKey key) {
+  const GeometryBlock& geometry = input.geometry;
+  const bool has_numbers = geometry.has_charge_and_multiplicity;
+  switch (key) {
+    case SpecialKey::Charge:
+      return has_numbers ? std::optional(std::to_string(geometry.charge)) : std::nullopt;
+    case SpecialKey::Multiplicity:
+      return has_numbers ? std::optional(std::to_string(geometry.multiplicity)) : std::nullopt;
+    case SpecialKey::Geometry:
+      return geometry.kind == GeometryKind::None
+                 ? std::nullopt
+                 : std::optional(std::string(name_of(geometry.kind)));
+    case SpecialKey::Files:
+      return geometry.xyz_files.empty() ? std::nullopt
+                                        : std::optional(joined_lines(geometry.xyz_files));
+    case SpecialKey::Atoms:
+      return atom_lines(geometry.atoms);
+  }
+  return std::nullopt;
+}
+
+std::uint64_t count_commands(const QuillInput& input, const std::string& name) {
+  const std::string wanted = normalize_command_name(name);
+  std::uint64_t count = 0;
+  for (const HeaderCommand& command : input.commands) {
+    if (normalize_command_name(command.name) == wanted) ++count;
+  }
+  return count;
+}
+
+std::string missing_command(const QuillInput& input, const CommandKey& key) {
+  const std::uint64_t count = count_commands(input, key.command);
+  if (count == 0)
+    return "no command '" + key.command + "'" + suggestion(key.command, input.command_names());
+  return "there " + std::string(count == 1 ? "is" : "are") + " only " + std::to_string(count) +
+         " of the command '" + key.command + "', and [N] counts from 0";
+}
+
+std::vector<std::string> parameter_names(const HeaderCommand& command) {
+  std::vector<std::string> names;
+  for (const CommandParameter& parameter : command.parameters) names.push_back(parameter.name);
+  return names;
+}
+
+std::string missing_parameter(const HeaderCommand& command, const std::string& parameter) {
+  return "the command has no parameter '" + parameter + "'" +
+         suggestion(parameter, parameter_names(command));
+}
+
+}  // namespace
+
+std::optional<std::string> answer(const QuillInput& input, const Key& key) {
+  return std::visit([&](const auto& any_key) { return find_answer(input, any_key); }, key);
+}
+
+std::string explain_no_answer(const QuillInput& input, std::string_view key_text, const Key& key) {
+  std::string text = "no match for '" + std::string(key_text) + "'";
+  const auto* command_key = std::get_if<CommandKey>(&key);
+  if (command_key == nullptr) return text;
+  const HeaderCommand* command = find(input, *command_key);
+  return text + ": " +
+         (command == nullptr ? missing_command(input, *command_key)
+                             : missing_parameter(*command, *command_key->parameter));
+}
+
+std::optional<std::string> explain_new_name(const QuillInput& input, std::string_view key_text,
+                                            const CommandKey& key) {
+  std::string like;
+  const HeaderCommand* command = find(input, key);
+  if (command == nullptr) {
+    like = suggestion(key.command, input.command_names());
+  } else if (key.parameter && !find_parameter_index(*command, *key.parameter)) {
+    like = suggestion(*key.parameter, parameter_names(*command));
+  }
+  if (like.empty()) return std::nullopt;
+  return "'" + std::string(key_text) + "' is new" + like;
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,161 @@
+#include "quill-inp/keys/key.hpp"
+
+#include <charconv>
+#include <cstddef>
+#include <utility>
+
+#include "kelp/core/text.hpp"
+#include "kelp/input/quill/document.hpp"
+#include "quill-inp/process/trouble.hpp"
+#include "quill-inp/text/suggestion.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+struct SpecialName {
+  std::string_view name;
+  SpecialKey key;
+};
+
+constexpr SpecialName special_names[] = {
+    {"@charge", SpecialKey::Charge},     {"@multiplicity", SpecialKey::Multiplicity},
+    {"@geometry", SpecialKey::Geometry}, {"@files", SpecialKey::Files},
+    {"@atoms", SpecialKey::Atoms},
+};
+
+constexpr std::string_view escapable = ".[]=@\\";
+
+[[noreturn]] void throw_bad_key(std::string_view text, const std::string& reason) {
+  throw UsageError("bad key '" + std::string(text) + "': " + reason + "; " +
+                   std::string(key_grammar()));
+}
+
+/// Walks over a key. Inside a piece, a backslash takes the meaning from the character after it.
+class KeyCursor {
+ public:
+  explicit KeyCursor(std::string_view text) : text_(text) {}
+
+  bool at_end() const { return position_ == text_.size(); }
+
+  bool consume(char c) {
+    if (at_end() || text_[position_] != c) return false;
+    ++position_;
+    return true;
+  }
+
+  /// Returns the characters up to one that has a meaning.
+  std::string piece() {
+    std::string piece;
+    for (; !at_end() && !is_special(text_[position_]); ++position_) {
+      if (text_[position_] == '\\') skip_backslash();
+      piece += text_[position_];
+    }
+    return piece;
+  }
+
+  /// Returns the number up to the closing bracket.
+  std::uint64_t occurrence() {
+    const char* const begin = text_.data() + position_;
+    const char* const end = text_.data() + text_.size();
+    std::uint64_t number = 0;
+    const auto [after, error] = std::from_chars(begin, end, number);
+    if (error != std::errc() || after == end || *after != ']')
+      throw_bad_key(text_, "a number and ']' must follow '['");
+    position_ += static_cast<std::size_t>(after - begin) + 1;
+    return number;
+  }
+
+ private:
+  static bool is_special(char c) { return c == '.' || c == '[' || c == ']'; }
+
+  void skip_backslash() {
+    ++position_;
+    if (at_end() || escapable.find(text_[position_]) == std::string_view::npos)
+      throw_bad_key(text_, "a backslash stands in front of one of " + std::string(escapable));
+  }
+
+  std::string_view text_;
+  std::size_t position_ = 0;
+};
+
+/// key = name [ "[" number "]" ] [ "." name ]
+CommandKey parse_command_key(std::string_view text) {
+  KeyCursor cursor(text);
+  CommandKey key;
+  const std::string name = cursor.piece();
+  if (core::text::trim(name).empty()) throw_bad_key(text, "there is no name");
+  key.command = stored_command_name(name);
+  if (cursor.consume('[')) key.occurrence = cursor.occurrence();
+  if (cursor.consume('.')) {
+    key.parameter = cursor.piece();
+    if (core::text::trim(*key.parameter).empty())
+      throw_bad_key(text, "there is no parameter name after '.'");
+  }
+  if (!cursor.at_end())
+    throw_bad_key(text,
+                  "there is a '.', '[' or ']' too many, or a backslash missing in front of it");
+  return key;
+}
+
+SpecialKey parse_special_key(std::string_view text) {
+  for (const SpecialName& special : special_names) {
+    if (special.name == text) return special.key;
+  }
+  throw UsageError("unknown key '" + std::string(text) + "'" +
+                   suggestion(text, special_key_names()));
+}
+
+std::size_t find_equals_sign(std::string_view text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\\')
+      ++i;
+    else if (text[i] == '=')
+      return i;
+  }
+  return std::string_view::npos;
+}
+
+}  // namespace
+
+std::string stored_command_name(std::string_view typed) {
+  const std::string trimmed = core::text::trim(typed);
+  const bool has_hash = !trimmed.empty() && trimmed.front() == '#';
+  return has_hash ? core::text::trim(std::string_view(trimmed).substr(1)) : trimmed;
+}
+
+bool is_nameless(std::string_view command) { return normalize_command_name(command).empty(); }
+
+Key parse_key(std::string_view text) {
+  if (!text.empty() && text.front() == '@') return parse_special_key(text);
+  return parse_command_key(text);
+}
+
+bool has_value(std::string_view setting) {
+  return find_equals_sign(setting) != std::string_view::npos;
+}
+
+Setting parse_setting(std::string_view text) {
+  const std::size_t equals = find_equals_sign(text);
+  Setting setting;
+  setting.key_text = std::string(text.substr(0, equals));
+  setting.key = parse_key(setting.key_text);
+  const auto* key = std::get_if<CommandKey>(&setting.key);
+  if (key != nullptr && is_nameless(key->command))
+    throw_bad_key(setting.key_text, "there is no name");
+  if (equals != std::string_view::npos) setting.value = std::string(text.substr(equals + 1));
+  return setting;
+}
+
+std::vector<std::string> special_key_names() {
+  std::vector<std::string> names;
+  for (const SpecialName& special : special_names) names.emplace_back(special.name);
+  return names;
+}
+
+std::string_view key_grammar() {
+  return "a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, N counted from "
+         "0, or @charge, @multiplicity, @geometry, @files or @atoms";
+}
+
+}  // namespace kelp::input::quill::tool

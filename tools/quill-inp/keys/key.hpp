@@ -1,0 +1,73 @@
+#ifndef KELP_INPUT_QUILL_TOOL_KEYS_KEY_HPP
+#define KELP_INPUT_QUILL_TOOL_KEYS_KEY_HPP
+
+// The keys by which parts of an input are named on the command line.
+//
+//   parse_key("opt");             // the first command "opt"
+//   parse_key("opt[1].maxiter");  // a parameter of the second one
+//   parse_key("@charge");         // something that is not a header command
+//   parse_key("basis\\.set");     // the command "basis.set"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace kelp::input::quill::tool {
+
+/// Returns the name of a command as it is stored, of one that was typed: without blanks around it
+/// and without the "#" that may stand in front as in the file.
+std::string stored_command_name(std::string_view typed);
+
+/// Returns whether a command of this stored name would stand in an input without any name.
+bool is_nameless(std::string_view command);
+
+/// What an input has besides header commands.
+enum class SpecialKey {
+  Charge,
+  Multiplicity,
+  Geometry,
+  Files,
+  Atoms,
+};
+
+/// A command, by name and by its number, counted from 0, among those of the name; or a parameter of
+/// it. Names are as InputEditor takes them, `command` without "#" in front.
+struct CommandKey {
+  std::string command = {};
+  std::optional<std::uint64_t> occurrence = std::nullopt;
+  std::optional<std::string> parameter = std::nullopt;
+};
+
+using Key = std::variant<SpecialKey, CommandKey>;
+
+/// Reads a key. Throws UsageError, with the grammar, for a text that is none, and with the nearest
+/// name for an unknown name after "@".
+Key parse_key(std::string_view text);
+
+/// A key and what it is to be set to: "opt.maxiter=50", or "opt.tight" without a value.
+struct Setting {
+  std::string key_text = {};
+  Key key = CommandKey{};
+  std::optional<std::string> value = std::nullopt;
+};
+
+/// Returns whether a setting has a value: an "=" that no backslash precedes.
+bool has_value(std::string_view setting);
+
+/// Reads a setting. The first "=" that no backslash precedes ends the key; the value is everything
+/// after it, as it is. Throws as parse_key() does, and for a command without a name: an input may
+/// have one, but nobody means to make one.
+Setting parse_setting(std::string_view text);
+
+/// Returns how the keys that begin with "@" are written, "@charge" and so on.
+std::vector<std::string> special_key_names();
+
+/// What a key looks like, in one sentence.
+std::string_view key_grammar();
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_KEYS_KEY_HPP

@@ -1,0 +1,66 @@
+#include "quill-inp/process/file_descriptor.hpp"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+
+#include "quill-inp/process/trouble.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+constexpr std::size_t chunk_size = std::size_t{256} * 1024;
+
+}  // namespace
+
+FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
+  if (this != &other) {
+    close();
+    number_ = std::exchange(other.number_, -1);
+  }
+  return *this;
+}
+
+FileDescriptor::~FileDescriptor() { close(); }
+
+int FileDescriptor::close() {
+  if (number_ < 0) return 0;
+  // After EINTR the descriptor is gone all the same, so that a second try could close another one.
+  const int result = ::close(std::exchange(number_, -1));
+  return result == 0 || errno == EINTR ? 0 : errno;
+}
+
+int open_in(int folder, const std::string& name, int flags, unsigned mode) {
+  for (;;) {
+    const int file = openat(folder, name.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode);
+    if (file >= 0 || errno != EINTR) return file;
+  }
+}
+
+std::string read_to_end(int file, std::uint64_t limit) {
+  std::string content;
+  while (content.size() <= limit) {
+    const std::size_t size = content.size();
+    const auto wanted = std::min<std::uint64_t>(chunk_size, limit - size);
+    const auto room = static_cast<std::size_t>(wanted) + 1;
+    content.resize(size + room);
+    const ssize_t count = read(file, content.data() + size, room);
+    content.resize(size + (count > 0 ? static_cast<std::size_t>(count) : 0));
+    if (count == 0) break;
+    if (count < 0 && errno != EINTR) throw_system_trouble("cannot be read", errno);
+  }
+  return content;
+}
+
+void write_everything(int file, std::string_view data) {
+  while (!data.empty()) {
+    const ssize_t count = write(file, data.data(), data.size());
+    if (count < 0 && errno != EINTR) throw_system_trouble("cannot be written", errno);
+    if (count > 0) data.remove_prefix(static_cast<std::size_t>(count));
+  }
+}
+
+}  // namespace kelp::input::quill::tool

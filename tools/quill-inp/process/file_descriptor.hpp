@@ -1,0 +1,45 @@
+#ifndef KELP_INPUT_QUILL_TOOL_PROCESS_FILE_DESCRIPTOR_HPP
+#define KELP_INPUT_QUILL_TOOL_PROCESS_FILE_DESCRIPTOR_HPP
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace kelp::input::quill::tool {
+
+/// An open file of the operating system, closed when the object goes.
+class FileDescriptor {
+ public:
+  explicit FileDescriptor(int number) : number_(number) {}
+  FileDescriptor(FileDescriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  FileDescriptor& operator=(FileDescriptor&& other) noexcept;
+  FileDescriptor(const FileDescriptor&) = delete;
+  FileDescriptor& operator=(const FileDescriptor&) = delete;
+  ~FileDescriptor();
+
+  int number() const { return number_; }
+
+  /// Closes the file and returns the error of that, or 0: on some file systems this is where a full
+  /// disk is reported.
+  int close();
+
+ private:
+  int number_;
+};
+
+/// Opens `name` in the folder `folder` (AT_FDCWD for the current one), not inherited by programs
+/// that are started meanwhile. Returns -1 and sets errno on failure, as openat() does.
+int open_in(int folder, const std::string& name, int flags, unsigned mode = 0);
+
+/// Reads to the end, up to `limit` bytes and one more, so that the caller sees when there are too
+/// many. Throws Trouble when reading fails. Reading begins where the file stands.
+std::string read_to_end(int file, std::uint64_t limit);
+
+/// Writes everything, however many calls that takes. Throws Trouble when it cannot.
+void write_everything(int file, std::string_view data);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_PROCESS_FILE_DESCRIPTOR_HPP

@@ -1,0 +1,28 @@
+#include "quill-inp/process/standard_streams.hpp"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <csignal>
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+/// Opened the wrong way round, so that a use of it fails instead of vanishing.
+void occupy(int descriptor, int flags) {
+  if (fcntl(descriptor, F_GETFD) == -1)
+    static_cast<void>(open("/dev/null", flags));  // takes the lowest free number, which is this one
+}
+
+}  // namespace
+
+void prepare_standard_streams() {
+  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+  static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+  occupy(STDIN_FILENO, O_WRONLY);
+  occupy(STDOUT_FILENO, O_RDONLY);
+  occupy(STDERR_FILENO, O_WRONLY);
+}
+
+}  // namespace kelp::input::quill::tool

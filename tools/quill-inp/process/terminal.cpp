@@ -1,0 +1,53 @@
+#include "quill-inp/process/terminal.hpp"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <iostream>
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+struct NamedColorMode {
+  const char* name;
+  ColorMode mode;
+};
+
+constexpr NamedColorMode color_modes[] = {
+    {"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}};
+
+std::string_view environment_variable(const char* name) {
+  // The program has one thread, and nothing in it changes the environment.
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe)
+  return value == nullptr ? std::string_view() : std::string_view(value);
+}
+
+}  // namespace
+
+std::optional<ColorMode> find_color_mode(std::string_view name) {
+  for (const NamedColorMode& row : color_modes) {
+    if (row.name == name) return row.mode;
+  }
+  return std::nullopt;
+}
+
+std::vector<std::string> color_mode_names() {
+  std::vector<std::string> names;
+  for (const NamedColorMode& row : color_modes) names.emplace_back(row.name);
+  return names;
+}
+
+bool is_terminal(const std::ostream& stream) {
+  if (&stream == &std::cout) return isatty(STDOUT_FILENO) == 1;
+  if (&stream == &std::cerr) return isatty(STDERR_FILENO) == 1;
+  return false;
+}
+
+bool wants_color(ColorMode mode, const std::ostream& stream) {
+  if (mode != ColorMode::Auto) return mode == ColorMode::Always;
+  return is_terminal(stream) && environment_variable("NO_COLOR").empty() &&
+         environment_variable("TERM") != "dumb";
+}
+
+}  // namespace kelp::input::quill::tool

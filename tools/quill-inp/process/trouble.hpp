@@ -1,0 +1,48 @@
+#ifndef KELP_INPUT_QUILL_TOOL_PROCESS_TROUBLE_HPP
+#define KELP_INPUT_QUILL_TOOL_PROCESS_TROUBLE_HPP
+
+#include <cstddef>
+#include <exception>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace kelp::input::quill::tool {
+
+/// Why one file could not be processed. The others of the call still are. The text names no file,
+/// which whoever reports it puts in front, and may hold bytes that a terminal would obey.
+/// `line` is the number, counted from 1, of the line of the file that it is about, if it is about
+/// one.
+class Trouble : public std::runtime_error {
+ public:
+  explicit Trouble(const std::string& message, std::optional<std::size_t> line = std::nullopt)
+      : std::runtime_error(message), line_(line) {}
+
+  std::optional<std::size_t> line() const { return line_; }
+
+ private:
+  std::optional<std::size_t> line_;
+};
+
+/// What ends the processing of a file and was reported already, for it is trouble with another one.
+class ReportedTrouble : public std::exception {};
+
+/// Why a call cannot be carried out for any file: its arguments make no sense.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Returns why an exception ended the processing of a file, or the call, in words for a person.
+std::string explain(const std::exception& error);
+
+/// Throws the Trouble of a failed system call: `action`, ": ", and what the system says of `error`,
+/// an errno.
+[[noreturn]] void throw_system_trouble(const std::string& action, int error);
+
+/// Returns what the system says of an errno, "No such file or directory".
+std::string system_message(int error);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_PROCESS_TROUBLE_HPP

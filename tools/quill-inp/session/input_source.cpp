@@ -1,0 +1,163 @@
+#include "quill-inp/session/input_source.hpp"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+#include <utility>
+
+#include "quill-inp/process/file_descriptor.hpp"
+#include "quill-inp/process/trouble.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+bool is_symbolic_link(const std::string& path) {
+  struct stat state {};
+  return lstat(path.c_str(), &state) == 0 && S_ISLNK(state.st_mode);
+}
+
+std::string_view kind_of_file(mode_t mode) {
+  if (S_ISDIR(mode)) return "a folder";
+  if (S_ISFIFO(mode)) return "a pipe";
+  if (S_ISSOCK(mode)) return "a socket";
+  return "a device";
+}
+
+[[noreturn]] void throw_not_regular(mode_t mode) {
+  throw Trouble("is " + std::string(kind_of_file(mode)) +
+                ", not a regular file; '-' reads standard input");
+}
+
+struct Free {
+  void operator()(char* pointer) const { std::free(pointer); }
+};
+
+/// Returns the absolute path without any symbolic link in it.
+std::string resolve_links(const std::string& path) {
+  if (path.find('\0') != std::string::npos) throw Trouble("a file name cannot hold a NUL byte");
+  const std::unique_ptr<char, Free> resolved(realpath(path.c_str(), nullptr));
+  if (resolved) return resolved.get();
+  const int error = errno;
+  // Under /dev/fd are links that lead to open files without a name, which is how a shell passes on
+  // a pipe.
+  struct stat state {};
+  if (stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode)) throw_not_regular(state.st_mode);
+  if (error == ENOENT && is_symbolic_link(path))
+    throw Trouble("is a symbolic link to a file that does not exist");
+  throw_system_trouble("cannot be opened", error);
+}
+
+FileOrigin split_path(const std::string& resolved) {
+  const std::size_t slash = resolved.rfind('/');
+  FileOrigin origin;
+  origin.folder = slash == 0 ? "/" : resolved.substr(0, slash);
+  origin.name = resolved.substr(slash + 1);
+  return origin;
+}
+
+[[noreturn]] void throw_too_large(std::uint64_t limit) {
+  throw Trouble("is larger than " + std::to_string(limit) + " bytes, see --max-size");
+}
+
+void require_regular(const struct stat& state, std::uint64_t limit) {
+  if (!S_ISREG(state.st_mode)) throw_not_regular(state.st_mode);
+  if (static_cast<std::uint64_t>(state.st_size) > limit) throw_too_large(limit);
+}
+
+struct stat state_of(int file) {
+  struct stat state {};
+  if (fstat(file, &state) != 0) throw_system_trouble("cannot be examined", errno);
+  return state;
+}
+
+void require_apart_from_output(Session& session, const struct stat& state) {
+  if (session.output().goes_into(state)) {
+    throw Trouble(
+        "is also the standard output; redirect that to another file (fmt, set, unset and add have "
+        "--in-place)");
+  }
+}
+
+std::string read_at_most(int file, std::uint64_t limit) {
+  std::string content = read_to_end(file, limit);
+  if (content.size() > limit) throw_too_large(limit);
+  return content;
+}
+
+void read_file(InputSource& source, Session& session) {
+  const std::uint64_t limit = session.options().max_size;
+  const std::string resolved = resolve_links(source.argument);
+  FileOrigin origin = split_path(resolved);
+  // Not blocking, so that a pipe that nobody writes to can be refused instead of waited for. A link
+  // that takes the place of the resolved file is not followed.
+  const FileDescriptor file(open_in(AT_FDCWD, resolved, O_RDONLY | O_NONBLOCK | O_NOFOLLOW));
+  if (file.number() < 0) throw_system_trouble("cannot be opened", errno);
+  origin.state = state_of(file.number());
+  require_regular(origin.state, limit);
+  require_apart_from_output(session, origin.state);
+  source.content = read_at_most(file.number(), limit);
+  if (!is_same_state(origin.state, state_of(file.number())))
+    throw Trouble("changed while it was read");
+  source.origin = std::move(origin);
+}
+
+/// Reads a stream that is not the process's standard input.
+std::string read_stream(std::istream& in, std::uint64_t limit) {
+  std::string content;
+  char chunk[4096];
+  while (content.size() <= limit && in.good()) {
+    in.read(chunk, sizeof chunk);
+    content.append(chunk, static_cast<std::size_t>(in.gcount()));
+  }
+  if (in.bad()) throw Trouble("cannot be read");
+  if (content.size() > limit) throw_too_large(limit);
+  return content;
+}
+
+std::string read_standard_input(Session& session) {
+  const std::uint64_t limit = session.options().max_size;
+  std::istream& in = session.take_standard_input();
+  if (&in != &std::cin) return read_stream(in, limit);
+  require_apart_from_output(session, state_of(STDIN_FILENO));
+  // A stream takes a failed read for the end of the text; the descriptor tells them apart.
+  return read_at_most(STDIN_FILENO, limit);
+}
+
+bool is_same_time(const struct timespec& left, const struct timespec& right) {
+  return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
+}
+
+}  // namespace
+
+InputSource read_input(Session& session, const std::string& argument) {
+  InputSource source;
+  source.argument = argument;
+  source.name = session.shown_name(argument);
+  if (argument == "-") {
+    source.content = read_standard_input(session);
+  } else {
+    read_file(source, session);
+  }
+  return source;
+}
+
+void require_apart_from_output(Session& session, const std::string& argument) {
+  struct stat state {};
+  const bool is_there =
+      argument == "-" ? fstat(STDIN_FILENO, &state) == 0 : stat(argument.c_str(), &state) == 0;
+  if (is_there) require_apart_from_output(session, state);
+}
+
+bool is_same_state(const struct stat& left, const struct stat& right) {
+  return left.st_dev == right.st_dev && left.st_ino == right.st_ino &&
+         left.st_size == right.st_size && is_same_time(left.st_mtim, right.st_mtim) &&
+         is_same_time(left.st_ctim, right.st_ctim);
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,70 @@
+#include "quill-inp/session/output.hpp"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <iostream>
+
+#include "quill-inp/process/file_descriptor.hpp"
+#include "quill-inp/process/trouble.hpp"
+#include "quill-inp/text/terminal_text.hpp"
+#include "quill-inp/text/unified_diff.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+/// Returns the error of closing standard output, or 0. On network file systems a full disk may be
+/// reported only then, and closing a copy of the descriptor is enough for that.
+int try_closing_standard_output() {
+  const int copy = dup(STDOUT_FILENO);
+  return copy < 0 ? errno : FileDescriptor(copy).close();
+}
+
+}  // namespace
+
+void Output::write(std::string_view data) {
+  if (is_terminal(stream_)) {
+    write_shown(shown_as_lines(data));
+  } else {
+    write_shown(data);
+  }
+}
+
+void Output::write_shown(std::string_view text) {
+  has_written_ = has_written_ || !text.empty();
+  errno = 0;
+  stream_.write(text.data(), static_cast<std::streamsize>(text.size()));
+  remember_failure();
+}
+
+void Output::write_diff(std::string_view diff, ColorMode mode) {
+  if (wants_color(mode, stream_)) {
+    write_shown(colored_diff(shown_as_lines(diff)));
+  } else {
+    write(diff);
+  }
+}
+
+bool Output::goes_into(const struct stat& file) const {
+  struct stat state {};
+  return &stream_ == &std::cout && S_ISREG(file.st_mode) && fstat(STDOUT_FILENO, &state) == 0 &&
+         state.st_dev == file.st_dev && state.st_ino == file.st_ino;
+}
+
+std::optional<std::string> Output::find_failure() {
+  if (!has_written_) return std::nullopt;
+  errno = 0;
+  stream_.flush();
+  remember_failure();
+  if (stream_ && &stream_ == &std::cout) error_ = try_closing_standard_output();
+  if (stream_ && error_ == 0) return std::nullopt;
+  const std::string reason = error_ == 0 ? std::string() : ": " + system_message(error_);
+  return "cannot write to standard output" + reason;
+}
+
+void Output::remember_failure() {
+  if (!stream_ && error_ == 0) error_ = errno;
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,61 @@
+#include "quill-inp/session/reporter.hpp"
+
+#include <charconv>
+
+#include "quill-inp/text/terminal_text.hpp"
+
+namespace kelp::input::quill::tool {
+
+Reporter::Reporter(std::ostream& stream, bool is_quiet, bool is_colored)
+    : stream_(stream), is_quiet_(is_quiet), is_colored_(is_colored) {}
+
+void Reporter::error(const Place& place, std::string_view message) {
+  write(place, "error:", "\x1b[1;31m", message);
+}
+
+void Reporter::warning(const Place& place, std::string_view message) {
+  if (!is_quiet_) write(place, "warning:", "\x1b[1;35m", message);
+}
+
+void Reporter::note(const Place& place, std::string_view message) {
+  if (!is_quiet_) write(place, "note:", "\x1b[1;36m", message);
+}
+
+void Reporter::write(const Place& place, std::string_view severity, std::string_view color,
+                     std::string_view message) {
+  std::string text = shown_on_one_line(place.name);
+  if (place.line) text += ":" + std::to_string(*place.line);
+  text += ": ";
+  if (is_colored_) text += color;
+  text += severity;
+  if (is_colored_) text += "\x1b[m";
+  text += ' ';
+  text += shown_on_one_line(message);
+  text += '\n';
+  stream_.write(text.data(), static_cast<std::streamsize>(text.size()));
+  stream_.flush();
+}
+
+ReaderWarning split_warning(std::string_view warning) {
+  constexpr std::string_view prefix = "Line ";
+  if (warning.substr(0, prefix.size()) == prefix) {
+    const char* const begin = warning.data() + prefix.size();
+    const char* const end = warning.data() + warning.size();
+    std::size_t line = 0;
+    const char* const after = std::from_chars(begin, end, line).ptr;
+    constexpr std::string_view separator = ": ";
+    const std::string_view rest(after, static_cast<std::size_t>(end - after));
+    if (after != begin && rest.substr(0, separator.size()) == separator)
+      return {line, std::string(rest.substr(separator.size()))};
+  }
+  return {std::nullopt, std::string(warning)};
+}
+
+void report_warnings(Reporter& reporter, const std::string& name, const ParseResult& result) {
+  for (const std::string& text : result.warnings) {
+    const ReaderWarning warning = split_warning(text);
+    reporter.warning({name, warning.line}, warning.message);
+  }
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,48 @@
+#ifndef KELP_INPUT_QUILL_TOOL_SESSION_SESSION_HPP
+#define KELP_INPUT_QUILL_TOOL_SESSION_SESSION_HPP
+
+#include <cstdint>
+#include <istream>
+#include <ostream>
+#include <string>
+
+#include "quill-inp/process/terminal.hpp"
+#include "quill-inp/session/output.hpp"
+#include "quill-inp/session/reporter.hpp"
+
+namespace kelp::input::quill::tool {
+
+/// What every verb can be told.
+struct CommonOptions {
+  ColorMode color = ColorMode::Auto;
+  bool is_quiet = false;
+  std::uint64_t max_size = std::uint64_t{256} << 20U;
+  std::string stdin_filename = "<stdin>";
+};
+
+/// One call of the program: its streams, and what it was told.
+class Session {
+ public:
+  Session(std::istream& in, Output& out, std::ostream& err, CommonOptions options);
+
+  const CommonOptions& options() const { return options_; }
+  Output& output() { return out_; }
+  Reporter& reporter() { return reporter_; }
+
+  /// Returns the name to show for a file argument: "-" is standard input.
+  std::string shown_name(const std::string& argument) const;
+
+  /// Hands out standard input. Throws Trouble the second time: there is nothing left to read.
+  std::istream& take_standard_input();
+
+ private:
+  std::istream& in_;
+  Output& out_;
+  CommonOptions options_;
+  Reporter reporter_;
+  bool has_taken_input_ = false;
+};
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_SESSION_SESSION_HPP

@@ -1,0 +1,40 @@
+#include "quill-inp/summary/command_roles.hpp"
+
+#include <string_view>
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+/// The library alone knows which names are tasks.
+bool is_task(const HeaderCommand& command) {
+  return QuillInput({HeaderCommand(command.name)}).has_task_command();
+}
+
+/// Returns the command whose value is that of the assignment `name`, or a null pointer.
+const HeaderCommand* find_assignment(const QuillInput& input, std::string_view name) {
+  const HeaderCommand* command = input.find_command(name);
+  const bool has_value = command != nullptr && command->kind == HeaderCommandKind::Assignment &&
+                         command->value.has_value();
+  return has_value ? command : nullptr;
+}
+
+}  // namespace
+
+CommandRoles sort_commands(const QuillInput& input) {
+  const HeaderCommand* const model = find_assignment(input, "model");
+  const HeaderCommand* const device = find_assignment(input, "device");
+  CommandRoles roles;
+  if (model != nullptr) roles.model = model->value;
+  if (device != nullptr) roles.device = device->value;
+  for (const HeaderCommand& command : input.commands) {
+    if (is_task(command)) {
+      roles.tasks.push_back(&command);
+    } else if (&command != model && &command != device) {
+      roles.others.push_back(&command);
+    }
+  }
+  return roles;
+}
+
+}  // namespace kelp::input::quill::tool

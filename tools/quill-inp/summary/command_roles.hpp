@@ -1,0 +1,25 @@
+#ifndef KELP_INPUT_QUILL_TOOL_SUMMARY_COMMAND_ROLES_HPP
+#define KELP_INPUT_QUILL_TOOL_SUMMARY_COMMAND_ROLES_HPP
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "kelp/input/quill/document.hpp"
+
+namespace kelp::input::quill::tool {
+
+/// The header commands of an input by what they are for.
+struct CommandRoles {
+  std::vector<const HeaderCommand*> tasks = {};      // what to compute
+  std::optional<std::string> model = std::nullopt;   // as InputEditor::model() has it
+  std::optional<std::string> device = std::nullopt;  // likewise
+  std::vector<const HeaderCommand*> others = {};     // the rest, a second model line among it
+};
+
+/// Sorts the commands of `input`, into which the result points.
+CommandRoles sort_commands(const QuillInput& input);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_SUMMARY_COMMAND_ROLES_HPP

@@ -1,0 +1,21 @@
+#ifndef KELP_INPUT_QUILL_TOOL_SUMMARY_SUMMARY_HPP
+#define KELP_INPUT_QUILL_TOOL_SUMMARY_SUMMARY_HPP
+
+#include <string>
+
+#include "kelp/input/quill/reader.hpp"
+
+namespace kelp::input::quill::tool {
+
+/// Returns what a person wants to know of the input that was read from `name`: a line with the
+/// name, and one line for each task, the model, the device, other commands, charge and
+/// multiplicity, the geometry with its composition, each file, constraint, scan and raw line, and
+/// each warning. What a terminal would obey is escaped.
+std::string summary_text(const std::string& name, const ParseResult& result);
+
+/// Returns the same as data: a JSON object on one line.
+std::string summary_json(const std::string& name, const ParseResult& result);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_SUMMARY_SUMMARY_HPP

@@ -1,0 +1,139 @@
+#include <cstddef>
+#include <string_view>
+
+#include "edit_support/line_account.hpp"
+#include "edit_support/value_spelling.hpp"
+#include "kelp/input/quill/writer.hpp"
+#include "quill-inp/session/reporter.hpp"
+#include "quill-inp/summary/command_roles.hpp"
+#include "quill-inp/summary/composition.hpp"
+#include "quill-inp/summary/number_words.hpp"
+#include "quill-inp/summary/summary.hpp"
+#include "quill-inp/text/terminal_text.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+constexpr std::size_t label_width = 14;
+
+/// Rows of a label and what it is about.
+class Rows {
+ public:
+  void add(std::string_view label, std::string_view text) {
+    text_ += "  ";
+    text_ += label;
+    text_.append(label_width - label.size(), ' ');
+    text_ += shown_on_one_line(text);
+    text_ += '\n';
+  }
+
+  const std::string& text() const { return text_; }
+
+ private:
+  std::string text_;
+};
+
+/// Returns a command as it would stand in a file, with quotes where they are needed.
+std::string header_line(const HeaderCommand& command) {
+  return to_string(edit_support::spell(command).command);
+}
+
+void add_commands(Rows& rows, const QuillInput& input) {
+  const CommandRoles roles = sort_commands(input);
+  for (const HeaderCommand* task : roles.tasks) rows.add("task", header_line(*task).substr(1));
+  if (roles.model) rows.add("model", *roles.model);
+  if (roles.device) rows.add("device", *roles.device);
+  for (const HeaderCommand* command : roles.others) rows.add("command", header_line(*command));
+}
+
+std::string count(std::size_t number, const std::string& what) {
+  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
+}
+
+std::string describe_geometry(const GeometryBlock& geometry) {
+  switch (geometry.kind) {
+    case GeometryKind::Atoms:
+      return count(geometry.atoms.size(), "atom") + ", " +
+             to_formula(hill_composition(geometry.atoms));
+    case GeometryKind::XyzFile:
+      return count(geometry.xyz_files.size(), "XYZ file");
+    case GeometryKind::XyzTrajectory:
+      return "a trajectory";
+    case GeometryKind::None:
+      break;
+  }
+  return "none";
+}
+
+void add_geometry(Rows& rows, const GeometryBlock& geometry) {
+  if (geometry.has_charge_and_multiplicity) {
+    rows.add("charge", std::to_string(geometry.charge));
+    rows.add("multiplicity", std::to_string(geometry.multiplicity));
+  }
+  rows.add("geometry", describe_geometry(geometry));
+  for (const std::string& path : geometry.xyz_files) rows.add("file", path);
+}
+
+std::string join(const std::vector<std::int32_t>& numbers) {
+  std::string text;
+  for (const std::int32_t number : numbers)
+    text += (text.empty() ? "" : " ") + std::to_string(number);
+  return text;
+}
+
+/// Returns what a scan of this number of atoms changes.
+std::string_view scanned(std::size_t atoms) {
+  constexpr std::string_view names[] = {"bond", "angle", "dihedral"};
+  return 2 <= atoms && atoms <= 4 ? names[atoms - 2] : std::string_view("atoms");
+}
+
+std::string describe_scan(const PostCommand& scan) {
+  std::string text(scanned(scan.atom_indices.size()));
+  text += " " + join(scan.atom_indices);
+  if (scan.scan_value) text += ", value " + shortest_text(*scan.scan_value);
+  if (scan.scan_steps)
+    text += ", " + std::to_string(*scan.scan_steps) + (*scan.scan_steps == 1 ? " step" : " steps");
+  return text;
+}
+
+/// "bond constraint" is told as a constraint on a "bond".
+std::string describe_constraint(const PostCommand& command) {
+  const std::string_view words = edit_support::describe(command.kind);
+  return std::string(words.substr(0, words.find(' '))) + " " + join(command.atom_indices);
+}
+
+void add_post_command(Rows& rows, const PostCommand& command) {
+  switch (command.kind) {
+    case PostCommandKind::Scan:
+      rows.add("scan", describe_scan(command));
+      return;
+    case PostCommandKind::PostFile:
+      rows.add("post file", command.post_file);
+      return;
+    case PostCommandKind::Raw:
+      rows.add("raw line", command.raw_text);
+      return;
+    default:
+      rows.add("constraint", describe_constraint(command));
+  }
+}
+
+void add_warning(Rows& rows, const ReaderWarning& warning) {
+  const std::string place =
+      warning.line ? "line " + std::to_string(*warning.line) + ": " : std::string();
+  rows.add("warning", place + warning.message);
+}
+
+}  // namespace
+
+std::string summary_text(const std::string& name, const ParseResult& result) {
+  Rows rows;
+  add_commands(rows, result.input);
+  add_geometry(rows, result.input.geometry);
+  for (const PostCommand& command : result.input.post_commands) add_post_command(rows, command);
+  for (const std::string& warning : result.warnings) add_warning(rows, split_warning(warning));
+  return shown_on_one_line(name) + "\n" + rows.text();
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,23 @@
+#ifndef KELP_INPUT_QUILL_TOOL_TEXT_SUGGESTION_HPP
+#define KELP_INPUT_QUILL_TOOL_TEXT_SUGGESTION_HPP
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kelp::input::quill::tool {
+
+/// Returns the name that `word` was probably meant to be: the one with the fewest letters changed,
+/// left out, added or swapped with their neighbour, letter case aside; the first of several.
+/// Nothing when even that one has more than one slip for every three letters of `word`, or of the
+/// name.
+std::optional<std::string> nearest_name(std::string_view word,
+                                        const std::vector<std::string>& names);
+
+/// Returns "; did you mean 'name'?" for the nearest name, or the empty text when there is none.
+std::string suggestion(std::string_view word, const std::vector<std::string>& names);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_TEXT_SUGGESTION_HPP

@@ -1,0 +1,28 @@
+#ifndef KELP_INPUT_QUILL_TOOL_TEXT_TERMINAL_TEXT_HPP
+#define KELP_INPUT_QUILL_TOOL_TEXT_TERMINAL_TEXT_HPP
+
+// Showing bytes of files and file names to a person.
+//
+//   shown_on_one_line("a\x1b[2Jb");  // a\x1b[2Jb, as eight visible characters
+//
+// A terminal obeys control characters: it clears the screen, moves the cursor, changes its title,
+// or shows the text after a directional override in another order. None of that may be in the hands
+// of whoever wrote an input, so such bytes are shown as escapes. Everything else is shown as it is,
+// a backslash too: the result is for reading, not for reading back.
+
+#include <string>
+#include <string_view>
+
+namespace kelp::input::quill::tool {
+
+/// Returns `text` for one line: control characters of ASCII (line ends and tabs among them) and of
+/// Unicode, characters that change the direction of text, and bytes that are not UTF-8 become "\n",
+/// "\r", "\t", "\x1b" or "\u202e".
+std::string shown_on_one_line(std::string_view text);
+
+/// Returns `text` in the same way, but keeps "\n", "\r\n" and tabs.
+std::string shown_as_lines(std::string_view text);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_TEXT_TERMINAL_TEXT_HPP

@@ -1,0 +1,145 @@
+#include "quill-inp/text/unified_diff.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+#include "quill-inp/text/line_matching.hpp"
+#include "quill-inp/text/terminal_text.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+using Lines = std::vector<std::string_view>;
+
+constexpr std::size_t context = 3;
+
+/// Cuts a text into lines that keep their "\n".
+Lines split_with_ends(std::string_view text) {
+  Lines lines;
+  while (!text.empty()) {
+    const std::size_t newline = text.find('\n');
+    const std::size_t length = newline == std::string_view::npos ? text.size() : newline + 1;
+    lines.push_back(text.substr(0, length));
+    text.remove_prefix(length);
+  }
+  return lines;
+}
+
+/// Lines from `begin` to before `end` of each of the two texts.
+struct Span {
+  std::size_t old_begin = 0;
+  std::size_t old_end = 0;
+  std::size_t new_begin = 0;
+  std::size_t new_end = 0;
+};
+
+/// Returns what lies between the runs of lines that stay.
+std::vector<Span> find_changes(const Lines& old_lines, const Lines& new_lines) {
+  std::vector<Span> changes;
+  std::size_t old_at = 0;
+  std::size_t new_at = 0;
+  for (const MatchingRun& run : match_lines(old_lines, new_lines)) {
+    if (old_at < run.old_begin || new_at < run.new_begin)
+      changes.push_back({old_at, run.old_begin, new_at, run.new_begin});
+    old_at = run.old_begin + run.length;
+    new_at = run.new_begin + run.length;
+  }
+  return changes;
+}
+
+void append_line(std::string& out, char sign, std::string_view line) {
+  out += sign;
+  out += line;
+  if (line.empty() || line.back() != '\n') out += "\n\\ No newline at end of file\n";
+}
+
+void append_lines(std::string& out, char sign, const Lines& lines, std::size_t begin,
+                  std::size_t end) {
+  for (std::size_t i = begin; i < end; ++i) append_line(out, sign, lines[i]);
+}
+
+/// "begin,count", where a count of one is left out, and no lines stand after line number `begin`.
+std::string position(std::size_t begin, std::size_t end) {
+  const std::size_t count = end - begin;
+  const std::string first = std::to_string(count == 0 ? begin : begin + 1);
+  return count == 1 ? first : first + "," + std::to_string(count);
+}
+
+/// Appends the changes from `first` to before `last`, which are close enough to share one hunk.
+void append_hunk(std::string& out, const Lines& old_lines, const Lines& new_lines,
+                 const Span* first, const Span* last) {
+  const std::size_t before = std::min(context, first->old_begin);
+  const std::size_t after = std::min(context, old_lines.size() - (last - 1)->old_end);
+  out += "@@ -" + position(first->old_begin - before, (last - 1)->old_end + after);
+  out += " +" + position(first->new_begin - before, (last - 1)->new_end + after) + " @@\n";
+  std::size_t old_at = first->old_begin - before;
+  for (const Span* change = first; change != last; ++change) {
+    append_lines(out, ' ', old_lines, old_at, change->old_begin);
+    append_lines(out, '-', old_lines, change->old_begin, change->old_end);
+    append_lines(out, '+', new_lines, change->new_begin, change->new_end);
+    old_at = change->old_end;
+  }
+  append_lines(out, ' ', old_lines, old_at, old_at + after);
+}
+
+/// Without the tab, a name with a blank in it would end at the blank.
+std::string header_line(std::string_view sign, std::string_view name) {
+  std::string line(sign);
+  line += shown_on_one_line(name);
+  if (name.find(' ') != std::string_view::npos) line += '\t';
+  line += '\n';
+  return line;
+}
+
+/// Returns the colour of a line that begins with `sign`, or nothing for a line of context.
+std::string_view color_of(char sign) {
+  switch (sign) {
+    case '-':
+      return "\x1b[31m";
+    case '+':
+      return "\x1b[32m";
+    case '@':
+      return "\x1b[36m";
+    default:
+      return {};
+  }
+}
+
+}  // namespace
+
+std::string unified_diff(std::string_view name, std::string_view old_text,
+                         std::string_view new_text) {
+  const Lines old_lines = split_with_ends(old_text);
+  const Lines new_lines = split_with_ends(new_text);
+  const std::vector<Span> changes = find_changes(old_lines, new_lines);
+  std::string out;
+  if (changes.empty()) return out;
+  out += header_line("--- ", name) + header_line("+++ ", name);
+  const Span* const end = changes.data() + changes.size();
+  for (const Span* first = changes.data(); first != end;) {
+    const Span* last = first + 1;
+    while (last != end && last->old_begin - (last - 1)->old_end <= 2 * context) ++last;
+    append_hunk(out, old_lines, new_lines, first, last);
+    first = last;
+  }
+  return out;
+}
+
+std::string colored_diff(std::string_view diff) {
+  std::string out;
+  for (const std::string_view line : split_with_ends(diff)) {
+    const std::string_view color = color_of(line.front());
+    if (color.empty()) {
+      out += line;
+      continue;
+    }
+    out += color;
+    out += line.substr(0, line.size() - 1);
+    out += "\x1b[m\n";
+  }
+  return out;
+}
+
+}  // namespace kelp::input::quill::tool

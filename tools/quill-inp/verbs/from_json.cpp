@@ -1,0 +1,28 @@
+#include <string>
+
+#include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/editing/print_document.hpp"
+#include "quill-inp/formats/document_json.hpp"
+#include "quill-inp/session/input_source.hpp"
+#include "quill-inp/verbs/verb.hpp"
+
+namespace kelp::input::quill::tool {
+
+Verb add_from_json(CLI::App& program) {
+  CLI::App* app = add_verb(program, "from-json", "Print an input that was JSON as a QUILL text",
+                           "Example:\n  quill-inp json water.qin | quill-inp from-json -");
+  add_argument(*app, "FILE", "The JSON text");
+  add_loss_options(*app);
+  add_common_options(*app);
+  return {app, [=](Session& session) {
+            const std::string argument = *value_of(*app, "FILE");
+            const LossPolicy policy = read_loss_policy(*app);
+            return for_file(session, argument, [&] {
+              const InputSource source = read_input(session, argument);
+              return print_document(session, source.name, document_from_json(source.content),
+                                    policy);
+            });
+          }};
+}
+
+}  // namespace kelp::input::quill::tool

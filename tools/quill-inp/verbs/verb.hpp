@@ -1,0 +1,64 @@
+#ifndef KELP_INPUT_QUILL_TOOL_VERBS_VERB_HPP
+#define KELP_INPUT_QUILL_TOOL_VERBS_VERB_HPP
+
+// What the verbs of the program have in common. Each verb has a file of its own, which adds it to
+// the program and carries it out.
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "quill-inp/process/exit_code.hpp"
+#include "quill-inp/process/trouble.hpp"
+#include "quill-inp/session/session.hpp"
+
+namespace CLI {
+class App;
+}  // namespace CLI
+
+namespace kelp::input::quill::tool {
+
+/// A verb: the part of the command line that is its own, and what it does once that was read.
+/// `action` throws UsageError for options that do not fit together.
+struct Verb {
+  CLI::App* app = nullptr;
+  std::function<ExitCode(Session&)> action = {};
+};
+
+Verb add_show(CLI::App& program);
+Verb add_fmt(CLI::App& program);
+Verb add_get(CLI::App& program);
+Verb add_set(CLI::App& program);
+Verb add_unset(CLI::App& program);
+Verb add_add(CLI::App& program);
+Verb add_new(CLI::App& program);
+Verb add_json(CLI::App& program);
+Verb add_from_json(CLI::App& program);
+
+/// Adds a verb to the program: its name, one line about it, and an example of its use.
+CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string& description,
+                   const std::string& example);
+
+/// Adds the options that every verb has, behind its own.
+void add_common_options(CLI::App& verb);
+
+/// Reads the options that every verb has, see CommonOptions. Throws UsageError for bad values.
+CommonOptions read_common_options(const CLI::App& verb);
+
+/// Reports the trouble with the file that `argument` names, and its line if it is about one.
+void report(Session& session, const std::string& argument, const Trouble& trouble);
+
+/// Carries `action` out for a file and returns its exit code. Whatever it throws is reported with
+/// the file's name, and is ExitCode::Trouble, but for a ReportedTrouble, which is that already, and
+/// for a UsageError, which concerns no file and passes.
+ExitCode for_file(Session& session, const std::string& argument,
+                  const std::function<ExitCode()>& action);
+
+/// Carries `action` out for every file, whatever becomes of those before it. The worst code wins.
+/// When standard output goes into one of the files, that is reported and none is processed.
+ExitCode for_each_file(Session& session, const std::vector<std::string>& arguments,
+                       const std::function<ExitCode(const std::string&)>& action);
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_VERBS_VERB_HPP
