@@ -7,6 +7,6 @@
 #include "tools/properties/surgery.hpp"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  kelp::input::quill::edit_support::check_surgery(kelp::input::quill::as_text(data, size));
+  kelp::input::quill::lossless_edit::check_surgery(kelp::input::quill::as_text(data, size));
   return 0;
 }

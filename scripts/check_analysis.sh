@@ -38,7 +38,7 @@ mkdir -p build/analyzer
 if ! {
   cmake --preset analyzer &&
     list_objects_of_tool | xargs cmake --build --preset analyzer --target kelp_core_text \
-      kelp_chem_elements kelp_quill_inp examples/all tools/edit_support/all
+      kelp_chem_elements kelp_quill_inp examples/all tools/lossless_edit/all
 } >"$log" 2>&1; then
   grep -E 'error:|warning:' "$log" >&2 || tail -n 30 "$log" >&2
   echo "The whole output is in $log." >&2

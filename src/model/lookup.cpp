@@ -1,18 +1,16 @@
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <utility>
 
 #include "kelp/core/text.hpp"
 #include "kelp/input/quill/document.hpp"
+#include "model/task_names.hpp"
 
 namespace kelp::input::quill {
 
 namespace text = kelp::core::text;
 
 namespace {
-
-constexpr std::array<std::string_view, 6> task_names = {"sp", "opt", "ts", "freq", "irc", "scan"};
 
 std::string parameter_key(std::string_view name) { return text::to_lower_copy(text::trim(name)); }
 

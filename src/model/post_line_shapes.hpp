@@ -11,26 +11,47 @@
 namespace kelp::input::quill {
 
 /// One kind of post-processing line that has a keyword: how it begins and how many tokens the
-/// reader asks of it, keyword included. Reader and writer share the rows.
+/// reader asks of it, keyword included. Reader and writer share the rows, and whoever names a kind
+/// to people or programs takes its words from here: a new kind is an enumerator and a row.
 struct PostLineShape {
   std::string_view keyword;
   PostCommandKind kind;
   std::size_t least_tokens;
   std::size_t most_tokens;
+  std::string_view noun;
+  std::string_view article;      // of the noun; empty where it takes none
+  std::string_view json_name;    // of the kind, in JSON
+  const char* option;            // of the command line, that makes such a line
+  const char* placeholder;       // for the value of the option
+  const char* help;              // what the option does
 
   constexpr bool accepts(std::size_t tokens) const {
     return least_tokens <= tokens && tokens <= most_tokens;
   }
+
+  /// The number of atoms that a constraint names.
+  constexpr std::size_t atoms() const { return least_tokens - 1; }
 };
 
 inline constexpr std::array<PostLineShape, 6> post_line_shapes = {{
-    {"C", PostCommandKind::AtomConstraint, 2, 2},
-    {"B", PostCommandKind::BondConstraint, 3, 3},
-    {"A", PostCommandKind::AngleConstraint, 4, 4},
-    {"D", PostCommandKind::DihedralConstraint, 5, 5},
-    {"S", PostCommandKind::Scan, 5, 7},
-    {"POST", PostCommandKind::PostFile, 2, std::numeric_limits<std::size_t>::max()},
+    {"B", PostCommandKind::BondConstraint, 3, 3, "bond constraint", "a", "bond_constraint",
+     "--bond", "I,J", "Hold the distance of two atoms"},
+    {"A", PostCommandKind::AngleConstraint, 4, 4, "angle constraint", "an", "angle_constraint",
+     "--angle", "I,J,K", "Hold the angle of three atoms"},
+    {"D", PostCommandKind::DihedralConstraint, 5, 5, "dihedral constraint", "a",
+     "dihedral_constraint", "--dihedral", "I,J,K,L", "Hold the dihedral of four atoms"},
+    {"C", PostCommandKind::AtomConstraint, 2, 2, "atom constraint", "an", "atom_constraint",
+     "--atom", "I", "Hold the place of an atom"},
+    {"S", PostCommandKind::Scan, 5, 7, "scan", "a", "scan", "--scan", "I,J[,K[,L]]:VALUE:STEPS",
+     "Scan a distance, angle or dihedral"},
+    {"POST", PostCommandKind::PostFile, 2, std::numeric_limits<std::size_t>::max(), "post file",
+     "a", "post_file", "--post", "PATH", "Name a post-processing file"},
 }};
+
+/// The words of a line without a keyword, which is never recognised by its shape.
+inline constexpr PostLineShape raw_line_shape = {
+    "", PostCommandKind::Raw, 0, 0, "raw text", "", "raw", "--raw", "TEXT",
+    "Add a line of text as it is"};
 
 /// Returns the row of an upper-case keyword, or a null pointer for any other word.
 constexpr const PostLineShape* find_post_line_shape(std::string_view keyword) {

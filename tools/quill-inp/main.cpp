@@ -1,4 +1,3 @@
-#include <iostream>
 #include <string>
 #include <vector>
 
@@ -7,8 +6,6 @@
 
 int main(int argc, char** argv) {
   namespace tool = kelp::input::quill::tool;
-  tool::prepare_standard_streams();
-  std::ios::sync_with_stdio(false);
   const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
-  return tool::run(arguments, std::cin, std::cout, std::cerr);
+  return tool::run(arguments, tool::take_standard_streams());
 }

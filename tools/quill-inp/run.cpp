@@ -9,6 +9,7 @@
 #include <CLI/Config.hpp>
 
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/help_formatter.hpp"
 #include "quill-inp/command_line/message_options.hpp"
 #include "quill-inp/process/exit_code.hpp"
@@ -66,15 +67,10 @@ std::vector<std::string> option_names(const CLI::App& app) {
   return names;
 }
 
-/// Returns what CLI11 complains about, in the words of this program where it has some.
-std::string describe(const CLI::ParseError& error) {
-  std::string text = error.what();
-  const std::string subject = text.substr(0, text.find_first_of(": "));
-  const auto says = [&](const char* words) { return text.find(words) != std::string::npos; };
-  if (says(" required  missing")) return subject + " needs a value";
-  if (says(": At Most 1 required")) return subject + " can be given only once";
-  if (says(" disallowed flag override")) return "--" + subject + " takes no value";
-  return text;
+/// Returns what CLI11 complains about an option whose value is missing, in words of this program.
+std::string describe(const CLI::ArgumentMismatch& error) {
+  const std::string text = error.what();
+  return text.substr(0, text.find_first_of(": ")) + " needs a value";
 }
 
 /// Throws UsageError for what is left over on a part of the command line.
@@ -111,12 +107,12 @@ std::string help_hint(const CommandLine& line) {
   return "'" + command + " --help' says more";
 }
 
-ExitCode carry_out(CommandLine& line, std::istream& in, Output& out, std::ostream& err) {
+ExitCode carry_out(CommandLine& line, const StandardStreams& streams, Output& out) {
   const Verb& verb = find_verb(line);
   for (const std::string& leftover : line.program.remaining())
-    throw UsageError("options stand behind the verb, unlike '" + unmarked(leftover) + "'");
+    throw UsageError("options come after the verb, unlike '" + unmarked(leftover) + "'");
   refuse_leftovers(*verb.app);
-  Session session(in, out, err, read_common_options(*verb.app));
+  Session session(streams, out, read_common_options(*verb.app));
   return verb.action(session);
 }
 
@@ -126,27 +122,29 @@ void parse(CommandLine& line, const std::vector<std::string>& arguments) {
   line.program.parse(reversed);
 }
 
-ExitCode run_program(const std::vector<std::string>& arguments, std::istream& in, Output& out,
-                     std::ostream& err) {
+ExitCode run_program(const std::vector<std::string>& arguments, const StandardStreams& streams,
+                     Output& out) {
   CommandLine line;
   describe(line);
   std::string complaint;
   try {
     parse(line, arguments);
-    return carry_out(line, in, out, err);
+    return carry_out(line, streams, out);
   } catch (const CLI::CallForHelp&) {
     out.write_shown(line.program.help());
     return ExitCode::Done;
   } catch (const CLI::CallForVersion& version) {
     out.write_shown(std::string(version.what()) + "\n");
     return ExitCode::Done;
-  } catch (const CLI::ParseError& error) {
+  } catch (const CLI::ArgumentMismatch& error) {
     complaint = describe(error);
+  } catch (const CLI::ParseError& error) {
+    complaint = error.what();
   } catch (const UsageError& error) {
     complaint = error.what();
   }
   const MessageOptions options = find_message_options(arguments);
-  Reporter reporter(err, options.is_quiet, wants_color(options.color, err));
+  Reporter reporter(streams.err, options.is_quiet, wants_color(options.color, streams.err_file));
   reporter.error({program_name}, complaint);
   reporter.note({program_name}, help_hint(line));
   return ExitCode::Trouble;
@@ -154,13 +152,12 @@ ExitCode run_program(const std::vector<std::string>& arguments, std::istream& in
 
 }  // namespace
 
-int run(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out,
-        std::ostream& err) {
-  Output output(out);
-  Reporter reporter(err, false, false);
+int run(const std::vector<std::string>& arguments, const StandardStreams& streams) {
+  Output output(streams.out, streams.out_file);
+  Reporter reporter(streams.err, false, false);
   ExitCode code = ExitCode::Trouble;
   try {
-    code = run_program(arguments, in, output, err);
+    code = run_program(arguments, streams, output);
   } catch (const std::exception& error) {
     reporter.error({program_name}, explain(error));
   }

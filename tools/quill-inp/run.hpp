@@ -1,18 +1,18 @@
 #ifndef KELP_INPUT_QUILL_TOOL_RUN_HPP
 #define KELP_INPUT_QUILL_TOOL_RUN_HPP
 
-#include <istream>
-#include <ostream>
 #include <string>
 #include <vector>
+
+#include "quill-inp/process/standard_streams.hpp"
 
 namespace kelp::input::quill::tool {
 
 /// Runs the program with these arguments, its own name not among them, and returns its exit code: 0
-/// when it did what was asked, 1 when the answer is no, 2 for trouble. Data goes to `out`,
-/// everything else to `err`. Data that did not arrive is trouble, too. Nothing is thrown.
-int run(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out,
-        std::ostream& err);
+/// when it did what was asked, 1 when the answer is no, 2 for trouble. Data goes to standard
+/// output, everything else to standard error. Data that did not arrive is trouble, too. Nothing is
+/// thrown.
+int run(const std::vector<std::string>& arguments, const StandardStreams& streams);
 
 }  // namespace kelp::input::quill::tool
 

@@ -33,7 +33,7 @@ void keep_signs_of_nan_alone(QuillInput& document) {
   }
 }
 
-namespace edit_support {
+namespace lossless_edit {
 
 namespace {
 
@@ -105,6 +105,6 @@ std::vector<Edit> made_edits(ByteSource& source) {
   return edits;
 }
 
-}  // namespace edit_support
+}  // namespace lossless_edit
 
 }  // namespace kelp::input::quill

@@ -3,20 +3,20 @@
 
 #include <vector>
 
-#include "edit_support/surgical_edit.hpp"
 #include "properties/byte_source.hpp"
+#include "tools/properties/edits.hpp"
 
 namespace kelp::input::quill {
 
 /// Replaces every NaN by that of its sign which the reader gives: no text keeps more of it.
 void keep_signs_of_nan_alone(QuillInput& document);
 
-namespace edit_support {
+namespace lossless_edit {
 
 /// One to four edits, of any kind and with any arguments.
 std::vector<Edit> made_edits(ByteSource& source);
 
-}  // namespace edit_support
+}  // namespace lossless_edit
 
 }  // namespace kelp::input::quill
 

@@ -5,54 +5,21 @@
 #include <numeric>
 #include <optional>
 #include <set>
-#include <variant>
 
-#include "edit_support/line_account.hpp"
-#include "edit_support/value_spelling.hpp"
 #include "kelp/input/quill/quill.hpp"
+#include "lossless_edit/quoting.hpp"
 #include "properties/made_document.hpp"
 #include "properties/violation.hpp"
 #include "support/comparison.hpp"
 #include "tools/properties/made_edits.hpp"
 
-namespace kelp::input::quill::edit_support {
+namespace kelp::input::quill::lossless_edit {
 
 namespace {
 
-struct Applied {
-  InputEditor& editor;
-
-  void operator()(const SetFlag& edit) const { editor.set_flag(edit.name); }
-  void operator()(const SetAssignment& edit) const { editor.set_assignment(edit.name, edit.value); }
-  void operator()(const SetTask& edit) const { editor.set_task(edit.name, edit.parameters); }
-  void operator()(const SetParameter& edit) const {
-    editor.set_parameter(edit.command, edit.parameter, edit.value, edit.occurrence);
-  }
-  void operator()(const RemoveParameter& edit) const {
-    editor.remove_parameter(edit.command, edit.parameter, edit.occurrence);
-  }
-  void operator()(const AddCommand& edit) const { editor.add_command(edit.command); }
-  void operator()(const RemoveCommand& edit) const {
-    editor.remove_command(edit.name, edit.occurrence);
-  }
-  void operator()(const SetChargeAndMultiplicity& edit) const {
-    const GeometryBlock& geometry = editor.document().geometry;
-    editor.set_charge_and_multiplicity(
-        edit.charge ? *edit.charge : geometry.charge,
-        edit.multiplicity ? *edit.multiplicity : geometry.multiplicity);
-  }
-  void operator()(const ClearChargeAndMultiplicity& /*edit*/) const {
-    editor.clear_charge_and_multiplicity();
-  }
-  void operator()(const SetAtoms& edit) const { editor.set_geometry(edit.atoms); }
-  void operator()(const SetXyzFiles& edit) const { editor.set_xyz_files(edit.files); }
-  void operator()(const SetTrajectory& edit) const { editor.set_xyz_trajectory(edit.path); }
-  void operator()(const AddPostCommand& edit) const { editor.add_post_command(edit.command); }
-};
-
-QuillInput meant_by(const std::string& text, const std::vector<Edit>& edits) {
+QuillInput made_by_an_editor(const std::string& text, const std::vector<Edit>& edits) {
   InputEditor editor(parse_string(text).input);
-  for (const Edit& edit : edits) std::visit(Applied{editor}, edit);
+  for (const Edit& edit : edits) edit.apply(editor);
   return editor.document();
 }
 
@@ -70,7 +37,7 @@ std::vector<std::string> lines_with_ends(const std::string& text) {
 using Number = std::optional<std::size_t> LineChange::*;
 
 /// The lines that no change names.
-std::vector<std::string> rest_of(std::vector<std::string> lines, const SurgicalEdit& edit,
+std::vector<std::string> rest_of(std::vector<std::string> lines, const EditOutcome& edit,
                                  Number number) {
   std::set<std::size_t> reported;
   for (const LineChange& change : edit.changes) {
@@ -92,7 +59,7 @@ std::string without_line_end(std::string line) {
 
 /// A last line without a line end may get one when it is not the last any more, and the other way
 /// round.
-void check_other_lines(const std::string& text, const SurgicalEdit& edit) {
+void check_other_lines(const std::string& text, const EditOutcome& edit) {
   const std::vector<std::string> old_lines = lines_with_ends(text);
   std::vector<std::string> old_rest = rest_of(old_lines, edit, &LineChange::old_line);
   std::vector<std::string> new_rest =
@@ -110,7 +77,7 @@ void check_other_lines(const std::string& text, const SurgicalEdit& edit) {
   require(old_rest == new_rest, "lines that are not reported stay as they are", text);
 }
 
-void check_reported_lines(const std::string& text, const SurgicalEdit& edit) {
+void check_reported_lines(const std::string& text, const EditOutcome& edit) {
   const std::vector<std::string> old_lines = lines_with_ends(text);
   const std::vector<std::string> new_lines = lines_with_ends(edit.text);
   for (const LineChange& change : edit.changes) {
@@ -127,51 +94,51 @@ std::size_t count(const std::string& text, std::string_view what) {
   return n;
 }
 
-void check_line_ends(const std::string& text, const SurgicalEdit& edit) {
+void check_line_ends(const std::string& text, const EditOutcome& edit) {
   const bool has_crlf_only = count(text, "\n") > 0 && count(text, "\r\n") == count(text, "\n");
   require(!has_crlf_only || count(edit.text, "\r\n") == count(edit.text, "\n"),
           "line ends of one kind stay of that kind", text);
 }
 
-/// The way out that an explanation names is one: behind another post-processing line, the line is
+/// The way out that an explanation names is one: after another post-processing line, the line is
 /// read as such a line.
-void check_advice(const SurgicalEdit& edit) {
-  if (!edit.proof.line) return;
-  const std::size_t line = *edit.proof.line;
+void check_advice(const EditOutcome& edit) {
+  if (!edit.proof.line()) return;
+  const std::size_t line = *edit.proof.line();
   std::vector<std::string> lines = lines_with_ends(edit.text);
   require(1 <= line && line <= lines.size(), "the line of an explanation exists", edit.text);
-  if (edit.proof.explanation.find("; another post-processing line in front of it avoids that") ==
-      std::string::npos)
-    return;
+  if (!edit.proof.explanation->is_avoidable) return;
   lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(line) - 1, "B 1 2\n");
   const std::string text = std::accumulate(lines.begin(), lines.end(), std::string());
-  require(account_for_lines(text, parse_string(text)).at(line).role == LineRole::PostCommand,
+  require(parse_lines(text).lines.at(line).role == LineRole::PostCommand,
           "the way out that an explanation names is one", edit.text);
 }
 
 /// What the canonical text can say is not refused, but where a line that the reader used to drop is
 /// in the way: the canonical text has no such lines.
-void check_need_of_refusal(const SurgicalEdit& edit) {
-  const std::string canonical = spell(edit.meant).document.to_string();
+void check_need_of_refusal(const EditOutcome& edit) {
+  const std::string canonical = quote(edit.wanted).document.to_string();
   const bool is_canonical_text_good =
-      without_source_lines(parse_string(canonical).input) == without_source_lines(edit.meant);
-  require(
-      !is_canonical_text_good || edit.refusal().find(", which is not meant") != std::string::npos,
-      "what can be said is not refused", edit.text);
+      without_source_lines(parse_string(canonical).input) == without_source_lines(edit.wanted);
+  const auto& explanation = edit.proof.explanation;
+  const bool is_in_the_way = edit.quoting_problems.empty() && explanation &&
+                             explanation->kind == Explanation::Kind::OtherPart &&
+                             !explanation->wanted;
+  require(!is_canonical_text_good || is_in_the_way, "what can be said is not refused", edit.text);
 }
 
-void check_outcome(const std::string& text, const SurgicalEdit& edit) {
+void check_outcome(const std::string& text, const EditOutcome& edit) {
   const bool reads_back =
-      without_source_lines(parse_string(edit.text).input) == without_source_lines(edit.meant);
+      without_source_lines(parse_string(edit.text).input) == without_source_lines(edit.wanted);
   require(edit.holds() == reads_back, "an edit holds when it reads back", text);
   require(edit.refusal().empty() == reads_back, "a refusal says why", text);
   if (reads_back) {
-    require(edit.spelling_reasons.empty(), "what reads back can be spelled", text);
+    require(edit.quoting_problems.empty(), "what reads back can be written", text);
     check_line_ends(text, edit);
     return;
   }
   check_need_of_refusal(edit);
-  if (edit.spelling_reasons.empty()) check_advice(edit);
+  if (edit.quoting_problems.empty()) check_advice(edit);
 }
 
 }  // namespace
@@ -183,13 +150,13 @@ QuillInput without_source_lines(QuillInput input) {
   return input;
 }
 
-SurgicalEdit checked_edit(const std::string& text, const std::vector<Edit>& edits) {
-  SurgicalEdit edit = edit_text(text, edits);
-  require(edit.meant == meant_by(text, edits), "an edit means what the editor does", text);
+EditOutcome checked_edit(const std::string& text, const std::vector<Edit>& edits) {
+  EditOutcome edit = edit_text(text, edits);
+  require(edit.wanted == made_by_an_editor(text, edits), "an edit does what the editor does", text);
   check_outcome(text, edit);
   check_other_lines(text, edit);
   check_reported_lines(text, edit);
-  if (without_source_lines(edit.meant) == without_source_lines(parse_string(text).input))
+  if (without_source_lines(edit.wanted) == without_source_lines(parse_string(text).input))
     require(edit.text == text && edit.changes.empty(), "an edit of nothing changes nothing", text);
   return edit;
 }
@@ -200,7 +167,7 @@ void check_proofs(std::string_view text, const QuillInput& document) {
   const Proof proof = prove(written, document);
   const bool reads_back = without_source_lines(proof.found.input) == without_source_lines(document);
   require(proof.holds() == reads_back, "a proof holds when the text reads back", written);
-  require(proof.explanation.empty() == reads_back, "an explanation says why not", written);
+  require(proof.explanation.has_value() != reads_back, "an explanation says why not", written);
 }
 
 void check_surgery(std::string_view bytes) {
@@ -209,8 +176,8 @@ void check_surgery(std::string_view bytes) {
   const std::string text(bytes.substr(0, end));
   ByteSource source(end == std::string_view::npos ? std::string_view()
                                                   : bytes.substr(end + separator.size()));
-  const SurgicalEdit edit = checked_edit(text, made_edits(source));
-  check_proofs(text, edit.meant);
+  const EditOutcome edit = checked_edit(text, made_edits(source));
+  check_proofs(text, edit.wanted);
 }
 
-}  // namespace kelp::input::quill::edit_support
+}  // namespace kelp::input::quill::lossless_edit

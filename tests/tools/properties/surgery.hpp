@@ -5,20 +5,20 @@
 #include <string_view>
 #include <vector>
 
-#include "edit_support/surgical_edit.hpp"
+#include "tools/properties/edits.hpp"
 
 // What holds for any text and any edits. The expectations are drawn up by means of their own: the
 // editor alone says what is meant, plain cutting at "\n" what a line is, and the equality of the
 // tests what is equal.
 
-namespace kelp::input::quill::edit_support {
+namespace kelp::input::quill::lossless_edit {
 
 /// The document without what the reader alone fills in.
 QuillInput without_source_lines(QuillInput input);
 
 /// Edits a text. The result is what the editor means and reads back, or is refused, and then there
 /// is a need to; the lines that it reports differ, and no others do. Throws a Violation.
-SurgicalEdit checked_edit(const std::string& text, const std::vector<Edit>& edits);
+EditOutcome checked_edit(const std::string& text, const std::vector<Edit>& edits);
 
 /// A text proves its own document, and a proof of a document holds exactly when its canonical text
 /// reads back as it. Throws a Violation.
@@ -27,6 +27,6 @@ void check_proofs(std::string_view text, const QuillInput& document);
 /// Takes a text up to a line "%%", or the whole, for a text, and the bytes behind it for edits.
 void check_surgery(std::string_view bytes);
 
-}  // namespace kelp::input::quill::edit_support
+}  // namespace kelp::input::quill::lossless_edit
 
 #endif  // KELP_INPUT_QUILL_TESTS_TOOLS_PROPERTIES_SURGERY_HPP

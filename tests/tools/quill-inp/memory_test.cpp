@@ -75,7 +75,7 @@ MeteredCall run_failing(const std::vector<std::string>& arguments, const std::st
     const AllocationWindow window(failing);
     FirstFile in_text(window, input);
     std::istream in(&in_text);
-    call.code = run(arguments, in, out, err);
+    call.code = run(arguments, {in, out, err});
     call.allocations_before = in_text.allocations_before();
     call.allocations = window.allocations();
   }

@@ -42,6 +42,23 @@ TEST(Diagnostics, KeepEveryByteOfTheMessage) {
   EXPECT_EQ(line_diagnostic(2, std::string_view("a\0\xFF", 3)), "Line 2: a\0\xFF"s);
 }
 
+TEST(Diagnostics, AreTakenApart) {
+  const DiagnosticParts numbered = split_diagnostic("Line 12: a: b");
+  EXPECT_EQ(numbered.line, 12U);
+  EXPECT_EQ(numbered.message, "a: b");
+  EXPECT_EQ(split_diagnostic("Line 18446744073709551615: ").line, 18446744073709551615U);
+  EXPECT_EQ(split_diagnostic("Line 18446744073709551615: ").message, "");
+}
+
+TEST(Diagnostics, ThatOnlyLookNumberedAreKeptWhole) {
+  for (const char* const text :
+       {"No QUILL coordinate section found", "Line 12", "Line : x", "Line x: y", "Line 12 x",
+        "line 12: x", "Line", "Line 12:x", "Line -1: x", "Line 18446744073709551616: x", ""}) {
+    EXPECT_EQ(split_diagnostic(text).line, std::nullopt) << text;
+    EXPECT_EQ(split_diagnostic(text).message, text);
+  }
+}
+
 TEST(Diagnostics, PutAnUnknownSymbolInApostrophes) {
   EXPECT_EQ(unknown_element_diagnostic(12, "Xx"), "Line 12: unknown element symbol 'Xx'");
   EXPECT_EQ(unknown_element_diagnostic(3, ""), "Line 3: unknown element symbol ''");

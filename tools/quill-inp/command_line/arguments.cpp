@@ -2,9 +2,12 @@
 
 #include <cstddef>
 #include <map>
+#include <stdexcept>
 #include <string_view>
 
 #include <CLI/App.hpp>
+
+#include "quill-inp/process/trouble.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -21,28 +24,43 @@ bool needs_mark(std::string_view argument) {
   return has_attached_value(argument) || argument.substr(0, 1) == "[" || argument == "++";
 }
 
-CLI::Option& add_option(CLI::App& app, const std::string& names, const std::string& help) {
-  // Without a place to convert its values to, an option keeps them as they are.
-  return *app.add_option(names, CLI::callback_t(), help)->type_size(1)->expected(1);
-}
-
-CLI::Option& add_option(CLI::App& app, const std::string& names, const std::string& placeholder,
-                        const std::string& help) {
-  return *add_option(app, names, help).option_text(placeholder);
+CLI::Option& add(CLI::App& app, const Option& option) {
+  // Without a place to convert its values to, an option keeps them as they are. All of them are
+  // kept, so that the complaint about a second one is made here.
+  return *app.add_option(option.names, CLI::callback_t(), option.help)
+              ->type_size(1)
+              ->expected(1)
+              ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
 
 /// Any number of values, one use after another.
 CLI::Option& take_all(CLI::Option& option) {
-  return *option.expected(CLI::detail::expected_max_vector_size)
-              ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  return *option.expected(CLI::detail::expected_max_vector_size);
 }
 
-const CLI::Option* find_given(const CLI::App& app, const std::string& name) {
-  const CLI::Option* option = app.get_option_no_throw(name);
-  return option != nullptr && option->count() > 0 ? option : nullptr;
+const CLI::Option& find(const CLI::App& app, const Option& option) {
+  const CLI::Option* found = app.get_option_no_throw(name_of(option));
+  if (found == nullptr)
+    throw std::logic_error("the verb '" + app.get_name() + "' has no option " + name_of(option));
+  return *found;
 }
+
+const std::vector<std::string>& results_of(const CLI::App& app, const Option& option) {
+  const CLI::Option& found = find(app, option);
+  const std::vector<std::string>& results = found.results();
+  if (found.get_items_expected_max() == 1 && results.size() > 1)
+    throw UsageError(name_of(option) + " can be given only once");
+  return results;
+}
+
+bool is_marked(const std::string& argument) { return !argument.empty() && argument.back() == mark; }
 
 }  // namespace
+
+std::string name_of(const Option& option) {
+  const std::string_view names = option.names;
+  return std::string(names.substr(names.rfind(',') + 1));
+}
 
 std::vector<std::string> marked_arguments(const std::vector<std::string>& arguments) {
   std::vector<std::string> marked = arguments;
@@ -53,79 +71,69 @@ std::vector<std::string> marked_arguments(const std::vector<std::string>& argume
 }
 
 std::string unmarked(std::string argument) {
-  if (!argument.empty() && argument.back() == mark) argument.pop_back();
+  if (is_marked(argument)) argument.pop_back();
   return argument;
 }
 
-void add_argument(CLI::App& app, const std::string& name, const std::string& help) {
-  add_option(app, name, help).required();
+void add_argument(CLI::App& app, const Option& option) { add(app, option).required(); }
+
+void add_arguments(CLI::App& app, const Option& option) { take_all(add(app, option)).required(); }
+
+void add_optional_arguments(CLI::App& app, const Option& option) { take_all(add(app, option)); }
+
+void add_flag(CLI::App& app, const Option& option) { app.add_flag(option.names, option.help); }
+
+void add_value(CLI::App& app, const Option& option) {
+  add(app, option).option_text(option.placeholder);
 }
 
-void add_arguments(CLI::App& app, const std::string& name, const std::string& help) {
-  take_all(add_option(app, name, help)).required();
+void add_values(CLI::App& app, const Option& option) {
+  take_all(add(app, option)).option_text(std::string(option.placeholder) + "...");
 }
 
-void add_optional_arguments(CLI::App& app, const std::string& name, const std::string& help) {
-  take_all(add_option(app, name, help));
+void add_repeated(CLI::App& app, const Option& option) {
+  take_all(add(app, option)).option_text(option.placeholder)->allow_extra_args(false);
 }
 
-void add_flag(CLI::App& app, const std::string& names, const std::string& help) {
-  app.add_flag(names, help)->disable_flag_override();
-}
-
-void add_value(CLI::App& app, const std::string& names, const std::string& placeholder,
-               const std::string& help) {
-  add_option(app, names, placeholder, help);
-}
-
-void add_values(CLI::App& app, const std::string& names, const std::string& placeholder,
-                const std::string& help) {
-  take_all(add_option(app, names, placeholder + "...", help));
-}
-
-void add_repeated(CLI::App& app, const std::string& names, const std::string& placeholder,
-                  const std::string& help) {
-  take_all(add_option(app, names, placeholder, help)).allow_extra_args(false);
-}
-
-void add_attached_value(CLI::App& app, const std::string& name, const std::string& placeholder,
-                        const std::string& help) {
-  app.add_flag(name, help)->option_text("[=" + placeholder + "]");
+void add_attached_value(CLI::App& app, const Option& option) {
+  app.add_flag(option.names, option.help)
+      ->option_text("[=" + std::string(option.placeholder) + "]");
 }
 
 void begin_group(CLI::App& app, const std::string& heading) {
   app.option_defaults()->group(heading);
 }
 
-bool is_given(const CLI::App& app, const std::string& name) {
-  return find_given(app, name) != nullptr;
-}
-
-std::optional<std::string> value_of(const CLI::App& app, const std::string& name) {
-  const CLI::Option* option = find_given(app, name);
-  return option == nullptr ? std::nullopt : std::optional(unmarked(option->results().back()));
-}
-
-std::vector<std::string> values_of(const CLI::App& app, const std::string& name) {
-  std::vector<std::string> values;
-  if (const CLI::Option* option = find_given(app, name)) {
-    for (const std::string& result : option->results()) values.push_back(unmarked(result));
+bool is_given(const CLI::App& app, const Option& option) {
+  const std::vector<std::string>& results = find(app, option).results();
+  for (const std::string& result : results) {
+    if (is_marked(result)) throw UsageError(name_of(option) + " takes no value");
   }
+  return !results.empty();
+}
+
+std::optional<std::string> value_of(const CLI::App& app, const Option& option) {
+  const std::vector<std::string>& results = results_of(app, option);
+  return results.empty() ? std::nullopt : std::optional(unmarked(results.back()));
+}
+
+std::vector<std::string> values_of(const CLI::App& app, const Option& option) {
+  std::vector<std::string> values;
+  for (const std::string& result : results_of(app, option)) values.push_back(unmarked(result));
   return values;
 }
 
-std::optional<std::string> attached_value_of(const CLI::App& app, const std::string& name,
+std::optional<std::string> attached_value_of(const CLI::App& app, const Option& option,
                                              const std::string& otherwise) {
-  const CLI::Option* option = find_given(app, name);
-  if (option == nullptr) return std::nullopt;
+  const std::vector<std::string>& results = find(app, option).results();
+  if (results.empty()) return std::nullopt;
   // A value that was typed bears a mark; the result of the bare option does not.
-  const std::string& result = option->results().back();
-  return result.back() == mark ? unmarked(result) : otherwise;
+  return is_marked(results.back()) ? unmarked(results.back()) : otherwise;
 }
 
-std::vector<OptionUse> uses_in_order(const CLI::App& app, const std::vector<std::string>& names) {
+std::vector<OptionUse> uses_in_order(const CLI::App& app, const std::vector<Option>& options) {
   std::map<const CLI::Option*, std::string> wanted;
-  for (const std::string& name : names) wanted.emplace(app.get_option(name), name);
+  for (const Option& option : options) wanted.emplace(&find(app, option), name_of(option));
   std::map<const CLI::Option*, std::size_t> seen;
   std::vector<OptionUse> uses;
   for (const CLI::Option* option : app.parse_order()) {

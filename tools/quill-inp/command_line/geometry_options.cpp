@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "kelp/chem/elements.hpp"
@@ -9,11 +10,16 @@
 #include "quill-inp/formats/xyz_file.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/session/input_source.hpp"
-#include "quill-inp/verbs/verb.hpp"
 
 namespace kelp::input::quill::tool {
 
 namespace {
+
+using lossless_edit::TrackedDocument;
+
+constexpr Option atoms_option{"--atoms", "FILE.xyz", "Inline the atoms of an XYZ file"};
+constexpr Option xyz_option{"--xyz", "PATH", "Refer to XYZ files"};
+constexpr Option trajectory_option{"--trajectory", "PATH", "Refer to an XYZ trajectory"};
 
 void warn_of_unknown_elements(Session& session, const std::string& name,
                               const std::vector<AtomRecord>& atoms) {
@@ -25,25 +31,26 @@ void warn_of_unknown_elements(Session& session, const std::string& name,
   }
 }
 
-/// An option that takes any number of paths takes a setting behind them for one, too.
-std::string require_path(const std::string& option, const std::string& text) {
+/// An option that takes any number of paths takes a setting after them for one, too.
+const std::string& require_path(const Option& option, const std::string& text) {
   if (text.find('=') < text.find('/')) {
-    throw UsageError(option + " takes a path, and '" + text +
-                     "' looks like a setting; settings of 'set' stand in front of the options or "
-                     "behind '--', and a path of this name is written './" +
-                     text + "'");
+    throw UsageError(
+        name_of(option) + " takes a path, and '" + text +
+        "' looks like a setting; put the settings of 'set' before the options or after "
+        "'--', and write a path of this name './" +
+        text + "'");
   }
   return text;
 }
 
 std::vector<AtomRecord> read_atoms(Session& session, const std::string& argument) {
   try {
-    const InputSource source = read_input(session, argument);
+    const InputSource source = read_source(session, argument);
     std::vector<AtomRecord> atoms = read_xyz_atoms(source.content);
     warn_of_unknown_elements(session, source.name, atoms);
     return atoms;
   } catch (const Trouble& trouble) {
-    report(session, argument, trouble);
+    session.report(argument, trouble);
     throw ReportedTrouble();
   }
 }
@@ -51,23 +58,30 @@ std::vector<AtomRecord> read_atoms(Session& session, const std::string& argument
 }  // namespace
 
 void add_geometry_options(CLI::App& verb) {
-  add_value(verb, "--atoms", "FILE.xyz", "Inline the atoms of an XYZ file");
-  add_values(verb, "--xyz", "PATH", "Refer to XYZ files");
-  add_value(verb, "--trajectory", "PATH", "Refer to an XYZ trajectory");
+  add_value(verb, atoms_option);
+  add_values(verb, xyz_option);
+  add_value(verb, trajectory_option);
 }
 
-std::optional<edit_support::Edit> read_geometry(Session& session, const CLI::App& verb) {
-  const auto atoms = value_of(verb, "--atoms");
-  std::vector<std::string> files;
-  for (const std::string& path : values_of(verb, "--xyz"))
-    files.push_back(require_path("--xyz", path));
-  const auto trajectory = value_of(verb, "--trajectory");
-  const int given = (atoms ? 1 : 0) + (files.empty() ? 0 : 1) + (trajectory ? 1 : 0);
+GeometryChange read_geometry_change(Session& session, const CLI::App& verb) {
+  const auto xyz_file = value_of(verb, atoms_option);
+  const std::vector<std::string> paths = values_of(verb, xyz_option);
+  const auto trajectory = value_of(verb, trajectory_option);
+  for (const std::string& path : paths) require_path(xyz_option, path);
+  const int given = (xyz_file ? 1 : 0) + (paths.empty() ? 0 : 1) + (trajectory ? 1 : 0);
   if (given > 1) throw UsageError("--atoms, --xyz and --trajectory exclude each other");
-  if (atoms) return edit_support::SetAtoms{read_atoms(session, *atoms)};
-  if (!files.empty()) return edit_support::SetXyzFiles{files};
-  if (trajectory) return edit_support::SetTrajectory{require_path("--trajectory", *trajectory)};
-  return std::nullopt;
+  if (xyz_file) {
+    return [atoms = read_atoms(session, *xyz_file)](TrackedDocument& document) {
+      document.set_geometry(atoms);
+    };
+  }
+  if (!paths.empty()) return [paths](TrackedDocument& document) { document.set_xyz_files(paths); };
+  if (trajectory) {
+    return [path = require_path(trajectory_option, *trajectory)](TrackedDocument& document) {
+      document.set_xyz_trajectory(path);
+    };
+  }
+  return {};
 }
 
 }  // namespace kelp::input::quill::tool

@@ -1,9 +1,9 @@
 #ifndef KELP_INPUT_QUILL_TOOL_COMMAND_LINE_GEOMETRY_OPTIONS_HPP
 #define KELP_INPUT_QUILL_TOOL_COMMAND_LINE_GEOMETRY_OPTIONS_HPP
 
-#include <optional>
+#include <functional>
 
-#include "edit_support/surgical_edit.hpp"
+#include "lossless_edit/tracked_document.hpp"
 #include "quill-inp/session/session.hpp"
 
 namespace CLI {
@@ -15,10 +15,13 @@ namespace kelp::input::quill::tool {
 /// Adds --atoms, --xyz and --trajectory to a verb.
 void add_geometry_options(CLI::App& verb);
 
-/// Returns the edit that they ask for, if one of them was given. Reads the atoms of the file that
-/// --atoms names. Throws UsageError for two of them and for a path that looks like a setting,
-/// "model=m2", and ReportedTrouble for a file that cannot be read.
-std::optional<edit_support::Edit> read_geometry(Session& session, const CLI::App& verb);
+/// What sets the geometry of a document.
+using GeometryChange = std::function<void(lossless_edit::TrackedDocument&)>;
+
+/// Returns the change that they ask for, empty if none of them was given. Reads the atoms of the
+/// file that --atoms names. Throws UsageError for two of them and for a path that looks like a
+/// setting, "model=m2", and ReportedTrouble for a file that cannot be read.
+GeometryChange read_geometry_change(Session& session, const CLI::App& verb);
 
 }  // namespace kelp::input::quill::tool
 

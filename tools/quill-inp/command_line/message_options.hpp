@@ -14,9 +14,9 @@ struct MessageOptions {
   bool is_quiet = false;
 };
 
-/// Returns what arguments say of messages that make no sense otherwise: -q, --quiet and --color in
-/// front of "--", the last --color with a value that is one. Words are not told from the values of
-/// other options.
+/// Returns what arguments that cannot be parsed say about messages: -q, --quiet and --color before
+/// "--", the last --color with a value that is one. Words are not told from the values of other
+/// options.
 MessageOptions find_message_options(const std::vector<std::string>& arguments);
 
 }  // namespace kelp::input::quill::tool

@@ -4,25 +4,17 @@
 #include <vector>
 
 #include "kelp/core/text.hpp"
+#include "model/post_line_shapes.hpp"
 #include "quill-inp/process/trouble.hpp"
 
 namespace kelp::input::quill::tool {
 
 namespace {
 
-struct Constraint {
-  std::string_view option;
-  PostCommandKind kind;
-  std::size_t atoms;
-  std::string_view example;
-};
-
-constexpr Constraint constraints[] = {
-    {"--atom", PostCommandKind::AtomConstraint, 1, "an atom number, '1'"},
-    {"--bond", PostCommandKind::BondConstraint, 2, "two atom numbers, '1,2'"},
-    {"--angle", PostCommandKind::AngleConstraint, 3, "three atom numbers, '1,2,3'"},
-    {"--dihedral", PostCommandKind::DihedralConstraint, 4, "four atom numbers, '1,2,3,4'"},
-};
+/// What a constraint takes, by the number of its atoms.
+constexpr std::string_view constraint_examples[] = {
+    "", "an atom number, '1'", "two atom numbers, '1,2'", "three atom numbers, '1,2,3'",
+    "four atom numbers, '1,2,3,4'"};
 
 constexpr std::string_view scan_example =
     "two to four atom numbers, a value and a number of steps, '1,2:1.5:10'";
@@ -31,6 +23,13 @@ constexpr std::string_view scan_example =
                                  std::string_view text) {
   throw UsageError(option + " takes " + std::string(expected) + ", not '" + std::string(text) +
                    "'");
+}
+
+const PostLineShape& find_shape(const std::string& option) {
+  for (const PostLineShape& shape : post_line_shapes) {
+    if (shape.option == option) return shape;
+  }
+  return raw_line_shape;
 }
 
 std::vector<std::string_view> split(std::string_view text, char separator) {
@@ -43,7 +42,7 @@ std::vector<std::string_view> split(std::string_view text, char separator) {
   }
 }
 
-/// Stores atom numbers separated by commas; false when one is none.
+/// Stores atom numbers separated by commas; false when one is not a number.
 bool read_atoms(std::string_view text, std::vector<std::int32_t>& atoms) {
   for (const std::string_view piece : split(text, ',')) {
     int number = 0;
@@ -53,23 +52,23 @@ bool read_atoms(std::string_view text, std::vector<std::int32_t>& atoms) {
   return true;
 }
 
-PostCommand parse_constraint(const Constraint& constraint, const std::string& text) {
-  PostCommand command(constraint.kind);
-  if (!read_atoms(text, command.atom_indices) || command.atom_indices.size() != constraint.atoms)
-    throw_expected(std::string(constraint.option), constraint.example, text);
+PostCommand parse_constraint(const PostLineShape& shape, const std::string& text) {
+  PostCommand command(shape.kind);
+  if (!read_atoms(text, command.atom_indices) || command.atom_indices.size() != shape.atoms())
+    throw_expected(shape.option, constraint_examples[shape.atoms()], text);
   return command;
 }
 
-PostCommand parse_scan(const std::string& text) {
+PostCommand parse_scan(const PostLineShape& shape, const std::string& text) {
   const std::vector<std::string_view> parts = split(text, ':');
-  PostCommand command(PostCommandKind::Scan);
+  PostCommand command(shape.kind);
   double value = 0.0;
   int steps = 0;
   const bool is_scan = parts.size() == 3 && read_atoms(parts[0], command.atom_indices) &&
                        2 <= command.atom_indices.size() && command.atom_indices.size() <= 4 &&
                        core::text::try_parse_double(parts[1], value) &&
                        core::text::try_parse_int(parts[2], steps);
-  if (!is_scan) throw_expected("--scan", scan_example, text);
+  if (!is_scan) throw_expected(shape.option, scan_example, text);
   command.scan_value = value;
   command.scan_steps = steps;
   return command;
@@ -84,13 +83,20 @@ std::int32_t parse_integer(const std::string& option, std::string_view text) {
 }
 
 PostCommand parse_post_argument(const std::string& option, const std::string& text) {
-  for (const Constraint& constraint : constraints) {
-    if (constraint.option == option) return parse_constraint(constraint, text);
+  const PostLineShape& shape = find_shape(option);
+  PostCommand command(shape.kind);
+  switch (shape.kind) {
+    case PostCommandKind::Scan:
+      return parse_scan(shape, text);
+    case PostCommandKind::PostFile:
+      command.post_file = text;
+      return command;
+    case PostCommandKind::Raw:
+      command.raw_text = text;
+      return command;
+    default:
+      return parse_constraint(shape, text);
   }
-  if (option == "--scan") return parse_scan(text);
-  PostCommand command(option == "--post" ? PostCommandKind::PostFile : PostCommandKind::Raw);
-  (option == "--post" ? command.post_file : command.raw_text) = text;
-  return command;
 }
 
 }  // namespace kelp::input::quill::tool

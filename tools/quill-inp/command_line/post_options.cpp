@@ -1,7 +1,6 @@
 #include "quill-inp/command_line/post_options.hpp"
 
-#include <string>
-
+#include "model/post_line_shapes.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/post_argument.hpp"
 
@@ -9,34 +8,23 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-struct PostOption {
-  const char* name;
-  const char* placeholder;
-  const char* help;
-};
-
-constexpr PostOption post_options[] = {
-    {"--bond", "I,J", "Hold the distance of two atoms"},
-    {"--angle", "I,J,K", "Hold the angle of three atoms"},
-    {"--dihedral", "I,J,K,L", "Hold the dihedral of four atoms"},
-    {"--atom", "I", "Hold the place of an atom"},
-    {"--scan", "I,J[,K[,L]]:VALUE:STEPS", "Scan a distance, angle or dihedral"},
-    {"--post", "PATH", "Name a post-processing file"},
-    {"--raw", "TEXT", "Add a line of text as it is"},
-};
+std::vector<Option> post_options() {
+  std::vector<Option> options;
+  for (const PostLineShape& shape : post_line_shapes)
+    options.push_back({shape.option, shape.placeholder, shape.help});
+  options.push_back({raw_line_shape.option, raw_line_shape.placeholder, raw_line_shape.help});
+  return options;
+}
 
 }  // namespace
 
 void add_post_options(CLI::App& verb) {
-  for (const PostOption& option : post_options)
-    add_repeated(verb, option.name, option.placeholder, option.help);
+  for (const Option& option : post_options()) add_repeated(verb, option);
 }
 
 std::vector<PostCommand> read_post_commands(const CLI::App& verb) {
-  std::vector<std::string> names;
-  for (const PostOption& option : post_options) names.emplace_back(option.name);
   std::vector<PostCommand> commands;
-  for (const OptionUse& use : uses_in_order(verb, names))
+  for (const OptionUse& use : uses_in_order(verb, post_options()))
     commands.push_back(parse_post_argument(use.name, use.value));
   return commands;
 }

@@ -15,7 +15,7 @@ namespace kelp::input::quill::tool {
 /// --scan, --post and --raw.
 void add_post_options(CLI::App& verb);
 
-/// Returns the lines that they ask for, in the order in which they stand on the command line.
+/// Returns the lines that they ask for, in the order of the command line.
 /// Throws UsageError for bad values.
 std::vector<PostCommand> read_post_commands(const CLI::App& verb);
 

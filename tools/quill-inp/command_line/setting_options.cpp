@@ -11,8 +11,8 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-constexpr const char* words = "KEY=VALUE";
-constexpr const char* flag = "--flag";
+constexpr Option settings_argument{"KEY=VALUE", "", "What to set, all or nothing"};
+constexpr Option flag{"--flag", "KEY", "Set a command or parameter that has no value"};
 
 std::string explain_bare_word(const std::string& word) {
   std::string text =
@@ -24,7 +24,7 @@ std::string explain_bare_word(const std::string& word) {
 }
 
 Setting read_setting(const OptionUse& use) {
-  const bool is_flag = use.name == flag;
+  const bool is_flag = use.name == name_of(flag);
   if (is_flag && has_value(use.value))
     throw UsageError("--flag takes a KEY without a value, not '" + use.value + "'");
   if (!is_flag && !has_value(use.value)) throw UsageError(explain_bare_word(use.value));
@@ -34,13 +34,13 @@ Setting read_setting(const OptionUse& use) {
 }  // namespace
 
 void add_setting_options(CLI::App& verb) {
-  add_optional_arguments(verb, words, "What to set, all or nothing");
-  add_repeated(verb, flag, "KEY", "Set a command or parameter that has no value");
+  add_optional_arguments(verb, settings_argument);
+  add_repeated(verb, flag);
 }
 
 std::vector<Setting> read_settings(const CLI::App& verb) {
   std::vector<Setting> settings;
-  for (const OptionUse& use : uses_in_order(verb, {words, flag}))
+  for (const OptionUse& use : uses_in_order(verb, {settings_argument, flag}))
     settings.push_back(read_setting(use));
   return settings;
 }

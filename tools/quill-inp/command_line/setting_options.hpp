@@ -11,10 +11,10 @@ class App;
 
 namespace kelp::input::quill::tool {
 
-/// Adds the arguments KEY=VALUE and the option --flag to a verb, behind the file that it is for.
+/// Adds the arguments KEY=VALUE and the option --flag to a verb, after the file that it is for.
 void add_setting_options(CLI::App& verb);
 
-/// Returns the settings that they ask for, in the order in which they stand on the command line.
+/// Returns the settings that they ask for, in the order of the command line.
 /// Throws UsageError for bad ones, and for a word without "=": a second file name or a forgotten
 /// "=" would be written into the input.
 std::vector<Setting> read_settings(const CLI::App& verb);

@@ -2,10 +2,10 @@
 #define KELP_INPUT_QUILL_TOOL_EDITING_CHANGE_REPORT_HPP
 
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "edit_support/surgical_edit.hpp"
+#include "lossless_edit/surgical_edit.hpp"
+#include "quill-inp/session/input_source.hpp"
 #include "quill-inp/session/reporter.hpp"
 
 namespace kelp::input::quill::tool {
@@ -16,11 +16,11 @@ struct ChangeNote {
   std::string message = {};
 };
 
-/// Describes every line that an edit of the file `name` changes, adds or removes: one by one with
-/// its text, and several of the same kind in a row as one range. Removed lines go by their old
-/// numbers, others by their new ones.
-std::vector<ChangeNote> describe_changes(const std::string& name, std::string_view old_text,
-                                         const edit_support::SurgicalEdit& edit);
+/// Describes every line that an edit of an input changes, adds or removes: one by one with its
+/// text, and several of the same kind in a row as one range. Removed lines go by their old numbers,
+/// others by their new ones.
+std::vector<ChangeNote> describe_changes(const ReadInput& input,
+                                         const lossless_edit::SurgicalEdit& edit);
 
 }  // namespace kelp::input::quill::tool
 

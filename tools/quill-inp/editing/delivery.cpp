@@ -10,6 +10,14 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
+constexpr Option in_place{"-i,--in-place", "", "Write the file instead of standard output"};
+constexpr Option check_option{"--check", "",
+                              "Only name the files that would change; exit code 1 if any"};
+constexpr Option diff{"--diff", "", "Only print what would change; exit code 1 if anything"};
+constexpr Option backup{"--backup", "SUFFIX", "With -i, keep the old text beside the file (.bak)"};
+constexpr Option break_hard_links{"--break-hard-links", "",
+                                  "With -i, write a file that has other names, too"};
+
 constexpr const char* default_suffix = ".bak";
 
 std::string require_suffix(const std::string& suffix) {
@@ -19,36 +27,34 @@ std::string require_suffix(const std::string& suffix) {
   return suffix;
 }
 
-ExitCode tell_difference(Session& session, const InputSource& source, std::string_view new_text,
+ExitCode tell_difference(Session& session, const ReadInput& input, std::string_view new_text,
                          const Delivery& delivery) {
-  if (source.content == new_text) return ExitCode::Done;
-  if (delivery.as_check) session.output().write(source.name + "\n");
+  if (input.read.text == new_text) return ExitCode::Done;
+  if (delivery.as_check) session.output().write(input.name + "\n");
   if (delivery.as_diff)
-    session.output().write_diff(unified_diff(source.name, source.content, new_text),
+    session.output().write_diff(unified_diff(input.name, input.read.text, new_text),
                                 session.options().color);
   return ExitCode::No;
 }
 
 }  // namespace
 
-void add_delivery_options(CLI::App& verb, bool has_check) {
-  add_flag(verb, "-i,--in-place", "Write the file instead of standard output");
-  if (has_check)
-    add_flag(verb, "--check", "Only name the files that would change; exit code 1 if any");
-  add_flag(verb, "--diff", "Only print what would change; exit code 1 if anything");
-  add_attached_value(verb, "--backup", "SUFFIX",
-                     "With -i, keep the old text beside the file (.bak)");
-  add_flag(verb, "--break-hard-links", "With -i, write a file that has other names, too");
+void add_delivery_options(CLI::App& verb, CheckOption check) {
+  add_flag(verb, in_place);
+  if (check == CheckOption::Present) add_flag(verb, check_option);
+  add_flag(verb, diff);
+  add_attached_value(verb, backup);
+  add_flag(verb, break_hard_links);
 }
 
-Delivery read_delivery(const CLI::App& verb) {
+Delivery read_delivery(const CLI::App& verb, CheckOption check) {
   Delivery delivery;
-  delivery.in_place = is_given(verb, "--in-place");
-  delivery.as_diff = is_given(verb, "--diff");
-  delivery.as_check = is_given(verb, "--check");
-  if (const auto suffix = attached_value_of(verb, "--backup", default_suffix))
+  delivery.in_place = is_given(verb, in_place);
+  delivery.as_diff = is_given(verb, diff);
+  delivery.as_check = check == CheckOption::Present && is_given(verb, check_option);
+  if (const auto suffix = attached_value_of(verb, backup, default_suffix))
     delivery.replace.backup_suffix = require_suffix(*suffix);
-  delivery.replace.breaks_hard_links = is_given(verb, "--break-hard-links");
+  delivery.replace.breaks_hard_links = is_given(verb, break_hard_links);
 
   if (delivery.in_place && (delivery.as_diff || delivery.as_check))
     throw UsageError("--check and --diff never write, so they exclude --in-place");
@@ -59,16 +65,18 @@ Delivery read_delivery(const CLI::App& verb) {
   return delivery;
 }
 
-ExitCode deliver(Session& session, const InputSource& source, std::string_view new_text,
+ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_text,
                  const Delivery& delivery) {
   if (delivery.as_check || delivery.as_diff)
-    return tell_difference(session, source, new_text, delivery);
+    return tell_difference(session, input, new_text, delivery);
   if (!delivery.in_place) {
     session.output().write(new_text);
     return ExitCode::Done;
   }
-  for (const std::string& note : replace_content(source, new_text, delivery.replace))
-    session.reporter().note({source.name}, note);
+  if (!input.origin) throw Trouble("standard input cannot be changed in place");
+  for (const std::string& note :
+       replace_content(*input.origin, input.read.text, new_text, delivery.replace))
+    session.reporter().note({input.name}, note);
   return ExitCode::Done;
 }
 

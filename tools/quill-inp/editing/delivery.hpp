@@ -22,15 +22,18 @@ struct Delivery {
   ReplaceOptions replace = {};
 };
 
+/// Whether a verb has --check.
+enum class CheckOption { Absent, Present };
+
 /// Adds --in-place, --diff, --backup and --break-hard-links to a verb, and --check if it has that.
-void add_delivery_options(CLI::App& verb, bool has_check);
+void add_delivery_options(CLI::App& verb, CheckOption check = CheckOption::Absent);
 
 /// Reads them. Throws UsageError for some that do not go together.
-Delivery read_delivery(const CLI::App& verb);
+Delivery read_delivery(const CLI::App& verb, CheckOption check = CheckOption::Absent);
 
 /// Delivers the new text of a file: prints it, writes it in place of the old one, or tells whether
 /// and how it differs, which is an answer of "no". Throws Trouble when that fails.
-ExitCode deliver(Session& session, const InputSource& source, std::string_view new_text,
+ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_text,
                  const Delivery& delivery);
 
 }  // namespace kelp::input::quill::tool

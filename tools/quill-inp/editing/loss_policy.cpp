@@ -1,15 +1,22 @@
 #include "quill-inp/editing/loss_policy.hpp"
 
 #include <cstddef>
+#include <vector>
 
 #include "kelp/core/text.hpp"
+#include "lossless_edit/wording.hpp"
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/editing/wording.hpp"
 #include "quill-inp/process/trouble.hpp"
-#include "quill-inp/summary/number_words.hpp"
 
 namespace kelp::input::quill::tool {
 
 namespace {
+
+constexpr Option allow_loss{"--allow-loss", "",
+                            "Write the text even if something gets lost, and say what"};
+constexpr Option max_change{"--max-change", "NUMBER",
+                            "Accept numbers rounded by up to this (1e-6)"};
 
 // A text in which nearly everything differs needs no line for every number.
 constexpr std::size_t most_losses_told = 20;
@@ -21,11 +28,16 @@ double parse_max_change(const std::string& text) {
   return change;
 }
 
-void report_accepted(Reporter& reporter, const std::string& name, const std::vector<Loss>& losses) {
-  for (std::size_t i = 0; i < losses.size() && i < most_losses_told; ++i)
-    reporter.warning({name, losses[i].line}, "lost: " + losses[i].words);
-  if (losses.size() > most_losses_told) {
-    reporter.warning({name}, "lost: " + std::to_string(losses.size() - most_losses_told) +
+Place place_of(const std::string& name, const LossWords& loss, LossLines lines) {
+  return {name, lines == LossLines::Shown ? loss.line : std::nullopt};
+}
+
+void report_accepted(Reporter& reporter, const std::string& name, const Losses& losses,
+                     LossLines lines) {
+  for (const LossWords& loss : words(losses, most_losses_told))
+    reporter.warning(place_of(name, loss, lines), "lost: " + loss.text);
+  if (losses.count() > most_losses_told) {
+    reporter.warning({name}, "lost: " + std::to_string(losses.count() - most_losses_told) +
                                  " more differences of this kind");
   }
 }
@@ -33,48 +45,37 @@ void report_accepted(Reporter& reporter, const std::string& name, const std::vec
 }  // namespace
 
 void add_loss_options(CLI::App& verb) {
-  add_flag(verb, "--allow-loss", "Go on when something gets lost, and say what");
-  add_value(verb, "--max-change", "NUMBER", "Accept numbers rounded by up to this (1e-6)");
+  add_flag(verb, allow_loss);
+  add_value(verb, max_change);
 }
 
 LossPolicy read_loss_policy(const CLI::App& verb) {
   LossPolicy policy;
-  policy.allows_loss = is_given(verb, "--allow-loss");
-  if (const auto change = value_of(verb, "--max-change"))
-    policy.max_change = parse_max_change(*change);
+  policy.allows_loss = is_given(verb, allow_loss);
+  if (const auto change = value_of(verb, max_change)) policy.max_change = parse_max_change(*change);
   return policy;
 }
 
-std::vector<Loss> list_losses(std::vector<Loss> also, const edit_support::Proof& proof) {
-  if (proof.holds()) return also;
-  also.emplace_back(proof.explanation, proof.line);
-  for (const edit_support::DocumentDifference& difference : proof.comparison.differences) {
-    if (proof.explanation.find(difference.words) == std::string::npos)
-      also.emplace_back(difference.words);
-  }
-  return also;
-}
-
-bool accept_losses(Session& session, const std::string& name, const std::vector<Loss>& losses,
-                   const LossPolicy& policy) {
-  if (losses.empty()) return true;
+bool accept_losses(Session& session, const std::string& name, const Losses& losses,
+                   const LossPolicy& policy, LossLines lines) {
+  if (losses.count() == 0) return true;
   if (policy.allows_loss) {
-    report_accepted(session.reporter(), name, losses);
+    report_accepted(session.reporter(), name, losses, lines);
     return true;
   }
-  const Loss& first = losses.front();
-  session.reporter().error({name, first.line},
-                           "refused: " + first.words + " (--allow-loss goes on)");
+  const LossWords first = words(losses, 1).front();
+  session.reporter().error(place_of(name, first, lines),
+                           "refused: " + first.text + "; use --allow-loss to write it anyway");
   return false;
 }
 
 void note_number_changes(Session& session, const std::string& name,
-                         const edit_support::NumberChanges& changes) {
+                         const lossless_edit::NumberChanges& changes) {
   if (changes.count == 0) return;
   const bool is_one = changes.count == 1;
   session.reporter().note({name}, std::to_string(changes.count) +
                                       (is_one ? " number changes" : " numbers change") +
-                                      ", by up to " + rounded_text(changes.largest));
+                                      ", by up to " + lossless_edit::rounded_text(changes.largest));
 }
 
 }  // namespace kelp::input::quill::tool

@@ -4,6 +4,7 @@
 
 #include <cerrno>
 
+#include "quill-inp/process/file_descriptor.hpp"
 #include "quill-inp/process/trouble.hpp"
 
 #if defined(__linux__)
@@ -15,13 +16,7 @@ namespace kelp::input::quill::tool {
 namespace {
 
 constexpr mode_t permission_bits = 07777;
-
-struct stat state_of(int file) {
-  struct stat state {};
-  if (fstat(file, &state) != 0)
-    throw_system_trouble("the temporary file cannot be examined", errno);
-  return state;
-}
+constexpr const char* temporary_file_failure = "the temporary file cannot be examined";
 
 /// Whether the new file has the same owner, group and access list as the old one.
 struct Kept {
@@ -31,12 +26,12 @@ struct Kept {
 };
 
 void copy_owner_and_group(const struct stat& wanted, int to, Kept& kept) {
-  struct stat state = state_of(to);
+  struct stat state = state_of(to, temporary_file_failure);
   if (state.st_uid != wanted.st_uid || state.st_gid != wanted.st_gid) {
     // Only the superuser gives files away, but any user may use the groups he is in.
     if (fchown(to, wanted.st_uid, wanted.st_gid) != 0)
       static_cast<void>(fchown(to, static_cast<uid_t>(-1), wanted.st_gid) == 0);
-    state = state_of(to);
+    state = state_of(to, temporary_file_failure);
   }
   kept.owner = state.st_uid == wanted.st_uid;
   kept.group = state.st_gid == wanted.st_gid;

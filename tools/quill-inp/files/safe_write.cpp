@@ -29,12 +29,6 @@ struct Target {
   throw Trouble("was changed by somebody else after it was read; nothing was written");
 }
 
-struct stat state_of(int file) {
-  struct stat state {};
-  if (fstat(file, &state) != 0) throw_system_trouble("cannot be examined", errno);
-  return state;
-}
-
 void require_unchanged(const Target& target) {
   struct stat state {};
   if (fstatat(target.folder.number(), target.origin.name.c_str(), &state, AT_SYMLINK_NOFOLLOW) != 0)
@@ -141,15 +135,14 @@ void flush_folder(const Target& target) {
 
 }  // namespace
 
-std::vector<std::string> replace_content(const InputSource& source, std::string_view new_text,
-                                         const ReplaceOptions& options) {
-  if (!source.origin) throw Trouble("standard input cannot be changed in place");
-  if (source.content == new_text) return {};
-  const Target target = open_target(*source.origin);
+std::vector<std::string> replace_content(const FileOrigin& origin, std::string_view old_text,
+                                         std::string_view new_text, const ReplaceOptions& options) {
+  if (old_text == new_text) return {};
+  const Target target = open_target(origin);
   require_one_name(target, options);
   require_writable(target);
   std::optional<Backup> backup;
-  if (options.backup_suffix) backup.emplace(target, source.content, *options.backup_suffix);
+  if (options.backup_suffix) backup.emplace(target, old_text, *options.backup_suffix);
   TemporaryFile temporary(target.folder.number());
   std::vector<std::string> losses = fill(temporary, target, new_text);
   place(temporary, backup, target);

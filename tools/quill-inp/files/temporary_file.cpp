@@ -5,12 +5,12 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdint>
 #include <random>
 #include <utility>
 
 #include "quill-inp/process/held_signals.hpp"
 #include "quill-inp/process/trouble.hpp"
+#include "quill-inp/text/hexadecimal.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -18,13 +18,9 @@ namespace {
 
 /// The name does not grow with that of the target, which may be as long as names can be.
 std::string random_name() {
-  constexpr char digits[] = "0123456789abcdef";
   std::random_device random;
   std::string name = ".quill-inp.";
-  for (int i = 0; i < 4; ++i) {
-    for (std::uint32_t number = random(), j = 0; j < 4; ++j, number >>= 4U)
-      name += digits[number & 0xFU];
-  }
+  for (int i = 0; i < 4; ++i) append_hexadecimal(name, random(), 4);
   return name;
 }
 

@@ -78,10 +78,10 @@ bool read_truth(const JsonPlace& place) {
   return place.value.get<bool>();
 }
 
-template <typename Kind, std::size_t Count>
-Kind read_kind(const JsonPlace& place, const KindName<Kind> (&names)[Count]) {
+template <typename Names>
+auto read_kind(const JsonPlace& place, const Names& names) {
   std::vector<std::string> known;
-  for (const KindName<Kind>& row : names) {
+  for (const auto& row : names) {
     if (place.value.is_string() && place.value.get_ref<const std::string&>() == row.name)
       return row.kind;
     known.emplace_back(row.name);

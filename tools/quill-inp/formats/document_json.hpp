@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "kelp/input/quill/document.hpp"
+#include "quill-inp/formats/json_text.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -18,6 +19,10 @@ std::string document_to_json(const QuillInput& input);
 /// that is not JSON or not of the form: an unknown member is refused, since ignoring it could lose
 /// something.
 QuillInput document_from_json(std::string_view text);
+
+/// Return a command or a post-processing line in the form that it has in the JSON of a document.
+OrderedJson to_json(const HeaderCommand& command);
+OrderedJson to_json(const PostCommand& command);
 
 }  // namespace kelp::input::quill::tool
 

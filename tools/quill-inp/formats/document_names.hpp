@@ -1,18 +1,20 @@
 #ifndef KELP_INPUT_QUILL_TOOL_FORMATS_DOCUMENT_NAMES_HPP
 #define KELP_INPUT_QUILL_TOOL_FORMATS_DOCUMENT_NAMES_HPP
 
+#include <array>
 #include <cstddef>
 #include <string_view>
 
 #include "kelp/input/quill/document.hpp"
+#include "model/post_line_shapes.hpp"
 
 namespace kelp::input::quill::tool {
 
 /// The name of a kind in the JSON form of documents. Reading and writing share the rows.
 template <typename Kind>
 struct KindName {
-  Kind kind;
-  std::string_view name;
+  Kind kind = {};
+  std::string_view name = {};
 };
 
 inline constexpr KindName<HeaderCommandKind> command_kind_names[] = {
@@ -28,19 +30,21 @@ inline constexpr KindName<GeometryKind> geometry_kind_names[] = {
     {GeometryKind::XyzTrajectory, "xyz_trajectory"},
 };
 
-inline constexpr KindName<PostCommandKind> post_kind_names[] = {
-    {PostCommandKind::AtomConstraint, "atom_constraint"},
-    {PostCommandKind::BondConstraint, "bond_constraint"},
-    {PostCommandKind::AngleConstraint, "angle_constraint"},
-    {PostCommandKind::DihedralConstraint, "dihedral_constraint"},
-    {PostCommandKind::Scan, "scan"},
-    {PostCommandKind::PostFile, "post_file"},
-    {PostCommandKind::Raw, "raw"},
-};
+/// The rows of the kinds of post-processing lines are part of the table that has all about them.
+constexpr auto make_post_kind_names() {
+  std::array<KindName<PostCommandKind>, post_line_shapes.size() + 1> names = {};
+  std::size_t count = 0;
+  for (const PostLineShape& shape : post_line_shapes)
+    names[count++] = {shape.kind, shape.json_name};
+  names[count] = {raw_line_shape.kind, raw_line_shape.json_name};
+  return names;
+}
+
+inline constexpr auto post_kind_names = make_post_kind_names();
 
 /// Returns the name of a kind, or the empty text for a value outside the enumeration.
-template <typename Kind, std::size_t Count>
-constexpr std::string_view find_name(const KindName<Kind> (&names)[Count], Kind kind) {
+template <typename Names, typename Kind>
+constexpr std::string_view find_name(const Names& names, Kind kind) {
   for (const KindName<Kind>& row : names) {
     if (row.kind == kind) return row.name;
   }

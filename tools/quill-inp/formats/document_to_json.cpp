@@ -3,7 +3,6 @@
 #include <nlohmann/json.hpp>
 
 #include "quill-inp/formats/document_json.hpp"
-#include "quill-inp/formats/document_json_parts.hpp"
 #include "quill-inp/formats/document_names.hpp"
 
 namespace kelp::input::quill::tool {

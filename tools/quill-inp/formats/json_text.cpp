@@ -1,6 +1,6 @@
 #include "quill-inp/formats/json_text.hpp"
 
-#include <charconv>
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +11,7 @@
 #include <nlohmann/json.hpp>
 
 #include "quill-inp/process/trouble.hpp"
+#include "quill-inp/text/hexadecimal.hpp"
 #include "quill-inp/text/utf8.hpp"
 
 namespace kelp::input::quill::tool {
@@ -18,15 +19,10 @@ namespace kelp::input::quill::tool {
 namespace {
 
 constexpr const char* bytes_member = "bytes";
-constexpr std::string_view hexadecimal_digits = "0123456789abcdef";
 
 std::string to_hexadecimal(std::string_view bytes) {
   std::string text;
-  for (const char c : bytes) {
-    const unsigned byte = static_cast<unsigned char>(c);
-    text += hexadecimal_digits[byte >> 4U];
-    text += hexadecimal_digits[byte & 0xFU];
-  }
+  for (const char c : bytes) append_hexadecimal(text, static_cast<unsigned char>(c), 2);
   return text;
 }
 
@@ -122,20 +118,21 @@ std::string without_identifier(const std::string& message) {
   return end == std::string::npos ? message : message.substr(end + 2);
 }
 
-/// A message of the JSON library as trouble. The line of "parse error at line 3, column 1: ..." is
-/// taken out of the words.
-Trouble to_trouble(const std::string& message) {
-  constexpr std::string_view before = "parse error at line ";
-  constexpr std::string_view behind = ", ";
-  if (message.compare(0, before.size(), before) == 0) {
-    std::size_t line = 0;
-    const char* const end = message.data() + message.size();
-    const char* const after = std::from_chars(message.data() + before.size(), end, line).ptr;
-    const std::string_view rest(after, static_cast<std::size_t>(end - after));
-    if (line != 0 && rest.substr(0, behind.size()) == behind)
-      return Trouble("not JSON: parse error at " + std::string(rest.substr(behind.size())), line);
-  }
-  return Trouble("not JSON: " + message);
+/// Returns the number of the line in which the reader of `text` was after `bytes` of it.
+std::size_t line_after(std::string_view text, std::size_t bytes) {
+  const std::string_view read = text.substr(0, bytes);
+  return 1 + static_cast<std::size_t>(std::count(read.begin(), read.end(), '\n'));
+}
+
+/// The line is told beside the message, and so need not be in it.
+Trouble to_trouble(const Json::parse_error& error, std::string_view text) {
+  const std::string message = without_identifier(error.what());
+  const std::size_t line = line_after(text, error.byte);
+  const std::string place = "parse error at line " + std::to_string(line) + ", ";
+  const bool names_place = message.compare(0, place.size(), place) == 0;
+  return Trouble(
+      "not JSON: " + (names_place ? "parse error at " + message.substr(place.size()) : message),
+      line);
 }
 
 }  // namespace
@@ -190,8 +187,10 @@ std::string to_lines(const OrderedJson& value) {
 Json parse_json(std::string_view text) {
   try {
     return Json::parse(text, NameWatch());
+  } catch (const Json::parse_error& error) {
+    throw to_trouble(error, text);
   } catch (const Json::exception& error) {
-    throw to_trouble(without_identifier(error.what()));
+    throw Trouble("not JSON: " + without_identifier(error.what()));
   }
 }
 

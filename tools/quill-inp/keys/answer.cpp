@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <vector>
 
-#include "edit_support/value_spelling.hpp"
 #include "kelp/input/quill/writer.hpp"
+#include "lossless_edit/quoting.hpp"
+#include "lossless_edit/wording.hpp"
 #include "quill-inp/formats/document_names.hpp"
-#include "quill-inp/summary/number_words.hpp"
 #include "quill-inp/text/suggestion.hpp"
 
 namespace kelp::input::quill::tool {
@@ -23,7 +23,7 @@ std::string command_answer(const HeaderCommand& command) {
   if (command.kind == HeaderCommandKind::Assignment) return command.value.value_or("");
   if (command.kind == HeaderCommandKind::Flag) return no_value;
   const HeaderCommand nameless("", command.kind, std::nullopt,
-                               edit_support::spell(command).command.parameters);
+                               lossless_edit::quote(command).command.parameters);
   return to_string(nameless).substr(1);
 }
 
@@ -46,8 +46,9 @@ std::optional<std::string> atom_lines(const std::vector<AtomRecord>& atoms) {
   std::vector<std::string> lines;
   lines.reserve(atoms.size());
   for (const AtomRecord& atom : atoms) {
-    lines.push_back(atom.symbol + " " + shortest_text(atom.x) + " " + shortest_text(atom.y) + " " +
-                    shortest_text(atom.z));
+    lines.push_back(atom.symbol + " " + lossless_edit::shortest_text(atom.x) + " " +
+                    lossless_edit::shortest_text(atom.y) + " " +
+                    lossless_edit::shortest_text(atom.z));
   }
   return lines.empty() ? std::nullopt : std::optional(joined_lines(lines));
 }
@@ -82,23 +83,31 @@ std::uint64_t count_commands(const QuillInput& input, const std::string& name) {
   return count;
 }
 
-std::string missing_command(const QuillInput& input, const CommandKey& key) {
-  const std::uint64_t count = count_commands(input, key.command);
-  if (count == 0)
-    return "no command '" + key.command + "'" + suggestion(key.command, input.command_names());
-  return "there " + std::string(count == 1 ? "is" : "are") + " only " + std::to_string(count) +
-         " of the command '" + key.command + "', and [N] counts from 0";
-}
-
 std::vector<std::string> parameter_names(const HeaderCommand& command) {
   std::vector<std::string> names;
   for (const CommandParameter& parameter : command.parameters) names.push_back(parameter.name);
   return names;
 }
 
-std::string missing_parameter(const HeaderCommand& command, const std::string& parameter) {
-  return "the command has no parameter '" + parameter + "'" +
-         suggestion(parameter, parameter_names(command));
+std::string count_words(const MissingAnswer& missing) {
+  return "there " + std::string(missing.count == 1 ? "is" : "are") + " only " +
+         std::to_string(missing.count) + " of the command '" + missing.name +
+         "', and [N] counts from 0";
+}
+
+std::string reason_words(const MissingAnswer& missing) {
+  switch (missing.kind) {
+    case MissingAnswer::Kind::Section:
+      break;
+    case MissingAnswer::Kind::Command:
+      return ": no command '" + missing.name + "'" + did_you_mean(missing.similar);
+    case MissingAnswer::Kind::Number:
+      return ": " + count_words(missing);
+    case MissingAnswer::Kind::Parameter:
+      return ": the command has no parameter '" + missing.name + "'" +
+             did_you_mean(missing.similar);
+  }
+  return {};
 }
 
 }  // namespace
@@ -107,27 +116,33 @@ std::optional<std::string> answer(const QuillInput& input, const Key& key) {
   return std::visit([&](const auto& any_key) { return find_answer(input, any_key); }, key);
 }
 
-std::string explain_no_answer(const QuillInput& input, std::string_view key_text, const Key& key) {
-  std::string text = "no match for '" + std::string(key_text) + "'";
+MissingAnswer find_missing(const QuillInput& input, std::string_view key_text, const Key& key) {
+  MissingAnswer missing{std::string(key_text)};
   const auto* command_key = std::get_if<CommandKey>(&key);
-  if (command_key == nullptr) return text;
-  const HeaderCommand* command = find(input, *command_key);
-  return text + ": " +
-         (command == nullptr ? missing_command(input, *command_key)
-                             : missing_parameter(*command, *command_key->parameter));
+  if (command_key == nullptr) return missing;
+  if (const HeaderCommand* command = find(input, *command_key)) {
+    missing.kind = MissingAnswer::Kind::Parameter;
+    missing.name = command_key->parameter.value();
+    missing.similar = nearest_name(missing.name, parameter_names(*command));
+    return missing;
+  }
+  missing.name = command_key->command;
+  missing.count = count_commands(input, missing.name);
+  missing.kind = missing.count == 0 ? MissingAnswer::Kind::Command : MissingAnswer::Kind::Number;
+  if (missing.count == 0) missing.similar = nearest_name(missing.name, input.command_names());
+  return missing;
 }
 
-std::optional<std::string> explain_new_name(const QuillInput& input, std::string_view key_text,
-                                            const CommandKey& key) {
-  std::string like;
+std::string words(const MissingAnswer& missing) {
+  return "no match for '" + missing.key_text + "'" + reason_words(missing);
+}
+
+std::optional<std::string> find_similar_name(const QuillInput& input, const CommandKey& key) {
   const HeaderCommand* command = find(input, key);
-  if (command == nullptr) {
-    like = suggestion(key.command, input.command_names());
-  } else if (key.parameter && !find_parameter_index(*command, *key.parameter)) {
-    like = suggestion(*key.parameter, parameter_names(*command));
-  }
-  if (like.empty()) return std::nullopt;
-  return "'" + std::string(key_text) + "' is new" + like;
+  if (command == nullptr) return nearest_name(key.command, input.command_names());
+  if (key.parameter && !find_parameter_index(*command, *key.parameter))
+    return nearest_name(*key.parameter, parameter_names(*command));
+  return std::nullopt;
 }
 
 }  // namespace kelp::input::quill::tool

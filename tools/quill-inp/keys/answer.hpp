@@ -1,6 +1,7 @@
 #ifndef KELP_INPUT_QUILL_TOOL_KEYS_ANSWER_HPP
 #define KELP_INPUT_QUILL_TOOL_KEYS_ANSWER_HPP
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,13 +17,31 @@ namespace kelp::input::quill::tool {
 /// with every digit. Nothing when there is no such thing.
 std::optional<std::string> answer(const QuillInput& input, const Key& key);
 
-/// Returns why there is no answer: what is missing, and the nearest name that is there.
-std::string explain_no_answer(const QuillInput& input, std::string_view key_text, const Key& key);
+/// What a key asks for and is not there.
+struct MissingAnswer {
+  enum class Kind {
+    Section,    // there is no such section
+    Command,    // no command has the name
+    Number,     // there are commands of the name, but not so many
+    Parameter,  // the command has no such parameter
+  };
 
-/// Returns what to say of a key that names nothing yet and looks like one that does, or nothing for
-/// other keys.
-std::optional<std::string> explain_new_name(const QuillInput& input, std::string_view key_text,
-                                            const CommandKey& key);
+  std::string key_text = {};  // the key as it was typed
+  Kind kind = Kind::Section;
+  std::string name = {};                              // of the command or parameter
+  std::uint64_t count = 0;                            // of the commands of the name
+  std::optional<std::string> similar = std::nullopt;  // the nearest name that is there
+};
+
+/// Returns what is missing for an answer. There is no answer to the key.
+MissingAnswer find_missing(const QuillInput& input, std::string_view key_text, const Key& key);
+
+/// Returns the same in words for a person.
+std::string words(const MissingAnswer& missing);
+
+/// Returns the name that is there and like that of a key, for one that names nothing yet; nothing
+/// for other keys.
+std::optional<std::string> find_similar_name(const QuillInput& input, const CommandKey& key);
 
 }  // namespace kelp::input::quill::tool
 

@@ -40,6 +40,12 @@ int open_in(int folder, const std::string& name, int flags, unsigned mode) {
   }
 }
 
+struct stat state_of(int file, const char* failure) {
+  struct stat state {};
+  if (fstat(file, &state) != 0) throw_system_trouble(failure, errno);
+  return state;
+}
+
 std::string read_to_end(int file, std::uint64_t limit) {
   std::string content;
   while (content.size() <= limit) {

@@ -1,6 +1,8 @@
 #ifndef KELP_INPUT_QUILL_TOOL_PROCESS_FILE_DESCRIPTOR_HPP
 #define KELP_INPUT_QUILL_TOOL_PROCESS_FILE_DESCRIPTOR_HPP
 
+#include <sys/stat.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -33,8 +35,12 @@ class FileDescriptor {
 /// that are started meanwhile. Returns -1 and sets errno on failure, as openat() does.
 int open_in(int folder, const std::string& name, int flags, unsigned mode = 0);
 
+/// Returns the state of an open file. Throws Trouble, beginning with `failure`, when it cannot be
+/// had.
+struct stat state_of(int file, const char* failure = "cannot be examined");
+
 /// Reads to the end, up to `limit` bytes and one more, so that the caller sees when there are too
-/// many. Throws Trouble when reading fails. Reading begins where the file stands.
+/// many. Throws Trouble when reading fails. Reading begins at the position of the file.
 std::string read_to_end(int file, std::uint64_t limit);
 
 /// Writes everything, however many calls that takes. Throws Trouble when it cannot.

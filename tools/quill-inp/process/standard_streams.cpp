@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <iostream>
 
 namespace kelp::input::quill::tool {
 
@@ -17,12 +18,14 @@ void occupy(int descriptor, int flags) {
 
 }  // namespace
 
-void prepare_standard_streams() {
+StandardStreams take_standard_streams() {
   static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
   static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
   occupy(STDIN_FILENO, O_WRONLY);
   occupy(STDOUT_FILENO, O_RDONLY);
   occupy(STDERR_FILENO, O_WRONLY);
+  std::ios::sync_with_stdio(false);
+  return {std::cin, std::cout, std::cerr, STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO};
 }
 
 }  // namespace kelp::input::quill::tool

@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <iostream>
 
 namespace kelp::input::quill::tool {
 
@@ -38,15 +37,11 @@ std::vector<std::string> color_mode_names() {
   return names;
 }
 
-bool is_terminal(const std::ostream& stream) {
-  if (&stream == &std::cout) return isatty(STDOUT_FILENO) == 1;
-  if (&stream == &std::cerr) return isatty(STDERR_FILENO) == 1;
-  return false;
-}
+bool is_terminal(std::optional<int> file) { return file && isatty(*file) == 1; }
 
-bool wants_color(ColorMode mode, const std::ostream& stream) {
+bool wants_color(ColorMode mode, std::optional<int> file) {
   if (mode != ColorMode::Auto) return mode == ColorMode::Always;
-  return is_terminal(stream) && environment_variable("NO_COLOR").empty() &&
+  return is_terminal(file) && environment_variable("NO_COLOR").empty() &&
          environment_variable("TERM") != "dumb";
 }
 

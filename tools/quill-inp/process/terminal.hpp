@@ -2,7 +2,6 @@
 #define KELP_INPUT_QUILL_TOOL_PROCESS_TERMINAL_HPP
 
 #include <optional>
-#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,13 +21,12 @@ std::optional<ColorMode> find_color_mode(std::string_view name);
 /// Returns these names.
 std::vector<std::string> color_mode_names();
 
-/// Returns whether `stream` is the process's standard output or standard error and a terminal shows
-/// it. Any other stream is none.
-bool is_terminal(const std::ostream& stream);
+/// Returns whether an open file is a terminal; no file is not.
+bool is_terminal(std::optional<int> file);
 
-/// Returns whether to colour what goes to `stream`. NO_COLOR set to anything but the empty text,
-/// and a terminal that calls itself dumb, speak against it in the mode Auto.
-bool wants_color(ColorMode mode, const std::ostream& stream);
+/// Returns whether to colour what goes to an open file, or to none. In the mode Auto it is not
+/// coloured when NO_COLOR is set to anything but the empty text or the terminal calls itself dumb.
+bool wants_color(ColorMode mode, std::optional<int> file);
 
 }  // namespace kelp::input::quill::tool
 

@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
-#include <iostream>
 #include <memory>
 #include <utility>
 
@@ -70,12 +69,6 @@ void require_regular(const struct stat& state, std::uint64_t limit) {
   if (static_cast<std::uint64_t>(state.st_size) > limit) throw_too_large(limit);
 }
 
-struct stat state_of(int file) {
-  struct stat state {};
-  if (fstat(file, &state) != 0) throw_system_trouble("cannot be examined", errno);
-  return state;
-}
-
 void require_apart_from_output(Session& session, const struct stat& state) {
   if (session.output().goes_into(state)) {
     throw Trouble(
@@ -90,9 +83,9 @@ std::string read_at_most(int file, std::uint64_t limit) {
   return content;
 }
 
-void read_file(InputSource& source, Session& session) {
+void read_file(InputSource& source, Session& session, const std::string& path) {
   const std::uint64_t limit = session.options().max_size;
-  const std::string resolved = resolve_links(source.argument);
+  const std::string resolved = resolve_links(path);
   FileOrigin origin = split_path(resolved);
   // Not blocking, so that a pipe that nobody writes to can be refused instead of waited for. A link
   // that takes the place of the resolved file is not followed.
@@ -107,7 +100,7 @@ void read_file(InputSource& source, Session& session) {
   source.origin = std::move(origin);
 }
 
-/// Reads a stream that is not the process's standard input.
+/// Reads a stream that is not connected to a file.
 std::string read_stream(std::istream& in, std::uint64_t limit) {
   std::string content;
   char chunk[4096];
@@ -122,42 +115,38 @@ std::string read_stream(std::istream& in, std::uint64_t limit) {
 
 std::string read_standard_input(Session& session) {
   const std::uint64_t limit = session.options().max_size;
-  std::istream& in = session.take_standard_input();
-  if (&in != &std::cin) return read_stream(in, limit);
-  require_apart_from_output(session, state_of(STDIN_FILENO));
+  const Input in = session.take_standard_input();
+  if (!in.file) return read_stream(in.stream, limit);
+  require_apart_from_output(session, state_of(*in.file));
   // A stream takes a failed read for the end of the text; the descriptor tells them apart.
-  return read_at_most(STDIN_FILENO, limit);
-}
-
-bool is_same_time(const struct timespec& left, const struct timespec& right) {
-  return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
+  return read_at_most(*in.file, limit);
 }
 
 }  // namespace
 
-InputSource read_input(Session& session, const std::string& argument) {
+InputSource read_source(Session& session, const std::string& argument) {
   InputSource source;
-  source.argument = argument;
   source.name = session.shown_name(argument);
   if (argument == "-") {
     source.content = read_standard_input(session);
   } else {
-    read_file(source, session);
+    read_file(source, session, argument);
   }
   return source;
 }
 
-void require_apart_from_output(Session& session, const std::string& argument) {
-  struct stat state {};
-  const bool is_there =
-      argument == "-" ? fstat(STDIN_FILENO, &state) == 0 : stat(argument.c_str(), &state) == 0;
-  if (is_there) require_apart_from_output(session, state);
+ReadInput read_input(Session& session, const std::string& argument) {
+  InputSource source = read_source(session, argument);
+  return {std::move(source.name), lossless_edit::read_text(std::move(source.content)),
+          std::move(source.origin)};
 }
 
-bool is_same_state(const struct stat& left, const struct stat& right) {
-  return left.st_dev == right.st_dev && left.st_ino == right.st_ino &&
-         left.st_size == right.st_size && is_same_time(left.st_mtim, right.st_mtim) &&
-         is_same_time(left.st_ctim, right.st_ctim);
+void require_apart_from_output(Session& session, const std::string& argument) {
+  struct stat state {};
+  const std::optional<int> file = session.input_file();
+  const bool is_there =
+      argument == "-" ? file && fstat(*file, &state) == 0 : stat(argument.c_str(), &state) == 0;
+  if (is_there) require_apart_from_output(session, state);
 }
 
 }  // namespace kelp::input::quill::tool

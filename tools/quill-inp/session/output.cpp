@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <iostream>
 
 #include "quill-inp/process/file_descriptor.hpp"
 #include "quill-inp/process/trouble.hpp"
@@ -14,17 +13,17 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// Returns the error of closing standard output, or 0. On network file systems a full disk may be
+/// Returns the error of closing an open file, or 0. On network file systems a full disk may be
 /// reported only then, and closing a copy of the descriptor is enough for that.
-int try_closing_standard_output() {
-  const int copy = dup(STDOUT_FILENO);
+int try_closing(int file) {
+  const int copy = dup(file);
   return copy < 0 ? errno : FileDescriptor(copy).close();
 }
 
 }  // namespace
 
 void Output::write(std::string_view data) {
-  if (is_terminal(stream_)) {
+  if (is_terminal(file_)) {
     write_shown(shown_as_lines(data));
   } else {
     write_shown(data);
@@ -39,7 +38,7 @@ void Output::write_shown(std::string_view text) {
 }
 
 void Output::write_diff(std::string_view diff, ColorMode mode) {
-  if (wants_color(mode, stream_)) {
+  if (wants_color(mode, file_)) {
     write_shown(colored_diff(shown_as_lines(diff)));
   } else {
     write(diff);
@@ -48,7 +47,7 @@ void Output::write_diff(std::string_view diff, ColorMode mode) {
 
 bool Output::goes_into(const struct stat& file) const {
   struct stat state {};
-  return &stream_ == &std::cout && S_ISREG(file.st_mode) && fstat(STDOUT_FILENO, &state) == 0 &&
+  return file_ && S_ISREG(file.st_mode) && fstat(*file_, &state) == 0 &&
          state.st_dev == file.st_dev && state.st_ino == file.st_ino;
 }
 
@@ -57,7 +56,7 @@ std::optional<std::string> Output::find_failure() {
   errno = 0;
   stream_.flush();
   remember_failure();
-  if (stream_ && &stream_ == &std::cout) error_ = try_closing_standard_output();
+  if (stream_ && file_) error_ = try_closing(*file_);
   if (stream_ && error_ == 0) return std::nullopt;
   const std::string reason = error_ == 0 ? std::string() : ": " + system_message(error_);
   return "cannot write to standard output" + reason;

@@ -12,11 +12,12 @@
 
 namespace kelp::input::quill::tool {
 
-/// Where data goes: standard output, or a stream that stands for it. Whether what was written
+/// Where data goes: standard output, or a stream in its place. Whether what was written
 /// arrived is asked once, when all of it was written.
 class Output {
  public:
-  explicit Output(std::ostream& stream) : stream_(stream) {}
+  /// `file` is the descriptor that the stream is connected to, if it is connected to one.
+  Output(std::ostream& stream, std::optional<int> file) : stream_(stream), file_(file) {}
 
   /// Writes data byte for byte; to a terminal, which would obey some bytes, with those escaped.
   void write(std::string_view data);
@@ -28,8 +29,8 @@ class Output {
   /// Writes a difference, in colour where that is wanted.
   void write_diff(std::string_view diff, ColorMode mode);
 
-  /// Returns whether data goes into the regular file of this state. Whatever is no regular file may
-  /// be read and written at once: a terminal, /dev/null.
+  /// Returns whether data goes into the regular file of this state. Anything else, a terminal or
+  /// /dev/null, may be read and written at once.
   bool goes_into(const struct stat& file) const;
 
   /// Returns why not everything arrived that was written, or nothing when it did.
@@ -39,6 +40,7 @@ class Output {
   void remember_failure();
 
   std::ostream& stream_;
+  std::optional<int> file_;
   bool has_written_ = false;
   int error_ = 0;  // of the first write that failed
 };

@@ -1,8 +1,7 @@
 #include "quill-inp/session/reporter.hpp"
 
-#include <charconv>
-
 #include "quill-inp/text/terminal_text.hpp"
+#include "reader/diagnostics.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -36,24 +35,9 @@ void Reporter::write(const Place& place, std::string_view severity, std::string_
   stream_.flush();
 }
 
-ReaderWarning split_warning(std::string_view warning) {
-  constexpr std::string_view prefix = "Line ";
-  if (warning.substr(0, prefix.size()) == prefix) {
-    const char* const begin = warning.data() + prefix.size();
-    const char* const end = warning.data() + warning.size();
-    std::size_t line = 0;
-    const char* const after = std::from_chars(begin, end, line).ptr;
-    constexpr std::string_view separator = ": ";
-    const std::string_view rest(after, static_cast<std::size_t>(end - after));
-    if (after != begin && rest.substr(0, separator.size()) == separator)
-      return {line, std::string(rest.substr(separator.size()))};
-  }
-  return {std::nullopt, std::string(warning)};
-}
-
 void report_warnings(Reporter& reporter, const std::string& name, const ParseResult& result) {
   for (const std::string& text : result.warnings) {
-    const ReaderWarning warning = split_warning(text);
+    const DiagnosticParts warning = split_diagnostic(text);
     reporter.warning({name, warning.line}, warning.message);
   }
 }

@@ -37,15 +37,6 @@ class Reporter {
   bool is_colored_;
 };
 
-/// A warning of the reader taken apart: "Line 3: text" into its line and text, and one that is
-/// about the whole input into its text.
-struct ReaderWarning {
-  std::optional<std::size_t> line = std::nullopt;
-  std::string message = {};
-};
-
-ReaderWarning split_warning(std::string_view warning);
-
 /// Reports every warning of a result as one about the file `name`.
 void report_warnings(Reporter& reporter, const std::string& name, const ParseResult& result);
 

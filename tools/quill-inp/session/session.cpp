@@ -2,24 +2,26 @@
 
 #include <utility>
 
-#include "quill-inp/process/trouble.hpp"
-
 namespace kelp::input::quill::tool {
 
-Session::Session(std::istream& in, Output& out, std::ostream& err, CommonOptions options)
-    : in_(in),
+Session::Session(const StandardStreams& streams, Output& out, CommonOptions options)
+    : in_{streams.in, streams.in_file},
       out_(out),
       options_(std::move(options)),
-      reporter_(err, options_.is_quiet, wants_color(options_.color, err)) {}
+      reporter_(streams.err, options_.is_quiet, wants_color(options_.color, streams.err_file)) {}
 
 std::string Session::shown_name(const std::string& argument) const {
   return argument == "-" ? options_.stdin_filename : argument;
 }
 
-std::istream& Session::take_standard_input() {
+Input Session::take_standard_input() {
   if (has_taken_input_) throw Trouble("standard input was read already, and can be read only once");
   has_taken_input_ = true;
   return in_;
+}
+
+void Session::report(const std::string& argument, const Trouble& trouble) {
+  reporter_.error({shown_name(argument), trouble.line()}, trouble.what());
 }
 
 }  // namespace kelp::input::quill::tool

@@ -3,10 +3,12 @@
 
 #include <cstdint>
 #include <istream>
-#include <ostream>
+#include <optional>
 #include <string>
 
+#include "quill-inp/process/standard_streams.hpp"
 #include "quill-inp/process/terminal.hpp"
+#include "quill-inp/process/trouble.hpp"
 #include "quill-inp/session/output.hpp"
 #include "quill-inp/session/reporter.hpp"
 
@@ -20,10 +22,16 @@ struct CommonOptions {
   std::string stdin_filename = "<stdin>";
 };
 
+/// Standard input, and the descriptor that it is connected to, if it is connected to one.
+struct Input {
+  std::istream& stream;
+  std::optional<int> file;
+};
+
 /// One call of the program: its streams, and what it was told.
 class Session {
  public:
-  Session(std::istream& in, Output& out, std::ostream& err, CommonOptions options);
+  Session(const StandardStreams& streams, Output& out, CommonOptions options);
 
   const CommonOptions& options() const { return options_; }
   Output& output() { return out_; }
@@ -32,11 +40,17 @@ class Session {
   /// Returns the name to show for a file argument: "-" is standard input.
   std::string shown_name(const std::string& argument) const;
 
+  /// The descriptor of standard input, if it is connected to a file.
+  std::optional<int> input_file() const { return in_.file; }
+
   /// Hands out standard input. Throws Trouble the second time: there is nothing left to read.
-  std::istream& take_standard_input();
+  Input take_standard_input();
+
+  /// Reports the trouble with the file that `argument` names, and its line if it is about one.
+  void report(const std::string& argument, const Trouble& trouble);
 
  private:
-  std::istream& in_;
+  Input in_;
   Output& out_;
   CommonOptions options_;
   Reporter reporter_;

@@ -2,14 +2,11 @@
 
 #include <string_view>
 
+#include "model/task_names.hpp"
+
 namespace kelp::input::quill::tool {
 
 namespace {
-
-/// The library alone knows which names are tasks.
-bool is_task(const HeaderCommand& command) {
-  return QuillInput({HeaderCommand(command.name)}).has_task_command();
-}
 
 /// Returns the command whose value is that of the assignment `name`, or a null pointer.
 const HeaderCommand* find_assignment(const QuillInput& input, std::string_view name) {
@@ -28,7 +25,7 @@ CommandRoles sort_commands(const QuillInput& input) {
   if (model != nullptr) roles.model = model->value;
   if (device != nullptr) roles.device = device->value;
   for (const HeaderCommand& command : input.commands) {
-    if (is_task(command)) {
+    if (is_task_name(normalize_command_name(command.name))) {
       roles.tasks.push_back(&command);
     } else if (&command != model && &command != device) {
       roles.others.push_back(&command);

@@ -2,12 +2,12 @@
 
 #include <nlohmann/json.hpp>
 
-#include "quill-inp/formats/document_json_parts.hpp"
+#include "quill-inp/formats/document_json.hpp"
 #include "quill-inp/formats/document_names.hpp"
-#include "quill-inp/session/reporter.hpp"
 #include "quill-inp/summary/command_roles.hpp"
 #include "quill-inp/summary/composition.hpp"
 #include "quill-inp/summary/summary.hpp"
+#include "reader/diagnostics.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -85,7 +85,7 @@ void add_post_commands(OrderedJson& json, const std::vector<PostCommand>& comman
     json[list_name(command.kind)].push_back(post_entry(command));
 }
 
-OrderedJson warning_to_json(const ReaderWarning& warning) {
+OrderedJson warning_to_json(const DiagnosticParts& warning) {
   OrderedJson json = OrderedJson::object();
   json["line"] = warning.line ? OrderedJson(*warning.line) : OrderedJson();
   json["message"] = string_to_json(warning.message);
@@ -102,7 +102,7 @@ std::string summary_json(const std::string& name, const ParseResult& result) {
   add_post_commands(json, result.input.post_commands);
   json["warnings"] = OrderedJson::array();
   for (const std::string& warning : result.warnings)
-    json["warnings"].push_back(warning_to_json(split_warning(warning)));
+    json["warnings"].push_back(warning_to_json(split_diagnostic(warning)));
   return to_one_line(json) + "\n";
 }
 

@@ -1,15 +1,14 @@
 #include <cstddef>
 #include <string_view>
 
-#include "edit_support/line_account.hpp"
-#include "edit_support/value_spelling.hpp"
 #include "kelp/input/quill/writer.hpp"
-#include "quill-inp/session/reporter.hpp"
+#include "lossless_edit/quoting.hpp"
+#include "lossless_edit/wording.hpp"
 #include "quill-inp/summary/command_roles.hpp"
 #include "quill-inp/summary/composition.hpp"
-#include "quill-inp/summary/number_words.hpp"
 #include "quill-inp/summary/summary.hpp"
 #include "quill-inp/text/terminal_text.hpp"
+#include "reader/diagnostics.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -36,7 +35,7 @@ class Rows {
 
 /// Returns a command as it would stand in a file, with quotes where they are needed.
 std::string header_line(const HeaderCommand& command) {
-  return to_string(edit_support::spell(command).command);
+  return to_string(lossless_edit::quote(command).command);
 }
 
 void add_commands(Rows& rows, const QuillInput& input) {
@@ -75,32 +74,22 @@ void add_geometry(Rows& rows, const GeometryBlock& geometry) {
   for (const std::string& path : geometry.xyz_files) rows.add("file", path);
 }
 
-std::string join(const std::vector<std::int32_t>& numbers) {
-  std::string text;
-  for (const std::int32_t number : numbers)
-    text += (text.empty() ? "" : " ") + std::to_string(number);
-  return text;
+/// Returns what this number of atoms have between them.
+std::string_view coordinate_of(std::size_t atoms) {
+  constexpr std::string_view names[] = {"atom", "bond", "angle", "dihedral"};
+  return 1 <= atoms && atoms <= 4 ? names[atoms - 1] : std::string_view("atoms");
 }
 
-/// Returns what a scan of this number of atoms changes.
-std::string_view scanned(std::size_t atoms) {
-  constexpr std::string_view names[] = {"bond", "angle", "dihedral"};
-  return 2 <= atoms && atoms <= 4 ? names[atoms - 2] : std::string_view("atoms");
+std::string describe_atoms(const std::vector<std::int32_t>& numbers) {
+  return std::string(coordinate_of(numbers.size())) + " " + lossless_edit::joined(numbers);
 }
 
 std::string describe_scan(const PostCommand& scan) {
-  std::string text(scanned(scan.atom_indices.size()));
-  text += " " + join(scan.atom_indices);
-  if (scan.scan_value) text += ", value " + shortest_text(*scan.scan_value);
+  std::string text = describe_atoms(scan.atom_indices);
+  if (scan.scan_value) text += ", value " + lossless_edit::shortest_text(*scan.scan_value);
   if (scan.scan_steps)
     text += ", " + std::to_string(*scan.scan_steps) + (*scan.scan_steps == 1 ? " step" : " steps");
   return text;
-}
-
-/// "bond constraint" is told as a constraint on a "bond".
-std::string describe_constraint(const PostCommand& command) {
-  const std::string_view words = edit_support::describe(command.kind);
-  return std::string(words.substr(0, words.find(' '))) + " " + join(command.atom_indices);
 }
 
 void add_post_command(Rows& rows, const PostCommand& command) {
@@ -115,14 +104,14 @@ void add_post_command(Rows& rows, const PostCommand& command) {
       rows.add("raw line", command.raw_text);
       return;
     default:
-      rows.add("constraint", describe_constraint(command));
+      rows.add("constraint", describe_atoms(command.atom_indices));
   }
 }
 
-void add_warning(Rows& rows, const ReaderWarning& warning) {
+void add_warning(Rows& rows, const DiagnosticParts& warning) {
   const std::string place =
       warning.line ? "line " + std::to_string(*warning.line) + ": " : std::string();
-  rows.add("warning", place + warning.message);
+  rows.add("warning", place + std::string(warning.message));
 }
 
 }  // namespace
@@ -132,7 +121,7 @@ std::string summary_text(const std::string& name, const ParseResult& result) {
   add_commands(rows, result.input);
   add_geometry(rows, result.input.geometry);
   for (const PostCommand& command : result.input.post_commands) add_post_command(rows, command);
-  for (const std::string& warning : result.warnings) add_warning(rows, split_warning(warning));
+  for (const std::string& warning : result.warnings) add_warning(rows, split_diagnostic(warning));
   return shown_on_one_line(name) + "\n" + rows.text();
 }
 

@@ -57,9 +57,12 @@ std::optional<std::string> nearest_name(std::string_view word,
   return nearest;
 }
 
-std::string suggestion(std::string_view word, const std::vector<std::string>& names) {
-  const std::optional<std::string> name = nearest_name(word, names);
+std::string did_you_mean(const std::optional<std::string>& name) {
   return name ? "; did you mean '" + *name + "'?" : std::string();
+}
+
+std::string suggestion(std::string_view word, const std::vector<std::string>& names) {
+  return did_you_mean(nearest_name(word, names));
 }
 
 }  // namespace kelp::input::quill::tool

@@ -15,7 +15,10 @@ namespace kelp::input::quill::tool {
 std::optional<std::string> nearest_name(std::string_view word,
                                         const std::vector<std::string>& names);
 
-/// Returns "; did you mean 'name'?" for the nearest name, or the empty text when there is none.
+/// Returns "; did you mean 'name'?", or the empty text without a name.
+std::string did_you_mean(const std::optional<std::string>& name);
+
+/// Returns the same for the nearest name.
 std::string suggestion(std::string_view word, const std::vector<std::string>& names);
 
 }  // namespace kelp::input::quill::tool

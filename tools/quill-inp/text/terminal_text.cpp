@@ -5,6 +5,7 @@
 #include <iterator>
 #include <optional>
 
+#include "quill-inp/text/hexadecimal.hpp"
 #include "quill-inp/text/utf8.hpp"
 
 namespace kelp::input::quill::tool {
@@ -28,12 +29,6 @@ bool is_obeyed(char32_t code_point) {
     return range.first <= code_point && code_point <= range.last;
   };
   return std::any_of(std::begin(obeyed), std::end(obeyed), covers);
-}
-
-void append_hexadecimal(std::string& out, char32_t number, int digits) {
-  constexpr std::string_view digit = "0123456789abcdef";
-  for (int i = digits - 1; i >= 0; --i)
-    out += digit[(number >> (4U * static_cast<unsigned>(i))) & 0xFU];
 }
 
 void append_escape(std::string& out, char32_t code_point) {

@@ -1,8 +1,8 @@
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/post_options.hpp"
 #include "quill-inp/editing/edit_file.hpp"
 #include "quill-inp/process/trouble.hpp"
@@ -16,14 +16,16 @@ constexpr const char* example =
     "Example:\n"
     "  quill-inp add -i peroxide.qin --bond 2,3 --scan 1,2,3,4:180:12";
 
+constexpr Option file{"FILE", "", "The input"};
+
 ExitCode add(Session& session, const CLI::App& app, const std::string& argument) {
-  std::vector<PostCommand> commands = read_post_commands(app);
+  const std::vector<PostCommand> commands = read_post_commands(app);
   if (commands.empty()) throw UsageError("nothing to add");
-  EditPlan plan;
-  for (PostCommand& command : commands)
-    plan.edits.emplace_back(edit_support::AddPostCommand{std::move(command)});
-  const auto make_plan = [&](const QuillInput&) { return plan; };
-  return edit_file(session, argument, make_plan, read_delivery(app), read_loss_policy(app));
+  const auto edit = [&](lossless_edit::TrackedDocument& document) {
+    for (const PostCommand& command : commands) document.add_post_command(command);
+    return EditReport();
+  };
+  return edit_file(session, argument, edit, read_delivery(app), read_loss_policy(app));
 }
 
 }  // namespace
@@ -31,13 +33,13 @@ ExitCode add(Session& session, const CLI::App& app, const std::string& argument)
 Verb add_add(CLI::App& program) {
   CLI::App* app =
       add_verb(program, "add", "Add constraints, scans and other lines at the end", example);
-  add_argument(*app, "FILE", "The input");
+  add_argument(*app, file);
   add_post_options(*app);
-  add_delivery_options(*app, false);
+  add_delivery_options(*app);
   add_loss_options(*app);
   add_common_options(*app);
   return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, "FILE");
+            const std::string argument = *value_of(*app, file);
             return for_file(session, argument, [&] { return add(session, *app, argument); });
           }};
 }

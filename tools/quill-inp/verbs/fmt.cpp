@@ -3,13 +3,11 @@
 #include <utility>
 #include <vector>
 
-#include "edit_support/line_account.hpp"
-#include "edit_support/proof.hpp"
-#include "edit_support/value_spelling.hpp"
-#include "kelp/core/text.hpp"
+#include "lossless_edit/proof.hpp"
+#include "lossless_edit/quoting.hpp"
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/editing/delivery.hpp"
-#include "quill-inp/editing/header_text_loss.hpp"
 #include "quill-inp/editing/loss_policy.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/verbs/verb.hpp"
@@ -23,62 +21,48 @@ constexpr const char* example =
     "  quill-inp fmt --diff water.qin\n"
     "  quill-inp fmt -i *.qin";
 
-using edit_support::AccountedLine;
-using edit_support::LineRole;
-
-Loss loss_of(const AccountedLine& line, std::string_view text, const char* what) {
-  return Loss("line " + std::to_string(line.number) + what + ": '" +
-                  core::text::trim(line.content(text)) + "'",
-              line.number);
-}
+constexpr Option files{"FILE", "", "The inputs"};
 
 /// Returns what the lines of the text say and the document does not hold: the canonical text is
 /// made of the document alone.
-std::vector<Loss> list_left_out(std::string_view text, const ParseResult& result) {
-  std::vector<Loss> left_out;
-  for (const AccountedLine& line : edit_support::account_for_lines(text, result)) {
-    const bool has_no_path = line.role == LineRole::XyzReference && !line.index;
-    if (line.role == LineRole::Dropped || has_no_path)
-      left_out.push_back(loss_of(line, text, " would be left out"));
-    if (line.role == LineRole::Command &&
-        says_more_than(line.content(text), result.input.commands[*line.index]))
-      left_out.push_back(loss_of(line, text, " says more than its command, which would be lost"));
+std::vector<LineLoss> list_line_losses(const lossless_edit::ReadText& read) {
+  std::vector<LineLoss> losses;
+  for (std::size_t i = 0; i < read.lines.size(); ++i) {
+    if (const auto loss = find_line_loss(read, i)) losses.push_back(*loss);
   }
-  return left_out;
+  return losses;
 }
 
 ExitCode format(Session& session, const std::string& argument, const Delivery& delivery,
                 const LossPolicy& policy) {
-  const InputSource source = read_input(session, argument);
-  const ParseResult result = parse_string(source.content);
-  report_warnings(session.reporter(), source.name, result);
+  const ReadInput input = read_input(session, argument);
+  const QuillInput& document = input.read.result.input;
+  report_warnings(session.reporter(), input.name, input.read.result);
 
-  edit_support::SpelledDocument spelled = edit_support::spell(result.input);
-  const std::string text = spelled.document.to_string();
-  const edit_support::Proof proof = edit_support::prove(text, result.input, policy.max_change);
-  std::vector<Loss> losses = list_left_out(source.content, result);
-  for (const std::string& reason : spelled.reasons) losses.emplace_back(reason);
-  note_number_changes(session, source.name, proof.comparison.number_changes);
-  if (!accept_losses(session, source.name, list_losses(std::move(losses), proof), policy))
-    return ExitCode::Trouble;
-  return deliver(session, source, text, delivery);
+  lossless_edit::QuotedDocument quoted = lossless_edit::quote(document);
+  const std::string text = quoted.document.to_string();
+  const lossless_edit::Proof proof = lossless_edit::prove(text, document, policy.max_change);
+  note_number_changes(session, input.name, proof.comparison.number_changes);
+  const Losses losses{
+      {}, list_line_losses(input.read), std::move(quoted.problems), proof, document};
+  if (!accept_losses(session, input.name, losses, policy)) return ExitCode::Trouble;
+  return deliver(session, input, text, delivery);
 }
 
 }  // namespace
 
 Verb add_fmt(CLI::App& program) {
   CLI::App* app = add_verb(program, "fmt", "Lay inputs out in the canonical way", example);
-  add_arguments(*app, "FILE", "The inputs");
-  add_delivery_options(*app, true);
+  add_arguments(*app, files);
+  add_delivery_options(*app, CheckOption::Present);
   add_loss_options(*app);
   add_common_options(*app);
   return {app, [=](Session& session) {
-            const Delivery delivery = read_delivery(*app);
+            const Delivery delivery = read_delivery(*app, CheckOption::Present);
             const LossPolicy policy = read_loss_policy(*app);
-            return for_each_file(session, values_of(*app, "FILE"),
-                                 [&](const std::string& argument) {
-                                   return format(session, argument, delivery, policy);
-                                 });
+            return for_each_file(session, values_of(*app, files), [&](const std::string& argument) {
+              return format(session, argument, delivery, policy);
+            });
           }};
 }
 

@@ -1,6 +1,7 @@
 #include <string>
 
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/editing/print_document.hpp"
 #include "quill-inp/formats/document_json.hpp"
 #include "quill-inp/session/input_source.hpp"
@@ -8,17 +9,23 @@
 
 namespace kelp::input::quill::tool {
 
+namespace {
+
+constexpr Option file{"FILE", "", "The JSON text"};
+
+}  // namespace
+
 Verb add_from_json(CLI::App& program) {
   CLI::App* app = add_verb(program, "from-json", "Print an input that was JSON as a QUILL text",
                            "Example:\n  quill-inp json water.qin | quill-inp from-json -");
-  add_argument(*app, "FILE", "The JSON text");
+  add_argument(*app, file);
   add_loss_options(*app);
   add_common_options(*app);
   return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, "FILE");
+            const std::string argument = *value_of(*app, file);
             const LossPolicy policy = read_loss_policy(*app);
             return for_file(session, argument, [&] {
-              const InputSource source = read_input(session, argument);
+              const InputSource source = read_source(session, argument);
               return print_document(session, source.name, document_from_json(source.content),
                                     policy);
             });

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/keys/answer.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/verbs/verb.hpp"
@@ -19,23 +20,26 @@ constexpr const char* example =
     "or @charge, @multiplicity, @geometry, @files or @atoms. A backslash takes the meaning from\n"
     "a '.', '[' or ']' in a name. A command or parameter without a value prints 'flag'.";
 
+constexpr Option file{"FILE", "", "The input"};
+constexpr Option keys{"KEY", "", "What to print, one after another"};
+
 /// Prints the answers to all keys, or nothing when one has none: a script that reads the lines can
 /// rely on which of them is which.
 ExitCode get(Session& session, const std::string& argument, const std::vector<std::string>& texts) {
-  std::vector<Key> keys;
-  keys.reserve(texts.size());
-  for (const std::string& text : texts) keys.push_back(parse_key(text));
-  const InputSource source = read_input(session, argument);
-  const ParseResult result = parse_string(source.content);
-  report_warnings(session.reporter(), source.name, result);
+  std::vector<Key> parsed;
+  parsed.reserve(texts.size());
+  for (const std::string& text : texts) parsed.push_back(parse_key(text));
+  const ReadInput input = read_input(session, argument);
+  const QuillInput& document = input.read.result.input;
+  report_warnings(session.reporter(), input.name, input.read.result);
 
   std::string answers;
   ExitCode code = ExitCode::Done;
-  for (std::size_t i = 0; i < keys.size(); ++i) {
-    if (const std::optional<std::string> found = answer(result.input, keys[i])) {
+  for (std::size_t i = 0; i < parsed.size(); ++i) {
+    if (const std::optional<std::string> found = answer(document, parsed[i])) {
       answers += *found + "\n";
     } else {
-      session.reporter().note({source.name}, explain_no_answer(result.input, texts[i], keys[i]));
+      session.reporter().note({input.name}, words(find_missing(document, texts[i], parsed[i])));
       code = ExitCode::No;
     }
   }
@@ -47,13 +51,13 @@ ExitCode get(Session& session, const std::string& argument, const std::vector<st
 
 Verb add_get(CLI::App& program) {
   CLI::App* app = add_verb(program, "get", "Print what an input says under a key", example);
-  add_argument(*app, "FILE", "The input");
-  add_arguments(*app, "KEY", "What to print, one after another");
+  add_argument(*app, file);
+  add_arguments(*app, keys);
   add_common_options(*app);
   return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, "FILE");
+            const std::string argument = *value_of(*app, file);
             return for_file(session, argument,
-                            [&] { return get(session, argument, values_of(*app, "KEY")); });
+                            [&] { return get(session, argument, values_of(*app, keys)); });
           }};
 }
 

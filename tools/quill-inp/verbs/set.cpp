@@ -2,10 +2,11 @@
 #include <vector>
 
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/geometry_options.hpp"
 #include "quill-inp/command_line/setting_options.hpp"
+#include "quill-inp/editing/apply_settings.hpp"
 #include "quill-inp/editing/edit_file.hpp"
-#include "quill-inp/editing/setting_plan.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/verbs/verb.hpp"
 
@@ -18,35 +19,37 @@ constexpr const char* example =
     "  quill-inp set -i water.qin opt.maxiter=100 model=m1 @charge=-1\n"
     "\n"
     "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N].PARAMETER, @charge or @multiplicity, for\n"
-    "--flag COMMAND or COMMAND.PARAMETER. Settings are made in the order in which they stand;\n"
-    "behind --xyz they would be paths. Only the lines that must change do.";
+    "--flag COMMAND or COMMAND.PARAMETER. Settings are made in the order in which they are\n"
+    "given; after --xyz they would be paths. Only the lines that must change do.";
+
+constexpr Option file{"FILE", "", "The input"};
 
 ExitCode set(Session& session, const CLI::App& app, const std::string& argument) {
   const std::vector<Setting> settings = read_settings(app);
   const Delivery delivery = read_delivery(app);
   const LossPolicy policy = read_loss_policy(app);
-  const std::optional<edit_support::Edit> geometry = read_geometry(session, app);
-  if (settings.empty() && !geometry) throw UsageError("nothing to set");
-  const auto make_plan = [&](const QuillInput& input) {
-    EditPlan plan = plan_settings(settings, input);
-    if (geometry) plan.edits.push_back(*geometry);
-    return plan;
+  const GeometryChange change_geometry = read_geometry_change(session, app);
+  if (settings.empty() && !change_geometry) throw UsageError("nothing to set");
+  const auto edit = [&](lossless_edit::TrackedDocument& document) {
+    EditReport report = apply_settings(settings, document);
+    if (change_geometry) change_geometry(document);
+    return report;
   };
-  return edit_file(session, argument, make_plan, delivery, policy);
+  return edit_file(session, argument, edit, delivery, policy);
 }
 
 }  // namespace
 
 Verb add_set(CLI::App& program) {
   CLI::App* app = add_verb(program, "set", "Set values, parameters and the geometry", example);
-  add_argument(*app, "FILE", "The input");
+  add_argument(*app, file);
   add_setting_options(*app);
   add_geometry_options(*app);
-  add_delivery_options(*app, false);
+  add_delivery_options(*app);
   add_loss_options(*app);
   add_common_options(*app);
   return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, "FILE");
+            const std::string argument = *value_of(*app, file);
             return for_file(session, argument, [&] { return set(session, *app, argument); });
           }};
 }

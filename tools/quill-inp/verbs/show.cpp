@@ -3,8 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "edit_support/line_account.hpp"
+#include "lossless_edit/wording.hpp"
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/summary/summary.hpp"
@@ -20,6 +21,10 @@ constexpr const char* example =
     "  quill-inp show water.qin\n"
     "  quill-inp show --json *.qin";
 
+constexpr Option files{"FILE", "", "The inputs"};
+constexpr Option as_json{"--json", "", "Print the summaries as JSON, one line per file"};
+constexpr Option as_lines{"--lines", "", "Print what the reader made of every line"};
+
 std::string padded_left(const std::string& text, std::size_t width) {
   return std::string(width - std::min(width, text.size()), ' ') + text;
 }
@@ -29,26 +34,26 @@ std::string padded_right(const std::string& text, std::size_t width) {
 }
 
 /// Returns what the reader made of each line, and how long the longest of these texts is.
-std::vector<std::string> describe_all(const std::vector<edit_support::AccountedLine>& account,
-                                      const QuillInput& input, std::size_t& width) {
+std::vector<std::string> describe_all(const lossless_edit::ReadText& read, std::size_t& width) {
   std::vector<std::string> descriptions;
-  for (const edit_support::AccountedLine& line : account) {
-    descriptions.push_back(edit_support::describe(line, input));
+  descriptions.reserve(read.lines.size());
+  for (const LineRecord& line : read.lines) {
+    descriptions.push_back(lossless_edit::describe({line.role, line.index}, read.result.input));
     width = std::max(width, descriptions.back().size());
   }
   return descriptions;
 }
 
-/// Returns the account of every line: its number, what the reader made of it, and the line itself.
-std::string account_text(const InputSource& source, const ParseResult& result) {
-  const auto account = edit_support::account_for_lines(source.content, result);
-  const std::size_t number_width = std::to_string(account.size()).size();
+/// Returns every line: its number, what the reader made of it, and the line itself.
+std::string lines_text(const lossless_edit::ReadText& read) {
+  const std::size_t number_width = std::to_string(read.lines.size()).size();
   std::size_t width = 0;
-  const std::vector<std::string> descriptions = describe_all(account, result.input, width);
+  const std::vector<std::string> descriptions = describe_all(read, width);
   std::string text;
-  for (std::size_t i = 0; i < account.size(); ++i) {
-    const std::string content = shown_on_one_line(account[i].content(source.content));
-    text += padded_left(std::to_string(account[i].number), number_width) + "  ";
+  for (std::size_t i = 0; i < read.lines.size(); ++i) {
+    const std::string content =
+        shown_on_one_line(lossless_edit::content_of(read.lines[i], read.text));
+    text += padded_left(std::to_string(i + 1), number_width) + "  ";
     text +=
         content.empty() ? descriptions[i] : padded_right(descriptions[i], width) + "  " + content;
     text += '\n';
@@ -65,20 +70,19 @@ class Show {
   Show(Session& session, Form form) : session_(session), form_(form) {}
 
   ExitCode operator()(const std::string& argument) {
-    const InputSource source = read_input(session_, argument);
-    const ParseResult result = parse_string(source.content);
+    const ReadInput input = read_input(session_, argument);
+    const ParseResult& result = input.read.result;
     if (form_ == Form::Json) {
-      session_.output().write(summary_json(source.name, result));
+      session_.output().write(summary_json(input.name, result));
       return ExitCode::Done;
     }
     session_.output().write_shown(separator_);
     separator_ = "\n";
     if (form_ == Form::Text) {
-      session_.output().write_shown(summary_text(source.name, result));
+      session_.output().write_shown(summary_text(input.name, result));
     } else {
-      session_.output().write_shown(shown_on_one_line(source.name) + "\n" +
-                                    account_text(source, result));
-      report_warnings(session_.reporter(), source.name, result);
+      session_.output().write_shown(shown_on_one_line(input.name) + "\n" + lines_text(input.read));
+      report_warnings(session_.reporter(), input.name, result);
     }
     return ExitCode::Done;
   }
@@ -93,18 +97,18 @@ class Show {
 
 Verb add_show(CLI::App& program) {
   CLI::App* app = add_verb(program, "show", "Summarise inputs", example);
-  add_arguments(*app, "FILE", "The inputs");
-  add_flag(*app, "--json", "Print the summaries as JSON, one line per file");
-  add_flag(*app, "--lines", "Print what the reader made of every line");
+  add_arguments(*app, files);
+  add_flag(*app, as_json);
+  add_flag(*app, as_lines);
   add_common_options(*app);
   return {app, [=](Session& session) {
-            if (is_given(*app, "--json") && is_given(*app, "--lines"))
+            if (is_given(*app, as_json) && is_given(*app, as_lines))
               throw UsageError("--json and --lines exclude each other");
-            const Form form = is_given(*app, "--json")    ? Form::Json
-                              : is_given(*app, "--lines") ? Form::Lines
-                                                          : Form::Text;
+            const Form form = is_given(*app, as_json)    ? Form::Json
+                              : is_given(*app, as_lines) ? Form::Lines
+                                                         : Form::Text;
             Show show(session, form);
-            return for_each_file(session, values_of(*app, "FILE"), show);
+            return for_each_file(session, values_of(*app, files), show);
           }};
 }
 

@@ -7,9 +7,10 @@
 #include <utility>
 #include <vector>
 
-#include "edit_support/tracked_document.hpp"
 #include "kelp/core/text.hpp"
+#include "lossless_edit/tracked_document.hpp"
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/editing/edit_file.hpp"
 #include "quill-inp/keys/answer.hpp"
 #include "quill-inp/process/trouble.hpp"
@@ -27,6 +28,11 @@ constexpr const char* example =
     "COMMAND.PARAMETER a parameter of the first one, given twice also the second parameter of the\n"
     "name; @charge or @multiplicity the line that has both. When a key has no match, nothing is\n"
     "removed and the exit code is 1.";
+
+constexpr Option file{"FILE", "", "The input"};
+constexpr Option keys{"KEY", "", "What to remove, all or nothing"};
+
+using lossless_edit::TrackedDocument;
 
 /// A key in the form in which names are compared.
 struct Removal {
@@ -51,12 +57,12 @@ Removal to_removal(const CommandKey& key) {
   return removal;
 }
 
-edit_support::Edit to_edit(const Removal& removal) {
+void remove(const Removal& removal, TrackedDocument& document) {
   if (removal.parameter) {
-    return edit_support::RemoveParameter{removal.command, *removal.parameter,
-                                         removal.occurrence.value_or(0)};
+    document.remove_parameter(removal.command, *removal.parameter, removal.occurrence.value_or(0));
+  } else {
+    document.remove_command(removal.command, removal.occurrence);
   }
-  return edit_support::RemoveCommand{removal.command, removal.occurrence};
 }
 
 /// Numbers of commands mean those of the file as it is. So parameters go first, which moves no
@@ -77,7 +83,7 @@ struct Request {
   bool clears_charge_and_multiplicity = false;
 };
 
-bool stands_on_charge_line(SpecialKey key) {
+bool is_on_charge_line(SpecialKey key) {
   return key == SpecialKey::Charge || key == SpecialKey::Multiplicity;
 }
 
@@ -92,7 +98,7 @@ Request parse_request(const std::vector<std::string>& texts) {
       auto& all = request.removals;
       const auto is_same = [&](const Removal& other) { return asks_for_the_same(removal, other); };
       if (std::none_of(all.begin(), all.end(), is_same)) all.push_back(removal);
-    } else if (stands_on_charge_line(std::get<SpecialKey>(key))) {
+    } else if (is_on_charge_line(std::get<SpecialKey>(key))) {
       request.clears_charge_and_multiplicity = true;
     } else {
       throw UsageError("'" + text + "' cannot be unset; 'set' has --atoms, --xyz and --trajectory");
@@ -109,61 +115,68 @@ std::size_t index_of(const QuillInput& input, const Removal& removal) {
   return static_cast<std::size_t>(command - input.commands.data());
 }
 
-/// Notes the parameters that stay and have the name of one that goes: what was to have no effect
-/// any more may still have it.
-std::vector<PlanNote> note_remaining_parameters(const Request& request, const QuillInput& input,
-                                                const std::vector<edit_support::Edit>& edits) {
-  std::set<std::pair<std::size_t, std::string>> asked;
+/// A parameter that is asked for: the command by its index, and the name.
+using AskedParameters = std::set<std::pair<std::size_t, std::string>>;
+
+AskedParameters list_asked_parameters(const Request& request, const QuillInput& input) {
+  AskedParameters asked;
   for (const Removal& removal : request.removals) {
     if (removal.parameter) asked.emplace(index_of(input, removal), *removal.parameter);
   }
-  edit_support::TrackedDocument after(input);
-  for (const edit_support::Edit& edit : edits) after.apply(edit);
-  std::vector<PlanNote> notes;
-  for (std::size_t i = 0; i < after.origins().size(); ++i) {
-    const HeaderCommand& command = after.document().commands[i];
+  return asked;
+}
+
+/// Notes the parameters that are left and have the name of one that is gone: what was to have no
+/// effect any more may still have it.
+std::vector<EditNote> note_parameters_left(const AskedParameters& asked,
+                                           const TrackedDocument& document) {
+  std::vector<EditNote> notes;
+  const auto origins = document.origins();
+  for (std::size_t i = 0; i < origins.size(); ++i) {
+    const HeaderCommand& command = document.document().commands[i];
     for (const auto& [index, name] : asked) {
-      const auto remaining = find_parameter_index(command, name);
-      if (after.origins()[i] == index && remaining) {
+      const auto left = find_parameter_index(command, name);
+      if (origins[i] == index && left) {
         notes.push_back(
-            {"another parameter '" + command.parameters[*remaining].name + "' remains", index});
+            {EditNote::Kind::OtherParameterLeft, command.parameters[*left].name, {}, index});
       }
     }
   }
   return notes;
 }
 
-EditPlan make_plan(const Request& request, const QuillInput& input) {
-  EditPlan plan;
+EditReport unset(const Request& request, TrackedDocument& document) {
+  EditReport report;
   for (std::size_t i = 0; i < request.keys.size(); ++i) {
+    const QuillInput& input = document.document();
     if (!answer(input, request.keys[i]))
-      plan.missing.push_back(explain_no_answer(input, request.texts[i], request.keys[i]));
+      report.missing.push_back(find_missing(input, request.texts[i], request.keys[i]));
   }
-  for (const Removal& removal : request.removals) plan.edits.push_back(to_edit(removal));
-  if (request.clears_charge_and_multiplicity)
-    plan.edits.emplace_back(edit_support::ClearChargeAndMultiplicity{});
-  if (plan.missing.empty()) plan.notes = note_remaining_parameters(request, input, plan.edits);
-  return plan;
+  if (!report.missing.empty()) return report;
+  const AskedParameters asked = list_asked_parameters(request, document.document());
+  for (const Removal& removal : request.removals) remove(removal, document);
+  if (request.clears_charge_and_multiplicity) document.clear_charge_and_multiplicity();
+  report.notes = note_parameters_left(asked, document);
+  return report;
 }
 
 }  // namespace
 
 Verb add_unset(CLI::App& program) {
   CLI::App* app = add_verb(program, "unset", "Remove commands and parameters", example);
-  add_argument(*app, "FILE", "The input");
-  add_arguments(*app, "KEY", "What to remove, all or nothing");
-  add_delivery_options(*app, false);
+  add_argument(*app, file);
+  add_arguments(*app, keys);
+  add_delivery_options(*app);
   add_loss_options(*app);
   add_common_options(*app);
   return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, "FILE");
-            const Request request = parse_request(values_of(*app, "KEY"));
+            const std::string argument = *value_of(*app, file);
+            const Request request = parse_request(values_of(*app, keys));
             const Delivery delivery = read_delivery(*app);
             const LossPolicy policy = read_loss_policy(*app);
-            return for_file(session, argument, [&] {
-              const auto plan = [&](const QuillInput& input) { return make_plan(request, input); };
-              return edit_file(session, argument, plan, delivery, policy);
-            });
+            const auto edit = [&](TrackedDocument& document) { return unset(request, document); };
+            return for_file(session, argument,
+                            [&] { return edit_file(session, argument, edit, delivery, policy); });
           }};
 }
 

@@ -39,22 +39,13 @@ Verb add_from_json(CLI::App& program);
 CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string& description,
                    const std::string& example);
 
-/// Adds the options that every verb has, behind its own.
-void add_common_options(CLI::App& verb);
-
-/// Reads the options that every verb has, see CommonOptions. Throws UsageError for bad values.
-CommonOptions read_common_options(const CLI::App& verb);
-
-/// Reports the trouble with the file that `argument` names, and its line if it is about one.
-void report(Session& session, const std::string& argument, const Trouble& trouble);
-
 /// Carries `action` out for a file and returns its exit code. Whatever it throws is reported with
-/// the file's name, and is ExitCode::Trouble, but for a ReportedTrouble, which is that already, and
-/// for a UsageError, which concerns no file and passes.
+/// the file's name, and is ExitCode::Trouble. There are two exceptions: a ReportedTrouble was
+/// reported already, and a UsageError, which is not about a file, passes through.
 ExitCode for_file(Session& session, const std::string& argument,
                   const std::function<ExitCode()>& action);
 
-/// Carries `action` out for every file, whatever becomes of those before it. The worst code wins.
+/// Carries `action` out for every file, even if it fails for those before it. The worst code wins.
 /// When standard output goes into one of the files, that is reported and none is processed.
 ExitCode for_each_file(Session& session, const std::vector<std::string>& arguments,
                        const std::function<ExitCode(const std::string&)>& action);

@@ -31,7 +31,7 @@ const Call calls[] = {
      usage_error("unknown verb 'sho'; did you mean 'show'?")},
     {"OptionInFrontOfTheVerb",
      {"-q", "show", "water.qin"},
-     ended(2, "", "quill-inp: error: options stand behind the verb, unlike '-q'\n")},
+     ended(2, "", "quill-inp: error: options come after the verb, unlike '-q'\n")},
     {"UnknownLongOptionOfTheProgram",
      {"--versoin"},
      usage_error("unknown option '--versoin'; did you mean '--version'?")},

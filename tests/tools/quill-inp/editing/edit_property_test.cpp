@@ -115,7 +115,7 @@ int run_and_check(const EditCall& call, const std::string& path, const std::stri
   std::istringstream in;
   std::ostringstream out;
   std::ostringstream err;
-  const int code = run(arguments, in, out, err);
+  const int code = run(arguments, {in, out, err});
   EXPECT_EQ(out.str(), "");
   const std::string new_text = content_of(path);
   if (code != 0) {

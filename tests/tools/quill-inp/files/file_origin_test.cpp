@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "quill-inp/session/input_source.hpp"
+#include "quill-inp/files/file_origin.hpp"
 
 namespace kelp::input::quill::tool {
 namespace {

@@ -42,8 +42,8 @@ TEST(InPlace, FormatsSeveralFiles) {
   folder.write("c.qin", "# c\r\n0 1");
   EXPECT_EQ(run_in(folder.path(), {"fmt", "-q", "-i", "a.qin", "b.qin", "none", "c.qin"}),
             ended(2, "",
-                  "b.qin:2: error: refused: line 2 would be left out: 'B 1 x' (--allow-loss goes "
-                  "on)\nnone: error: cannot be opened: No such file or directory\n"));
+                  "b.qin:2: error: refused: line 2 would be left out: 'B 1 x'; use --allow-loss to "
+                  "write it anyway\nnone: error: cannot be opened: No such file or directory\n"));
   EXPECT_EQ(content_of(folder.path("a.qin")), "#a\n\n0 1\n");
   EXPECT_EQ(content_of(folder.path("b.qin")), "#b\nB 1 x\n");
   EXPECT_EQ(content_of(folder.path("c.qin")), "#c\n\n0 1\n");

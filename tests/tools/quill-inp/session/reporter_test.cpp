@@ -6,7 +6,6 @@
 #include <string>
 
 #include "quill-inp/process/exit_code.hpp"
-#include "quill-inp/summary/number_words.hpp"
 
 namespace kelp::input::quill::tool {
 namespace {
@@ -59,37 +58,11 @@ TEST(Reporter, GroupsNoDigits) {
   EXPECT_EQ(stream.str(), "a:1234567: error: bad\n");
 }
 
-TEST(ReaderWarning, IsSplitIntoLineAndMessage) {
-  const ReaderWarning numbered = split_warning("Line 12: empty QUILL header command");
-  EXPECT_EQ(numbered.line, 12U);
-  EXPECT_EQ(numbered.message, "empty QUILL header command");
-  const ReaderWarning whole = split_warning("No QUILL coordinate section found");
-  EXPECT_EQ(whole.line, std::nullopt);
-  EXPECT_EQ(whole.message, "No QUILL coordinate section found");
-}
-
-TEST(ReaderWarning, ThatOnlyLooksNumberedIsKeptWhole) {
-  for (const char* text :
-       {"Line 12", "Line : x", "Line x: y", "Line 12 x", "line 12: x", "Line", ""}) {
-    EXPECT_EQ(split_warning(text).line, std::nullopt) << text;
-    EXPECT_EQ(split_warning(text).message, text);
-  }
-}
-
 TEST(ExitCode, TheWorstWins) {
   EXPECT_EQ(worse_of(ExitCode::Done, ExitCode::No), ExitCode::No);
   EXPECT_EQ(worse_of(ExitCode::No, ExitCode::Done), ExitCode::No);
   EXPECT_EQ(worse_of(ExitCode::Trouble, ExitCode::No), ExitCode::Trouble);
   EXPECT_EQ(worse_of(ExitCode::Done, ExitCode::Done), ExitCode::Done);
-}
-
-TEST(NumberWords, AreShortestOrRounded) {
-  EXPECT_EQ(shortest_text(180.0), "180");
-  EXPECT_EQ(shortest_text(0.1), "0.1");
-  EXPECT_EQ(shortest_text(-0.0), "-0");
-  EXPECT_EQ(shortest_text(-2.2250738585072014e-308), "-2.2250738585072014e-308");
-  EXPECT_EQ(rounded_text(4.9999e-7), "5e-07");
-  EXPECT_EQ(rounded_text(0.123), "0.12");
 }
 
 }  // namespace

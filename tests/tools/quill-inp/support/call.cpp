@@ -30,7 +30,7 @@ Outcome refused_at(const std::string& name, int line, const std::string& message
   const std::string number = std::to_string(line);
   return ended(2, "",
                name + ":" + number + ": error: refused: line " + number + " " + message +
-                   " (--allow-loss goes on)\n");
+                   "; use --allow-loss to write it anyway\n");
 }
 
 void expect_outcome(const Call& call) {

@@ -9,7 +9,8 @@ namespace kelp::input::quill::tool {
 namespace {
 
 Outcome refused(const std::string& message) {
-  return ended(2, "", "water.qin: error: refused: " + message + " (--allow-loss goes on)\n");
+  return ended(2, "",
+               "water.qin: error: refused: " + message + "; use --allow-loss to write it anyway\n");
 }
 
 Outcome usage_error(const std::string& message) {
@@ -56,11 +57,11 @@ const Call calls[] = {
      {"add", "water.qin", "--angle", "1,2,3"},
      refused_at("water.qin", 9,
                 "would be read as an atom of element A, not as an angle constraint; another "
-                "post-processing line in front of it avoids that")},
+                "post-processing line before it avoids that")},
     {"RawTextThatWouldBeAConstraint",
      {"add", "water.qin", "--raw", "B 1 2"},
      refused_at("water.qin", 9,
-                "would be read otherwise: post-processing line 1 is a bond constraint instead "
+                "would be read differently: post-processing line 1 is a bond constraint instead "
                 "of raw text")},
     {"RawTextThatWouldBeDropped",
      {"add", "water.qin", "--raw", "B 1 x"},
@@ -68,28 +69,28 @@ const Call calls[] = {
     {"RawTextWithOuterBlanks",
      {"add", "water.qin", "--raw", " x "},
      refused_at("water.qin", 9,
-                "would be read otherwise: the text of post-processing line 1 is 'x' instead of "
+                "would be read differently: the text of post-processing line 1 is 'x' instead of "
                 "' x '")},
     {"NoText", {"add", "water.qin", "--raw="}, refused("no line would be read as raw text ('')")},
     {"TextOfTwoLines",
      {"add", "water.qin", "--raw", "a\nb"},
      refused_at("water.qin", 9,
-                "would be read otherwise: the text of post-processing line 1 is 'a' instead of "
+                "would be read differently: the text of post-processing line 1 is 'a' instead of "
                 "'a\\nb'")},
     {"NoPath",
      {"add", "water.qin", "--post", ""},
      refused_at("water.qin", 9,
-                "would be read otherwise: post-processing line 1 is raw text instead of a post "
+                "would be read differently: post-processing line 1 is raw text instead of a post "
                 "file")},
     {"ScanInTooManyDigits",
      {"add", "-q", "water.qin", "--scan", "1,2:1.23456789:10"},
      refused_at("water.qin", 9,
-                "would be read otherwise: the scan value of post-processing line 1 is 1.23457 "
+                "would be read differently: the scan value of post-processing line 1 is 1.23457 "
                 "instead of 1.23456789")},
     {"ScanInTooManyDigitsForNoChangeAtAll",
      {"add", "-q", "--max-change", "0", "water.qin", "--scan", "1,2:0.00001234567:10"},
      refused_at("water.qin", 9,
-                "would be read otherwise: the scan value of post-processing line 1 is "
+                "would be read differently: the scan value of post-processing line 1 is "
                 "1.23457e-05 instead of 1.234567e-05")},
     {"ScanInTooManyDigitsForASmallChange",
      {"add", "-", "--scan", "1,2:0.00001234567:10"},
@@ -98,12 +99,13 @@ const Call calls[] = {
      path},
     {"LossThatIsAllowed",
      {"add", "--allow-loss", "-", "--raw", " B 1 2"},
-     ended(0, "XYZ a\n\n B 1 2\n",
-           "<stdin>:3: warning: lost: line 3 would be read otherwise: post-processing line 1 is a "
-           "bond constraint instead of raw text\n"
-           "<stdin>: warning: lost: the list of atom numbers of post-processing line 1 is 1 2 "
-           "instead of "
-           "absent\n"),
+     ended(
+         0, "XYZ a\n\n B 1 2\n",
+         "<stdin>:3: warning: lost: line 3 would be read differently: post-processing line 1 is a "
+         "bond constraint instead of raw text\n"
+         "<stdin>: warning: lost: the list of atom numbers of post-processing line 1 is 1 2 "
+         "instead of "
+         "absent\n"),
      path},
 
     {"NothingToAdd", {"add", "water.qin"}, usage_error("nothing to add")},

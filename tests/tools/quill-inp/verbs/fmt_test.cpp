@@ -89,12 +89,12 @@ const Call calls[] = {
 
     {"RefusesLargeChangesOfNumbers",
      {"fmt", "-q", "--max-change", "4e-7", "-"},
-     refused_at("<stdin>", 3, "would be read otherwise: z of atom 2 is 1 instead of 1.00000049"),
+     refused_at("<stdin>", 3, "would be read differently: z of atom 2 is 1 instead of 1.00000049"),
      digits},
     {"RefusesAnyChangeOfNumbers",
      {"fmt", "-q", "--max-change", "0", "-"},
      refused_at("<stdin>", 2,
-                "would be read otherwise: z of atom 1 is 0.123457 instead of 0.12345678"),
+                "would be read differently: z of atom 1 is 0.123457 instead of 0.12345678"),
      digits},
     {"AcceptsTheExactLimit",
      {"fmt", "-q", "--check", "--max-change=5e-7", "-"},
@@ -103,7 +103,7 @@ const Call calls[] = {
     {"RefusesAScanCutToSixDigits",
      {"fmt", "-q", "-"},
      refused_at("<stdin>", 3,
-                "would be read otherwise: the scan value of post-processing line 1 is 123.457 "
+                "would be read differently: the scan value of post-processing line 1 is 123.457 "
                 "instead of 123.45678"),
      "XYZ a\nS 1 2 123.45678 10\n"},
     {"RefusesToDropALine",
@@ -141,8 +141,8 @@ const Call calls[] = {
            "<stdin>: warning: No QUILL coordinate section found\n"
            "<stdin>:2: warning: lost: line 2 would be left out: 'B 1 x'\n"
            "<stdin>:3: warning: lost: line 3 would be read as charge and multiplicity, not as raw "
-           "text; another post-processing line in front of it avoids that\n"
-           "<stdin>: warning: lost: the charge and multiplicity are present instead of absent\n"
+           "text; another post-processing line before it avoids that\n"
+           "<stdin>: warning: lost: the charge and multiplicity line is present instead of absent\n"
            "<stdin>: warning: lost: the charge is 1 instead of 0\n"
            "<stdin>: warning: lost: the multiplicity is 2 instead of 1\n"
            "<stdin>: warning: lost: the number of post-processing lines is 0 instead of 1\n"),
@@ -161,7 +161,7 @@ const Call calls[] = {
      ended(
          2, water,
          "two_opts.qin:2: error: refused: line 2 says more than its command, which would be lost: "
-         "'#Opt(maxiter=70) and so on' (--allow-loss goes on)\n"
+         "'#Opt(maxiter=70) and so on'; use --allow-loss to write it anyway\n"
          "none.qin: error: cannot be opened: No such file or directory\n")},
 
     {"DoesNotWriteWhatItChecks",

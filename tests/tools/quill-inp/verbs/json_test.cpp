@@ -81,8 +81,7 @@ const Call calls[] = {
      {"from-json", "-"},
      ended(2, "",
            "<stdin>: error: refused: the command 'a' is a flag and holds a value or parameters "
-           "that are not written with it (--allow-loss goes "
-           "on)\n"),
+           "that are not written with it; use --allow-loss to write it anyway\n"),
      R"({"commands": [{"name": "a", "kind": "flag", "parameters": [{"name": "b"}]}],
          "geometry": {"kind": "none", "charge": 0}})"},
     {"FromJsonThatNoTextHoldsAllTheSame",
@@ -93,8 +92,9 @@ const Call calls[] = {
     {"FromJsonWithTooManyDigits",
      {"from-json", "-q", "-"},
      ended(2, "",
-           "<stdin>: error: refused: line 3 would be read otherwise: the scan value of "
-           "post-processing line 1 is 123.457 instead of 123.45678 (--allow-loss goes on)\n"),
+           "<stdin>: error: refused: line 3 would be read differently: the scan value of "
+           "post-processing line 1 is 123.457 instead of 123.45678; use --allow-loss to write it "
+           "anyway\n"),
      R"({"geometry": {"kind": "xyz_file", "xyz_files": ["a"]}, "post_commands": [
          {"kind": "scan", "atom_indices": [1, 2], "scan_value": 123.45678, "scan_steps": 1}]})"},
     {"NoFile",

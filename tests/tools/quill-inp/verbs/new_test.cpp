@@ -63,16 +63,17 @@ const Call calls[] = {
      {"new", "-q", "--atoms", "water.xyz", "--angle", "1,2,3"},
      ended(2, "",
            "<new>: error: refused: line 5 would be read as an atom of element A, not as an angle "
-           "constraint; another post-processing line in front of it avoids that (--allow-loss "
-           "goes on)\n")},
+           "constraint; another post-processing line before it avoids that; use --allow-loss to "
+           "write it anyway\n")},
     {"DigitsThatWouldGo",
      {"new", "-q", "--max-change=0", "--atoms", "odd.xyz"},
-     ended(2, "",
-           "<new>: error: refused: line 1 would be read otherwise: z of atom 1 is 0.123457 instead "
-           "of 0.12345678 (--allow-loss goes on)\n")},
+     ended(
+         2, "",
+         "<new>: error: refused: line 1 would be read differently: z of atom 1 is 0.123457 instead "
+         "of 0.12345678; use --allow-loss to write it anyway\n")},
     {"ParameterInFrontOfATask",
      {"new", "--param", "a", "--task", "opt"},
-     usage_error("--param belongs behind the --task that it is for")},
+     usage_error("--param comes after the --task that it is for")},
     {"NamelessParameter",
      {"new", "--task", "opt", "--param", "=1"},
      usage_error("--param takes NAME or NAME=VALUE, not '=1'")},
@@ -87,14 +88,14 @@ const Call calls[] = {
      usage_error("--atoms, --xyz and --trajectory exclude each other")},
     {"ASettingForAPath",
      {"new", "--xyz", "a", "model=m2"},
-     usage_error("--xyz takes a path, and 'model=m2' looks like a setting; settings of 'set' stand "
-                 "in front of the options or behind '--', and a path of this name is written "
+     usage_error("--xyz takes a path, and 'model=m2' looks like a setting; put the settings of "
+                 "'set' before the options or after '--', and write a path of this name "
                  "'./model=m2'")},
     {"ASettingForATrajectory",
      {"new", "--trajectory=model=m2"},
-     usage_error("--trajectory takes a path, and 'model=m2' looks like a setting; settings of "
-                 "'set' stand in front of the options or behind '--', and a path of this name is "
-                 "written './model=m2'")},
+     usage_error(
+         "--trajectory takes a path, and 'model=m2' looks like a setting; put the settings of "
+         "'set' before the options or after '--', and write a path of this name './model=m2'")},
     {"TheSameOptionTwice",
      {"new", "--charge", "1", "--charge", "2"},
      usage_error("--charge can be given only once")},

@@ -25,13 +25,14 @@ Outcome usage_error(const std::string& message) {
 }
 
 Outcome refused(const std::string& message) {
-  return ended(2, "", "water.qin: error: refused: " + message + " (--allow-loss goes on)\n");
+  return ended(2, "",
+               "water.qin: error: refused: " + message + "; use --allow-loss to write it anyway\n");
 }
 
 std::string not_a_path(const std::string& option) {
   return option +
-         " takes a path, and 'model=m2' looks like a setting; settings of 'set' stand in front of "
-         "the options or behind '--', and a path of this name is written './model=m2'";
+         " takes a path, and 'model=m2' looks like a setting; put the settings of 'set' before the "
+         "options or after '--', and write a path of this name './model=m2'";
 }
 
 Outcome nameless(const std::string& key) {
@@ -169,7 +170,7 @@ const Call calls[] = {
      {"set", "-", "a.b=1"},
      ended(2, "",
            "<stdin>:1: error: refused: line 1 says more than its command, which would be lost: "
-           "'#a(=5, b)' (--allow-loss goes on)\n"),
+           "'#a(=5, b)'; use --allow-loss to write it anyway\n"),
      "#a(=5, b)\n0 1\n"},
     {"ParameterWithoutNameOnALineThatStays",
      {"set", "-", "c=1"},
@@ -187,8 +188,8 @@ const Call calls[] = {
 
     {"ValueThatCannotBeSpelled",
      {"set", "water.qin", "opt.maxiter=x\"y'z,"},
-     refused("the value 'x\"y'z,' of parameter 'maxiter' cannot be spelled: it would read back "
-             "otherwise as it stands, in double quotes and in single quotes with another parameter "
+     refused("the value 'x\"y'z,' of parameter 'maxiter' cannot be written: as it is, in double "
+             "quotes and in single quotes it would be read differently with another parameter "
              "after it")},
     {"ParametersWouldGo",
      {"set", "water.qin", "opt=5"},
@@ -214,19 +215,19 @@ const Call calls[] = {
      ended(
          2, "",
          "two_opts.qin:2: error: refused: line 2 says more than its command, which would be lost: "
-         "'#Opt(maxiter=70) and so on' (--allow-loss goes on)\n")},
+         "'#Opt(maxiter=70) and so on'; use --allow-loss to write it anyway\n")},
     {"DigitsWouldGo",
      {"set", "-q", "--max-change=1e-7", "water.qin", "--atoms", "odd.xyz"},
      ended(2, "",
-           "water.qin:5: error: refused: line 5 would be read otherwise: z of atom 1 is "
-           "0.123457 instead of 0.12345678 (--allow-loss goes on)\n")},
+           "water.qin:5: error: refused: line 5 would be read differently: z of atom 1 is "
+           "0.123457 instead of 0.12345678; use --allow-loss to write it anyway\n")},
     {"LineBreakInAValue",
      {"set", "water.qin", "model=a\nb"},
      refused("the value 'a\\nb' holds a line break, and a header command is one line")},
     {"LineBreakInAPath",
      {"set", "water.qin", "--trajectory", "a\nb"},
      refused_at("water.qin", 5,
-                "would be read otherwise: the path of trajectory reference 1 is 'a' instead of "
+                "would be read differently: the path of trajectory reference 1 is 'a' instead of "
                 "'a\\nb'")},
 
     {"FlagWithAValue",
@@ -265,8 +266,8 @@ const Call calls[] = {
      usage_error(not_a_path("--trajectory"))},
     {"ASettingWithASlashInItsValueBehindPaths",
      {"set", "water.qin", "--xyz", "a.xyz", "model=a/b"},
-     usage_error("--xyz takes a path, and 'model=a/b' looks like a setting; settings of 'set' "
-                 "stand in front of the options or behind '--', and a path of this name is written "
+     usage_error("--xyz takes a path, and 'model=a/b' looks like a setting; put the settings of "
+                 "'set' before the options or after '--', and write a path of this name "
                  "'./model=a/b'")},
     {"NamelessCommand", {"set", "water.qin", "#=x"}, nameless("#")},
     {"NamelessCommandOfHashes", {"set", "water.qin", "##=x"}, nameless("##")},

@@ -59,7 +59,7 @@ const Call calls[] = {
      four},
     {"TheFirstOfTwoParametersOfAName",
      {"unset", "-", "a.p"},
-     ended(0, "#b\n#a(P=2)\n0 1\n", "<stdin>:2: note: another parameter 'P' remains\n"),
+     ended(0, "#b\n#a(P=2)\n0 1\n", "<stdin>:2: note: another parameter 'P' is left\n"),
      "#b\n#a(p=1, P=2)\n0 1\n"},
     {"BothParametersOfAName",
      {"unset", "-", "a.p", "a.P"},
@@ -67,11 +67,11 @@ const Call calls[] = {
      "#a(p=1, p=2)\n0 1\n"},
     {"TwoOfThreeParametersOfAName",
      {"unset", "-", "a.p", "a.q", "a.p", "A.q"},
-     ended(0, "\n#a(p=3)\n0 1\n", "<stdin>:2: note: another parameter 'p' remains\n"),
+     ended(0, "\n#a(p=3)\n0 1\n", "<stdin>:2: note: another parameter 'p' is left\n"),
      "\n#a(p=1, p=2, q, p=3)\n0 1\n"},
     {"AParameterOfANameInEachOfTwoCommands",
      {"unset", "-", "a.p", "a[1].p", "b"},
-     ended(0, "#a(p=2)\n#a\n0 1\n", "<stdin>:1: note: another parameter 'p' remains\n"),
+     ended(0, "#a(p=2)\n#a\n0 1\n", "<stdin>:1: note: another parameter 'p' is left\n"),
      "#a(p=1, p=2)\n#b\n#a(p=3)\n0 1\n"},
     {"AParameterOfACommandThatGoes",
      {"unset", "-", "a.p", "a[0]"},
@@ -85,7 +85,7 @@ const Call calls[] = {
      {"unset", "-q", "-", "a"},
      ended(2, "",
            "<stdin>:1: error: refused: line 1 says more than its command, which would be lost: "
-           "'#a(p=1) # remark' (--allow-loss goes on)\n"),
+           "'#a(p=1) # remark'; use --allow-loss to write it anyway\n"),
      "#a(p=1) # remark\n0 1\n"},
     {"TextBehindACommandThatMayGo",
      {"unset", "--allow-loss", "-", "a"},
@@ -122,8 +122,8 @@ const Call calls[] = {
      {"unset", "-", "@charge"},
      ended(2, "",
            "<stdin>:1: error: refused: line 1 would be read as charge and multiplicity, not as raw "
-           "text; another post-processing line in front of it avoids that (--allow-loss goes "
-           "on)\n"),
+           "text; another post-processing line before it avoids that; use --allow-loss to write it "
+           "anyway\n"),
      "0 1\n1 2\n"},
     {"Geometry",
      {"unset", "water.qin", "@atoms"},

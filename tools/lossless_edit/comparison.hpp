@@ -1,0 +1,89 @@
+#ifndef KELP_INPUT_QUILL_LOSSLESS_EDIT_COMPARISON_HPP
+#define KELP_INPUT_QUILL_LOSSLESS_EDIT_COMPARISON_HPP
+
+// Comparing the document that is wanted with the one that a text reads back as.
+//
+//   const Comparison comparison = compare(wanted, parse_string(text).input, 1e-6);
+//   for (const Difference& difference : comparison.differences)
+//     std::cerr << words(difference, wanted, parse_string(text).input) << '\n';
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "kelp/input/quill/lines.hpp"
+
+namespace kelp::input::quill::lossless_edit {
+
+/// A part of a document that has a line of its own, as in a LineRecord.
+struct Part {
+  LineRole role = LineRole::Blank;
+  std::optional<std::size_t> index = std::nullopt;
+
+  bool operator==(const Part& other) const { return role == other.role && index == other.index; }
+};
+
+/// A member of a document, in which two documents can differ.
+enum class Member {
+  CommandCount,
+  CommandName,
+  CommandKind,
+  CommandValue,
+  ParameterCount,
+  ParameterName,
+  ParameterValue,
+  ChargeLine,  // whether there is one
+  Charge,
+  Multiplicity,
+  GeometryKind,
+  AtomCount,
+  Symbol,
+  X,
+  Y,
+  Z,
+  PathCount,
+  Path,
+  PostLineCount,
+  PostLineKind,
+  AtomNumbers,
+  ScanValue,
+  ScanSteps,
+  PostFile,
+  RawText,
+};
+
+/// One member that differs. `part` is the part of the document that it belongs to; a role of Blank
+/// means the document as a whole (its kind of geometry, the length of a list). `parameter` is the
+/// index into the parameters of a command, where the member belongs to one.
+struct Difference {
+  Part part = {};
+  Member member = Member::CommandCount;
+  std::optional<std::size_t> parameter = std::nullopt;
+};
+
+/// How many coordinates and scan values are not the same number, whether that was accepted or not,
+/// and the largest distance between two of them. The distance is infinite when one of the two is
+/// infinite or not a number, and zero for a zero that only changed its sign.
+struct NumberChanges {
+  std::size_t count = 0;
+  double largest = 0.0;
+};
+
+/// All that differs, in the order of the lines, and the numbers that changed.
+struct Comparison {
+  std::vector<Difference> differences = {};
+  NumberChanges number_changes = {};
+
+  /// Whether the documents are equal, changes of numbers that are small enough aside.
+  bool is_equal() const { return differences.empty(); }
+};
+
+/// Compares `found` with `wanted`. A coordinate or scan value may differ by up to `max_change`;
+/// when that is 0, every bit counts, except that one NaN is as good as another of the same sign.
+/// When two lists differ in length, that is one difference, and the entries that both have are
+/// compared.
+Comparison compare(const QuillInput& wanted, const QuillInput& found, double max_change = 0.0);
+
+}  // namespace kelp::input::quill::lossless_edit
+
+#endif  // KELP_INPUT_QUILL_LOSSLESS_EDIT_COMPARISON_HPP

@@ -1,0 +1,26 @@
+#ifndef KELP_INPUT_QUILL_LOSSLESS_EDIT_EQUALITY_HPP
+#define KELP_INPUT_QUILL_LOSSLESS_EDIT_EQUALITY_HPP
+
+#include "kelp/input/quill/document.hpp"
+
+// When two parts of documents are equal: in every member, with one exception. The reader keeps the
+// line that it read in `raw_text` for every kind of post-processing line, so that member counts for
+// raw text alone.
+
+namespace kelp::input::quill::lossless_edit {
+
+bool is_equal(const HeaderCommand& left, const HeaderCommand& right);
+bool is_equal(const AtomRecord& left, const AtomRecord& right);
+bool is_equal(const PostCommand& left, const PostCommand& right);
+
+/// Returns whether two numbers are equal to the bit, the payload of a NaN aside: no text can hold
+/// it.
+bool is_equal_number(double left, double right);
+
+/// Returns how far apart two numbers are that are not equal: infinitely when one of them is
+/// infinite or not a number.
+double distance(double left, double right);
+
+}  // namespace kelp::input::quill::lossless_edit
+
+#endif  // KELP_INPUT_QUILL_LOSSLESS_EDIT_EQUALITY_HPP

@@ -1,0 +1,43 @@
+#ifndef KELP_INPUT_QUILL_LOSSLESS_EDIT_HEADER_SURGERY_HPP
+#define KELP_INPUT_QUILL_LOSSLESS_EDIT_HEADER_SURGERY_HPP
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "lossless_edit/edited_lines.hpp"
+#include "lossless_edit/quoting.hpp"
+#include "lossless_edit/read_text.hpp"
+#include "lossless_edit/tracked_document.hpp"
+
+namespace kelp::input::quill::lossless_edit {
+
+/// Brings the header lines of a text in line with an edited document.
+class HeaderSurgery {
+ public:
+  /// `after` is what the edits made of the document of `read`. Keeps references to both documents.
+  HeaderSurgery(const ReadText& read, const TrackedDocument& after);
+
+  void change_lines(EditedLines& lines);
+  void add_lines(EditedLines& lines);
+
+  /// The gap after the old header, for what belongs to no other place.
+  std::size_t end() const { return positions_.empty() ? 0 : positions_.back() + 1; }
+
+  /// Why some pieces of changed lines cannot be written.
+  const std::vector<QuotingProblem>& problems() const { return problems_; }
+
+ private:
+  std::string quoted_line(const HeaderCommand& command);
+
+  const QuillInput& before_;
+  const QuillInput& after_;
+  std::vector<std::optional<std::size_t>> origins_;
+  std::vector<std::size_t> positions_;  // of the line of each command
+  std::vector<QuotingProblem> problems_;
+};
+
+}  // namespace kelp::input::quill::lossless_edit
+
+#endif  // KELP_INPUT_QUILL_LOSSLESS_EDIT_HEADER_SURGERY_HPP

@@ -1,0 +1,55 @@
+#ifndef KELP_INPUT_QUILL_LOSSLESS_EDIT_WORDING_HPP
+#define KELP_INPUT_QUILL_LOSSLESS_EDIT_WORDING_HPP
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kelp/input/quill/lines.hpp"
+#include "lossless_edit/comparison.hpp"
+#include "lossless_edit/proof.hpp"
+#include "lossless_edit/quoting.hpp"
+
+// The words for people: for the parts of a document, for what differs and for what cannot be
+// written. Everything else passes facts on, and words are made of them last. Texts hold bytes of
+// documents as they are: whoever shows them on a terminal escapes them.
+
+namespace kelp::input::quill::lossless_edit {
+
+/// Returns what a part is, without an article and with numbers counted from 1: "command 2", "charge
+/// and multiplicity", "atom 37", "XYZ reference 1", "XYZ reference without a path", "trajectory
+/// reference", "bond constraint", "raw text", "dropped", "blank".
+std::string describe(const Part& part, const QuillInput& input);
+
+/// Returns a kind of post-processing line without an article: "angle constraint", "scan", "raw
+/// text"; "post-processing line of unknown kind" for a value outside the enumeration.
+std::string_view noun_of(PostCommandKind kind);
+
+/// Returns what differs: "the charge is 1 instead of 0". `wanted` and `found` are the documents
+/// that were compared.
+std::string words(const Difference& difference, const QuillInput& wanted, const QuillInput& found);
+
+/// Returns why a proof does not hold, without a full stop: "line 14 would be read as an atom of
+/// element A, not as an angle constraint; another post-processing line before it avoids that".
+/// `wanted` is the document that was to be proved.
+std::string words(const Proof& proof, const QuillInput& wanted);
+
+/// Returns why a piece of a header command cannot be written.
+std::string words(const QuotingProblem& problem);
+
+/// Returns the text between apostrophes.
+std::string in_apostrophes(std::string_view text);
+
+/// Returns the shortest decimal text that reads back as exactly this number.
+std::string shortest_text(double number);
+
+/// Returns the number with two significant digits, for telling its size.
+std::string rounded_text(double number);
+
+/// Returns the numbers with single blanks between them.
+std::string joined(const std::vector<std::int32_t>& numbers);
+
+}  // namespace kelp::input::quill::lossless_edit
+
+#endif  // KELP_INPUT_QUILL_LOSSLESS_EDIT_WORDING_HPP

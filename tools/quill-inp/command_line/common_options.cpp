@@ -1,0 +1,72 @@
+#include "quill-inp/command_line/common_options.hpp"
+
+#include <charconv>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <string_view>
+
+#include <CLI/App.hpp>
+
+#include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/process/trouble.hpp"
+#include "quill-inp/text/suggestion.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+constexpr Option quiet{"-q,--quiet", "", "Report errors only, no warnings and notes"};
+constexpr Option color{"--color", "WHEN", "Use colour: auto, always or never"};
+constexpr Option max_size{"--max-size", "SIZE", "Refuse larger files (256MiB)"};
+constexpr Option stdin_filename{"--stdin-filename", "NAME", "What to call standard input, '-'"};
+
+ColorMode parse_color_mode(const std::string& text) {
+  if (const auto mode = find_color_mode(text)) return *mode;
+  throw UsageError("--color takes auto, always or never, not '" + text + "'" +
+                   suggestion(text, color_mode_names()));
+}
+
+struct SizeUnit {
+  std::string_view name;
+  unsigned shift;
+};
+
+constexpr SizeUnit size_units[] = {{"", 0}, {"KiB", 10}, {"MiB", 20}, {"GiB", 30}};
+
+/// Far more than any memory holds, and far enough from the end of the range to be added to.
+constexpr std::uint64_t largest_size = std::numeric_limits<std::uint64_t>::max() / 4;
+
+/// size = digits [ "KiB" / "MiB" / "GiB" ]
+std::uint64_t parse_size(const std::string& text) {
+  std::uint64_t number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [after, error] = std::from_chars(text.data(), end, number);
+  const std::string_view unit_name(after, static_cast<std::size_t>(end - after));
+  for (const SizeUnit& unit : size_units) {
+    if (error == std::errc() && unit.name == unit_name && number <= largest_size >> unit.shift)
+      return number << unit.shift;
+  }
+  throw UsageError("--max-size takes a number of bytes, KiB, MiB or GiB, '256MiB', not '" + text +
+                   "'");
+}
+
+}  // namespace
+
+void add_common_options(CLI::App& verb) {
+  begin_group(verb, "General");
+  verb.set_help_flag("-h,--help", "Print this help");
+  add_flag(verb, quiet);
+  for (const Option& option : {color, max_size, stdin_filename}) add_value(verb, option);
+}
+
+CommonOptions read_common_options(const CLI::App& verb) {
+  CommonOptions options;
+  options.is_quiet = is_given(verb, quiet);
+  if (const auto mode = value_of(verb, color)) options.color = parse_color_mode(*mode);
+  if (const auto size = value_of(verb, max_size)) options.max_size = parse_size(*size);
+  if (const auto name = value_of(verb, stdin_filename)) options.stdin_filename = *name;
+  return options;
+}
+
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,54 @@
+#ifndef KELP_INPUT_QUILL_TOOL_EDITING_LOSSES_HPP
+#define KELP_INPUT_QUILL_TOOL_EDITING_LOSSES_HPP
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lossless_edit/proof.hpp"
+#include "lossless_edit/quoting.hpp"
+#include "lossless_edit/read_text.hpp"
+
+namespace kelp::input::quill::tool {
+
+/// What a setting takes from a command or parameter besides what it was asked to.
+struct SettingLoss {
+  enum class Kind { Parameters, Value, ParameterValue };
+
+  Kind kind = Kind::Value;
+  std::string name = {};   // of the command or parameter
+  std::string value = {};  // that is lost
+};
+
+/// A line of the old text that says something which the document does not hold.
+struct LineLoss {
+  enum class Kind {
+    WholeLine,   // all that the line says
+    HeaderText,  // what a header line says besides its command
+  };
+
+  Kind kind = Kind::WholeLine;
+  std::size_t number = 0;  // of the line, counted from 1
+  std::string_view content = {};
+};
+
+/// Returns the loss when the line number `index`, counted from 0, is made anew from the document,
+/// if there is one. The loss keeps a view of the text.
+std::optional<LineLoss> find_line_loss(const lossless_edit::ReadText& read, std::size_t index);
+
+/// All that a new text would lose.
+struct Losses {
+  std::vector<SettingLoss> settings = {};
+  std::vector<LineLoss> lines = {};
+  std::vector<lossless_edit::QuotingProblem> quoting = {};
+  const lossless_edit::Proof& proof;
+  const QuillInput& wanted;  // the document that the proof is about
+
+  std::size_t count() const;
+};
+
+}  // namespace kelp::input::quill::tool
+
+#endif  // KELP_INPUT_QUILL_TOOL_EDITING_LOSSES_HPP
