@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Makes the corpus of the fuzz targets, or of the named ones, anew: of all inputs in it, and of those
-# that the last scripts/fuzz.sh has found, as few as cover the same. Packs them as fuzz/corpus.tar.xz.
+# that the last scripts/fuzz.sh has found, as few as cover the same. Packs them as fuzz/corpus.tar.xz,
+# and puts their number and size into SECURITY.md.
 #
 #   scripts/fuzz_corpus.sh [TARGET...]
 set -euo pipefail
@@ -31,3 +32,8 @@ for target in "$@"; do
   printf '%-18s %s inputs\n' "$target" "$(find "$corpus/$target" -type f | wc -l)"
 done
 pack_corpus
+
+find "${fuzz_targets[@]/#/$corpus/}" -type f -printf '%s\n' |
+  awk -v targets="${#fuzz_targets[@]}" '{ bytes += $1 }
+    END { print NR " inputs with " bytes " bytes, for " targets " targets" }' |
+  python3 scripts/support/figures.py SECURITY.md corpus
