@@ -1,5 +1,6 @@
 // Stands in for libFuzzer where there is none: runs the target once on every file that is named on
-// the command line, and on every file in every folder that is.
+// the command line, and on every file in every folder that is. Fails when one of them has a
+// finding, and when there is no file where one is named.
 
 #include <exception>
 #include <filesystem>
@@ -47,12 +48,18 @@ bool replay(const fs::path& path) {
 int main(int argc, char** argv) {
   std::size_t replayed = 0;
   std::size_t failed = 0;
+  bool is_complete = argc > 1;
   for (const std::string& argument : std::vector<std::string>(argv + 1, argv + argc)) {
-    for (const fs::path& path : files_at(argument)) {
+    const std::vector<fs::path> files = files_at(argument);
+    if (files.empty()) {
+      std::cerr << "no files in " << argument << '\n';
+      is_complete = false;
+    }
+    for (const fs::path& path : files) {
       ++replayed;
       if (!replay(path)) ++failed;
     }
   }
   std::cout << replayed << " files, " << failed << " of them with a finding\n";
-  return replayed == 0 || failed != 0 ? 1 : 0;
+  return is_complete && failed == 0 ? 0 : 1;
 }

@@ -29,6 +29,9 @@ PAGES
   echo '<a href="namespacekelp_1_1input_1_1quill.html">Reference</a>'
 }
 
+python3 scripts/support/figures.py --check SECURITY.md properties fuzz corpus mutants scale
+python3 scripts/support/figures.py --check docs/performance.md bench
+
 for page in README.md CONTRIBUTING.md CHANGELOG.md examples/inputs/README.md docs/*.md; do
   python3 docs/site/page_filter.py "$page" >/dev/null
 done

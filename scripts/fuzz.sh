@@ -35,8 +35,9 @@ for target in "$@"; do
     -runs="$runs" -seed="${KELP_QUILL_INP_FUZZ_SEED:-1}" -max_len="$(longest_input "$target")" \
     -timeout=20 -rss_limit_mb=4096 -entropic=0 -dict=fuzz/quill.dict \
     -artifact_prefix="build/fuzz/$target-" \
-    "$new" "fuzz/corpus/$target" fuzz/seeds fuzz/findings examples/inputs >"$log" 2>&1; then
-    printf '%-18s %s, nothing found\n' "$target" "$(sed -n 's/^Done //p' "$log")"
+    "$new" "$corpus/$target" fuzz/seeds fuzz/findings examples/inputs >"$log" 2>&1; then
+    printf '%-18s %10s runs with up to %3s bytes, nothing found\n' \
+      "$target" "$runs" "$(longest_input "$target")"
   else
     status=1
     printf '%-18s has found something\n' "$target" >&2

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Makes the corpus of the fuzz targets, or of the named ones, anew: of all inputs in it, and of those
-# that the last scripts/fuzz.sh has found, as few as cover the same.
+# that the last scripts/fuzz.sh has found, as few as cover the same. Packs them as fuzz/corpus.tar.xz,
+# and puts their number and size into SECURITY.md.
 #
 #   scripts/fuzz_corpus.sh [TARGET...]
 set -euo pipefail
@@ -12,20 +13,27 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 if [ $# -eq 0 ]; then set -- "${fuzz_targets[@]}"; fi
 for target in "$@"; do check_fuzz_target "$target"; done
 
+need_packages xz-utils
 build_fuzz_targets
 
 for target in "$@"; do
   log=build/fuzz/$target.merge.log
   kept=build/fuzz/kept/$target
   rm -rf "$kept"
-  mkdir -p "$kept" "build/fuzz/new/$target" "fuzz/corpus/$target"
+  mkdir -p "$kept" "build/fuzz/new/$target"
   if ! "build/fuzz/fuzz/kelp_quill_inp_fuzz_$target" -set_cover_merge=1 -use_counters=0 \
-    "$kept" "fuzz/corpus/$target" "build/fuzz/new/$target" >"$log" 2>&1; then
+    "$kept" "$corpus/$target" "build/fuzz/new/$target" >"$log" 2>&1; then
     tail -n 20 "$log" >&2
     echo "The whole output is in $log." >&2
     exit 1
   fi
-  rm -rf "fuzz/corpus/$target"
-  cp -r "$kept" "fuzz/corpus/$target"
-  printf '%-18s %s inputs\n' "$target" "$(find "fuzz/corpus/$target" -type f | wc -l)"
+  rm -rf "${corpus:?}/$target"
+  cp -r "$kept" "$corpus/$target"
+  printf '%-18s %s inputs\n' "$target" "$(find "$corpus/$target" -type f | wc -l)"
 done
+pack_corpus
+
+find "${fuzz_targets[@]/#/$corpus/}" -type f -printf '%s\n' |
+  awk -v targets="${#fuzz_targets[@]}" '{ bytes += $1 }
+    END { print NR " inputs with " bytes " bytes, for " targets " targets" }' |
+  python3 scripts/support/figures.py SECURITY.md corpus

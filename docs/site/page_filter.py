@@ -2,7 +2,8 @@
 
 In the tree, pages link to one another by relative path and to a heading by the name that Markdown
 viewers give it ("format.md#the-header"). On the site all pages stand in one folder, and headings
-need names that are unique in it. A link to something that does not exist ends the build.
+need names that are unique in it. A link to something that does not exist ends the build. Comments
+are left out.
 """
 
 import pathlib
@@ -13,6 +14,7 @@ ROOT = pathlib.Path.cwd()
 NAMES = {"README.md": "index", "examples/inputs/README.md": "example-inputs",
          "editors/README.md": "editors"}
 FENCE = re.compile(r"^```")
+COMMENT = re.compile(r"^<!-- .* -->$")
 HEADING = re.compile(r"^(#{1,4}) (.*)$")
 LINK = re.compile(r"\]\((?![a-z]+:)([^)#\s]*)(#[^)\s]*)?\)")
 
@@ -72,6 +74,8 @@ def main():
     for line, is_code in lines_outside_code(page.read_text()):
         if is_code:
             print(line)
+            continue
+        if COMMENT.match(line):
             continue
         print(line_on_site(page, line, is_first_heading))
         is_first_heading = is_first_heading and not HEADING.match(line)

@@ -2,6 +2,8 @@
 # and packages.sh.
 
 fuzz_targets=(parse document edit text lines allocation_faults keys json surgery)
+# Where the build unpacks fuzz/corpus.tar.xz.
+corpus=build/fuzz/fuzz/corpus
 
 # check_fuzz_target NAME
 check_fuzz_target() {
@@ -22,6 +24,12 @@ longest_input() {
 }
 
 build_fuzz_targets() {
-  need_packages clang cmake ninja-build libclang-rt-14-dev libcli11-dev nlohmann-json3-dev
+  need_packages clang cmake ninja-build python3 libclang-rt-14-dev libcli11-dev nlohmann-json3-dev
   build_preset fuzz "${fuzz_targets[@]/#/kelp_quill_inp_fuzz_}"
+}
+
+# pack_corpus: the same inputs give the same archive.
+pack_corpus() {
+  tar --create --directory="$corpus" --sort=name --owner=0 --group=0 --numeric-owner --mtime=@0 \
+    --mode=u=rwX,go=rX --format=ustar "${fuzz_targets[@]}" | xz -9 >fuzz/corpus.tar.xz
 }

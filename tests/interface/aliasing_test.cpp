@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <functional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -88,29 +90,56 @@ const auto add_scan = [](auto& door, const std::vector<int>& indices) {
   door.add_scan(indices, 1.5, 10);
 };
 
-TEST(AnEditorsOwn, CommandCanBeAdded) {
-  EXPECT_EQ(expect_as_if_copied(make_editor, each_command, add_command), 16U * 4U);
+struct Row {
+  std::string name;
+  std::function<std::size_t()> try_every_argument;
+  std::size_t arguments;
+};
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
+
+class OwnPart : public testing::TestWithParam<Row> {};
+
+TEST_P(OwnPart, GivesWhatACopyGives) {
+  EXPECT_EQ(GetParam().try_every_argument(), GetParam().arguments);
 }
 
-TEST(AnEditorsOwn, AtomCanBeAddedWhateverTheKind) {
-  EXPECT_EQ(expect_as_if_copied(make_editor, each_atom, add_atom), 16U * 2U);
-}
+const Row editor_rows[] = {
+    {"CommandCanBeAdded",
+     [] { return expect_as_if_copied(make_editor, each_command, add_command); }, 16U * 4U},
+    {"AtomCanBeAddedWhateverTheKind",
+     [] { return expect_as_if_copied(make_editor, each_atom, add_atom); }, 16U * 2U},
+    {"AtomsCanBeSetWhateverTheKind",
+     [] { return expect_as_if_copied(make_editor, the_atoms, set_geometry); }, 16U},
+    {"FilesCanBeSetWhateverTheKind",
+     [] { return expect_as_if_copied(make_editor, the_files, set_xyz_files); }, 16U},
+    {"PostCommandCanBeAdded",
+     [] { return expect_as_if_copied(make_editor, each_post_command, add_post_command); },
+     16U * 3U},
+    {"AtomNumbersCanBeScanned",
+     [] { return expect_as_if_copied(make_editor, each_index_list, add_scan); }, 16U * 3U},
+};
 
-TEST(AnEditorsOwn, AtomsCanBeSetWhateverTheKind) {
-  EXPECT_EQ(expect_as_if_copied(make_editor, the_atoms, set_geometry), 16U);
-}
+const Row builder_rows[] = {
+    {"CommandCanBeAdded",
+     [] { return expect_as_if_copied(make_builder, each_command, add_command); }, 16U * 4U},
+    {"AtomCanBeAdded", [] { return expect_as_if_copied(make_builder, each_atom, add_atom); },
+     4U * 2U},
+    {"AtomsCanBeSetWhateverTheKind",
+     [] { return expect_as_if_copied(make_builder, the_atoms, set_geometry); }, 16U},
+    {"FilesCanBeSetWhateverTheKind",
+     [] { return expect_as_if_copied(make_builder, the_files, set_xyz_files); }, 16U},
+    {"PostCommandCanBeAdded",
+     [] { return expect_as_if_copied(make_builder, each_post_command, add_post_command); },
+     16U * 3U},
+    {"AtomNumbersCanBeScanned",
+     [] { return expect_as_if_copied(make_builder, each_index_list, add_scan); }, 16U * 3U},
+};
 
-TEST(AnEditorsOwn, FilesCanBeSetWhateverTheKind) {
-  EXPECT_EQ(expect_as_if_copied(make_editor, the_files, set_xyz_files), 16U);
-}
-
-TEST(AnEditorsOwn, PostCommandCanBeAdded) {
-  EXPECT_EQ(expect_as_if_copied(make_editor, each_post_command, add_post_command), 16U * 3U);
-}
-
-TEST(AnEditorsOwn, AtomNumbersCanBeScanned) {
-  EXPECT_EQ(expect_as_if_copied(make_editor, each_index_list, add_scan), 16U * 3U);
-}
+INSTANTIATE_TEST_SUITE_P(OfAnEditor, OwnPart, testing::ValuesIn(editor_rows),
+                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(OfABuilder, OwnPart, testing::ValuesIn(builder_rows),
+                         [](const auto& row) { return row.param.name; });
 
 TEST(AnEditorsOwn, TextCanBeThePathOfItsFile) {
   const TemporaryFolder folder;
@@ -119,30 +148,6 @@ TEST(AnEditorsOwn, TextCanBeThePathOfItsFile) {
   editor.set_post_file(path);
   editor.write_file(editor.document().post_commands.front().post_file);
   EXPECT_EQ(file_content(path), "POST " + path + "\n");
-}
-
-TEST(ABuildersOwn, CommandCanBeAdded) {
-  EXPECT_EQ(expect_as_if_copied(make_builder, each_command, add_command), 16U * 4U);
-}
-
-TEST(ABuildersOwn, AtomCanBeAdded) {
-  EXPECT_EQ(expect_as_if_copied(make_builder, each_atom, add_atom), 4U * 2U);
-}
-
-TEST(ABuildersOwn, AtomsCanBeSetWhateverTheKind) {
-  EXPECT_EQ(expect_as_if_copied(make_builder, the_atoms, set_geometry), 16U);
-}
-
-TEST(ABuildersOwn, FilesCanBeSetWhateverTheKind) {
-  EXPECT_EQ(expect_as_if_copied(make_builder, the_files, set_xyz_files), 16U);
-}
-
-TEST(ABuildersOwn, PostCommandCanBeAdded) {
-  EXPECT_EQ(expect_as_if_copied(make_builder, each_post_command, add_post_command), 16U * 3U);
-}
-
-TEST(ABuildersOwn, AtomNumbersCanBeScanned) {
-  EXPECT_EQ(expect_as_if_copied(make_builder, each_index_list, add_scan), 16U * 3U);
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
-#include <ostream>
-
+#include "interface/written_piece.hpp"
 #include "kelp/input/quill/writer.hpp"
 #include "support/comparison.hpp"
 #include "support/printing.hpp"
@@ -19,24 +16,12 @@ constexpr auto none = GeometryKind::None;
 constexpr auto atoms = GeometryKind::Atoms;
 constexpr auto xyz_file = GeometryKind::XyzFile;
 constexpr auto xyz_trajectory = GeometryKind::XyzTrajectory;
-constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t greatest = std::numeric_limits<std::int32_t>::max();
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
-struct GeometryRow {
-  const char* name;
-  GeometryBlock geometry;
-  std::string_view text;
-};
-
-void PrintTo(const GeometryRow& row, std::ostream* out) { *out << row.name; }
+using GeometryRow = PieceRow<GeometryBlock>;
 
 class GeometryText : public testing::TestWithParam<GeometryRow> {};
 
-TEST_P(GeometryText, IsAsWritten) { EXPECT_EQ(to_string(GetParam().geometry), GetParam().text); }
-
-std::string name_of_row(const testing::TestParamInfo<GeometryRow>& row) { return row.param.name; }
+TEST_P(GeometryText, IsAsWritten) { EXPECT_EQ(to_string(GetParam().piece), GetParam().text); }
 
 /// Content for every kind, so that each kind shows what it passes over.
 GeometryBlock filled(GeometryKind kind, bool has_line) {
@@ -82,7 +67,8 @@ const GeometryRow kind_rows[] = {
     {"NumbersAreNotGrouped", {none, 12345, 67890, true}, "12345 67890\n"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Kinds, GeometryText, testing::ValuesIn(kind_rows), name_of_row);
+INSTANTIATE_TEST_SUITE_P(Kinds, GeometryText, testing::ValuesIn(kind_rows),
+                         name_of_row<GeometryBlock>);
 
 GeometryBlock atom(const char* symbol, double x, double y, double z) {
   return {atoms, 0, 1, false, {{symbol, x, y, z}}, {}};
@@ -121,7 +107,8 @@ const GeometryRow atom_rows[] = {
      "H  1000000000000000.000000-1000000000000000.000000      0.000000\n"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Atoms, GeometryText, testing::ValuesIn(atom_rows), name_of_row);
+INSTANTIATE_TEST_SUITE_P(Atoms, GeometryText, testing::ValuesIn(atom_rows),
+                         name_of_row<GeometryBlock>);
 
 TEST(GeometryText, KeepsTheOrderOfTheAtomsAndRepeatsEqualOnes) {
   const GeometryBlock geometry{

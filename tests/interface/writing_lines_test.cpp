@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
-#include <ostream>
-
+#include "interface/written_piece.hpp"
 #include "kelp/input/quill/writer.hpp"
 #include "support/comparison.hpp"
 #include "support/printing.hpp"
@@ -24,22 +21,6 @@ constexpr auto dihedral_constraint = PostCommandKind::DihedralConstraint;
 constexpr auto scan = PostCommandKind::Scan;
 constexpr auto post_file = PostCommandKind::PostFile;
 constexpr auto raw = PostCommandKind::Raw;
-constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t greatest = std::numeric_limits<std::int32_t>::max();
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-
-template <typename Piece>
-struct PieceRow {
-  const char* name;
-  Piece piece;
-  std::string_view text;
-};
-
-template <typename Piece>
-void PrintTo(const PieceRow<Piece>& row, std::ostream* out) {
-  *out << row.name;
-}
 
 using CommandRow = PieceRow<HeaderCommand>;
 
@@ -78,7 +59,7 @@ class HeaderCommandText : public testing::TestWithParam<CommandRow> {};
 TEST_P(HeaderCommandText, IsAsWritten) { EXPECT_EQ(to_string(GetParam().piece), GetParam().text); }
 
 INSTANTIATE_TEST_SUITE_P(Table, HeaderCommandText, testing::ValuesIn(command_rows),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         name_of_row<HeaderCommand>);
 
 /// Every field that any kind writes, so that each kind shows which ones it passes over.
 PostCommand filled(PostCommandKind kind) { return {kind, {3, 1, 2}, 1.5, 10, "out.dat", "free"}; }
@@ -143,7 +124,7 @@ class PostCommandText : public testing::TestWithParam<PostRow> {};
 TEST_P(PostCommandText, IsAsWritten) { EXPECT_EQ(to_string(GetParam().piece), GetParam().text); }
 
 INSTANTIATE_TEST_SUITE_P(Table, PostCommandText, testing::ValuesIn(post_rows),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         name_of_row<PostCommand>);
 
 }  // namespace
 

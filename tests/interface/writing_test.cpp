@@ -11,74 +11,69 @@ namespace kelp::input::quill {
 
 namespace {
 
-QuillInput water_scan() {
-  return QuillInput{
+/// One job that scans a distance; its geometry holds paths beside the atoms.
+QuillInput water_scan(GeometryKind kind) {
+  return {
       {{"opt"},
        {"model", HeaderCommandKind::Assignment, "m1"},
        {"scan", HeaderCommandKind::ParameterList, std::nullopt, {{"steps", "10"}, {"relaxed"}}}},
-      {GeometryKind::Atoms, 0, 1, true, {{"O", 0.0, 0.0, 0.1173}, {"H", 0.0, 0.7572, -0.4692}}, {}},
+      {kind,
+       0,
+       1,
+       true,
+       {{"O", 0.0, 0.0, 0.1173}, {"H", 0.0, 0.7572, -0.4692}},
+       {"traj.xyz", "other.xyz"}},
       {{PostCommandKind::BondConstraint, {1, 2}},
        {PostCommandKind::Scan, {1, 2}, 1.5, 10},
        {PostCommandKind::PostFile, {}, {}, {}, "out.dat"}}};
 }
 
-TEST(Writing, AWholeInputTakesTheCanonicalForm) {
-  EXPECT_EQ(water_scan().to_string(),
+struct WholeRow {
+  const char* name;
+  GeometryKind kind;
+  std::string coordinates;
+};
+
+void PrintTo(const WholeRow& row, std::ostream* out) { *out << row.name; }
+
+class AWholeInput : public testing::TestWithParam<WholeRow> {};
+
+TEST_P(AWholeInput, TakesTheCanonicalForm) {
+  EXPECT_EQ(water_scan(GetParam().kind).to_string(),
             "#opt\n"
             "#model = m1\n"
             "#scan(steps=10, relaxed)\n"
             "\n"
-            "0 1\n"
-            "O        0.000000      0.000000      0.117300\n"
-            "H        0.000000      0.757200     -0.469200\n"
-            "\n"
-            "B 1 2\n"
-            "S 1 2 1.5 10\n"
-            "POST out.dat\n");
+            "0 1\n" +
+                GetParam().coordinates +
+                "\n"
+                "B 1 2\n"
+                "S 1 2 1.5 10\n"
+                "POST out.dat\n");
 }
 
-TEST(Writing, ATrajectoryTakesTheAtomsPlaceWithItsFirstPath) {
-  QuillInput input = water_scan();
-  input.geometry.kind = GeometryKind::XyzTrajectory;
-  input.geometry.xyz_files = {"traj.xyz", "other.xyz"};
-  EXPECT_EQ(input.to_string(),
-            "#opt\n"
-            "#model = m1\n"
-            "#scan(steps=10, relaxed)\n"
-            "\n"
-            "0 1\n"
-            "XYZTRAJ traj.xyz\n"
-            "\n"
-            "B 1 2\n"
-            "S 1 2 1.5 10\n"
-            "POST out.dat\n");
-}
+const WholeRow whole_rows[] = {
+    {"WithoutCoordinates", GeometryKind::None, ""},
+    {"WithItsAtoms", GeometryKind::Atoms,
+     "O        0.000000      0.000000      0.117300\n"
+     "H        0.000000      0.757200     -0.469200\n"},
+    {"WithEveryPathInPlaceOfTheAtoms", GeometryKind::XyzFile,
+     "XYZ traj.xyz\n"
+     "XYZ other.xyz\n"},
+    {"WithATrajectorysFirstPathInPlaceOfTheAtoms", GeometryKind::XyzTrajectory,
+     "XYZTRAJ traj.xyz\n"},
+};
 
-TEST(Writing, XyzFilesTakeTheAtomsPlaceWithEveryPath) {
-  QuillInput input = water_scan();
-  input.geometry.kind = GeometryKind::XyzFile;
-  input.geometry.xyz_files = {"traj.xyz", "other.xyz"};
-  EXPECT_EQ(input.to_string(),
-            "#opt\n"
-            "#model = m1\n"
-            "#scan(steps=10, relaxed)\n"
-            "\n"
-            "0 1\n"
-            "XYZ traj.xyz\n"
-            "XYZ other.xyz\n"
-            "\n"
-            "B 1 2\n"
-            "S 1 2 1.5 10\n"
-            "POST out.dat\n");
-}
+INSTANTIATE_TEST_SUITE_P(Table, AWholeInput, testing::ValuesIn(whole_rows),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(Writing, AnEmptyDocumentIsTheEmptyText) { EXPECT_EQ(QuillInput().to_string(), ""); }
 
 TEST(Writing, LeavesTheDocumentAsItIsAndGivesTheSameTextAgain) {
-  const QuillInput input = water_scan();
+  const QuillInput input = water_scan(GeometryKind::Atoms);
   const std::string first = input.to_string();
   EXPECT_EQ(input.to_string(), first);
-  EXPECT_EQ(input, water_scan());
+  EXPECT_EQ(input, water_scan(GeometryKind::Atoms));
 }
 
 /// One coordinate section in its four surroundings.
@@ -214,7 +209,7 @@ TEST(Writing, StoredStringsGoOutByteForByte) {
 }
 
 TEST(Writing, AWholeInputConsistsOfItsPieces) {
-  const QuillInput input = water_scan();
+  const QuillInput input = water_scan(GeometryKind::Atoms);
   std::string pieces;
   for (const HeaderCommand& command : input.commands) pieces += to_string(command) + "\n";
   pieces += "\n" + to_string(input.geometry) + "\n";

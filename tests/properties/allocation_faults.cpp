@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 
-#include "properties/edit_operation.hpp"
 #include "properties/everything.hpp"
 #include "properties/made_document.hpp"
 #include "properties/violation.hpp"
@@ -48,26 +47,10 @@ class LeakCheck {
   std::int64_t live_;
 };
 
-bool edit_survives(std::string_view bytes, std::uint64_t failing) {
+bool made_edit_survives(std::string_view bytes, std::uint64_t failing) {
   ByteSource source(bytes);
   const QuillInput before = made_document(source);
-  const EditOperation operation = made_operation(source, before);
-  QuillInput after = before;
-  operation.model(after);
-  QuillInput half_done = before;
-  if (operation.leave_half_done) operation.leave_half_done(half_done);
-
-  const LeakCheck leaks(bytes);
-  Outcome outcome;
-  {
-    InputEditor editor(before);
-    outcome = attempt(failing, [&] { operation.edit(editor); });
-    const QuillInput& left = editor.document();
-    require(outcome.is_finished ? left == after : left == before || left == half_done,
-            "an edit that runs out of memory leaves what it may", bytes);
-  }
-  leaks.finish();
-  return !outcome.met_the_fault;
+  return edit_survives_fault(made_operation(source, before), before, failing, bytes);
 }
 
 bool building_survives(std::string_view bytes, std::uint64_t failing) {
@@ -122,12 +105,32 @@ bool writing_survives(std::string_view bytes, std::uint64_t failing) {
 
 }  // namespace
 
+bool edit_survives_fault(const EditOperation& operation, const QuillInput& before,
+                         std::uint64_t failing, std::string_view bytes) {
+  QuillInput after = before;
+  operation.model(after);
+  QuillInput half_done = before;
+  if (operation.leave_half_done) operation.leave_half_done(half_done);
+
+  const LeakCheck leaks(bytes);
+  Outcome outcome;
+  {
+    InputEditor editor(before);
+    outcome = attempt(failing, [&] { operation.edit(editor); });
+    const QuillInput& left = editor.document();
+    require(outcome.is_finished ? left == after : left == before || left == half_done,
+            "an edit that runs out of memory leaves what it may", bytes);
+  }
+  leaks.finish();
+  return !outcome.met_the_fault;
+}
+
 bool survives_fault(std::string_view bytes, std::uint64_t failing) {
   const std::size_t kind = ByteSource(bytes).below(4);
   const std::string_view rest = bytes.substr(bytes.empty() ? 0 : 1);
   switch (kind) {
     case 0:
-      return edit_survives(rest, failing);
+      return made_edit_survives(rest, failing);
     case 1:
       return building_survives(rest, failing);
     case 2:

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "properties/edit_operation.hpp"
+
 namespace kelp::input::quill {
 
 /// The first byte picks an operation: an edit, a call on a builder, reading, writing or copying.
@@ -12,6 +14,10 @@ namespace kelp::input::quill {
 /// out of memory, nothing is lost, and what is left behind is in a state that the operation allows.
 /// Throws a Violation. A program that calls this links tests/support/failing_allocator.cpp.
 bool survives_fault(std::string_view bytes, std::uint64_t failing);
+
+/// The same for one edit of a document.
+bool edit_survives_fault(const EditOperation& operation, const QuillInput& before,
+                         std::uint64_t failing, std::string_view bytes);
 
 /// The same with the first byte as the number of the allocation, and after it a run without a
 /// fault, which has to succeed.

@@ -1,10 +1,13 @@
-// Whatever chance asks of the library survives that each of its allocations fails in turn.
+// Whatever chance asks of the library survives that each of its allocations fails in turn, and what
+// does not survive it is noticed.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <new>
 #include <random>
 #include <string>
 
@@ -42,6 +45,30 @@ TEST_P(EveryAllocation, MayFail) {
 
 INSTANTIATE_TEST_SUITE_P(OfKind, EveryAllocation, testing::Range(0, 4),
                          testing::PrintToStringParamName());
+
+std::string violated_by(const EditOperation& edit) {
+  return holds([&] { edit_survives_fault(edit, QuillInput(), 0, "bytes"); }).message();
+}
+
+TEST(AnEditThatRunsOutOfMemory, MayNotLeaveHalfOfItsWork) {
+  const EditOperation half_done = change(
+      [](InputEditor& editor) {
+        editor.set_flag("a");
+        throw std::bad_alloc();
+      },
+      [](QuillInput& document) {
+        document.commands = {{"a"}, {"b"}};
+      });
+  EXPECT_EQ(violated_by(half_done),
+            "does not hold: an edit that runs out of memory leaves what it may\n  for \"bytes\"");
+}
+
+TEST(AnEdit, MayNotLoseABlock) {
+  std::unique_ptr<int> block;
+  const EditOperation losing =
+      change([&](InputEditor&) { block = std::make_unique<int>(); }, [](QuillInput&) {});
+  EXPECT_EQ(violated_by(losing), "does not hold: no block is lost\n  for \"bytes\"");
+}
 
 }  // namespace
 }  // namespace kelp::input::quill

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "properties/edit_model.hpp"
-#include "properties/edit_operation.hpp"
 #include "properties/lookup.hpp"
 #include "properties/made_document.hpp"
 #include "properties/violation.hpp"
@@ -30,10 +29,23 @@ void check_questions(const InputEditor& editor, QuillInput& expected, ByteSource
   require(editor.has_task_command() == expected.has_task_command() &&
               editor.command_names() == expected.command_names(),
           "the editor answers as its document does", expected.to_string());
-  check_lookup(expected, name);
+  check_lookup(expected, expected, name);
 }
 
 }  // namespace
+
+void check_operation(const EditOperation& operation, InputEditor& editor, QuillInput& expected,
+                     std::string_view bytes) {
+  const bool removed = operation.edit(editor);
+  require(removed == operation.model(expected), "a removal tells its success", bytes);
+  require(editor.document() == expected, "the editor does what its operations say", bytes);
+}
+
+void check_building(const EditOperation& operation, InputBuilder& builder,
+                    const QuillInput& expected, std::string_view bytes) {
+  operation.build(builder);
+  require(builder.document() == expected, "the builder does what the editor does", bytes);
+}
 
 void check_edits(std::string_view bytes) {
   ByteSource source(bytes);
@@ -44,18 +56,14 @@ void check_edits(std::string_view bytes) {
   for (int i = 0; i < most_operations && !source.is_at_end(); ++i) {
     const EditOperation operation =
         has_builder ? made_builder_operation(source, expected) : made_operation(source, expected);
-    const bool removed = operation.edit(editor);
-    require(removed == operation.model(expected), "a removal tells its success", bytes);
-    require(editor.document() == expected, "the editor does what its operations say", bytes);
-    if (has_builder) {
-      operation.build(builder);
-      require(builder.document() == expected, "the builder does what the editor does", bytes);
-    }
+    check_operation(operation, editor, expected, bytes);
+    if (has_builder) check_building(operation, builder, expected, bytes);
   }
   check_questions(editor, expected, source);
-  check_every_lookup(expected);
-  check_writing(expected);
-  require(editor.to_string() == expected.to_string(), "the editor writes its document", bytes);
+  check_every_lookup(editor.document(), expected);
+  const std::string text = expected.to_string();
+  check_writing(expected, text);
+  require(editor.to_string() == text, "the editor writes its document", bytes);
 }
 
 }  // namespace kelp::input::quill

@@ -1,5 +1,7 @@
 #include "properties/everything.hpp"
 
+#include <string>
+
 #include "properties/lookup.hpp"
 #include "properties/reading.hpp"
 #include "properties/writing.hpp"
@@ -16,10 +18,11 @@ void check_text(std::string_view text) {
 }
 
 void check_document(const QuillInput& document) {
-  check_writing(document);
-  check_against_obvious_writer(document);
+  const std::string text = document.to_string();
+  check_writing(document, text);
+  check_against_obvious_writer(document, text);
   check_round_trip(document);
-  check_every_lookup(document);
+  check_every_lookup(document, document);
 }
 
 }  // namespace kelp::input::quill

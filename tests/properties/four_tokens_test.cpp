@@ -67,6 +67,10 @@ TEST_P(EveryLineOfFourTokens, IsReadSoInEverySection) {
   });
 }
 
+TEST(AWrongAnswerOfALineReader, IsNoticed) {
+  EXPECT_FALSE(holds([] { check_line_readers("#a", "#b"); }));
+}
+
 INSTANTIATE_TEST_SUITE_P(First, EveryLineOfFourTokens, testing::ValuesIn(tokens));
 
 }  // namespace

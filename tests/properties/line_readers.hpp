@@ -10,6 +10,10 @@ namespace kelp::input::quill {
 /// objects.
 void check_line_readers(std::string_view line);
 
+/// The same with what the obvious readers make of another line, `expected`, which lets a test see
+/// that a wrong answer is noticed.
+void check_line_readers(std::string_view line, std::string_view expected);
+
 }  // namespace kelp::input::quill
 
 #endif  // KELP_INPUT_QUILL_TESTS_PROPERTIES_LINE_READERS_HPP

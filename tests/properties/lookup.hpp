@@ -7,12 +7,14 @@
 
 namespace kelp::input::quill {
 
-/// The ways to ask for commands by a name agree: has_command(), both forms of find_command(), and
-/// the names in command_names(). Throws a Violation.
-void check_lookup(QuillInput& document, std::string_view name);
+/// Asked for commands by a name, `document` finds those that `stored` has, in every way to ask:
+/// has_command() and both forms of find_command(). `stored` is the same document, unless a test
+/// shows that another one is noticed. Throws a Violation.
+void check_lookup(QuillInput& document, const QuillInput& stored, std::string_view name);
 
-/// The same for every name that the document stores, for the names of tasks, and for no name.
-void check_every_lookup(QuillInput document);
+/// The same for every name that is stored, for the names of tasks, and for no name; and the list of
+/// names is right.
+void check_every_lookup(QuillInput document, const QuillInput& stored);
 
 }  // namespace kelp::input::quill
 

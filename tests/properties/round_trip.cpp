@@ -54,9 +54,9 @@ void adopt_near_numbers(QuillInput& written, const QuillInput& read) {
 
 }  // namespace
 
-void check_round_trip(const QuillInput& document) {
+void check_round_trip(const QuillInput& document, Reader* read) {
   const std::string text = document.to_string();
-  const ParseResult result = parse_string(text);
+  const ParseResult result = read(text);
   check_result(text, result);
 
   QuillInput expected = as_written(document);

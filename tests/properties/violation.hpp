@@ -1,6 +1,7 @@
 #ifndef KELP_INPUT_QUILL_TESTS_PROPERTIES_VIOLATION_HPP
 #define KELP_INPUT_QUILL_TESTS_PROPERTIES_VIOLATION_HPP
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -17,6 +18,9 @@ class Violation : public std::logic_error {
 /// Throws a Violation that names the property and shows the bytes of what it was checked on, unless
 /// the property holds.
 void require(bool holds, std::string_view property, std::string_view subject);
+
+/// Returns how many times the program has called require().
+std::uint64_t statements_checked();
 
 /// Returns `bytes` as one line of printable characters.
 std::string printable(std::string_view bytes);

@@ -1,11 +1,14 @@
 // Prints what reading texts of every shape costs where they are as large as they get, against half
-// of that, and what is quadratic by contract costs as it grows.
+// of that; the least and the most of it; and what is quadratic by contract costs as it grows.
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "kelp/input/quill/quill.hpp"
 #include "scale/counted_memory.hpp"
@@ -52,18 +55,41 @@ Reading reading_of(const Shape& shape, std::size_t size) {
   return best;
 }
 
-/// Returns whether what was read was what was asked for.
-bool print_reading(const Shape& shape) {
+struct Figures {
+  std::string_view shape;
+  double nanoseconds_per_byte = 0.0;
+  double memory_per_byte = 0.0;
+  double time_against_half = 0.0;
+  double memory_against_half = 0.0;
+  /// Whether what was read was what was asked for.
+  bool is_read = false;
+};
+
+Figures print_reading(const Shape& shape) {
   const Reading half = reading_of(shape, shape.full_size / 2);
   const Reading full = reading_of(shape, shape.full_size);
   const auto size = static_cast<double>(full.text_size);
-  std::printf(
-      "%-26.*s %10zu %8.1f %8.2f %8.2f %8.2f %8.2f %8.2f\n", static_cast<int>(shape.name.size()),
-      shape.name.data(), shape.full_size, size / bytes_per_megabyte, full.cost.seconds,
-      full.cost.seconds * nanoseconds_per_second / size,
-      static_cast<double>(full.cost.peak_bytes) / size, full.cost.seconds / half.cost.seconds,
-      static_cast<double>(full.cost.peak_bytes) / static_cast<double>(half.cost.peak_bytes));
-  return half.is_read && full.is_read;
+  const auto memory = static_cast<double>(full.cost.peak_bytes);
+  const Figures figures = {shape.name,
+                           full.cost.seconds * nanoseconds_per_second / size,
+                           memory / size,
+                           full.cost.seconds / half.cost.seconds,
+                           memory / static_cast<double>(half.cost.peak_bytes),
+                           half.is_read && full.is_read};
+  std::printf("%-26.*s %10zu %8.1f %8.2f %8.2f %8.2f %8.2f %8.2f\n",
+              static_cast<int>(shape.name.size()), shape.name.data(), shape.full_size,
+              size / bytes_per_megabyte, full.cost.seconds, figures.nanoseconds_per_byte,
+              figures.memory_per_byte, figures.time_against_half, figures.memory_against_half);
+  return figures;
+}
+
+void print_range(const char* what, const std::vector<Figures>& all, double Figures::*figure) {
+  const auto [least, most] = std::minmax_element(
+      all.begin(), all.end(),
+      [&](const Figures& left, const Figures& right) { return left.*figure < right.*figure; });
+  std::printf("%-32s %8.2f  %-26.*s %8.2f  %.*s\n", what, *least.*figure,
+              static_cast<int>(least->shape.size()), least->shape.data(), *most.*figure,
+              static_cast<int>(most->shape.size()), most->shape.data());
 }
 
 template <typename Work>
@@ -95,14 +121,22 @@ int print_figures() {
   std::printf("%-26s %10s %8s %8s %8s %8s %17s\n", "", "", "", "", "", "memory", "against half");
   std::printf("%-26s %10s %8s %8s %8s %8s %8s %8s\n", "reading", "size", "MB", "s", "ns/byte",
               "/byte", "time", "memory");
-  bool is_read = true;
-  for (const Shape& shape : shapes()) is_read = print_reading(shape) && is_read;
+  std::vector<Figures> all;
+  for (const Shape& shape : shapes()) all.push_back(print_reading(shape));
+
+  std::printf("\nof %2zu shapes of text, reading     %8s  %-26s %8s\n", all.size(), "least", "",
+              "most");
+  print_range("ns for a byte", all, &Figures::nanoseconds_per_byte);
+  print_range("bytes of memory for a byte", all, &Figures::memory_per_byte);
+  print_range("memory against half of the text", all, &Figures::memory_against_half);
 
   std::printf("\n%-44s %7s %8s %9s %8s %8s\n", "quadratic by contract", "size", "s", "twice", "s",
               "ratio");
   print_growth("adding atoms to a builder, one by one", 1000, add_atoms_to_a_builder);
   print_growth("setting flags of different names", 1000, set_flags_of_other_names);
   print_growth("finding every command of one name", 1000, find_every_occurrence);
+  const bool is_read =
+      std::all_of(all.begin(), all.end(), [](const Figures& figures) { return figures.is_read; });
   return is_read ? 0 : 1;
 }
 
