@@ -10,20 +10,20 @@
 
 namespace kelp::input::quill {
 
-/// One kind of post-processing line that has a keyword: how it begins and how many tokens the
-/// reader asks of it, keyword included. Reader and writer share the rows, and whoever names a kind
-/// to people or programs takes its words from here: a new kind is an enumerator and a row.
+/// One kind of post-processing line: how it begins and how many tokens the reader asks of it,
+/// keyword included. Reader and writer share the rows, and whoever names a kind to people or to
+/// programs takes its words from here: a new kind is an enumerator and a row.
 struct PostLineShape {
-  std::string_view keyword;
+  std::string_view keyword;  // in upper case; empty for raw text, which is any other line
   PostCommandKind kind;
   std::size_t least_tokens;
   std::size_t most_tokens;
   std::string_view noun;
-  std::string_view article;      // of the noun; empty where it takes none
-  std::string_view json_name;    // of the kind, in JSON
-  const char* option;            // of the command line, that makes such a line
-  const char* placeholder;       // for the value of the option
-  const char* help;              // what the option does
+  std::string_view article;  // of the noun; empty where it takes none
+  std::string_view name;     // of the kind, in JSON
+  const char* option;        // of the command line, that makes such a line
+  const char* placeholder;   // for the value of the option
+  const char* help;          // what the option does
 
   constexpr bool accepts(std::size_t tokens) const {
     return least_tokens <= tokens && tokens <= most_tokens;
@@ -33,7 +33,9 @@ struct PostLineShape {
   constexpr std::size_t atoms() const { return least_tokens - 1; }
 };
 
-inline constexpr std::array<PostLineShape, 6> post_line_shapes = {{
+inline constexpr std::size_t any_number_of_tokens = std::numeric_limits<std::size_t>::max();
+
+inline constexpr std::array<PostLineShape, 7> post_line_shapes = {{
     {"B", PostCommandKind::BondConstraint, 3, 3, "bond constraint", "a", "bond_constraint",
      "--bond", "I,J", "Hold the distance of two atoms"},
     {"A", PostCommandKind::AngleConstraint, 4, 4, "angle constraint", "an", "angle_constraint",
@@ -44,24 +46,21 @@ inline constexpr std::array<PostLineShape, 6> post_line_shapes = {{
      "--atom", "I", "Hold the place of an atom"},
     {"S", PostCommandKind::Scan, 5, 7, "scan", "a", "scan", "--scan", "I,J[,K[,L]]:VALUE:STEPS",
      "Scan a distance, angle or dihedral"},
-    {"POST", PostCommandKind::PostFile, 2, std::numeric_limits<std::size_t>::max(), "post file",
-     "a", "post_file", "--post", "PATH", "Name a post-processing file"},
+    {"POST", PostCommandKind::PostFile, 2, any_number_of_tokens, "post file", "a", "post_file",
+     "--post", "PATH", "Name a post-processing file"},
+    {"", PostCommandKind::Raw, 0, any_number_of_tokens, "raw text", "", "raw", "--raw", "TEXT",
+     "Add a line of text as it is"},
 }};
-
-/// The words of a line without a keyword, which is never recognised by its shape.
-inline constexpr PostLineShape raw_line_shape = {
-    "", PostCommandKind::Raw, 0, 0, "raw text", "", "raw", "--raw", "TEXT",
-    "Add a line of text as it is"};
 
 /// Returns the row of an upper-case keyword, or a null pointer for any other word.
 constexpr const PostLineShape* find_post_line_shape(std::string_view keyword) {
   for (const PostLineShape& shape : post_line_shapes) {
-    if (shape.keyword == keyword) return &shape;
+    if (shape.keyword == keyword && !keyword.empty()) return &shape;
   }
   return nullptr;
 }
 
-/// Returns the row of a kind, or a null pointer for raw text and for unknown kinds.
+/// Returns the row of a kind, or a null pointer for unknown kinds.
 constexpr const PostLineShape* find_post_line_shape(PostCommandKind kind) {
   for (const PostLineShape& shape : post_line_shapes) {
     if (shape.kind == kind) return &shape;

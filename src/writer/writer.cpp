@@ -134,7 +134,10 @@ void append_scan_settings(std::string& out, const PostCommand& command) {
 }
 
 void append_post_command(std::string& out, const PostCommand& command) {
-  if (command.kind == PostCommandKind::Raw) out += command.raw_text;
+  if (command.kind == PostCommandKind::Raw) {
+    out += command.raw_text;
+    return;
+  }
   const PostLineShape* shape = find_post_line_shape(command.kind);
   if (shape == nullptr) return;
   out += shape->keyword;

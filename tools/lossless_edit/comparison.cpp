@@ -52,15 +52,15 @@ class Comparer {
   }
 
   void compare_command(Part part, const HeaderCommand& wanted, const HeaderCommand& found) {
-    compare_member(part, Member::CommandName, wanted.name, found.name);
-    compare_member(part, Member::CommandKind, wanted.kind, found.kind);
-    compare_member(part, Member::CommandValue, wanted.value, found.value);
+    compare_member(part, Member::Name, wanted.name, found.name);
+    compare_member(part, Member::Kind, wanted.kind, found.kind);
+    compare_member(part, Member::Value, wanted.value, found.value);
     const std::size_t common = std::min(wanted.parameters.size(), found.parameters.size());
     for (std::size_t i = 0; i < common; ++i) {
       const CommandParameter& one = wanted.parameters[i];
       const CommandParameter& other = found.parameters[i];
-      if (one.name != other.name) add({part, Member::ParameterName, i});
-      if (one.value != other.value) add({part, Member::ParameterValue, i});
+      compare_member(part, Member::Name, one.name, other.name, i);
+      compare_member(part, Member::Value, one.value, other.value, i);
     }
     compare_member(part, Member::ParameterCount, wanted.parameters.size(), found.parameters.size());
   }
@@ -77,7 +77,7 @@ class Comparer {
   }
 
   void compare_post_command(Part part, const PostCommand& wanted, const PostCommand& found) {
-    compare_member(part, Member::PostLineKind, wanted.kind, found.kind);
+    compare_member(part, Member::Kind, wanted.kind, found.kind);
     compare_member(part, Member::AtomNumbers, wanted.atom_indices, found.atom_indices);
     if (wanted.scan_value && found.scan_value) {
       compare_number(part, Member::ScanValue, *wanted.scan_value, *found.scan_value);
@@ -85,7 +85,7 @@ class Comparer {
       compare_member(part, Member::ScanValue, wanted.scan_value, found.scan_value);
     }
     compare_member(part, Member::ScanSteps, wanted.scan_steps, found.scan_steps);
-    compare_member(part, Member::PostFile, wanted.post_file, found.post_file);
+    compare_member(part, Member::Path, wanted.post_file, found.post_file);
     if (wanted.kind == PostCommandKind::Raw && found.kind == PostCommandKind::Raw)
       compare_member(part, Member::RawText, wanted.raw_text, found.raw_text);
   }
@@ -97,15 +97,25 @@ class Comparer {
     ++changes.count;
     changes.largest = std::max(changes.largest, change);
     if (max_change_ > 0.0 && change <= max_change_) return;
-    add({part, member});
+    comparison_.differences.push_back({part, member, wanted, found});
   }
 
   template <typename T>
-  void compare_member(Part part, Member member, const T& wanted, const T& found) {
-    if (wanted != found) add({part, member});
+  void compare_member(Part part, Member member, const T& wanted, const T& found,
+                      std::optional<std::size_t> parameter = std::nullopt) {
+    if (wanted != found)
+      comparison_.differences.push_back({part, member, value(wanted), value(found), parameter});
   }
 
-  void add(Difference difference) { comparison_.differences.push_back(difference); }
+  template <typename T>
+  static Value value(const T& known) {
+    return known;
+  }
+
+  template <typename T>
+  static Value value(const std::optional<T>& known) {
+    return known ? Value(*known) : Value();
+  }
 
   double max_change_;
   Comparison comparison_;

@@ -5,10 +5,13 @@
 //
 //   const Comparison comparison = compare(wanted, parse_string(text).input, 1e-6);
 //   for (const Difference& difference : comparison.differences)
-//     std::cerr << words(difference, wanted, parse_string(text).input) << '\n';
+//     std::cerr << words(difference) << '\n';
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <string>
+#include <variant>
 #include <vector>
 
 #include "kelp/input/quill/lines.hpp"
@@ -26,12 +29,10 @@ struct Part {
 /// A member of a document, in which two documents can differ.
 enum class Member {
   CommandCount,
-  CommandName,
-  CommandKind,
-  CommandValue,
+  Name,   // of a command or parameter
+  Kind,   // of a command or post-processing line
+  Value,  // of a command or parameter
   ParameterCount,
-  ParameterName,
-  ParameterValue,
   ChargeLine,  // whether there is one
   Charge,
   Multiplicity,
@@ -42,15 +43,18 @@ enum class Member {
   Y,
   Z,
   PathCount,
-  Path,
+  Path,  // of a reference or post file
   PostLineCount,
-  PostLineKind,
   AtomNumbers,
   ScanValue,
   ScanSteps,
-  PostFile,
   RawText,
 };
+
+/// What a document has in one place: nothing, or a value of the member's type.
+using Value =
+    std::variant<std::monostate, bool, std::int32_t, std::size_t, double, std::string,
+                 std::vector<std::int32_t>, HeaderCommandKind, GeometryKind, PostCommandKind>;
 
 /// One member that differs. `part` is the part of the document that it belongs to; a role of Blank
 /// means the document as a whole (its kind of geometry, the length of a list). `parameter` is the
@@ -58,6 +62,8 @@ enum class Member {
 struct Difference {
   Part part = {};
   Member member = Member::CommandCount;
+  Value wanted = {};
+  Value found = {};
   std::optional<std::size_t> parameter = std::nullopt;
 };
 

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstddef>
 #include <optional>
+#include <variant>
 
 #include "lossless_edit/expected_lines.hpp"
 #include "model/post_line_shapes.hpp"
@@ -17,12 +18,8 @@ constexpr std::size_t longest_number =
 constexpr std::string_view absent = "absent";
 constexpr std::string_view unknown_kind = "of unknown kind";
 
-const PostLineShape* find_words(PostCommandKind kind) {
-  return kind == PostCommandKind::Raw ? &raw_line_shape : find_post_line_shape(kind);
-}
-
 std::string with_article(PostCommandKind kind) {
-  const PostLineShape* shape = find_words(kind);
+  const PostLineShape* shape = find_post_line_shape(kind);
   if (shape == nullptr) return "a " + std::string(noun_of(kind));
   std::string text(shape->article);
   if (!text.empty()) text += ' ';
@@ -102,149 +99,47 @@ std::string owner_of(const Difference& difference) {
   }
 }
 
-/// What comes before the owner of a member; the members of the document as a whole have none.
-std::string_view member_words(Member member) {
-  switch (member) {
-    case Member::CommandCount:
-      return "the number of header commands";
-    case Member::CommandName:
-    case Member::ParameterName:
-      return "the name of ";
-    case Member::CommandKind:
-    case Member::PostLineKind:
-      return "";
-    case Member::CommandValue:
-    case Member::ParameterValue:
-      return "the value of ";
-    case Member::ParameterCount:
-      return "the number of parameters of ";
-    case Member::ChargeLine:
-      return "the charge and multiplicity line";
-    case Member::Charge:
-      return "the charge";
-    case Member::Multiplicity:
-      return "the multiplicity";
-    case Member::GeometryKind:
-      return "the coordinate section";
-    case Member::AtomCount:
-      return "the number of atoms";
-    case Member::Symbol:
-      return "the symbol of ";
-    case Member::X:
-      return "x of ";
-    case Member::Y:
-      return "y of ";
-    case Member::Z:
-      return "z of ";
-    case Member::PathCount:
-      return "the number of paths";
-    case Member::Path:
-    case Member::PostFile:
-      return "the path of ";
-    case Member::PostLineCount:
-      return "the number of post-processing lines";
-    case Member::AtomNumbers:
-      return "the list of atom numbers of ";
-    case Member::ScanValue:
-      return "the scan value of ";
-    case Member::ScanSteps:
-      return "the number of steps of ";
-    case Member::RawText:
-      return "the text of ";
-  }
-  return {};
-}
+/// What comes before the owner of a member, in the order of the enumeration. The members of the
+/// document as a whole have no owner.
+constexpr std::string_view member_words[] = {
+    "the number of header commands",
+    "the name of ",
+    "",
+    "the value of ",
+    "the number of parameters of ",
+    "the charge and multiplicity line",
+    "the charge",
+    "the multiplicity",
+    "the coordinate section",
+    "the number of atoms",
+    "the symbol of ",
+    "x of ",
+    "y of ",
+    "z of ",
+    "the number of paths",
+    "the path of ",
+    "the number of post-processing lines",
+    "the list of atom numbers of ",
+    "the scan value of ",
+    "the number of steps of ",
+    "the text of ",
+};
 
-std::string value_words(const std::optional<std::string>& text) {
-  return text ? in_apostrophes(*text) : std::string(absent);
-}
-
-std::string command_words(const Difference& difference, const HeaderCommand& command) {
-  switch (difference.member) {
-    case Member::CommandName:
-      return in_apostrophes(command.name);
-    case Member::CommandKind:
-      return std::string(kind_words(command.kind));
-    case Member::CommandValue:
-      return value_words(command.value);
-    case Member::ParameterName:
-      return in_apostrophes(command.parameters.at(difference.parameter.value()).name);
-    case Member::ParameterValue:
-      return value_words(command.parameters.at(difference.parameter.value()).value);
-    default:
-      return std::to_string(command.parameters.size());
+/// A value as it comes after "is".
+struct ValueWords {
+  std::string operator()(std::monostate) const { return std::string(absent); }
+  std::string operator()(bool is_there) const { return is_there ? "present" : std::string(absent); }
+  std::string operator()(std::int32_t number) const { return std::to_string(number); }
+  std::string operator()(std::size_t number) const { return std::to_string(number); }
+  std::string operator()(double number) const { return shortest_text(number); }
+  std::string operator()(const std::string& text) const { return in_apostrophes(text); }
+  std::string operator()(const std::vector<std::int32_t>& numbers) const {
+    return numbers.empty() ? std::string(absent) : joined(numbers);
   }
-}
-
-std::string atom_words(Member member, const AtomRecord& atom) {
-  switch (member) {
-    case Member::X:
-      return shortest_text(atom.x);
-    case Member::Y:
-      return shortest_text(atom.y);
-    case Member::Z:
-      return shortest_text(atom.z);
-    default:
-      return in_apostrophes(atom.symbol);
-  }
-}
-
-std::string post_line_words(Member member, const PostCommand& command) {
-  switch (member) {
-    case Member::PostLineKind:
-      return with_article(command.kind);
-    case Member::AtomNumbers:
-      return command.atom_indices.empty() ? std::string(absent) : joined(command.atom_indices);
-    case Member::ScanValue:
-      return command.scan_value ? shortest_text(*command.scan_value) : std::string(absent);
-    case Member::ScanSteps:
-      return command.scan_steps ? std::to_string(*command.scan_steps) : std::string(absent);
-    case Member::PostFile:
-      return in_apostrophes(command.post_file);
-    default:
-      return in_apostrophes(command.raw_text);
-  }
-}
-
-std::string document_words(Member member, const QuillInput& input) {
-  const GeometryBlock& geometry = input.geometry;
-  switch (member) {
-    case Member::CommandCount:
-      return std::to_string(input.commands.size());
-    case Member::ChargeLine:
-      return geometry.has_charge_and_multiplicity ? "present" : std::string(absent);
-    case Member::Charge:
-      return std::to_string(geometry.charge);
-    case Member::Multiplicity:
-      return std::to_string(geometry.multiplicity);
-    case Member::GeometryKind:
-      return std::string(kind_words(geometry.kind));
-    case Member::AtomCount:
-      return std::to_string(geometry.atoms.size());
-    case Member::PathCount:
-      return std::to_string(geometry.xyz_files.size());
-    default:
-      return std::to_string(input.post_commands.size());
-  }
-}
-
-/// What a document has in the place that a difference names.
-std::string found_words(const Difference& difference, const QuillInput& input) {
-  const std::size_t index = difference.part.index.value_or(0);
-  switch (difference.part.role) {
-    case LineRole::Command:
-      return command_words(difference, input.commands.at(index));
-    case LineRole::Atom:
-      return atom_words(difference.member, input.geometry.atoms.at(index));
-    case LineRole::XyzReference:
-    case LineRole::Trajectory:
-      return in_apostrophes(input.geometry.xyz_files.at(index));
-    case LineRole::PostCommand:
-      return post_line_words(difference.member, input.post_commands.at(index));
-    default:
-      return document_words(difference.member, input);
-  }
-}
+  std::string operator()(HeaderCommandKind kind) const { return std::string(kind_words(kind)); }
+  std::string operator()(GeometryKind kind) const { return std::string(kind_words(kind)); }
+  std::string operator()(PostCommandKind kind) const { return with_article(kind); }
+};
 
 std::string misread_words(const Explanation& explanation, const QuillInput& wanted,
                           const QuillInput& found) {
@@ -320,13 +215,14 @@ std::string describe(const Part& part, const QuillInput& input) {
 }
 
 std::string_view noun_of(PostCommandKind kind) {
-  const PostLineShape* shape = find_words(kind);
+  const PostLineShape* shape = find_post_line_shape(kind);
   return shape == nullptr ? "post-processing line of unknown kind" : shape->noun;
 }
 
-std::string words(const Difference& difference, const QuillInput& wanted, const QuillInput& found) {
-  return std::string(member_words(difference.member)) + owner_of(difference) + " is " +
-         found_words(difference, found) + " instead of " + found_words(difference, wanted);
+std::string words(const Difference& difference) {
+  return std::string(member_words[static_cast<std::size_t>(difference.member)]) +
+         owner_of(difference) + " is " + std::visit(ValueWords(), difference.found) +
+         " instead of " + std::visit(ValueWords(), difference.wanted);
 }
 
 std::string words(const Proof& proof, const QuillInput& wanted) {
@@ -340,14 +236,14 @@ std::string words(const Proof& proof, const QuillInput& wanted) {
       return line + misread_words(explanation, wanted, found);
     case Explanation::Kind::OtherContent:
       return line + "would be read differently: " +
-             words(proof.comparison.differences.at(explanation.difference.value()), wanted, found);
+             words(proof.comparison.differences.at(explanation.difference.value()));
     case Explanation::Kind::MissingLine:
       return "no line would be read as " + name_of(explanation.wanted.value(), wanted) + " (" +
              in_apostrophes(expected_line(*explanation.wanted, wanted)) + ')';
     case Explanation::Kind::Difference:
       break;
   }
-  return words(proof.comparison.differences.at(explanation.difference.value()), wanted, found);
+  return words(proof.comparison.differences.at(explanation.difference.value()));
 }
 
 std::string words(const QuotingProblem& problem) {

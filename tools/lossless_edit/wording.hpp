@@ -26,9 +26,8 @@ std::string describe(const Part& part, const QuillInput& input);
 /// text"; "post-processing line of unknown kind" for a value outside the enumeration.
 std::string_view noun_of(PostCommandKind kind);
 
-/// Returns what differs: "the charge is 1 instead of 0". `wanted` and `found` are the documents
-/// that were compared.
-std::string words(const Difference& difference, const QuillInput& wanted, const QuillInput& found);
+/// Returns what differs: "the charge is 1 instead of 0".
+std::string words(const Difference& difference);
 
 /// Returns why a proof does not hold, without a full stop: "line 14 would be read as an atom of
 /// element A, not as an angle constraint; another post-processing line before it avoids that".

@@ -11,7 +11,6 @@
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/help_formatter.hpp"
-#include "quill-inp/command_line/message_options.hpp"
 #include "quill-inp/process/exit_code.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/session/output.hpp"
@@ -113,7 +112,7 @@ ExitCode carry_out(CommandLine& line, const StandardStreams& streams, Output& ou
     throw UsageError("options come after the verb, unlike '" + unmarked(leftover) + "'");
   refuse_leftovers(*verb.app);
   Session session(streams, out, read_common_options(*verb.app));
-  return verb.action(session);
+  return verb.action(session, *verb.app);
 }
 
 void parse(CommandLine& line, const std::vector<std::string>& arguments) {
@@ -143,7 +142,7 @@ ExitCode run_program(const std::vector<std::string>& arguments, const StandardSt
   } catch (const UsageError& error) {
     complaint = error.what();
   }
-  const MessageOptions options = find_message_options(arguments);
+  const CommonOptions options = find_message_options(arguments);
   Reporter reporter(streams.err, options.is_quiet, wants_color(options.color, streams.err_file));
   reporter.error({program_name}, complaint);
   reporter.note({program_name}, help_hint(line));

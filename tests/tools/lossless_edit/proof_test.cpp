@@ -369,7 +369,7 @@ TEST(Proof, HasEveryDifference) {
   const Proof proof = prove(editor.to_string(), editor.document());
   std::vector<std::string> all;
   for (const Difference& difference : proof.comparison.differences)
-    all.push_back(words(difference, editor.document(), proof.found.input));
+    all.push_back(words(difference));
   EXPECT_THAT(all,
               testing::ElementsAre(
                   "the number of atoms is 2 instead of 1",

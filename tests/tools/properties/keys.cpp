@@ -9,7 +9,7 @@
 #include "properties/obvious_reader.hpp"
 #include "properties/obvious_text.hpp"
 #include "properties/violation.hpp"
-#include "quill-inp/command_line/post_argument.hpp"
+#include "quill-inp/command_line/post_options.hpp"
 #include "quill-inp/keys/key.hpp"
 #include "quill-inp/process/trouble.hpp"
 

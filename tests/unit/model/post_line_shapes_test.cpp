@@ -55,8 +55,8 @@ TEST_P(PostLineShapes, AcceptExactlyTheirNumbersOfTokens) {
 INSTANTIATE_TEST_SUITE_P(Table, PostLineShapes, testing::ValuesIn(shape_rows),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(PostLineShapes, AreAsManyAsTheKindsWithAKeyword) {
-  EXPECT_EQ(post_line_shapes.size(), std::size(shape_rows));
+TEST(PostLineShapes, AreAsManyAsTheKinds) {
+  EXPECT_EQ(post_line_shapes.size(), std::size(shape_rows) + 1);  // raw text has no keyword
 }
 
 TEST(PostLineShapes, AreFoundByWholeUpperCaseKeywordsOnly) {
@@ -67,8 +67,13 @@ TEST(PostLineShapes, AreFoundByWholeUpperCaseKeywordsOnly) {
   }
 }
 
-TEST(PostLineShapes, DoNotIncludeRawText) {
-  EXPECT_EQ(find_post_line_shape(PostCommandKind::Raw), nullptr);
+TEST(PostLineShapes, HaveARowForRawTextWithoutAKeyword) {
+  const PostLineShape* shape = find_post_line_shape(PostCommandKind::Raw);
+  ASSERT_NE(shape, nullptr);
+  EXPECT_EQ(shape->kind, PostCommandKind::Raw);
+  EXPECT_EQ(shape->keyword, "");
+  EXPECT_TRUE(shape->accepts(0));
+  EXPECT_TRUE(shape->accepts(any_number));
 }
 
 TEST(PostLineShapes, DoNotIncludeUnknownKinds) {

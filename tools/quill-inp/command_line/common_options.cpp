@@ -1,5 +1,6 @@
 #include "quill-inp/command_line/common_options.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <limits>
@@ -51,6 +52,13 @@ std::uint64_t parse_size(const std::string& text) {
                    "'");
 }
 
+/// "-q", alone or with other short options that have no value: "-iq".
+bool asks_for_quiet(std::string_view word) {
+  if (word == "--quiet") return true;
+  return word.substr(0, 1) == "-" && word.find('q') != std::string_view::npos &&
+         word.find_first_not_of("hiq", 1) == std::string_view::npos;
+}
+
 }  // namespace
 
 void add_common_options(CLI::App& verb) {
@@ -66,6 +74,21 @@ CommonOptions read_common_options(const CLI::App& verb) {
   if (const auto mode = value_of(verb, color)) options.color = parse_color_mode(*mode);
   if (const auto size = value_of(verb, max_size)) options.max_size = parse_size(*size);
   if (const auto name = value_of(verb, stdin_filename)) options.stdin_filename = *name;
+  return options;
+}
+
+CommonOptions find_message_options(const std::vector<std::string>& arguments) {
+  const std::string name = name_of(color);
+  CommonOptions options;
+  const auto end = std::find(arguments.begin(), arguments.end(), "--");
+  for (auto word = arguments.begin(); word != end; ++word) {
+    if (asks_for_quiet(*word)) options.is_quiet = true;
+    std::string_view value;
+    if (*word == name && word + 1 != end) value = *(word + 1);
+    if (word->compare(0, name.size() + 1, name + "=") == 0)
+      value = std::string_view(*word).substr(name.size() + 1);
+    options.color = find_color_mode(value).value_or(options.color);
+  }
   return options;
 }
 

@@ -1,11 +1,8 @@
 #ifndef KELP_INPUT_QUILL_TOOL_COMMAND_LINE_COMMON_OPTIONS_HPP
 #define KELP_INPUT_QUILL_TOOL_COMMAND_LINE_COMMON_OPTIONS_HPP
 
+#include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/session/session.hpp"
-
-namespace CLI {
-class App;
-}  // namespace CLI
 
 namespace kelp::input::quill::tool {
 
@@ -14,6 +11,11 @@ void add_common_options(CLI::App& verb);
 
 /// Reads the options that every verb has, see CommonOptions. Throws UsageError for bad values.
 CommonOptions read_common_options(const CLI::App& verb);
+
+/// Returns what arguments that cannot be parsed say about messages: -q, --quiet and --color before
+/// "--", the last --color with a value that is one. Words are not told from the values of other
+/// options.
+CommonOptions find_message_options(const std::vector<std::string>& arguments);
 
 }  // namespace kelp::input::quill::tool
 

@@ -4,11 +4,8 @@
 #include <functional>
 
 #include "lossless_edit/tracked_document.hpp"
+#include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/session/session.hpp"
-
-namespace CLI {
-class App;
-}  // namespace CLI
 
 namespace kelp::input::quill::tool {
 

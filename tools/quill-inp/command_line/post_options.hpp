@@ -1,13 +1,13 @@
 #ifndef KELP_INPUT_QUILL_TOOL_COMMAND_LINE_POST_OPTIONS_HPP
 #define KELP_INPUT_QUILL_TOOL_COMMAND_LINE_POST_OPTIONS_HPP
 
+#include <cstdint>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "kelp/input/quill/document.hpp"
-
-namespace CLI {
-class App;
-}  // namespace CLI
+#include "quill-inp/command_line/arguments.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -18,6 +18,16 @@ void add_post_options(CLI::App& verb);
 /// Returns the lines that they ask for, in the order of the command line.
 /// Throws UsageError for bad values.
 std::vector<PostCommand> read_post_commands(const CLI::App& verb);
+
+/// Returns the integer that `text` spells. Throws UsageError, naming the option, for any other
+/// text.
+std::int32_t parse_integer(const std::string& option, std::string_view text);
+
+/// Returns the constraint or scan that the value of a command line option spells: "--atom",
+/// "--bond", "--angle" and "--dihedral" take atom numbers separated by commas, "--scan" two to four
+/// of them, a value and a number of steps, separated by colons: "1,2:1.5:10". "--post" takes a path
+/// and "--raw" a line of text. Throws UsageError for anything else.
+PostCommand parse_post_argument(const std::string& option, const std::string& text);
 
 }  // namespace kelp::input::quill::tool
 

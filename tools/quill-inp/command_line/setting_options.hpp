@@ -3,11 +3,8 @@
 
 #include <vector>
 
+#include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/keys/key.hpp"
-
-namespace CLI {
-class App;
-}  // namespace CLI
 
 namespace kelp::input::quill::tool {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "quill-inp/command_line/post_argument.hpp"
+#include "quill-inp/command_line/post_options.hpp"
 #include "quill-inp/process/trouble.hpp"
 
 namespace kelp::input::quill::tool {

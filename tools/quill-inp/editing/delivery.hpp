@@ -3,14 +3,11 @@
 
 #include <string_view>
 
+#include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/files/safe_write.hpp"
 #include "quill-inp/process/exit_code.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/session/session.hpp"
-
-namespace CLI {
-class App;
-}  // namespace CLI
 
 namespace kelp::input::quill::tool {
 

@@ -3,12 +3,9 @@
 
 #include <string>
 
+#include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/editing/losses.hpp"
 #include "quill-inp/session/session.hpp"
-
-namespace CLI {
-class App;
-}  // namespace CLI
 
 namespace kelp::input::quill::tool {
 

@@ -50,8 +50,7 @@ std::vector<LossWords> words(const Losses& losses, std::size_t most) {
   if (has_room()) all.push_back({lossless_edit::words(proof, losses.wanted), proof.line()});
   const std::vector<lossless_edit::Difference>& differences = proof.comparison.differences;
   for (std::size_t i = 0; i < differences.size() && has_room(); ++i) {
-    if (proof.explanation->difference != i)
-      all.push_back({lossless_edit::words(differences[i], losses.wanted, proof.found.input)});
+    if (proof.explanation->difference != i) all.push_back({lossless_edit::words(differences[i])});
   }
   return all;
 }

@@ -156,7 +156,7 @@ GeometryBlock read_geometry(const JsonPlace& place) {
 PostCommand read_post_command(const JsonPlace& place) {
   require_object(place,
                  {"kind", "atom_indices", "scan_value", "scan_steps", "post_file", "raw_text"});
-  PostCommand command(read_kind(required(place, "kind"), post_kind_names));
+  PostCommand command(read_kind(required(place, "kind"), post_line_shapes));
   read_optional_list(place, "atom_indices", command.atom_indices, read_integer);
   read_optional(place, "scan_value", command.scan_value, read_number);
   read_optional(place, "scan_steps", command.scan_steps, read_integer);

@@ -1,8 +1,6 @@
 #ifndef KELP_INPUT_QUILL_TOOL_FORMATS_DOCUMENT_NAMES_HPP
 #define KELP_INPUT_QUILL_TOOL_FORMATS_DOCUMENT_NAMES_HPP
 
-#include <array>
-#include <cstddef>
 #include <string_view>
 
 #include "kelp/input/quill/document.hpp"
@@ -13,8 +11,8 @@ namespace kelp::input::quill::tool {
 /// The name of a kind in the JSON form of documents. Reading and writing share the rows.
 template <typename Kind>
 struct KindName {
-  Kind kind = {};
-  std::string_view name = {};
+  Kind kind;
+  std::string_view name;
 };
 
 inline constexpr KindName<HeaderCommandKind> command_kind_names[] = {
@@ -30,22 +28,11 @@ inline constexpr KindName<GeometryKind> geometry_kind_names[] = {
     {GeometryKind::XyzTrajectory, "xyz_trajectory"},
 };
 
-/// The rows of the kinds of post-processing lines are part of the table that has all about them.
-constexpr auto make_post_kind_names() {
-  std::array<KindName<PostCommandKind>, post_line_shapes.size() + 1> names = {};
-  std::size_t count = 0;
-  for (const PostLineShape& shape : post_line_shapes)
-    names[count++] = {shape.kind, shape.json_name};
-  names[count] = {raw_line_shape.kind, raw_line_shape.json_name};
-  return names;
-}
-
-inline constexpr auto post_kind_names = make_post_kind_names();
-
-/// Returns the name of a kind, or the empty text for a value outside the enumeration.
-template <typename Names, typename Kind>
-constexpr std::string_view find_name(const Names& names, Kind kind) {
-  for (const KindName<Kind>& row : names) {
+/// Returns the name of a kind, or the empty text for a value outside the enumeration. The rows of
+/// the kinds of post-processing lines are post_line_shapes.
+template <typename Rows, typename Kind>
+constexpr std::string_view find_name(const Rows& rows, Kind kind) {
+  for (const auto& row : rows) {
     if (row.kind == kind) return row.name;
   }
   return {};

@@ -69,7 +69,7 @@ OrderedJson to_json(const HeaderCommand& command) {
 
 OrderedJson to_json(const PostCommand& command) {
   OrderedJson json = OrderedJson::object();
-  json["kind"] = std::string(find_name(post_kind_names, command.kind));
+  json["kind"] = std::string(find_name(post_line_shapes, command.kind));
   if (!command.atom_indices.empty()) json["atom_indices"] = command.atom_indices;
   if (command.scan_value) json["scan_value"] = number_to_json(*command.scan_value);
   if (command.scan_steps) json["scan_steps"] = *command.scan_steps;

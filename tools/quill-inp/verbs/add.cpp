@@ -18,7 +18,7 @@ constexpr const char* example =
 
 constexpr Option file{"FILE", "", "The input"};
 
-ExitCode add(Session& session, const CLI::App& app, const std::string& argument) {
+ExitCode add_to_file(Session& session, const CLI::App& app, const std::string& argument) {
   const std::vector<PostCommand> commands = read_post_commands(app);
   if (commands.empty()) throw UsageError("nothing to add");
   const auto edit = [&](lossless_edit::TrackedDocument& document) {
@@ -26,6 +26,11 @@ ExitCode add(Session& session, const CLI::App& app, const std::string& argument)
     return EditReport();
   };
   return edit_file(session, argument, edit, read_delivery(app), read_loss_policy(app));
+}
+
+ExitCode add(Session& session, const CLI::App& app) {
+  const std::string argument = *value_of(app, file);
+  return for_file(session, argument, [&] { return add_to_file(session, app, argument); });
 }
 
 }  // namespace
@@ -38,10 +43,7 @@ Verb add_add(CLI::App& program) {
   add_delivery_options(*app);
   add_loss_options(*app);
   add_common_options(*app);
-  return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, file);
-            return for_file(session, argument, [&] { return add(session, *app, argument); });
-          }};
+  return {app, add};
 }
 
 }  // namespace kelp::input::quill::tool

@@ -49,6 +49,14 @@ ExitCode format(Session& session, const std::string& argument, const Delivery& d
   return deliver(session, input, text, delivery);
 }
 
+ExitCode fmt(Session& session, const CLI::App& app) {
+  const Delivery delivery = read_delivery(app, CheckOption::Present);
+  const LossPolicy policy = read_loss_policy(app);
+  return for_each_file(session, values_of(app, files), [&](const std::string& argument) {
+    return format(session, argument, delivery, policy);
+  });
+}
+
 }  // namespace
 
 Verb add_fmt(CLI::App& program) {
@@ -57,13 +65,7 @@ Verb add_fmt(CLI::App& program) {
   add_delivery_options(*app, CheckOption::Present);
   add_loss_options(*app);
   add_common_options(*app);
-  return {app, [=](Session& session) {
-            const Delivery delivery = read_delivery(*app, CheckOption::Present);
-            const LossPolicy policy = read_loss_policy(*app);
-            return for_each_file(session, values_of(*app, files), [&](const std::string& argument) {
-              return format(session, argument, delivery, policy);
-            });
-          }};
+  return {app, fmt};
 }
 
 }  // namespace kelp::input::quill::tool

@@ -13,6 +13,15 @@ namespace {
 
 constexpr Option file{"FILE", "", "The JSON text"};
 
+ExitCode from_json(Session& session, const CLI::App& app) {
+  const std::string argument = *value_of(app, file);
+  const LossPolicy policy = read_loss_policy(app);
+  return for_file(session, argument, [&] {
+    const InputSource source = read_source(session, argument);
+    return print_document(session, source.name, document_from_json(source.content), policy);
+  });
+}
+
 }  // namespace
 
 Verb add_from_json(CLI::App& program) {
@@ -21,15 +30,7 @@ Verb add_from_json(CLI::App& program) {
   add_argument(*app, file);
   add_loss_options(*app);
   add_common_options(*app);
-  return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, file);
-            const LossPolicy policy = read_loss_policy(*app);
-            return for_file(session, argument, [&] {
-              const InputSource source = read_source(session, argument);
-              return print_document(session, source.name, document_from_json(source.content),
-                                    policy);
-            });
-          }};
+  return {app, from_json};
 }
 
 }  // namespace kelp::input::quill::tool

@@ -25,7 +25,8 @@ constexpr Option keys{"KEY", "", "What to print, one after another"};
 
 /// Prints the answers to all keys, or nothing when one has none: a script that reads the lines can
 /// rely on which of them is which.
-ExitCode get(Session& session, const std::string& argument, const std::vector<std::string>& texts) {
+ExitCode get_from_file(Session& session, const std::string& argument,
+                       const std::vector<std::string>& texts) {
   std::vector<Key> parsed;
   parsed.reserve(texts.size());
   for (const std::string& text : texts) parsed.push_back(parse_key(text));
@@ -47,6 +48,12 @@ ExitCode get(Session& session, const std::string& argument, const std::vector<st
   return code;
 }
 
+ExitCode get(Session& session, const CLI::App& app) {
+  const std::string argument = *value_of(app, file);
+  return for_file(session, argument,
+                  [&] { return get_from_file(session, argument, values_of(app, keys)); });
+}
+
 }  // namespace
 
 Verb add_get(CLI::App& program) {
@@ -54,11 +61,7 @@ Verb add_get(CLI::App& program) {
   add_argument(*app, file);
   add_arguments(*app, keys);
   add_common_options(*app);
-  return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, file);
-            return for_file(session, argument,
-                            [&] { return get(session, argument, values_of(*app, keys)); });
-          }};
+  return {app, get};
 }
 
 }  // namespace kelp::input::quill::tool

@@ -19,6 +19,11 @@ ExitCode print_json(Session& session, const std::string& argument) {
   return ExitCode::Done;
 }
 
+ExitCode json(Session& session, const CLI::App& app) {
+  const std::string argument = *value_of(app, file);
+  return for_file(session, argument, [&] { return print_json(session, argument); });
+}
+
 }  // namespace
 
 Verb add_json(CLI::App& program) {
@@ -26,10 +31,7 @@ Verb add_json(CLI::App& program) {
                            "Example:\n  quill-inp json water.qin | jq .geometry.atoms");
   add_argument(*app, file);
   add_common_options(*app);
-  return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, file);
-            return for_file(session, argument, [&] { return print_json(session, argument); });
-          }};
+  return {app, json};
 }
 
 }  // namespace kelp::input::quill::tool

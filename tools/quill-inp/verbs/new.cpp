@@ -7,7 +7,6 @@
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/geometry_options.hpp"
-#include "quill-inp/command_line/post_argument.hpp"
 #include "quill-inp/command_line/post_options.hpp"
 #include "quill-inp/editing/print_document.hpp"
 #include "quill-inp/keys/key.hpp"
@@ -85,6 +84,13 @@ QuillInput build(Session& session, const CLI::App& app) {
   return document.document();
 }
 
+ExitCode make_new(Session& session, const CLI::App& app) {
+  const LossPolicy policy = read_loss_policy(app);
+  return for_file(session, name_of_result, [&] {
+    return print_document(session, name_of_result, build(session, app), policy);
+  });
+}
+
 }  // namespace
 
 Verb add_new(CLI::App& program) {
@@ -96,12 +102,7 @@ Verb add_new(CLI::App& program) {
   add_post_options(*app);
   add_loss_options(*app);
   add_common_options(*app);
-  return {app, [=](Session& session) {
-            const LossPolicy policy = read_loss_policy(*app);
-            return for_file(session, name_of_result, [&] {
-              return print_document(session, name_of_result, build(session, *app), policy);
-            });
-          }};
+  return {app, make_new};
 }
 
 }  // namespace kelp::input::quill::tool

@@ -24,7 +24,7 @@ constexpr const char* example =
 
 constexpr Option file{"FILE", "", "The input"};
 
-ExitCode set(Session& session, const CLI::App& app, const std::string& argument) {
+ExitCode set_in_file(Session& session, const CLI::App& app, const std::string& argument) {
   const std::vector<Setting> settings = read_settings(app);
   const Delivery delivery = read_delivery(app);
   const LossPolicy policy = read_loss_policy(app);
@@ -38,6 +38,11 @@ ExitCode set(Session& session, const CLI::App& app, const std::string& argument)
   return edit_file(session, argument, edit, delivery, policy);
 }
 
+ExitCode set(Session& session, const CLI::App& app) {
+  const std::string argument = *value_of(app, file);
+  return for_file(session, argument, [&] { return set_in_file(session, app, argument); });
+}
+
 }  // namespace
 
 Verb add_set(CLI::App& program) {
@@ -48,10 +53,7 @@ Verb add_set(CLI::App& program) {
   add_delivery_options(*app);
   add_loss_options(*app);
   add_common_options(*app);
-  return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, file);
-            return for_file(session, argument, [&] { return set(session, *app, argument); });
-          }};
+  return {app, set};
 }
 
 }  // namespace kelp::input::quill::tool

@@ -93,6 +93,16 @@ class Show {
   const char* separator_ = "";
 };
 
+ExitCode show(Session& session, const CLI::App& app) {
+  if (is_given(app, as_json) && is_given(app, as_lines))
+    throw UsageError("--json and --lines exclude each other");
+  const Form form = is_given(app, as_json)    ? Form::Json
+                    : is_given(app, as_lines) ? Form::Lines
+                                              : Form::Text;
+  Show show_each(session, form);
+  return for_each_file(session, values_of(app, files), show_each);
+}
+
 }  // namespace
 
 Verb add_show(CLI::App& program) {
@@ -101,15 +111,7 @@ Verb add_show(CLI::App& program) {
   add_flag(*app, as_json);
   add_flag(*app, as_lines);
   add_common_options(*app);
-  return {app, [=](Session& session) {
-            if (is_given(*app, as_json) && is_given(*app, as_lines))
-              throw UsageError("--json and --lines exclude each other");
-            const Form form = is_given(*app, as_json)    ? Form::Json
-                              : is_given(*app, as_lines) ? Form::Lines
-                                                         : Form::Text;
-            Show show(session, form);
-            return for_each_file(session, values_of(*app, files), show);
-          }};
+  return {app, show};
 }
 
 }  // namespace kelp::input::quill::tool

@@ -75,10 +75,15 @@ bool goes_before(const Removal& left, const Removal& right) {
   return left.occurrence > right.occurrence;
 }
 
-/// Every key as it was typed, and the removals they ask for.
+/// A key as it was typed and as it was read.
+struct TypedKey {
+  std::string text = {};
+  Key key = {};
+};
+
+/// Every key, and the removals that they ask for.
 struct Request {
-  std::vector<std::string> texts = {};
-  std::vector<Key> keys = {};
+  std::vector<TypedKey> keys = {};
   std::vector<Removal> removals = {};
   bool clears_charge_and_multiplicity = false;
 };
@@ -91,8 +96,7 @@ Request parse_request(const std::vector<std::string>& texts) {
   Request request;
   for (const std::string& text : texts) {
     const Key key = parse_key(text);
-    request.texts.push_back(text);
-    request.keys.push_back(key);
+    request.keys.push_back({text, key});
     if (const auto* command_key = std::get_if<CommandKey>(&key)) {
       const Removal removal = to_removal(*command_key);
       auto& all = request.removals;
@@ -145,19 +149,29 @@ std::vector<EditNote> note_parameters_left(const AskedParameters& asked,
   return notes;
 }
 
-EditReport unset(const Request& request, TrackedDocument& document) {
+EditReport remove_keys(const Request& request, TrackedDocument& document) {
   EditReport report;
-  for (std::size_t i = 0; i < request.keys.size(); ++i) {
-    const QuillInput& input = document.document();
-    if (!answer(input, request.keys[i]))
-      report.missing.push_back(find_missing(input, request.texts[i], request.keys[i]));
+  const QuillInput& input = document.document();
+  for (const TypedKey& typed : request.keys) {
+    if (!answer(input, typed.key))
+      report.missing.push_back(find_missing(input, typed.text, typed.key));
   }
   if (!report.missing.empty()) return report;
-  const AskedParameters asked = list_asked_parameters(request, document.document());
+  const AskedParameters asked = list_asked_parameters(request, input);
   for (const Removal& removal : request.removals) remove(removal, document);
   if (request.clears_charge_and_multiplicity) document.clear_charge_and_multiplicity();
   report.notes = note_parameters_left(asked, document);
   return report;
+}
+
+ExitCode unset(Session& session, const CLI::App& app) {
+  const std::string argument = *value_of(app, file);
+  const Request request = parse_request(values_of(app, keys));
+  const Delivery delivery = read_delivery(app);
+  const LossPolicy policy = read_loss_policy(app);
+  const auto edit = [&](TrackedDocument& document) { return remove_keys(request, document); };
+  return for_file(session, argument,
+                  [&] { return edit_file(session, argument, edit, delivery, policy); });
 }
 
 }  // namespace
@@ -169,15 +183,7 @@ Verb add_unset(CLI::App& program) {
   add_delivery_options(*app);
   add_loss_options(*app);
   add_common_options(*app);
-  return {app, [=](Session& session) {
-            const std::string argument = *value_of(*app, file);
-            const Request request = parse_request(values_of(*app, keys));
-            const Delivery delivery = read_delivery(*app);
-            const LossPolicy policy = read_loss_policy(*app);
-            const auto edit = [&](TrackedDocument& document) { return unset(request, document); };
-            return for_file(session, argument,
-                            [&] { return edit_file(session, argument, edit, delivery, policy); });
-          }};
+  return {app, unset};
 }
 
 }  // namespace kelp::input::quill::tool

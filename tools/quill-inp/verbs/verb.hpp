@@ -8,13 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/process/exit_code.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/session/session.hpp"
-
-namespace CLI {
-class App;
-}  // namespace CLI
 
 namespace kelp::input::quill::tool {
 
@@ -22,7 +19,7 @@ namespace kelp::input::quill::tool {
 /// `action` throws UsageError for options that do not fit together.
 struct Verb {
   CLI::App* app = nullptr;
-  std::function<ExitCode(Session&)> action = {};
+  ExitCode (*action)(Session&, const CLI::App&) = nullptr;
 };
 
 Verb add_show(CLI::App& program);

@@ -1,4 +1,4 @@
-#include "quill-inp/command_line/post_argument.hpp"
+#include "quill-inp/command_line/post_options.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "quill-inp/command_line/message_options.hpp"
+#include "quill-inp/command_line/common_options.hpp"
 
 #include <gtest/gtest.h>
 
@@ -41,7 +41,7 @@ const Row rows[] = {
 };
 
 TEST_P(FoundMessageOptions, AreThoseInFrontOfTheEndOfOptions) {
-  const MessageOptions options = find_message_options(GetParam().arguments);
+  const CommonOptions options = find_message_options(GetParam().arguments);
   EXPECT_EQ(options.color, GetParam().color);
   EXPECT_EQ(options.is_quiet, GetParam().is_quiet);
 }
