@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "kelp/input/quill/document.hpp"
 #include "kelp/input/quill/reader.hpp"
@@ -30,6 +31,9 @@ std::string write_with_to_chars(const QuillInput& input);
 
 /// Writes charge and multiplicity and atoms by a string stream with setw and setprecision.
 std::string write_with_stream(const QuillInput& input);
+
+/// Writes constraints and scans by std::to_chars into one buffer that is large enough for all.
+std::string write_constraints_and_scans(const std::vector<PostCommand>& lines);
 
 /// Creates or truncates a file and writes `text` by the three calls of the system that this takes.
 bool write_bare_file(const std::string& path, std::string_view text);

@@ -19,6 +19,9 @@ QuillInput header_heavy(std::size_t lines);
 /// One atom and this many post-processing lines, of every kind by turns.
 QuillInput post_heavy(std::size_t lines);
 
+/// This many constraints and scans, of every kind by turns, and nothing else.
+QuillInput constraints_and_scans(std::size_t lines);
+
 /// Two header lines and this many references to XYZ files.
 QuillInput references(std::size_t files);
 

@@ -1,5 +1,6 @@
 #include "writer/number_text.hpp"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -17,10 +18,6 @@ constexpr std::uint64_t millionths_per_unit = 1'000'000;
 // The largest double has a digit and max_exponent10 more before the point.
 constexpr std::size_t longest_coordinate =
     std::numeric_limits<double>::max_exponent10 + std::string_view("-1.000000").size();
-
-constexpr std::size_t longest_scan_value = std::string_view("-1.23457e-308").size();
-
-constexpr std::size_t longest_integer = std::string_view("-2147483648").size();
 
 #if defined(__SIZEOF_INT128__) && !defined(KELP_QUILL_INP_PORTABLE_NUMBERS)
 __extension__ using Uint128 = unsigned __int128;
@@ -103,11 +100,43 @@ void append_any_coordinate(std::string& out, double coordinate) {
   out.append(text, length);
 }
 
+constexpr std::size_t pair_size = 2;
+
+using Pairs = std::array<char, 100 * pair_size>;
+
+/// "00", "01" and so on up to "99".
+constexpr Pairs make_pairs() {
+  Pairs pairs = {};
+  for (std::size_t i = 0; i < pairs.size(); i += pair_size) {
+    const std::size_t number = i / pair_size;
+    pairs[i] = static_cast<char>('0' + number / 10);
+    pairs[i + 1] = static_cast<char>('0' + number % 10);
+  }
+  return pairs;
+}
+
+char* write_pair(char* field, std::uint32_t number) {
+  static constexpr Pairs pairs = make_pairs();
+  std::memcpy(field, &pairs[number * pair_size], pair_size);
+  return field + pair_size;
+}
+
+/// Writes one or two digits.
+char* write_below_hundred(char* field, std::uint32_t number) {
+  if (number >= 10) return write_pair(field, number);
+  *field = static_cast<char>('0' + number);
+  return field + 1;
+}
+
 }  // namespace
 
-void append_integer(std::string& out, std::int32_t number) {
-  char text[longest_integer];
-  out.append(text, std::to_chars(text, text + sizeof text, number).ptr);
+char* write_integer(char* field, std::int32_t number) {
+  // A negative number becomes one above every limit here.
+  const auto as_unsigned = static_cast<std::uint32_t>(number);
+  if (as_unsigned < 100) return write_below_hundred(field, as_unsigned);
+  if (as_unsigned < 10'000)
+    return write_pair(write_below_hundred(field, as_unsigned / 100), as_unsigned % 100);
+  return std::to_chars(field, field + longest_integer, number).ptr;
 }
 
 bool write_coordinate(char* field, double coordinate) {
@@ -130,11 +159,8 @@ void append_coordinate(std::string& out, double coordinate) {
   }
 }
 
-void append_scan_value(std::string& out, double value) {
-  char text[longest_scan_value];
-  const char* const end =
-      std::to_chars(text, text + sizeof text, value, std::chars_format::general, 6).ptr;
-  out.append(text, static_cast<std::size_t>(end - text));
+char* write_scan_value(char* field, double value) {
+  return std::to_chars(field, field + longest_scan_value, value, std::chars_format::general, 6).ptr;
 }
 
 }  // namespace kelp::input::quill

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 // The three spellings of numbers in a QUILL input. No locale has any influence on them.
 
@@ -12,8 +13,13 @@ namespace kelp::input::quill {
 /// The width of a coordinate's field. Longer numbers are written whole.
 inline constexpr std::size_t coordinate_width = 14;
 
-/// Appends plain decimal digits, with "-" for negative numbers.
-void append_integer(std::string& out, std::int32_t number);
+/// The most characters that write_integer() and write_scan_value() write.
+inline constexpr std::size_t longest_integer = std::string_view("-2147483648").size();
+inline constexpr std::size_t longest_scan_value = std::string_view("-1.23457e-308").size();
+
+/// Writes plain decimal digits at `field`, after a "-" for negative numbers, and returns the end of
+/// the text.
+char* write_integer(char* field, std::int32_t number);
 
 /// Appends what printf("%14.6f") prints.
 void append_coordinate(std::string& out, double coordinate);
@@ -23,8 +29,8 @@ void append_coordinate(std::string& out, double coordinate);
 /// nothing and returns false.
 bool write_coordinate(char* field, double coordinate);
 
-/// Appends what printf("%g") prints.
-void append_scan_value(std::string& out, double value);
+/// Writes what printf("%g") prints at `field` and returns the end of the text.
+char* write_scan_value(char* field, double value);
 
 }  // namespace kelp::input::quill
 

@@ -3,7 +3,7 @@
 //
 //   number_exactness reading 1000000         try_parse_double and strtod
 //   number_exactness coordinates 1000000     append_coordinate and printf("%14.6f")
-//   number_exactness scan_values 1000000     append_scan_value and printf("%g")
+//   number_exactness scan_values 1000000     write_scan_value and printf("%g")
 //
 // The count is that of numbers of each kind. A third argument is the seed, 1 unless told.
 
@@ -100,9 +100,8 @@ bool is_coordinate_exact(const double& number) {
 bool is_scan_value_exact(const double& number) {
   char expected[32];
   static_cast<void>(std::snprintf(expected, sizeof expected, "%g", number));
-  std::string text;
-  append_scan_value(text, number);
-  return is_written_exactly(number, expected, text);
+  char text[longest_scan_value];
+  return is_written_exactly(number, expected, std::string(text, write_scan_value(text, number)));
 }
 
 struct Plan {
