@@ -11,7 +11,7 @@
 namespace kelp::input::quill {
 
 /// One kind of post-processing line that has a keyword: how it begins and how many tokens the
-/// reader asks of it, keyword included. Reader and writer share the rows.
+/// reader accepts, keyword included. The reader and the writer share these rows.
 struct PostLineShape {
   std::string_view keyword;
   PostCommandKind kind;

@@ -23,8 +23,8 @@ constexpr std::size_t longest_coordinate =
 __extension__ using Uint128 = unsigned __int128;
 
 /// Returns the magnitude of `value` in millionths, rounded to the nearest integer with ties to
-/// even, for magnitudes below 999,999, which keep six digits before the point when they are
-/// rounded; nothing for others.
+/// even, for magnitudes below 999,999, which still have at most six digits before the point after
+/// rounding; nothing for others.
 ///
 /// A double is m * 2^-s with m < 2^53, so m * 10^6 < 2^73 is exact in 128 bits, and of the sum with
 /// half a millionth only the bits below 2^s are lost: all of them are 0 exactly for a tie. From
@@ -52,7 +52,7 @@ std::optional<std::uint64_t> to_millionths(double /*value*/) { return std::nullo
 #endif
 
 // Eight characters are made at once, in the eight bytes of an integer; the first one is the lowest
-// byte, whatever order the machine stores them in.
+// byte, in whatever order the machine stores bytes.
 
 constexpr std::uint64_t in_every_byte(std::uint64_t byte) { return byte * 0x0101010101010101U; }
 
@@ -69,16 +69,16 @@ constexpr std::uint64_t digits_of(std::uint64_t number) {
   return tens | (pairs - tens * 10) << 8;
 }
 
-/// Returns digits as text, with blanks for leading zeros and a "-" or one more blank before what
-/// remains, of which the last digit is always a part. The first byte of `digits` is 0.
+/// Returns digits as text, with blanks for leading zeros and a "-" or one more blank before the
+/// first digit that remains. The last digit always remains. The first byte of `digits` is 0.
 constexpr std::uint64_t right_justified(std::uint64_t digits, bool is_negative) {
   constexpr std::uint64_t last_digit = std::uint64_t{0x80} << 56;
   // Adding 0x7F sets the top bit of every digit but 0; of these flags the lowest one counts.
   const std::uint64_t flags = ((digits + in_every_byte(0x7F)) & in_every_byte(0x80)) | last_digit;
   const std::uint64_t first_digit = (flags & (~flags + 1)) >> 7;
   const std::uint64_t all_before = first_digit - 1;
-  // Half of all coordinates are negative, in no order that a processor could foresee: the sign must
-  // not decide on a jump.
+  // Half of all coordinates are negative, in an order that a processor cannot predict: no branch
+  // may depend on the sign.
   const std::uint64_t sign = std::uint64_t{is_negative} * ('-' ^ ' ');
   return (digits | in_every_byte('0')) ^ (all_before & in_every_byte('0' ^ ' ')) ^
          (first_digit >> 8) * sign;

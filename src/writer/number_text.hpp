@@ -6,11 +6,11 @@
 #include <string>
 #include <string_view>
 
-// The three spellings of numbers in a QUILL input. No locale has any influence on them.
+// The three spellings of numbers in a QUILL input. The locale has no influence on them.
 
 namespace kelp::input::quill {
 
-/// The width of a coordinate's field. Longer numbers are written whole.
+/// The width of a coordinate's field. Longer numbers are not cut.
 inline constexpr std::size_t coordinate_width = 14;
 
 /// The most characters that write_integer() and write_scan_value() write.
@@ -25,7 +25,7 @@ char* write_integer(char* field, std::int32_t number);
 void append_coordinate(std::string& out, double coordinate);
 
 /// Writes what printf("%14.6f") prints into the 14 characters at `field` and returns true, for
-/// numbers whose text is known without a search: nearly all below a million. Otherwise writes
+/// numbers that can be converted in integers: nearly all below a million. For all others, writes
 /// nothing and returns false.
 bool write_coordinate(char* field, double coordinate);
 

@@ -11,8 +11,8 @@ namespace kelp::input::quill {
 /// Collects pieces of text and appends them to a string many at a time. Most pieces of a line are
 /// a few characters long, and appending such a piece on its own takes longer than making it.
 ///
-/// The caller keeps the end of the collected text, a local variable that stays in a register: every
-/// function takes it and returns the new one, and flush() appends what is left.
+/// The caller keeps the end of the collected text, so that it can stay in a register: the functions
+/// that add text take this end and return the new one, and flush() appends what is left.
 class TextBuffer {
  public:
   static constexpr std::size_t capacity = 512;

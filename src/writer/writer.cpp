@@ -168,7 +168,7 @@ void append_post_commands(std::string& out, const std::vector<PostCommand>& comm
 }
 
 /// How much room to reserve, so that a whole input is written without growing the text: the stored
-/// strings and what stands around them, and usual lengths for numbers. Text that needs more grows.
+/// strings, what is written around them, and usual lengths for numbers. A longer text still grows.
 std::size_t expected_size(const HeaderCommand& command) {
   std::size_t size = command.name.size() + std::string_view("# = \n").size();
   if (command.value) size += command.value->size();
@@ -224,8 +224,8 @@ std::string to_string(const GeometryBlock& geometry) {
 }
 
 std::string QuillInput::to_string() const {
-  // The section counts as present even when its kind writes no line, so that a document which was
-  // meant to have coordinates keeps their place.
+  // The section counts as present even when its kind writes no line, so that the place of the
+  // coordinates is kept in a document that has none yet.
   const bool has_coordinates =
       geometry.kind != GeometryKind::None || geometry.has_charge_and_multiplicity;
   const bool has_post_lines = !post_commands.empty();
