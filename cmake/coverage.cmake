@@ -1,5 +1,5 @@
-# Counts of the source's own conditions, as clang's front end sees them. Counters in the object code
-# would also ask for the branches of every exception that nobody throws.
+# Counts the conditions that are in the source, as clang's front end sees them. Counters in the object
+# code would also count the branches for exceptions that are never thrown.
 if(KELP_QUILL_INP_COVERAGE)
   add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
   add_link_options(-fprofile-instr-generate)

@@ -1,4 +1,4 @@
-# The warnings that every target of this project is built with.
+# The compiler warnings for every target of this project.
 function(kelp_quill_inp_set_warnings target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wcast-qual

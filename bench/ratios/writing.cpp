@@ -51,8 +51,8 @@ void compare_file_with_string(RatioTable& table, std::size_t atoms, const std::s
   const std::string what = "write_file " + size + " atoms : to_string";
   input.write_file(file.path());
   require_same(parse_file(file.path()).input.to_string() == input.to_string(), what);
-  // The file system takes its time for every byte, and the faster the text is made, the larger that
-  // looms in this ratio.
+  // The file system takes some time for every byte. The faster the text is made, the larger is the
+  // part of that time in this ratio.
   table.compare_with_floor(
       what, [&] { input.write_file(file.path()); },
       [&] { require_same(write_bare_file(file.path(), input.to_string()), what); }, writing(input),

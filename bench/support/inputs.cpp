@@ -19,7 +19,8 @@ double coordinate(Random& random) {
 
 std::vector<AtomRecord> make_atoms(std::size_t count) {
   constexpr std::array<const char*, 8> symbols = {"C", "H", "H", "O", "N", "C", "Cl", "Fe"};
-  // Ratios of two runs compare only if both have the same atoms, and nothing here is a secret.
+  // Ratios of two runs can be compared only if both have the same atoms, and nothing is secret
+  // here.
   Random random(1);  // NOLINT(cert-msc32-c,cert-msc51-cpp)
   std::vector<AtomRecord> atoms;
   atoms.reserve(count);
