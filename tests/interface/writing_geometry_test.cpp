@@ -38,7 +38,7 @@ TEST_P(GeometryText, IsAsWritten) { EXPECT_EQ(to_string(GetParam().geometry), Ge
 
 std::string name_of_row(const testing::TestParamInfo<GeometryRow>& row) { return row.param.name; }
 
-/// Content for every kind, so that each kind shows what it passes over.
+/// Content for every kind, so that each kind shows what it leaves out.
 GeometryBlock filled(GeometryKind kind, bool has_line) {
   return {kind, -1, 2, has_line, {{"H", 0.0, 0.0, 0.74}}, {"a.xyz", "b.xyz"}};
 }

@@ -83,7 +83,7 @@ TEST_P(HeaderCommandText, IsAsWritten) { EXPECT_EQ(to_string(GetParam().piece), 
 INSTANTIATE_TEST_SUITE_P(Table, HeaderCommandText, testing::ValuesIn(command_rows),
                          [](const auto& row) { return std::string(row.param.name); });
 
-/// Every field that any kind writes, so that each kind shows which ones it passes over.
+/// Every field that any kind writes, so that each kind shows which ones it leaves out.
 PostCommand filled(PostCommandKind kind) { return {kind, {3, 1, 2}, 1.5, 10, "out.dat", "free"}; }
 
 using PostRow = PieceRow<PostCommand>;
@@ -138,7 +138,7 @@ const PostRow post_rows[] = {
     {"LargeValueHasAnExponent", {scan, {1}, 1000000.0}, "S 1 1e+06"},
     {"SmallValueHasAnExponent", {scan, {1}, 0.00001}, "S 1 1e-05"},
     {"InfiniteValue", {scan, {1}, -infinity, 2}, "S 1 -inf 2"},
-    {"ValueThatIsNoNumber", {scan, {1}, nan, 2}, "S 1 nan 2"},
+    {"ValueThatIsNotANumber", {scan, {1}, nan, 2}, "S 1 nan 2"},
 };
 
 class PostCommandText : public testing::TestWithParam<PostRow> {};

@@ -176,7 +176,7 @@ std::string printed_as_scan_value(double number) {
   return std::string(text, static_cast<std::size_t>(length));
 }
 
-/// The numbers, at most ten of them, that come out unlike printf writes them.
+/// The numbers that are not written as printf writes them, at most ten.
 std::vector<std::string> differences(const std::vector<double>& numbers,
                                      std::string (*written)(double),
                                      std::string (*printed)(double)) {
@@ -239,7 +239,7 @@ std::string text_around_field(char* (*write)(char*, Number), Number number, std:
   return text;
 }
 
-TEST(NumberText, LeavesWhatIsAroundItsFieldAlone) {
+TEST(NumberText, DoesNotChangeWhatIsAroundItsField) {
   EXPECT_EQ(text_around_field(write_integer, std::int32_t{7}, 1), ".7.");
   EXPECT_EQ(text_around_field(write_integer, std::int32_t{42}, 2), ".42.");
   EXPECT_EQ(text_around_field(write_integer, std::int32_t{305}, 3), ".305.");

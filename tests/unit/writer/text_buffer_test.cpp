@@ -15,7 +15,7 @@ std::string text_of_size(std::size_t size) { return std::string(size, 'x'); }
 
 class BufferedText : public testing::Test {
  protected:
-  /// What the string holds at last.
+  /// The string after everything was appended.
   std::string flushed() {
     buffer_.flush(end_);
     return out_;
