@@ -1,5 +1,5 @@
-// Stands in for libFuzzer where there is none: runs the target once on every file that is named on
-// the command line, and on every file in every folder that is.
+// Replaces libFuzzer where it is not available: runs the target once on every file that is named on
+// the command line, and on every file in every named folder.
 
 #include <exception>
 #include <filesystem>
@@ -32,7 +32,7 @@ bool replay(const fs::path& path) {
   }
   const std::string bytes(std::istreambuf_iterator<char>(file), {});
   try {
-    // A block of its own, of exactly the size, as libFuzzer makes one.
+    // A separate block of exactly this size, as libFuzzer uses.
     const std::vector<std::uint8_t> block(bytes.begin(), bytes.end());
     LLVMFuzzerTestOneInput(block.data(), block.size());
     return true;
