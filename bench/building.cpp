@@ -7,7 +7,7 @@
 #include "support/inputs.hpp"
 
 // One operation of the builder, which copies its document twice, on ten commands and thirty atoms,
-// and the two copies alone. Operations that append to the document start anew after each hundred.
+// and the two copies alone. Operations that append to the document start again after every hundred.
 
 namespace kelp::input::quill::bench {
 namespace {
@@ -31,7 +31,7 @@ void build(benchmark::State& state, Operation operation) {
   if (!builder.document().has_task_command()) state.SkipWithError("the document was lost");
 }
 
-/// An operation that makes the document larger, on one that is never much larger than at first.
+/// An operation that makes the document larger, on a document that never gets much larger.
 void append(benchmark::State& state, Operation operation) {
   constexpr int most = 5;
   const InputBuilder start = small_builder();

@@ -6,8 +6,8 @@
 #include "kelp/input/quill/quill.hpp"
 #include "support/inputs.hpp"
 
-// One operation of the editor on a document of ten commands and thirty atoms. Operations that would
-// let the document grow are timed together with the one that takes back what they added.
+// One operation of the editor on a document of ten commands and thirty atoms. Operations that make
+// the document larger are timed together with the operation that removes what they added.
 
 namespace kelp::input::quill::bench {
 namespace {

@@ -13,7 +13,7 @@
 #include "support/per_item.hpp"
 
 // The nine functions that reading consists of, those of the sister libraries and the plain ones, on
-// what a reader hands them. Items are calls, and for split_lines lines.
+// the arguments that a reader passes. Items are calls, and for split_lines lines.
 
 namespace kelp::input::quill::bench {
 namespace {
@@ -42,8 +42,7 @@ Arguments integers() {
   return tokens;
 }
 
-/// Calls `function` once for each argument and asks of the results that they agree with those of
-/// `reference`.
+/// Calls `function` once for each argument and requires that the results are those of `reference`.
 template <typename Result>
 void call(benchmark::State& state, Result (*function)(std::string_view),
           Result (*reference)(std::string_view), const Arguments& arguments) {

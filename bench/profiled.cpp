@@ -1,4 +1,4 @@
-// Reads or writes ten thousand atoms over and over, and nothing else, for a profiler to look at.
+// Only reads or writes ten thousand atoms, many times, for a profiler.
 
 #include <benchmark/benchmark.h>
 

@@ -10,8 +10,8 @@
 #include "support/per_item.hpp"
 #include "support/scratch_path.hpp"
 
-// Reading, by the library and by what it is compared with. Items are lines of the kind that the
-// input is made of.
+// Reading, by the library and by what it is compared with. Items are lines of the kind that most of
+// the input consists of.
 
 namespace kelp::input::quill::bench {
 namespace {

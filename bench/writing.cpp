@@ -18,7 +18,7 @@ using Writer = std::string (*)(const QuillInput&);
 
 std::string write_with_library(const QuillInput& input) { return input.to_string(); }
 
-/// Charge, multiplicity and atoms, which every one of the writers can write.
+/// Charge, multiplicity and atoms, which all of the writers can write.
 QuillInput only_atoms(const benchmark::State& state) {
   return QuillInput({}, molecule(static_cast<std::size_t>(state.range(0))).geometry);
 }

@@ -1,6 +1,6 @@
-# Debian packages by CPack, for the preset debian: the libraries, what programs are built with, and
-# the tool. The packages have what Debian's policy asks of any: a changelog, a copyright file,
-# compressed manual pages.
+# Debian packages by CPack, for the preset debian: the libraries, the files for building programs, and
+# the tool. The packages have what Debian's policy requires: a changelog, a copyright file, compressed
+# manual pages.
 if(NOT KELP_QUILL_INP_DEBIAN_PACKAGES)
   return()
 endif()
@@ -59,7 +59,7 @@ set(CPACK_COMPONENT_TOOL_DEPENDS runtime)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE ${debian_release})
-# Whoever passes packages on puts an address that is read.
+# People who distribute packages set an address at which they read mail.
 if(NOT CPACK_DEBIAN_PACKAGE_MAINTAINER)
   set(CPACK_DEBIAN_PACKAGE_MAINTAINER "The kelp developers <kelp@kelp.invalid>")
 endif()
@@ -69,7 +69,7 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${debian_files}/triggers")
-# The tool's own libraries are found in the build; which package they are in is said above.
+# The tool's own libraries are found in the build; the package that contains them is set above.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
   "${PROJECT_BINARY_DIR}/src"
@@ -77,7 +77,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
   "${PROJECT_BINARY_DIR}/sisters/chem_elements"
 )
 
-# Each description brings its own first line.
+# Each description has its own first line.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(quill_input "A QUILL input is the plain-text job description of a
 computational-chemistry engine. The library reads, edits, builds and writes
@@ -89,7 +89,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "reader and writer of QUILL inputs, shared libraries
 ${quill_input}
 
-This package has the library and the two small ones that it stands on.")
+This package has the library and the two small ones that it uses.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${development_package})
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)

@@ -1,7 +1,7 @@
 include(CheckLinkerFlag)
 
-# Limits what a shared library exports to the names in a version script. Hidden visibility alone
-# lets through the code that the standard library's templates leave in it.
+# Limits what a shared library exports to the names in a version script. With hidden visibility alone,
+# the library would also export instances of the standard library's templates.
 function(kelp_quill_inp_limit_exports target map_file)
   get_target_property(type ${target} TYPE)
   if(NOT type STREQUAL "SHARED_LIBRARY")

@@ -1,5 +1,5 @@
-# Flags that make an error in memory end the program in place of being used by an attacker. They
-# concern whole programs, so they are set for everything built in this tree.
+# Flags that make a memory error end the program, so that an attacker cannot use it. They affect whole
+# programs, so they are set for everything built in this tree.
 if(NOT KELP_QUILL_INP_HARDENING)
   return()
 endif()
@@ -11,7 +11,7 @@ endif()
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)
 
-# The C library's checks need an optimiser, and a system's default level of them is taken back first.
+# The C library's checks need an optimiser, and a default level that the system has set is unset first.
 set(optimised "$<CONFIG:Release,RelWithDebInfo,MinSizeRel>")
 add_compile_options(
   "$<${optimised}:-U_FORTIFY_SOURCE>"

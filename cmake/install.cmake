@@ -1,5 +1,5 @@
-# What goes where, in components: runtime (what programs load), development (what they are built
-# with), tool (the program quill-inp) and documentation.
+# Where files are installed, in components: runtime (what programs load), development (what is needed
+# to build them), tool (the program quill-inp) and documentation.
 if(NOT KELP_QUILL_INP_INSTALL)
   return()
 endif()
@@ -20,7 +20,7 @@ if(KELP_QUILL_INP_BUILD_TOOLS)
 endif()
 
 install(FILES README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
-# Debian's packages have it by another name.
+# In Debian's packages it has another name.
 if(NOT KELP_QUILL_INP_DEBIAN_PACKAGES)
   install(FILES CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
 endif()

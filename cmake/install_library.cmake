@@ -3,8 +3,8 @@ include(GNUInstallDirs)
 
 # kelp_quill_inp_install_library(LIBRARY DESCRIPTION [DEPENDENCY...])
 #
-# Installs a library as a package of its own: the library, its headers, and what find_package and
-# pkg-config ask for. The dependencies are packages too, each with a library of the same name.
+# Installs a library as a separate package: the library, its headers, and the files for find_package
+# and pkg-config. The dependencies are packages too, each with a library of the same name.
 function(kelp_quill_inp_install_library library description)
   set(dependencies ${ARGN})
   install(TARGETS ${library}
@@ -19,7 +19,7 @@ function(kelp_quill_inp_install_library library description)
 endfunction()
 
 function(kelp_quill_inp_install_cmake_package library)
-  # Whatever is installed beside the package is found even if nobody names the folder.
+  # Packages in the same folder are found even if the caller does not name that folder.
   set(find_dependencies "")
   foreach(dependency IN LISTS ARGN)
     string(APPEND find_dependencies
@@ -43,9 +43,9 @@ endfunction()
 
 function(kelp_quill_inp_install_pkg_config_file library description)
   set(folder "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
-  # Relative to the file itself, the prefix stays right when the installation is moved. A library
-  # folder that is absolute says nothing about the prefix; and of the system's own folders pkg-config
-  # knows that the compiler looks there, as long as they are spelled plainly.
+  # A prefix relative to the file itself stays right when the installation is moved. That is not
+  # possible if the library folder is absolute. And pkg-config leaves out the system's own folders,
+  # which the compiler searches anyway, only if they are written as plain absolute paths.
   if(IS_ABSOLUTE "${folder}" OR CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     set(prefix "${CMAKE_INSTALL_PREFIX}")
   else()

@@ -1,4 +1,4 @@
-# The program, its manual page, and what shells need to complete its command lines.
+# The program, its manual page, and its completions for shells.
 install(TARGETS quill-inp RUNTIME COMPONENT tool)
 
 # kelp_quill_inp_install_for_tool(FILE FOLDER [RENAME NAME])

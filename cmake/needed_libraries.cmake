@@ -1,9 +1,9 @@
 include(CheckLinkerFlag)
 
-# Links libraries so that programs which link the target name them as well, even if they use none of
-# their functions. The run path of a program leads to the libraries that it names itself, not to
-# those that its libraries name, and nothing installed has a run path of its own: without this a
-# program would start only where the dynamic linker looks by itself.
+# Links libraries so that programs which link the target need them directly, even if they use none of
+# their functions. The run path of a program is used to find only the libraries that it needs directly,
+# and the installed libraries have no run path: without this, a program would start only if the
+# libraries are in a folder that the dynamic linker searches by default.
 function(kelp_quill_inp_link_needed target)
   get_target_property(type ${target} TYPE)
   set(begin -Wl,--push-state,--no-as-needed)

@@ -1,17 +1,17 @@
 include(GNUInstallDirs)
 
-# A plain configure builds the libraries alone; the presets switch the rest on.
+# Without options, only the libraries are built; the presets switch the rest on.
 option(KELP_QUILL_INP_BUNDLED_SISTERS "Build the text and element libraries from this tree" ON)
 option(KELP_QUILL_INP_BUILD_EXAMPLES "Build the example programs" OFF)
 option(KELP_QUILL_INP_BUILD_TOOLS "Build quill-inp (needs CLI11 and nlohmann-json)" OFF)
 option(KELP_QUILL_INP_BUILD_TESTS "Build the tests (needs GoogleTest and the examples)" OFF)
 option(KELP_QUILL_INP_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
 option(KELP_QUILL_INP_BUILD_FUZZERS "Build the fuzz targets, or programs that replay their inputs" OFF)
-option(KELP_QUILL_INP_INSTALL "Let cmake --install take the libraries and the tool along"
+option(KELP_QUILL_INP_INSTALL "Install the libraries and the tool with cmake --install"
   ${PROJECT_IS_TOP_LEVEL})
 option(KELP_QUILL_INP_DEBIAN_PACKAGES "Let cpack make Debian packages; see the preset debian" OFF)
-option(KELP_QUILL_INP_HARDENING "Build with the flags that shipped programs deserve" OFF)
-option(KELP_QUILL_INP_WARNINGS_AS_ERRORS "Let a compiler warning fail the build" OFF)
+option(KELP_QUILL_INP_HARDENING "Build with hardening flags, for programs that are shipped" OFF)
+option(KELP_QUILL_INP_WARNINGS_AS_ERRORS "Make a compiler warning fail the build" OFF)
 option(KELP_QUILL_INP_COVERAGE "Count what the tests reach (needs clang++)" OFF)
 set(KELP_QUILL_INP_SANITIZERS "" CACHE STRING
   "Sanitizers to build with, separated by commas, for example address,undefined")
@@ -19,7 +19,7 @@ set(KELP_QUILL_INP_SANITIZERS "" CACHE STRING
 set(KELP_QUILL_INP_ZSH_COMPLETIONS_DIR "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" CACHE STRING
   "Folder for the tool's completions for zsh")
 
-# The libraries are shared ones unless BUILD_SHARED_LIBS says otherwise in so many words.
+# The libraries are shared unless BUILD_SHARED_LIBS is set to OFF explicitly.
 if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)
   set(KELP_QUILL_INP_LIBRARY_TYPE STATIC)
 else()

@@ -1,4 +1,4 @@
-// Builds an optimisation of formaldehyde from nothing and writes it to a file.
+// Builds an input for the optimisation of formaldehyde and writes it to a file.
 //
 //   build_input OUTPUT
 //
@@ -19,8 +19,8 @@ namespace {
 
 InputBuilder formaldehyde() {
   InputBuilder builder;
-  // The bond constraint stands first: an angle constraint right after inline atoms has the shape
-  // of an atom line and would be read as one.
+  // The bond constraint comes first: an angle constraint right after inline atoms has the form of
+  // an atom line and would be read as one.
   builder.set_task("opt", {{"maxiter", "50"}, {"tight"}})
       .set_model("m1")
       .set_device("gpu")

@@ -1,4 +1,4 @@
-// Gives the optimisation in a QUILL input 100 iterations and writes the input to another file.
+// Allows the optimisation in a QUILL input 100 iterations and writes the input to another file.
 //
 //   edit_input INPUT OUTPUT
 //

@@ -1,4 +1,4 @@
-// Reads a QUILL input, says what is in it, and writes it back in the canonical layout.
+// Reads a QUILL input, prints a summary of it, and writes it in the canonical layout.
 //
 //   read_write INPUT [OUTPUT]
 //

@@ -1,4 +1,5 @@
-// Any bytes as the number of an allocation that fails, and what is asked of the library meanwhile.
+// Any bytes as the number of an allocation that fails, and the work of the library during which it
+// fails.
 
 #include <cstddef>
 #include <cstdint>

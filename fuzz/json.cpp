@@ -1,4 +1,4 @@
-// Any bytes as JSON for the tool, and as the parts of a document that it is to write as JSON.
+// Any bytes as JSON for the tool, and as the parts of a document that it writes as JSON.
 
 #include <cstddef>
 #include <cstdint>

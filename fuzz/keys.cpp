@@ -8,7 +8,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::string_view text = kelp::input::quill::as_text(data, size);
-  text = text.substr(0, text.find('\0'));  // as every argument of a program
+  text = text.substr(0, text.find('\0'));  // a program's argument ends at the first NUL
   kelp::input::quill::tool::check_key(text);
   kelp::input::quill::tool::check_post_arguments(text);
   return 0;

@@ -1,4 +1,4 @@
-// Any bytes as one line, for each of the readers of lines that the library keeps to itself.
+// Any bytes as one line, for each of the library's internal readers of lines.
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
-// Stands in for libFuzzer where there is none: runs the target once on every file that is named on
-// the command line, and on every file in every folder that is. Fails when one of them has a
-// finding, and when there is no file where one is named.
+// Replaces libFuzzer where it is not available: runs the target once on every file that is named on
+// the command line, and on every file in every named folder. Fails when one of them has a finding,
+// and when there is no file where one is named.
 
 #include <exception>
 #include <filesystem>
@@ -33,7 +33,7 @@ bool replay(const fs::path& path) {
   }
   const std::string bytes(std::istreambuf_iterator<char>(file), {});
   try {
-    // A block of its own, of exactly the size, as libFuzzer makes one.
+    // A separate block of exactly this size, as libFuzzer uses.
     const std::vector<std::uint8_t> block(bytes.begin(), bytes.end());
     LLVMFuzzerTestOneInput(block.data(), block.size());
     return true;

@@ -1,4 +1,4 @@
-// Any bytes as a text and edits that are to change it in the lines that must change.
+// Any bytes as a text and edits that must change only the lines that have to change.
 
 #include <cstddef>
 #include <cstdint>

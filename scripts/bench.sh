@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the libraries and the benchmarks with optimisation and prints one
-# table: what the library costs against other ways to do the same. docs/performance.md explains it.
+# table: the cost of the library compared with other ways to do the same. See docs/performance.md.
 #
 #   scripts/bench.sh             the table
-#   scripts/bench.sh --check     fails when a figure is above what it may be
+#   scripts/bench.sh --check     fails when a figure is above its limit
 #   scripts/bench.sh --only read --rounds 101
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."

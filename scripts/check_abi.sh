@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Compares what programs built against the libraries rely on, types and functions in their binary
-# form, with the descriptions in tests/abi/. Any difference fails, an addition too: it is for a
-# person to accept.
+# form, with the descriptions in tests/abi/. Any difference fails, even an addition: a person must
+# decide whether to accept it.
 #
 #   scripts/check_abi.sh             says what differs
-#   scripts/check_abi.sh --accept    describes the libraries anew; docs/packaging.md says when
+#   scripts/check_abi.sh --accept    updates the descriptions; docs/packaging.md says when
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh

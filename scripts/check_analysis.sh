@@ -3,14 +3,14 @@
 #
 #   scripts/check_analysis.sh [cppcheck]   both, or cppcheck alone, which takes seconds
 #
-# scripts/support/cppcheck_suppressions.txt says what is left out of the first and why. The second,
-# which g++ 12 has mainly for C, is run without its check for values that are not initialised, since
-# it takes every object that a function returns by value for one, and without these sources:
-#   - those with templates of CLI11 or of the JSON library in them: it takes gigabytes and no end
+# scripts/support/cppcheck_suppressions.txt says which findings of cppcheck are suppressed and why. The
+# analyzer, which g++ 12 has mainly for C, is run without its check for values that are not initialised,
+# since that reports every object that a function returns by value, and without these sources:
+#   - those with templates of CLI11 or of the JSON library: it uses gigabytes and does not finish
 #   - the verbs: it does not see that std::function's destructor frees what the function holds, and
-#     takes what a list in braces is copied to for null
-#   - suggestion: it takes the elements of a vector that is never empty for null
-#   - trouble: it takes a reference for null where the cast of its address gives null
+#     believes that the copy of a list in braces is null
+#   - suggestion: it believes that the elements of a vector that is never empty are null
+#   - trouble: it believes that a reference is null where the cast of its address gives null
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh

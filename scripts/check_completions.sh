@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Asks bash, zsh and fish what their completions of quill-inp offer, and fails when that is not what
-# the help of the tool lists.
+# Asks bash, zsh and fish for their completions of quill-inp, and fails when these are not what the
+# help of the tool lists.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh

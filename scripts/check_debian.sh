@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the Debian packages and lets lintian judge them. As root it also installs them, uses the tool
+# Builds the Debian packages and checks them with lintian. As root it also installs them, uses the tool
 # and builds a program against the library as their users would, and removes them again.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -40,12 +40,12 @@ dpkg --install build/debian/*.deb >/dev/null
 quill-inp set examples/inputs/water_optimisation.qin opt.maxiter=100 >"$scratch/water.qin"
 diff <(sed 's/maxiter=50/maxiter=100/' examples/inputs/water_optimisation.qin) "$scratch/water.qin"
 
-# The compiler looks where the package puts things: no folder need be named.
+# The compiler searches the folders of the package by default: no folder need be named.
 flags=$(pkg-config --cflags --libs kelp_quill_inp)
 case $flags in
   *-L*) echo "pkg-config names folders that the compiler knows: $flags" >&2 && exit 1 ;;
 esac
-# The flags are words.
+# The flags must be split into words.
 # shellcheck disable=SC2086
 g++ -std=c++17 tests/package/consumer/main.cpp -o "$scratch/by_pkg_config" $flags
 "$scratch/by_pkg_config"

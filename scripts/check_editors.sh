@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Shows inputs with the syntax file for Vim and with the TextMate grammar, and fails when a piece of
-# them is taken for something else than expected. Needs npm for the second; with --refresh, both
-# write what they expect.
+# Highlights inputs with the syntax file for Vim and with the TextMate grammar, and fails when a piece
+# of them is not highlighted as expected. Needs npm for the grammar; with --refresh, both write the
+# expected results.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds the libraries and the tool as they are shipped and reads, in the files as built and as
+# Builds the libraries and the tool as they are shipped and checks, in the files as built and as
 # installed, that they are hardened as cmake/hardening.cmake says.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -23,13 +23,13 @@ complain() { echo "$1 $2" >>"$complaints"; }
 sources=$(grep -c '"command":' "$build/compile_commands.json")
 for flag in -D_FORTIFY_SOURCE=3 -D_GLIBCXX_ASSERTIONS -fstack-protector-strong \
   -fstack-clash-protection -fcf-protection=full; do
-  # grep fails when it counts none, and none is what the comparison below is for.
+  # grep fails when it counts none; the comparison below reports that.
   compiled=$(grep '"command":' "$build/compile_commands.json" | grep -cF -- " $flag " || true)
   [ "$compiled" -eq "$sources" ] || complain "$((sources - compiled)) sources" "are without $flag"
 done
 
-# unmarked_functions FILE: how many of our functions do not begin with the mark that says that calls
-# may lead there. Those that are called by name only do without, and so do parts of functions.
+# unmarked_functions FILE: how many of our functions do not begin with the mark for targets of indirect
+# calls. Functions that are only called directly have no mark, and neither have parts of functions.
 unmarked_functions() {
   objdump --disassemble --section=.text --no-show-raw-insn "$1" |
     awk '/^[0-9a-f]+ <_ZN.*4kelp.*>:$/ && !/_GLOBAL__N_|\.(cold|part|isra|constprop)/ {

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs what is missing, then builds, installs and moves the libraries in every form and lets a
-# project outside the tree use each: found by CMake or pkg-config, taken along as sources, shared
-# and static, with g++ and clang++, as C++17 and C++20.
+# Installs what is missing, then builds, installs and moves the libraries in every form and has a
+# project outside the tree use each: found by CMake or pkg-config, included as sources, shared and
+# static, with g++ and clang++, as C++17 and C++20.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds what is shipped a second time, from a copy of the tree in another folder, and compares all
-# that is installed and the Debian packages byte for byte.
+# installed files and the Debian packages byte for byte.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
@@ -15,7 +15,7 @@ copy=$elsewhere/a/folder/with/a/longer/name
 mkdir -p "$copy"
 tar --create --exclude=./build --exclude=./.git . | tar --extract --directory "$copy"
 
-# The packages carry the time that they are said to be of.
+# The times in the packages are set to this one.
 SOURCE_DATE_EPOCH=$(date --date='2026-01-01 00:00:00 UTC' +%s)
 export SOURCE_DATE_EPOCH
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# What would take too long for every change, and is run before a release: the analyses over everything,
-# the tests in other modes, what is shipped, longer fuzzing, mutants, exactness, scale. Takes some hours
-# on two cores.
+# The checks that would take too long for every change, for use before a release: the analyses over all
+# sources, the tests in other modes, what is shipped, longer fuzzing, mutants, exactness, scale. Takes
+# some hours on two cores.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 

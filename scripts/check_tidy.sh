@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # Fails on any finding of clang-tidy, with the checks of .clang-tidy, in the sources of the libraries,
-# the tools, the benchmarks and the examples, or in those of the folders that are named:
+# the tools, the benchmarks and the examples, or in the named folders:
 #
 #   scripts/check_tidy.sh [FOLDER...]
 #
-# Tests and fuzz targets are not among them unless they are named, since they take longer than all
-# others together; what is made of GoogleTest's macros is never.
+# Tests and fuzz targets are checked only if they are named, since they take longer than all others
+# together; files with GoogleTest's macros are never checked.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Runs every test but the fuzz targets, built with clang++ and under the address and undefined behaviour
-# sanitizers, and says how much of the libraries and the tools they reach.
-# Fails below 100 % of functions and lines and 98 % of branches of the libraries, at a branch not
-# reached that tests/coverage/unreached.txt gives no reason for, and below 95 % of lines of the tools.
+# Runs every test except the fuzz targets, built with clang++ and under the address and undefined
+# behaviour sanitizers, and says how much of the libraries and the tools they reach.
+# Fails below 100 % of functions and lines and 98 % of branches of the libraries, at a branch that is not
+# reached and has no reason in tests/coverage/unreached.txt, and below 95 % of lines of the tools.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
@@ -12,15 +12,15 @@ need_packages "${test_packages[@]}" clang llvm libclang-rt-14-dev python3
 
 build=build/coverage
 profiles=$build/profiles
-# Programs write their counts where this says; those of one library are added up in one file.
+# Programs write their counts to this path; the counts of one library are added up in one file.
 export LLVM_PROFILE_FILE=$PWD/$profiles/%m.profraw
 build_preset coverage
 
 rm -rf "$profiles"  # those of an earlier run would be added up with these
-# What limits the size of files limits the counts, too. What tries the same ways with other bytes runs
-# without sanitizers.
+# Tests that limit the size of files would also limit the counts. Tests that run the same code with other
+# bytes run without sanitizers.
 export GTEST_FILTER='-*FilesMayNotGrow*:*HundredMegabytes*:*ChangedExample*:*EveryHeaderLine*'
-# One program has functions of the library's names with other bodies, whose counts would not fit.
+# One program has functions with the library's names and other bodies, whose counts would not match.
 if ! ctest --preset coverage --exclude-regex 'WithoutWideIntegers|the_first_program' \
   >"$build/tests.log" 2>&1; then
   tail -n 50 "$build/tests.log" >&2

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs every test, or those of one folder, with the checks of the standard library's debug mode:
 # iterators, ranges and indices of all containers. The mode changes the containers, so GoogleTest is
-# built in it as well, from the sources that its Debian package brings.
+# built in it as well, from the sources in its Debian package.
 #
 #   scripts/debug_library.sh [unit | interface]
 set -euo pipefail
@@ -23,7 +23,7 @@ quietly "$googletest/build.log" build_googletest
 folder=${1:+tests/$1}
 cmake --preset debug-library
 cmake --build --preset debug-library ${folder:+--target "$folder/all"}
-# The mode adds functions and data of its own to the libraries, and of a list that was moved it does not
-# tell the whole capacity.
+# The mode adds its own functions and data to the libraries, and does not report the whole capacity of a
+# list that was moved.
 ctest --test-dir "build/debug-library/$folder" --output-on-failure --no-tests=error -j "$(nproc)" \
   --exclude-regex '^(ExportedSymbols|WritableData|AnEmptiedList)\.'

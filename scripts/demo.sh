@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the examples and the tool and shows them at work on real inputs:
-# one is read and written back, a careless one is read for its diagnostics, and one is edited.
+# Installs what is missing, builds the examples and the tool and runs them on real inputs: one is read
+# and written back, a careless one is read for its diagnostics, and one is edited.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
@@ -27,11 +27,11 @@ echo "== Setting maxiter of opt to 100 in $build/water.qin: what changes"
 diff -u "$build/water.qin" "$build/water_edited.qin" || [ $? -eq 1 ]
 
 echo
-echo "== Building formaldehyde from nothing into $build/formaldehyde.qin"
+echo "== Building a new input for formaldehyde, $build/formaldehyde.qin"
 "$build/examples/build_input" "$build/formaldehyde.qin"
 
 echo
-echo "== The same at the shell: quill-inp shows, edits and refuses what would be read otherwise"
+echo "== The same at the shell: quill-inp shows, edits and refuses what would be read differently"
 "$build/tools/quill-inp/quill-inp" show "$inputs/hydrogen_peroxide_scan.qin"
 "$build/tools/quill-inp/quill-inp" set --diff "$inputs/cisplatin_by_hand.qin" opt.maxiter=100 ||
   [ $? -eq 1 ]

@@ -42,7 +42,7 @@ PROJECT_NUMBER=$(sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p' CMakeLists.txt) SITE_BU
   doxygen docs/site/Doxyfile
 rm "$site"/{navigation,header.html,tabs.css,doxygen.svg} "$site"/*.{png,js}
 
-# The navigation tells which page this is.
+# The navigation marks the current page.
 for file in "$site"/*.html; do
   name=$(basename "$file")
   sed -i "/^<nav/,/^<\/nav>/s|href=\"$name\"|& aria-current=\"page\"|" "$file"

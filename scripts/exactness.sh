@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Compares what the library makes of numbers, and numbers of texts, with the C library.
+# Compares the texts that the library makes of numbers, and the numbers it reads, with the C library's.
 #
-#   scripts/exactness.sh [COUNT [SEED]]   COUNT numbers of every kind, ten million unless told
+#   scripts/exactness.sh [COUNT [SEED]]   COUNT numbers of every kind, ten million by default
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Builds the fuzz targets and gives each a number of runs, under the address and undefined behaviour
-# sanitizers. Says a line about each and fails when one of them finds something.
+# Builds the fuzz targets and runs each a number of times, under the address and undefined behaviour
+# sanitizers. Prints a line for each and fails when one of them finds something.
 #
 #   scripts/fuzz.sh [RUNS] [TARGET...]
 #
-# 20000 runs of every target unless said otherwise. The runs are the same every time;
-# KELP_QUILL_INP_FUZZ_SEED=2 makes them others. What covers something new is left in
-# build/fuzz/new/, where scripts/fuzz_corpus.sh takes it from.
+# The default is 20000 runs of every target. The runs are the same every time;
+# KELP_QUILL_INP_FUZZ_SEED=2 makes them different. Inputs that reach new code are kept in
+# build/fuzz/new/, for scripts/fuzz_corpus.sh.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
@@ -20,8 +20,8 @@ for target in "$@"; do check_fuzz_target "$target"; done
 
 build_fuzz_targets
 
-# Stacks of allocations are not recorded, and freed memory is not kept for long: they take half of
-# the time, and a finding that is run again by itself has them.
+# Stacks of allocations are not recorded, and freed memory is not kept for long: that would double the
+# time, and a finding that is run again alone has both.
 asan=malloc_context_size=0:quarantine_size_mb=4:thread_local_quarantine_size_kb=256
 export ASAN_OPTIONS=$asan${ASAN_OPTIONS:+:$ASAN_OPTIONS}
 

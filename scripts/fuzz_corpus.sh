@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Makes the corpus of the fuzz targets, or of the named ones, anew: of all inputs in it, and of those
-# that the last scripts/fuzz.sh has found, as few as cover the same. Packs them as fuzz/corpus.tar.xz,
-# and puts their number and size into SECURITY.md.
+# Makes the corpus of all fuzz targets, or of the named ones, again: from the inputs in it and those
+# that the last scripts/fuzz.sh has found, it keeps as few as reach the same code. Packs them as
+# fuzz/corpus.tar.xz, and puts their number and size into SECURITY.md.
 #
 #   scripts/fuzz_corpus.sh [TARGET...]
 set -euo pipefail

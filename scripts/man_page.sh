@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Makes docs/man/quill-inp.1 of what the tool prints for --help, its own and that of every verb.
+# Makes docs/man/quill-inp.1 from what the tool and each of its verbs print for --help.
 #
 #   man_page.sh            writes the page
-#   man_page.sh --check    fails when the page in the tree is another, or is badly formed
+#   man_page.sh --check    fails when the page in the tree is out of date or badly formed
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
@@ -26,7 +26,7 @@ fi
 
 if [ "${1:-}" = --check ]; then
   diff "$page" "$build/quill-inp.1" ||
-    { echo "$page is not what the tool says of itself: run scripts/man_page.sh" >&2; exit 1; }
+    { echo "$page is out of date: run scripts/man_page.sh" >&2; exit 1; }
   echo "$page is up to date"
 else
   cp "$build/quill-inp.1" "$page"

@@ -2,7 +2,7 @@
 # Counts with callgrind the instructions that reading and writing ten thousand atoms take, function
 # by function. Unlike times, these are the same on a busy machine.
 #
-#   scripts/profile.sh [ROWS]   the ROWS most expensive functions, fifteen unless told
+#   scripts/profile.sh [ROWS]   the ROWS most expensive functions, fifteen by default
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh

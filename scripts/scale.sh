@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Prints what the largest texts cost to read, one of 256 MB and one of ten million lines among them,
-# with an optimised build: time and memory for a byte of text, and both against half of the text.
-# Takes some gigabytes of memory.
+# with an optimised build: time and memory for a byte of text, and both compared with half of the text.
+# Needs some gigabytes of memory.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs the unit and interface tests, or those of one folder, under valgrind; an error or a leak fails.
-# What tries numbers and texts by the thousand is left out, since it goes the same ways each time.
+# Tests that try thousands of numbers and texts are left out, since they run the same code each time.
 #
 #   scripts/valgrind.sh [unit | interface]
 set -euo pipefail
@@ -12,8 +12,8 @@ need_packages "${test_packages[@]}"
 
 build_preset dev
 
-# A program that counts its allocations, or lets them fail, keeps the operator new that it brings;
-# valgrind watches the malloc below it.
+# A program that counts its allocations, or makes them fail, keeps its own operator new; valgrind checks
+# the calls of malloc in it.
 own_new=--soname-synonyms=somalloc=nouserintercepts
 many='*AsStrtod*:*AsPrintf*:*Halfway*:*Random*:*OfEvery*:*OfFixedNotation*'
 if [ $# -eq 0 ]; then set -- unit interface; fi

@@ -38,7 +38,7 @@ InputBuilder builder_of(const QuillInput& input) {
   return builder;
 }
 
-/// Applies an operation over and over. Now and then it starts anew, for some let the document grow.
+/// Applies an operation many times. It sometimes starts again, since some make the document larger.
 class Building {
  public:
   Building(const InputBuilder& start, const Operation& operation)
@@ -59,7 +59,7 @@ class Building {
   int count_ = 0;
 };
 
-/// On a document of a size where the operation itself is nothing beside the copies.
+/// On a document so large that the operation itself costs nearly nothing compared with the copies.
 void compare_with_copies(RatioTable& table, const InputBuilder& start, const Operation& operation) {
   Building building(start, operation);
   QuillInput target;

@@ -1,5 +1,5 @@
-// Prints what the library costs as ratios against other ways to do the same, measured in turns in
-// one run. See docs/performance.md.
+// Prints the cost of the library as ratios to other ways to do the same, measured in turns in one
+// run. See docs/performance.md.
 
 #include <charconv>
 #include <exception>

@@ -35,14 +35,24 @@ void compare_with_references(RatioTable& table, std::size_t atoms, const std::st
       [&geometry] { benchmark::DoNotOptimize(write_with_stream(geometry)); }, 0.10);
 }
 
+void compare_post_lines(RatioTable& table) {
+  const QuillInput input = constraints_and_scans(10'000);
+  const std::string what = "write 10^4 post-processing lines : bare loop into one buffer";
+  require_same(input.to_string() == write_constraints_and_scans(input.post_commands), what);
+  table.compare(
+      what, writing(input),
+      [&input] { benchmark::DoNotOptimize(write_constraints_and_scans(input.post_commands)); },
+      1.15);
+}
+
 void compare_file_with_string(RatioTable& table, std::size_t atoms, const std::string& size) {
   const ScratchPath file;
   const QuillInput input = molecule(atoms);
   const std::string what = "write_file " + size + " atoms : to_string";
   input.write_file(file.path());
   require_same(parse_file(file.path()).input.to_string() == input.to_string(), what);
-  // The file system takes its time for every byte, and the faster the text is made, the larger that
-  // looms in this ratio.
+  // The file system takes some time for every byte. The faster the text is made, the larger is the
+  // part of that time in this ratio.
   table.compare_with_floor(
       what, [&] { input.write_file(file.path()); },
       [&] { require_same(write_bare_file(file.path(), input.to_string()), what); }, writing(input),
@@ -61,6 +71,7 @@ void compare_sizes(RatioTable& table) {
 void add_writing_ratios(RatioTable& table) {
   compare_with_references(table, 10'000, "10^4");
   compare_with_references(table, 100'000, "10^5");
+  compare_post_lines(table);
   compare_file_with_string(table, 10'000, "10^4");
   compare_file_with_string(table, 100'000, "10^5");
   compare_sizes(table);

@@ -21,7 +21,7 @@ char to_lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' 
 
 char to_upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
-/// Enough for the tokens of every kind of line that a computation reads by the thousand.
+/// Enough for the tokens of every kind of line of which an input may have thousands.
 constexpr std::size_t usual_tokens = 8;
 
 /// Takes one sign from `token` where a number may begin after it; std::from_chars takes a "-" only.
@@ -31,8 +31,8 @@ bool take_sign(std::string_view& token) {
   return is_negative;
 }
 
-/// For what std::from_chars and the contract see differently: the exponent letter "d", magnitudes
-/// out of range, words.
+/// For the cases where std::from_chars differs from the contract: the exponent letter "d",
+/// magnitudes out of range, words.
 bool parse_unusual_double(std::string token, double& magnitude) {
   const std::size_t letter = token.find_first_of("dD");
   if (letter != std::string::npos) token[letter] = 'e';
@@ -44,8 +44,8 @@ bool parse_unusual_double(std::string token, double& magnitude) {
 constexpr std::size_t letters = 26;
 using NumberTable = std::array<std::array<int, letters + 1>, letters>;
 
-/// Asks the element library once for every text that could be a symbol, so that the symbols stand
-/// in one place only.
+/// Asks the element library once for every text that could be a symbol, so that only one source has
+/// a list of the symbols.
 NumberTable make_number_table() {
   NumberTable table{};
   for (std::size_t first = 0; first < letters; ++first) {

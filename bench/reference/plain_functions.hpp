@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
-// The text and element functions as one would write them well without looking for speed: one pass
-// over the characters, room reserved, std::from_chars for numbers, a table for the elements. They
-// promise what the functions of the same names in the sister libraries promise, and they are a
-// shared library of their own, so that a call costs the same.
+// The text and element functions as a good programmer writes them without optimising further: one
+// pass over the characters, room reserved, std::from_chars for numbers, a table for the elements.
+// They promise what the functions of the same names in the sister libraries promise, and they are a
+// separate shared library, so that a call costs the same.
 
 namespace kelp::input::quill::bench::plain {
 

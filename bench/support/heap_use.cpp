@@ -22,7 +22,7 @@ void note_allocation(void* block) {
   peak_bytes = std::max(peak_bytes, bytes_in_use);
 }
 
-/// Blocks from before the counting began may be freed during it; they are not held against it.
+/// Blocks from before the counting began may be freed during it; they are not counted.
 void note_release(void* block) {
   bytes_in_use -= std::min<std::uint64_t>(bytes_in_use, malloc_usable_size(block));
 }

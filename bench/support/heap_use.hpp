@@ -6,16 +6,16 @@
 
 namespace kelp::input::quill::bench {
 
-/// What an operation asked of the heap: how often, and how much was in use at once at the most,
-/// what was in use before it not counted. Bytes are those of the blocks as the heap hands them out,
-/// which are a little larger than asked for.
+/// How an operation used the heap: the number of allocations, and the most bytes in use at once,
+/// without those in use before the operation. Bytes are the sizes of the blocks that the heap
+/// returns, which are a little larger than what was asked for.
 struct HeapUse {
   std::uint64_t allocations = 0;
   std::uint64_t peak_bytes = 0;
 };
 
-/// Runs `operation` once. Programs that link this have their operator new replaced by one that
-/// counts, for the libraries they load as well. One thread only.
+/// Runs `operation` once. In a program that links this, operator new is replaced by one that
+/// counts, also for the libraries that the program loads. One thread only.
 HeapUse measure_heap_use(const std::function<void()>& operation);
 
 }  // namespace kelp::input::quill::bench

@@ -19,7 +19,8 @@ double coordinate(Random& random) {
 
 std::vector<AtomRecord> make_atoms(std::size_t count) {
   constexpr std::array<const char*, 8> symbols = {"C", "H", "H", "O", "N", "C", "Cl", "Fe"};
-  // Ratios of two runs compare only if both have the same atoms, and nothing here is a secret.
+  // Ratios of two runs can be compared only if both have the same atoms, and nothing is secret
+  // here.
   Random random(1);  // NOLINT(cert-msc32-c,cert-msc51-cpp)
   std::vector<AtomRecord> atoms;
   atoms.reserve(count);
@@ -65,9 +66,11 @@ HeaderCommand header_command(std::size_t number) {
   }
 }
 
-PostCommand post_command(std::size_t number) {
-  const auto atom = static_cast<std::int32_t>(number);
-  switch (number % 7) {
+constexpr std::size_t kinds_of_numbers = 5;
+
+/// A constraint or a scan, of one of `kinds_of_numbers` kinds.
+PostCommand numbers(std::size_t kind, std::int32_t atom) {
+  switch (kind) {
     case 0:
       return PostCommand(PostCommandKind::BondConstraint, {atom, atom + 1});
     case 1:
@@ -76,15 +79,19 @@ PostCommand post_command(std::size_t number) {
       return PostCommand(PostCommandKind::DihedralConstraint, {atom, atom + 1, atom + 2, atom + 3});
     case 3:
       return PostCommand(PostCommandKind::Scan, {atom, atom + 1}, 1.5, 10);
-    case 4:
-      return PostCommand(PostCommandKind::AtomConstraint, {atom});
-    case 5:
-      return PostCommand(PostCommandKind::PostFile, {}, std::nullopt, std::nullopt,
-                         "results/run " + std::to_string(number));
     default:
-      return PostCommand(PostCommandKind::Raw, {}, std::nullopt, std::nullopt, {},
-                         "keep this line of text");
+      return PostCommand(PostCommandKind::AtomConstraint, {atom});
   }
+}
+
+PostCommand post_command(std::size_t number) {
+  const std::size_t kind = number % (kinds_of_numbers + 2);
+  if (kind < kinds_of_numbers) return numbers(kind, static_cast<std::int32_t>(number));
+  if (kind > kinds_of_numbers)
+    return PostCommand(PostCommandKind::Raw, {}, std::nullopt, std::nullopt, {},
+                       "keep this line of text");
+  return PostCommand(PostCommandKind::PostFile, {}, std::nullopt, std::nullopt,
+                     "results/run " + std::to_string(number));
 }
 
 }  // namespace
@@ -102,6 +109,13 @@ QuillInput header_heavy(std::size_t lines) {
 QuillInput post_heavy(std::size_t lines) {
   QuillInput input({optimisation()}, atoms_block(1));
   for (std::size_t i = 0; i < lines; ++i) input.post_commands.push_back(post_command(i));
+  return input;
+}
+
+QuillInput constraints_and_scans(std::size_t lines) {
+  QuillInput input;
+  for (std::size_t i = 0; i < lines; ++i)
+    input.post_commands.push_back(numbers(i % kinds_of_numbers, static_cast<std::int32_t>(i)));
   return input;
 }
 

@@ -5,7 +5,7 @@
 
 #include "kelp/input/quill/document.hpp"
 
-// The documents that are timed, the same in every run. Their texts are what to_string() gives.
+// The documents that are timed, the same in every run. Their texts are what to_string() returns.
 
 namespace kelp::input::quill::bench {
 
@@ -13,17 +13,20 @@ namespace kelp::input::quill::bench {
 /// coordinates between -50 and 50.
 QuillInput molecule(std::size_t atoms);
 
-/// This many header lines, flags, assignments and parameter lists by turns, and one atom.
+/// This many header lines, in turn flags, assignments and parameter lists, and one atom.
 QuillInput header_heavy(std::size_t lines);
 
-/// One atom and this many post-processing lines, of every kind by turns.
+/// One atom and this many post-processing lines, of each kind in turn.
 QuillInput post_heavy(std::size_t lines);
+
+/// Only constraints and scans, this many, of each kind in turn.
+QuillInput constraints_and_scans(std::size_t lines);
 
 /// Two header lines and this many references to XYZ files.
 QuillInput references(std::size_t files);
 
-/// What people write by hand: ten header lines, one of which is "opt" with the parameter "maxiter",
-/// and thirty atoms.
+/// An input as people write it by hand: ten header lines, one of which is "opt" with the parameter
+/// "maxiter", and thirty atoms.
 QuillInput small_job();
 
 }  // namespace kelp::input::quill::bench

@@ -9,25 +9,25 @@
 
 namespace kelp::input::quill::bench {
 
-/// Prints one row per figure as soon as it is known, with the most that it may be.
+/// Prints one row for each figure as soon as it is known, with its upper limit.
 class RatioTable {
  public:
   /// Prints the head of the table. Times are compared over `rounds` rounds. Rows whose text does
-  /// not contain `only` are passed over.
+  /// not contain `only` are left out.
   RatioTable(std::ostream& out, int rounds, std::string only);
 
   /// Adds the ratio of the times that `subject` and `reference` take.
   void compare(std::string_view what, const Work& subject, const Work& reference, double at_most);
 
-  /// The same where the subject does something that no code can spare it. If the ratio is above
-  /// `at_most`, it may also be what `floor`, which does that and nothing besides, takes.
+  /// The same where the subject does some work that no code can avoid. `floor` does only that work:
+  /// a ratio above `at_most` is also accepted if it is not above that of `floor`.
   void compare_with_floor(std::string_view what, const Work& subject, const Work& floor,
                           const Work& reference, double at_most);
 
   /// Adds a figure that is the same in every run.
   void record(std::string_view what, double figure, double at_most);
 
-  /// Whether no figure so far was above what it may be.
+  /// Whether no figure so far was above its limit.
   bool all_met() const { return all_met_; }
 
  private:

@@ -8,8 +8,8 @@
 
 namespace kelp::input::quill::bench {
 
-/// The path of a file that does not exist yet, in the folder for such files; what stands there in
-/// the end is removed.
+/// The path of a file that does not exist yet, in the folder for temporary files; if the file
+/// exists at the end, it is removed.
 class ScratchPath {
  public:
   ScratchPath()

@@ -10,7 +10,8 @@ namespace kelp::input::quill::bench {
 
 namespace {
 
-/// Long against the clock's step of a microsecond, short against a change of the machine's load.
+/// Long compared with the clock's step of a microsecond, short compared with changes of the
+/// machine's load.
 constexpr double seconds_per_run = 0.01;
 
 double seconds(const Work& work, int repeats) {
@@ -31,7 +32,8 @@ TimeRatio time_ratio(const Work& subject, const Work& reference, int rounds) {
   const int repeats = std::max(repeats_for_one_run(subject), repeats_for_one_run(reference));
   std::vector<double> ratios;
   for (int round = 0; round < rounds; ++round) {
-    // Whoever comes second may find the caches as the first has left them: take turns at that too.
+    // The second one finds the caches as the first has left them, so they take turns in being
+    // first.
     std::pair<double, double> times;
     if (round % 2 == 0) {
       times.first = seconds(subject, repeats);

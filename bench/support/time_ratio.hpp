@@ -15,9 +15,9 @@ struct TimeRatio {
   double upper_quartile;
 };
 
-/// Times both in turns, so that whatever else the machine does hits both alike, and compares only
-/// what was timed in the same round. Time is processor time. The work should not be optimised away:
-/// what it computes goes through benchmark::DoNotOptimize.
+/// Times both in turns, so that other programs on the machine affect both in the same way, and
+/// compares only what was timed in the same round. Time is processor time. So that the work is not
+/// optimised away, pass its result to benchmark::DoNotOptimize.
 TimeRatio time_ratio(const Work& subject, const Work& reference, int rounds);
 
 }  // namespace kelp::input::quill::bench

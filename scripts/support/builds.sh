@@ -1,4 +1,4 @@
-# Sourced by the scripts beside it: builds without a word, and shows what was said if that fails.
+# Sourced by the scripts in scripts/: builds without output, and shows the output if that fails.
 
 # quietly LOG COMMAND...
 quietly() {

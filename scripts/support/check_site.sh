@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Looks at the built site as its readers will: every link and anchor leads somewhere, nothing comes
-# from another host, and pages appear in a browser with their title and navigation and without an
-# error on its console.
+# Checks the built site as its readers use it: every link and anchor has a target, nothing comes from
+# another host, and pages open in a browser with their title and navigation and without an error on its
+# console.
 #
 #   check_site.sh SITE
 set -euo pipefail
@@ -19,10 +19,10 @@ linkchecker --no-status --config docs/site/linkchecker.ini "file://$site/index.h
 tail -n 2 "$scratch/links" | head -n 1
 
 if grep -nE '<(link|script|img|iframe)[^>]*(href|src)="(https?:)?//' "$site"/*.html; then
-  fail "a page asks another host for a part of it"
+  fail "a page loads a part from another host"
 fi
 
-# open_page FILE: the page as the browser has it in $scratch/page, what goes wrong in /console.
+# open_page FILE: writes the page as the browser has it to $scratch/page, and errors to /console.
 open_page() {
   chromium --headless --no-sandbox --disable-gpu --disable-quic --no-first-run \
     --disable-background-networking --disable-component-update --disable-sync \
@@ -32,7 +32,7 @@ open_page() {
   grep ':CONSOLE' "$scratch/log" >"$scratch/console" || true
 }
 
-# The console is heard at all: this page complains.
+# Checks that errors on the console are found at all: this page has one.
 echo '<script>console.error("a complaint")</script>' >"$scratch/complaint.html"
 open_page "$scratch/complaint.html"
 grep -q 'a complaint' "$scratch/console" || fail "the browser's console is not heard"

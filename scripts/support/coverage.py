@@ -1,9 +1,9 @@
 """Judges what clang's coverage counted: coverage.py REPORT.json LIST TOOLS(yes|no)
 
-The report comes from "llvm-cov export". A branch is a way that a condition of the source may turn
-out, true or false. What stays without a test stands in the list with its reason, as a block of
-lines: a file, then branches such as "never true: i < n" or functions that only the compiler runs as
-"never called: " and the line that they begin with, then the reason, then an empty line.
+The report comes from "llvm-cov export". A branch is one result of a condition in the source, true or
+false. What no test reaches is in the list with its reason, as a block of lines: a file, then branches
+such as "never true: i < n" or, for functions that only the compiler runs, "never called: " and their
+first line, then the reason, then an empty line.
 """
 
 import json

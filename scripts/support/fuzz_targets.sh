@@ -1,5 +1,5 @@
-# Sourced by the scripts beside it: which fuzz targets there are, and how they are built; needs builds.sh
-# and packages.sh.
+# Sourced by the scripts in scripts/: the names of the fuzz targets and how they are built; needs
+# builds.sh and packages.sh.
 
 fuzz_targets=(parse document edit text lines allocation_faults keys json surgery)
 # Where the build unpacks fuzz/corpus.tar.xz.
@@ -15,7 +15,7 @@ check_fuzz_target() {
   return 1
 }
 
-# longest_input NAME: the number of bytes beyond which an input has little new to say.
+# longest_input NAME: the number of bytes beyond which longer inputs hardly find anything new.
 longest_input() {
   case $1 in
     text | keys) echo 48 ;;

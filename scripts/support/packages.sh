@@ -1,5 +1,5 @@
-# Sourced by the scripts beside it: installs the Debian packages that a script needs, and only those
-# that are missing, so that nothing is downloaded once they are there.
+# Sourced by the scripts in scripts/: installs the Debian packages that a script needs, and only those
+# that are missing, so that nothing is downloaded once they are installed.
 
 # need_packages NAME...
 need_packages() {

@@ -1,5 +1,4 @@
-# Sourced by the scripts beside it that ask quill-inp for its help; needs builds.sh and
-# packages.sh.
+# Sourced by the scripts in scripts/ that ask quill-inp for its help; needs builds.sh and packages.sh.
 
 tool=build/dev/tools/quill-inp/quill-inp
 

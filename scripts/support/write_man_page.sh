@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Prints the man page of quill-inp: help2man is shown one long help, made of the program's own and
-# of that of each verb. Options that all verbs share stand once, at the end.
+# Prints the man page of quill-inp: help2man gets one long help text, made of the program's help and
+# the help of each verb. Options that all verbs share are listed once, at the end.
 #
 #   write_man_page.sh PROGRAM
 set -euo pipefail

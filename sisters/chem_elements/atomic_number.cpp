@@ -31,8 +31,8 @@ constexpr std::size_t second_place(std::string_view symbol) {
   return symbol.size() == 1 ? 0 : static_cast<std::size_t>(symbol[1] - 'a') + 1;
 }
 
-/// Where a symbol stands in the table of numbers: its first letter picks the row, its second one,
-/// or none, the column.
+/// The place of a symbol in the table of numbers: its first letter selects the row, and its second
+/// letter, or the lack of one, selects the column.
 constexpr std::size_t place_of(std::string_view symbol) {
   return static_cast<std::size_t>(symbol[0] - 'A') * second_letters + second_place(symbol);
 }

@@ -3,8 +3,8 @@
 
 namespace kelp::core::text {
 
-// The C library's tests of the same names ask the current locale; these never do. The differences
-// are taken as unsigned char, so that every byte outside the range comes out above it.
+// The C library's functions with these names depend on the current locale; these do not. The
+// differences are converted to unsigned char, so that a byte outside the range has a larger one.
 
 constexpr bool is_in_range(char c, char first, char last) {
   return static_cast<unsigned char>(c - first) <= static_cast<unsigned char>(last - first);

@@ -7,17 +7,17 @@
 
 namespace kelp::core::text {
 
-/// A number without a sign, taken apart: the digits before and behind the point, and the power of
-/// ten that multiplies them. At least one of the two has a digit.
+/// The parts of a number without a sign: the digits before and after the point, and the power of
+/// ten that multiplies them. At least one of `whole` and `fraction` has a digit.
 struct Decimal {
   std::string_view whole;
   std::string_view fraction;
-  /// Limited to a magnitude that no number of digits in memory can make up for.
+  /// Limited to a magnitude that is larger than any count of digits that fits in memory.
   std::int64_t exponent = 0;
 };
 
-/// Takes a text apart that is a number from end to end, and returns nothing for any other. Every
-/// letter that may begin an exponent is understood, those of Fortran included.
+/// Splits a text that is a number as a whole into its parts, and returns nothing for any other
+/// text. Every letter that may begin an exponent is understood, those of Fortran included.
 std::optional<Decimal> scan_decimal(std::string_view text);
 
 /// The double nearest to the number; nothing when the number is too large for one.

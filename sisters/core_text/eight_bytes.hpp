@@ -7,8 +7,8 @@
 
 namespace kelp::core::text {
 
-// Eight bytes of text as one number, so that one operation of the processor treats all of them. The
-// first byte is the least significant one on every machine, and no question of byte order arises.
+// Eight bytes of text as one number, so that one operation of the processor works on all of them.
+// The first byte is the least significant one on every machine, whatever its byte order.
 
 inline constexpr std::size_t word_bytes = 8;
 
@@ -31,7 +31,7 @@ constexpr std::uint64_t in_every_byte(unsigned value) {
 
 inline constexpr std::uint64_t top_bits = in_every_byte(0x80);
 
-/// The top bits of bytes that are 0. The lowest one is exact; above it there may be others.
+/// The top bits of bytes that are 0. The lowest one is exact; the bits above it may be wrong.
 constexpr std::uint64_t zero_flags(std::uint64_t word) {
   return (word - in_every_byte(1)) & ~word & top_bits;
 }

@@ -26,7 +26,7 @@ constexpr auto make_powers_of_ten() {
 inline constexpr auto powers_of_ten = make_powers_of_ten();
 
 /// The number spelled by the last `count` bytes, 1 to 15, of a text of at least eight bytes.
-/// Nothing if one of them is no digit.
+/// Nothing if one of them is not a digit.
 inline std::optional<std::int64_t> last_digits(std::string_view text, std::size_t count) {
   const char* const end = text.data() + text.size();
   const std::size_t low_count = count > word_bytes ? count - word_bytes : count;
@@ -43,9 +43,9 @@ inline std::optional<std::int64_t> last_digits(std::string_view text, std::size_
 /// The value of a fixed-point text of 8 to 16 bytes with the point among the first eight, as nearly
 /// every coordinate is. Nothing for any other text.
 inline std::optional<double> parse_fixed_point(std::string_view text) {
-  // All digits together are an integer below 10^15, and the point divides it by a power of ten that
-  // is no larger. Integers up to 2^53 are doubles, and the quotient of two doubles is the double
-  // nearest to the exact one.
+  // All digits together are an integer below 10^15, and the point divides it by a power of ten of
+  // at most 10^15. Integers up to 2^53 are doubles, and dividing two doubles gives the double
+  // nearest to the exact quotient.
   if (!arithmetic_rounds_once || text.size() < word_bytes || text.size() > 2 * word_bytes) {
     return std::nullopt;
   }

@@ -11,8 +11,8 @@ namespace kelp::core::text {
 
 namespace {
 
-/// A number written for from_chars: a point, the significant digits and an exponent. It needs the
-/// same room however long the number is.
+/// A number written for from_chars: a point, the significant digits and an exponent. Its size does
+/// not depend on the length of the number.
 class CanonicalText {
  public:
   void append(std::string_view digits) {
@@ -22,8 +22,8 @@ class CanonicalText {
     if (digits.find_first_not_of('0', kept.size()) != std::string_view::npos) has_more_ = true;
   }
 
-  /// The double nearest to the number with this exponent, or nothing when it is too large or too
-  /// small for any but infinity and zero.
+  /// The double nearest to the number with this exponent, or nothing when the number is too large
+  /// for a finite double or too small for one that is not zero.
   std::optional<double> read_with_exponent(std::int64_t exponent) {
     char* end = digits_end();
     if (has_more_) *end++ = '1';
@@ -37,8 +37,8 @@ class CanonicalText {
 
  private:
   // The number halfway between two doubles has at most 768 significant digits: at worst it is an
-  // integer below 2^54 times 2^-1075. All numbers that begin with the same 768 digits thus lie on
-  // one side of it, but for the one that ends there. One more "1" stands for whatever follows.
+  // integer below 2^54 times 2^-1075. All numbers that begin with the same 768 digits therefore lie
+  // on one side of it, except the one that ends there. A final "1" represents all further digits.
   static constexpr std::size_t most_digits = 768;
   static constexpr std::size_t most_behind_digits = std::string_view("1e-323").size();
 

@@ -18,7 +18,8 @@ namespace {
 
 /// The value of a number in the notation of C, or nothing when it is out of range.
 std::optional<double> parse_floating_point(std::string_view text) {
-  // from_chars would read a sign here, and names and what may follow them.
+  // from_chars would also read a sign here, "inf" and "nan", and the characters that may follow
+  // "nan".
   if (text.empty() || (!is_digit(text.front()) && text.front() != '.')) return std::nullopt;
   const char* const last = text.data() + text.size();
   double value = 0.0;
@@ -51,8 +52,8 @@ std::optional<double> parse_magnitude(std::string_view text) {
 
 // number = [ "+" / "-" ] ( decimal / "inf" / "infinity" / "nan" )
 bool try_parse_double(std::string_view token, double& value) {
-  // The signs of coordinates follow no pattern, so a jump that depended on them would be predicted
-  // wrong every other time. The sign is an index instead.
+  // The signs of coordinates follow no pattern, so a processor would predict a branch that depends
+  // on them wrongly half of the time. The sign is an index instead.
   static constexpr std::array<double, 2> signs = {1.0, -1.0};
   const char first = token.empty() ? '\0' : token.front();
   const bool is_negative = first == '-';

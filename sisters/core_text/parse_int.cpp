@@ -9,7 +9,7 @@ namespace kelp::core::text {
 bool try_parse_int(std::string_view token, int& value) {
   const char* first = token.data();
   const char* const last = first + token.size();
-  // from_chars takes a "-" but no "+"; behind a "+" no other sign may follow.
+  // from_chars accepts a "-" but not a "+"; no other sign may follow the "+".
   if (first != last && *first == '+') {
     ++first;
     if (first == last || !is_digit(*first)) return false;

@@ -13,8 +13,8 @@ namespace kelp::core::text {
 /// The top bit of each byte of `word` that is white space; every other bit of the result is 0.
 constexpr std::uint64_t space_flags(std::uint64_t word) {
   // A byte without its top bit is at most 0x7F. Adding 0x80 - n to it carries into no other byte
-  // and sets the top bit exactly if the byte was n or more. Bytes that had a top bit are no white
-  // space, and `word` itself takes them out at the end.
+  // and sets the top bit exactly if the byte was n or more. Bytes that had a top bit are not white
+  // space; `~word` removes them at the end.
   const std::uint64_t low = word & ~top_bits;
   const std::uint64_t from_tab = low + in_every_byte(0x80 - '\t');
   const std::uint64_t beyond_return = low + in_every_byte(0x80 - ('\r' + 1));
@@ -24,9 +24,9 @@ constexpr std::uint64_t space_flags(std::uint64_t word) {
 
 /// The flags of eight bytes as the eight lowest bits of a number, in the same order.
 constexpr std::uint64_t gather_flags(std::uint64_t flags) {
-  // Shifted right by 7, flag i stands at bit 8i. The product is the sum of its shifts by 7, 14,
-  // ..., 56 bits; the shift by 56 - 7i takes it to bit 56 + i. All the sums 8i + 7j are different,
-  // so nothing carries and no other shift arrives there.
+  // After a shift right by 7, flag i is bit 8i. The product is the sum of its shifts by 7, 14, ...,
+  // 56 bits; the shift by 56 - 7i moves it to bit 56 + i. All the sums 8i + 7j are different, so
+  // nothing carries and no other shift reaches that bit.
   return ((flags >> 7) * std::uint64_t{0x0102040810204080}) >> 56;
 }
 

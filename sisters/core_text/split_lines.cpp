@@ -8,7 +8,7 @@ namespace kelp::core::text {
 namespace {
 
 std::size_t count_terminators(std::string_view text) {
-  // Compilers count sixteen bytes and more at a time as long as the count itself fits a byte.
+  // Compilers count sixteen or more bytes at a time if the count itself fits in a byte.
   constexpr std::size_t block_bytes = 128;
   std::size_t count = 0;
   for (; text.size() >= block_bytes; text.remove_prefix(block_bytes)) {
@@ -21,7 +21,7 @@ std::size_t count_terminators(std::string_view text) {
   return count + static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
 }
 
-/// One more line than there are terminators, unless nothing follows the last of them.
+/// One more than the count of terminators, unless nothing follows the last of them.
 std::size_t count_lines(std::string_view text) {
   const bool is_ended = text.empty() || text.back() == '\n';
   return count_terminators(text) + (is_ended ? 0 : 1);

@@ -12,7 +12,7 @@ namespace kelp::core::text {
 
 namespace {
 
-/// A text shorter than space_bits_limit, its white space found at once.
+/// A text shorter than space_bits_limit, with all its white space found at once.
 class ShortText {
  public:
   explicit ShortText(std::string_view text) : text_(text), spaces_(space_bits(text)) {}
@@ -26,7 +26,7 @@ class ShortText {
   void append_words(std::vector<std::string>& words) const {
     for (std::uint64_t starts = word_starts(); starts != 0; starts &= starts - 1) {
       const std::size_t start = lowest_bit(starts);
-      // The bits behind the text count as white space, so the last word ends as well.
+      // The bits after the text count as white space, so that the last word has an end too.
       const std::size_t length = lowest_bit(spaces_ >> start);
       words.emplace_back(text_.data() + start, length);
     }
@@ -67,8 +67,8 @@ std::size_t count_words(std::string_view text) {
   return counter.count();
 }
 
-/// Where a text that is not short can be cut without cutting a word: behind the last white space of
-/// its longest short front or, where there is none, behind the word that fills it.
+/// Where a text that is not short can be cut without cutting a word: after the last white space of
+/// its longest short beginning or, if there is none, after the word that fills this beginning.
 std::size_t find_cut(std::string_view text) {
   const std::string_view front = text.substr(0, space_bits_limit - 1);
   const auto last_space = std::find_if(front.rbegin(), front.rend(), is_space);

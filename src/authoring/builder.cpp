@@ -13,8 +13,8 @@ void make_room_for_one_more(std::vector<Element>& list, const std::vector<Elemen
   if (!source.empty()) list.reserve(source.size() + 1);
 }
 
-/// Returns a copy whose lists have room for what an operation appends, which would otherwise move
-/// everything that was just copied.
+/// Returns a copy whose lists have room for what an operation appends: without that room, appending
+/// would move everything that was just copied.
 QuillInput copy_with_room(const QuillInput& document) {
   QuillInput copy;
   make_room_for_one_more(copy.commands, document.commands);
@@ -117,7 +117,7 @@ InputBuilder& InputBuilder::set_post_file(std::string path) {
   return edit([&](InputEditor& editor) { editor.set_post_file(path); });
 }
 
-// These need no lookup and cannot leave anything half done: no copy stands behind them.
+// These need no lookup and cannot leave anything half done, so they work without a copy.
 
 InputBuilder& InputBuilder::add_command(HeaderCommand&& command) {
   document_.commands.push_back(std::move(command));

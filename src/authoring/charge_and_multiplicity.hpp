@@ -3,7 +3,8 @@
 
 #include "kelp/input/quill/document.hpp"
 
-// Editor and builder both change these in place, the builder without a copy of its document.
+// The editor and the builder both change these in place, the builder without a copy of its
+// document.
 
 namespace kelp::input::quill {
 

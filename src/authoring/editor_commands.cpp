@@ -4,8 +4,8 @@
 #include "authoring/charge_and_multiplicity.hpp"
 #include "kelp/input/quill/editor.hpp"
 
-// Whatever can fail comes before the first change, and whatever is stored is copied before the
-// document moves, since an argument may point into it.
+// Everything that can fail comes before the first change, and an argument is copied before the
+// document changes, since it may point into the document.
 
 namespace kelp::input::quill {
 

@@ -13,9 +13,9 @@ AtomRecord to_record(const core::Atom& atom) {
 
 }  // namespace
 
-// The new list is complete before the old one goes, so that a lack of memory never leaves a list of
-// which half is old and half is new. The kind is set first, and what it puts out of force is
-// emptied in the order in which callers may rely on finding it after a failure.
+// The new list is complete before the old one is removed, so that running out of memory never
+// leaves a list that is half old and half new. The kind is set first; then the lists that it does
+// not use are emptied, in the order that the comments in the header promise after a failure.
 
 void InputEditor::set_geometry(const std::vector<AtomRecord>& atoms) {
   GeometryBlock& geometry = document_.geometry;
@@ -51,7 +51,7 @@ void InputEditor::set_xyz_trajectory(std::string_view path) {
 
 void InputEditor::add_atom(const AtomRecord& atom) {
   GeometryBlock& geometry = document_.geometry;
-  AtomRecord added = atom;  // first of all: it may be one of those that are removed next
+  AtomRecord added = atom;  // comes first, since `atom` may be one of those that are removed next
   if (geometry.kind != GeometryKind::Atoms) {
     geometry.atoms.reserve(1);
     geometry.kind = GeometryKind::Atoms;

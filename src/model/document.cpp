@@ -1,7 +1,7 @@
 #include "kelp/input/quill/document.hpp"
 
-// These members are defined here and not in the header, so that programs which only pass documents
-// around carry no copy of the member-wise code.
+// These members are defined here, and not in the headers, so that programs which only pass
+// documents on do not contain a copy of the member-wise code.
 
 namespace kelp::input::quill {
 

@@ -20,7 +20,7 @@ bool has_canonical_name(const HeaderCommand& command, std::string_view canonical
 
 bool remove_every_match(std::vector<HeaderCommand>& commands, std::string_view canonical_name) {
   // Comparing names can run out of memory and moving commands cannot: all comparisons come first,
-  // so that a failure finds the commands where they were.
+  // so that a failure leaves the commands where they were.
   std::vector<bool> is_match;
   is_match.reserve(commands.size());
   for (const HeaderCommand& command : commands) {

@@ -1,5 +1,6 @@
 #include "writer/number_text.hpp"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -18,16 +19,12 @@ constexpr std::uint64_t millionths_per_unit = 1'000'000;
 constexpr std::size_t longest_coordinate =
     std::numeric_limits<double>::max_exponent10 + std::string_view("-1.000000").size();
 
-constexpr std::size_t longest_scan_value = std::string_view("-1.23457e-308").size();
-
-constexpr std::size_t longest_integer = std::string_view("-2147483648").size();
-
 #if defined(__SIZEOF_INT128__) && !defined(KELP_QUILL_INP_PORTABLE_NUMBERS)
 __extension__ using Uint128 = unsigned __int128;
 
 /// Returns the magnitude of `value` in millionths, rounded to the nearest integer with ties to
-/// even, for magnitudes below 999,999, which keep six digits before the point when they are
-/// rounded; nothing for others.
+/// even, for magnitudes below 999,999, which still have at most six digits before the point after
+/// rounding; nothing for others.
 ///
 /// A double is m * 2^-s with m < 2^53, so m * 10^6 < 2^73 is exact in 128 bits, and of the sum with
 /// half a millionth only the bits below 2^s are lost: all of them are 0 exactly for a tie. From
@@ -55,7 +52,7 @@ std::optional<std::uint64_t> to_millionths(double /*value*/) { return std::nullo
 #endif
 
 // Eight characters are made at once, in the eight bytes of an integer; the first one is the lowest
-// byte, whatever order the machine stores them in.
+// byte, in whatever order the machine stores bytes.
 
 constexpr std::uint64_t in_every_byte(std::uint64_t byte) { return byte * 0x0101010101010101U; }
 
@@ -72,16 +69,16 @@ constexpr std::uint64_t digits_of(std::uint64_t number) {
   return tens | (pairs - tens * 10) << 8;
 }
 
-/// Returns digits as text, with blanks for leading zeros and a "-" or one more blank before what
-/// remains, of which the last digit is always a part. The first byte of `digits` is 0.
+/// Returns digits as text, with blanks for leading zeros and a "-" or one more blank before the
+/// first digit that remains. The last digit always remains. The first byte of `digits` is 0.
 constexpr std::uint64_t right_justified(std::uint64_t digits, bool is_negative) {
   constexpr std::uint64_t last_digit = std::uint64_t{0x80} << 56;
   // Adding 0x7F sets the top bit of every digit but 0; of these flags the lowest one counts.
   const std::uint64_t flags = ((digits + in_every_byte(0x7F)) & in_every_byte(0x80)) | last_digit;
   const std::uint64_t first_digit = (flags & (~flags + 1)) >> 7;
   const std::uint64_t all_before = first_digit - 1;
-  // Half of all coordinates are negative, in no order that a processor could foresee: the sign must
-  // not decide on a jump.
+  // Half of all coordinates are negative, in an order that a processor cannot predict: no branch
+  // may depend on the sign.
   const std::uint64_t sign = std::uint64_t{is_negative} * ('-' ^ ' ');
   return (digits | in_every_byte('0')) ^ (all_before & in_every_byte('0' ^ ' ')) ^
          (first_digit >> 8) * sign;
@@ -103,11 +100,43 @@ void append_any_coordinate(std::string& out, double coordinate) {
   out.append(text, length);
 }
 
+constexpr std::size_t pair_size = 2;
+
+using Pairs = std::array<char, 100 * pair_size>;
+
+/// "00", "01" and so on up to "99".
+constexpr Pairs make_pairs() {
+  Pairs pairs = {};
+  for (std::size_t i = 0; i < pairs.size(); i += pair_size) {
+    const std::size_t number = i / pair_size;
+    pairs[i] = static_cast<char>('0' + number / 10);
+    pairs[i + 1] = static_cast<char>('0' + number % 10);
+  }
+  return pairs;
+}
+
+char* write_pair(char* field, std::uint32_t number) {
+  static constexpr Pairs pairs = make_pairs();
+  std::memcpy(field, &pairs[number * pair_size], pair_size);
+  return field + pair_size;
+}
+
+/// Writes one or two digits.
+char* write_below_hundred(char* field, std::uint32_t number) {
+  if (number >= 10) return write_pair(field, number);
+  *field = static_cast<char>('0' + number);
+  return field + 1;
+}
+
 }  // namespace
 
-void append_integer(std::string& out, std::int32_t number) {
-  char text[longest_integer];
-  out.append(text, std::to_chars(text, text + sizeof text, number).ptr);
+char* write_integer(char* field, std::int32_t number) {
+  // A negative number becomes one above every limit here.
+  const auto as_unsigned = static_cast<std::uint32_t>(number);
+  if (as_unsigned < 100) return write_below_hundred(field, as_unsigned);
+  if (as_unsigned < 10'000)
+    return write_pair(write_below_hundred(field, as_unsigned / 100), as_unsigned % 100);
+  return std::to_chars(field, field + longest_integer, number).ptr;
 }
 
 bool write_coordinate(char* field, double coordinate) {
@@ -130,11 +159,8 @@ void append_coordinate(std::string& out, double coordinate) {
   }
 }
 
-void append_scan_value(std::string& out, double value) {
-  char text[longest_scan_value];
-  const char* const end =
-      std::to_chars(text, text + sizeof text, value, std::chars_format::general, 6).ptr;
-  out.append(text, static_cast<std::size_t>(end - text));
+char* write_scan_value(char* field, double value) {
+  return std::to_chars(field, field + longest_scan_value, value, std::chars_format::general, 6).ptr;
 }
 
 }  // namespace kelp::input::quill

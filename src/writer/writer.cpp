@@ -7,6 +7,7 @@
 
 #include "model/post_line_shapes.hpp"
 #include "writer/number_text.hpp"
+#include "writer/text_buffer.hpp"
 
 namespace kelp::input::quill {
 
@@ -14,6 +15,11 @@ namespace {
 
 constexpr std::size_t symbol_width = 3;
 constexpr std::size_t atom_line_size = symbol_width + 3 * coordinate_width + 1;
+
+// The most characters that each of these takes.
+constexpr std::size_t charge_line_size = std::string_view("-2147483648 -2147483648\n").size();
+constexpr std::size_t blank_and_integer_size = std::string_view(" -2147483648").size();
+constexpr std::size_t blank_and_scan_value_size = std::string_view(" -1.23457e-308").size();
 
 void append_padded(std::string& out, const std::string& text, std::size_t width) {
   out += text;
@@ -50,10 +56,12 @@ void append_command(std::string& out, const HeaderCommand& command) {
 }
 
 void append_charge_and_multiplicity(std::string& out, const GeometryBlock& geometry) {
-  append_integer(out, geometry.charge);
-  out += ' ';
-  append_integer(out, geometry.multiplicity);
-  out += '\n';
+  char line[charge_line_size];
+  char* end = write_integer(line, geometry.charge);
+  *end++ = ' ';
+  end = write_integer(end, geometry.multiplicity);
+  *end++ = '\n';
+  out.append(line, end);
 }
 
 /// Appends the line of an atom in one piece, if the symbol and all coordinates fit their columns.
@@ -112,46 +120,55 @@ void append_geometry(std::string& out, const GeometryBlock& geometry) {
   }
 }
 
-/// Appends the numbers separated by single blanks.
-void append_atom_numbers(std::string& out, const std::vector<std::int32_t>& numbers) {
-  const char* separator = "";
-  for (const std::int32_t number : numbers) {
-    out += separator;
-    append_integer(out, number);
-    separator = " ";
-  }
+// The functions named add_ take the end of the text in the buffer and return its new end.
+
+char* add_blank_and_integer(TextBuffer& out, char* end, std::int32_t number) {
+  end = out.room(end, blank_and_integer_size);
+  *end++ = ' ';
+  return write_integer(end, number);
 }
 
-void append_scan_settings(std::string& out, const PostCommand& command) {
-  if (command.scan_value) {
-    out += ' ';
-    append_scan_value(out, *command.scan_value);
-  }
-  if (command.scan_steps) {
-    out += ' ';
-    append_integer(out, *command.scan_steps);
-  }
+char* add_blank_and_scan_value(TextBuffer& out, char* end, double value) {
+  end = out.room(end, blank_and_scan_value_size);
+  *end++ = ' ';
+  return write_scan_value(end, value);
 }
 
-void append_post_command(std::string& out, const PostCommand& command) {
-  if (command.kind == PostCommandKind::Raw) {
-    out += command.raw_text;
-    return;
-  }
+/// Adds the numbers, each after a blank. Without numbers, the blank after the keyword is there too.
+char* add_atom_numbers(TextBuffer& out, char* end, const std::vector<std::int32_t>& numbers) {
+  if (numbers.empty()) return out.add(end, ' ');
+  for (const std::int32_t number : numbers) end = add_blank_and_integer(out, end, number);
+  return end;
+}
+
+char* add_scan_settings(TextBuffer& out, char* end, const PostCommand& command) {
+  if (command.scan_value) end = add_blank_and_scan_value(out, end, *command.scan_value);
+  if (command.scan_steps) end = add_blank_and_integer(out, end, *command.scan_steps);
+  return end;
+}
+
+char* add_post_command(TextBuffer& out, char* end, const PostCommand& command) {
+  if (command.kind == PostCommandKind::Raw) return out.add(end, command.raw_text);
   const PostLineShape* shape = find_post_line_shape(command.kind);
-  if (shape == nullptr) return;
-  out += shape->keyword;
-  out += ' ';
-  if (command.kind == PostCommandKind::PostFile) {
-    out += command.post_file;
-    return;
-  }
-  append_atom_numbers(out, command.atom_indices);
-  if (command.kind == PostCommandKind::Scan) append_scan_settings(out, command);
+  if (shape == nullptr) return end;
+  for (const char letter : shape->keyword) end = out.add(end, letter);
+  if (command.kind == PostCommandKind::PostFile)
+    return out.add(out.add(end, ' '), command.post_file);
+  end = add_atom_numbers(out, end, command.atom_indices);
+  if (command.kind == PostCommandKind::Scan) end = add_scan_settings(out, end, command);
+  return end;
+}
+
+void append_post_commands(std::string& out, const std::vector<PostCommand>& commands) {
+  TextBuffer buffer(out);
+  char* end = buffer.begin();
+  for (const PostCommand& command : commands)
+    end = buffer.add(add_post_command(buffer, end, command), '\n');
+  buffer.flush(end);
 }
 
 /// How much room to reserve, so that a whole input is written without growing the text: the stored
-/// strings and what stands around them, and usual lengths for numbers. Text that needs more grows.
+/// strings, what is written around them, and usual lengths for numbers. A longer text still grows.
 std::size_t expected_size(const HeaderCommand& command) {
   std::size_t size = command.name.size() + std::string_view("# = \n").size();
   if (command.value) size += command.value->size();
@@ -163,7 +180,7 @@ std::size_t expected_size(const HeaderCommand& command) {
 }
 
 std::size_t expected_size(const GeometryBlock& geometry) {
-  std::size_t size = std::string_view("-2147483648 -2147483648\n").size();
+  std::size_t size = charge_line_size;
   if (geometry.kind == GeometryKind::Atoms) {
     size += geometry.atoms.size() * atom_line_size;
   } else {
@@ -195,7 +212,8 @@ std::string to_string(const HeaderCommand& command) {
 
 std::string to_string(const PostCommand& command) {
   std::string out;
-  append_post_command(out, command);
+  TextBuffer buffer(out);
+  buffer.flush(add_post_command(buffer, buffer.begin(), command));
   return out;
 }
 
@@ -206,8 +224,8 @@ std::string to_string(const GeometryBlock& geometry) {
 }
 
 std::string QuillInput::to_string() const {
-  // The section counts as present even when its kind writes no line, so that a document which was
-  // meant to have coordinates keeps their place.
+  // The section counts as present even when its kind writes no line, so that the place of the
+  // coordinates is kept in a document that has none yet.
   const bool has_coordinates =
       geometry.kind != GeometryKind::None || geometry.has_charge_and_multiplicity;
   const bool has_post_lines = !post_commands.empty();
@@ -221,10 +239,7 @@ std::string QuillInput::to_string() const {
   if (!commands.empty() && (has_coordinates || has_post_lines)) out += '\n';
   if (has_coordinates) append_geometry(out, geometry);
   if (has_coordinates && has_post_lines) out += '\n';
-  for (const PostCommand& command : post_commands) {
-    append_post_command(out, command);
-    out += '\n';
-  }
+  append_post_commands(out, post_commands);
   return out;
 }
 

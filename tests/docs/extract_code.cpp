@@ -1,15 +1,15 @@
 // Turns the C++ code blocks of a Markdown page into one program, so that documentation which does
-// not compile, or asserts what is not so, fails the tests.
+// not compile, or asserts something wrong, fails the tests.
 //
 //   extract_code PAGE.md PROGRAM.cpp
 //
 // Include lines and using directives are gathered at the top. Each block becomes a function, or, if
 // it defines main, a namespace whose main is called. Compiler messages name the page and its lines.
 //
-// A block of "text", or of no language, right behind one of C++ is what that one prints.
+// A block of "text", or of no language, right after a C++ block is what that block prints.
 //
-// In place of a page there may be a header. Its blocks are the indented lines of its comments. In
-// "EXPRESSION;  // VALUE" the comment is what the expression gives.
+// The page may also be a header. Its blocks are the indented lines of its comments. In
+// "EXPRESSION;  // VALUE" the comment is the value of the expression.
 
 #include <algorithm>
 #include <fstream>
@@ -52,7 +52,7 @@ std::vector<Block> find_blocks(std::istream& page) {
   return blocks;
 }
 
-/// Lets a line of a header assert what its comment says.
+/// Makes a line of a header assert what its comment says.
 std::string with_assertion(const std::string& line) {
   const std::size_t comment = line.find("  // ");
   const std::size_t end = line.find(';');

@@ -11,7 +11,7 @@ namespace kelp::input::quill {
 struct FencedBlock {
   std::string language;
   std::string text = {};  // every line with its end
-  std::string heading;    // the last one in front of the block, with its "#"s
+  std::string heading;    // the last one before the block, with its "#"s
   std::size_t line;       // of the first backticks, counted from 1
 };
 

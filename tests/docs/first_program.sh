@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Does what docs/getting-started.md says: makes the two files of its project, builds them beside the
+# Does what docs/getting-started.md says: makes the two files of its project, builds them next to the
 # tree and runs the program.
 #
 #   first_program.sh TREE SCRATCH CXX

@@ -1,5 +1,5 @@
-// The page on the format is read as a reader would read it: every input on it gives the diagnostics
-// and the canonical text that the page claims, and no diagnostic of the reader is missing.
+// Tests the page about the format: every input on it gives the diagnostics and the canonical text
+// that the page says, and the page has every diagnostic of the reader.
 
 #include <gmock/gmock.h>
 
@@ -16,7 +16,7 @@
 namespace kelp::input::quill {
 namespace {
 
-/// An input on the page, and what the blocks behind it say of it.
+/// An input on the page, and what the blocks after it say about it.
 struct Claim {
   std::string heading;
   std::size_t line;
@@ -65,7 +65,7 @@ TEST(FormatPage, ForetellsTheCanonicalText) {
 }
 
 /// The texts in quotes that consist of several words, in all sources of the reader; such a text is
-/// part of a message. Those of two lines are written as one here.
+/// part of a message. Texts on two lines are joined.
 std::set<std::string> messages_of_the_reader() {
   std::set<std::string> messages;
   const std::string folder = std::string(KELP_QUILL_INP_SOURCE_DIR) + "/src/reader";

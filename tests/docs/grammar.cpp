@@ -22,7 +22,7 @@ std::string take_digits(const std::string& text, std::size_t& at) {
   return text.substr(start, at - start);
 }
 
-/// Every character that means something in an expression stands for itself.
+/// Escapes every character that has a meaning in an expression.
 std::string quoted(const std::string& literal) {
   std::string expression;
   for (const char c : literal)
@@ -30,7 +30,8 @@ std::string quoted(const std::string& literal) {
   return expression;
 }
 
-/// "%x21-FF" or "%x20". Bytes above 0x7F are what is not below: their order is not to be relied on.
+/// "%x21-FF" or "%x20". Bytes above 0x7F are written as all that are not below, since their order
+/// in expressions is not reliable.
 std::string byte_range(const std::string& text, std::size_t& at) {
   const std::string first = text.substr(at + 2, 2);
   at += 4;

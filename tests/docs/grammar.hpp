@@ -11,7 +11,7 @@ namespace kelp::input::quill {
 /// the core rules there are ALPHA, DIGIT and OCTET.
 class Grammar {
  public:
-  /// Takes a block of rules. One that goes on in the next line is indented there.
+  /// Takes a block of rules. The next line of a longer rule is indented.
   explicit Grammar(const std::string& rules);
 
   /// Returns a regular expression for what the rule matches, to be used without regard to case.

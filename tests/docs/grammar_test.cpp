@@ -1,5 +1,5 @@
-// The grammar on the page about the format says the same of a line as the reader does, wherever in
-// an input the line stands.
+// The grammar on the page about the format and the reader agree on every line, in every place of an
+// input.
 
 #include <gmock/gmock.h>
 
@@ -27,7 +27,7 @@ Grammar grammar_of_the_page() {
 }
 
 /// Lines without outer blanks: of the example inputs, of the inputs on the page, and each of them
-/// with one word more, one less, and one that is another.
+/// with one word added, one removed, and one replaced.
 std::set<std::string> lines_to_try() {
   std::set<std::string> texts = {
       "+1 -2\n2147483648 1\nXYZTRAJ\nXYZ\nPOST\n#\n##\n#a(b=c)\n#a=(b\n"};

@@ -1,9 +1,10 @@
-// Documentation that nobody runs goes wrong. So every page has a row that says which kinds of code
-// blocks it may hold, and each of these kinds is tried by some test:
+// Code in documentation that is never run becomes wrong. So every page has a row that says which
+// kinds of code blocks it may have, and some test runs each of these kinds:
 //
 //   cpp              compiled and run (extract_code.cpp)
-//   text, none       behind cpp, what that prints; in README.md, what the reader says of an input;
-//                    else a drawing
+//   text, none       after cpp, what that prints; in README.md, the reader's diagnostics of an
+//   input;
+//                    in other places a drawing
 //   qin, diagnostics, written
 //                    read and written (format_page_test.cpp)
 //   console          carried out in a shell, with what it prints (tests/tools/quill_inp)
@@ -51,7 +52,7 @@ std::vector<std::string> pages() {
   return names;
 }
 
-TEST(Pages, HoldNoCodeThatIsNotTried) {
+TEST(Pages, HaveOnlyCodeThatIsTested) {
   for (const std::string& page : pages()) {
     const auto row = languages_tried.find(page);
     if (row == languages_tried.end()) {
@@ -63,7 +64,7 @@ TEST(Pages, HoldNoCodeThatIsNotTried) {
   }
 }
 
-/// The names behind a word such as "scripts/" in the shell blocks of all pages.
+/// The names after a word such as "scripts/" in the shell blocks of all pages.
 std::set<std::string> names_in_shell_blocks(const std::string& pattern) {
   std::set<std::string> names;
   const std::regex name(pattern);

@@ -10,7 +10,7 @@ namespace {
 constexpr std::uint32_t limb_size = 1'000'000'000;
 constexpr std::size_t limb_digits = 9;
 
-// Powers are multiplied by in bites that a limb can take.
+// The number is multiplied by powers in steps that are small enough for a limb.
 constexpr int twos_at_once = 29;
 constexpr std::uint32_t power_of_twos = 1U << twos_at_once;
 constexpr int fives_at_once = 12;

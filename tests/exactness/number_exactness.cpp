@@ -1,11 +1,11 @@
 // Compares the library's ways to read and write numbers with those of the C library, which rounds
-// correctly but takes its time, on many numbers of five kinds:
+// correctly but is slow, on many numbers of five kinds:
 //
 //   number_exactness reading 1000000         try_parse_double and strtod
 //   number_exactness coordinates 1000000     append_coordinate and printf("%14.6f")
-//   number_exactness scan_values 1000000     append_scan_value and printf("%g")
+//   number_exactness scan_values 1000000     write_scan_value and printf("%g")
 //
-// The count is that of numbers of each kind. A third argument is the seed, 1 unless told.
+// The count is that of numbers of each kind. A third argument is the seed, 1 by default.
 
 #include <array>
 #include <cmath>
@@ -55,7 +55,7 @@ std::uint64_t bits_of(double number) {
   return bits;
 }
 
-/// What strtod makes of a number whose exponent may have Fortran's letter; nothing where the number
+/// What strtod reads from a number whose exponent may have Fortran's letter; nothing if the number
 /// is too large for a double.
 std::optional<double> read_by_c_library(std::string token) {
   const std::size_t letter = token.find_first_of("dD");
@@ -66,7 +66,7 @@ std::optional<double> read_by_c_library(std::string token) {
   return value;
 }
 
-/// NaNs are compared by their sign only: what else is in them is nobody's choice.
+/// NaNs are compared only by their sign: their other bits are not specified.
 bool are_same(double left, double right) {
   if (std::isnan(left) && std::isnan(right)) return std::signbit(left) == std::signbit(right);
   return bits_of(left) == bits_of(right);
@@ -100,9 +100,8 @@ bool is_coordinate_exact(const double& number) {
 bool is_scan_value_exact(const double& number) {
   char expected[32];
   static_cast<void>(std::snprintf(expected, sizeof expected, "%g", number));
-  std::string text;
-  append_scan_value(text, number);
-  return is_written_exactly(number, expected, text);
+  char text[longest_scan_value];
+  return is_written_exactly(number, expected, std::string(text, write_scan_value(text, number)));
 }
 
 struct Plan {

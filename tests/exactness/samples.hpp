@@ -4,8 +4,9 @@
 #include <random>
 #include <string>
 
-// Makers of numbers that are hard to read or write, or many. What they make depends on the state of
-// the generator alone: std::mt19937_64 gives the same everywhere, and nothing else is random.
+// Functions that make numbers which are hard to read or write, and many others. The numbers depend
+// only on the state of the generator: std::mt19937_64 gives the same everywhere, and nothing else
+// is random.
 
 namespace kelp::input::quill::exactness {
 
@@ -14,7 +15,7 @@ using Random = std::mt19937_64;
 /// Numbers to write.
 namespace values {
 
-/// Every bit pattern is as likely as every other: all exponents, NaNs and infinities.
+/// All bit patterns are equally likely: all exponents, NaNs and infinities.
 double random_bits(Random& random);
 
 /// Up to twelve digits with up to nine decimals, as people and programs write them.
@@ -27,7 +28,7 @@ double halfway(Random& random);
 /// A power of ten or of two, or a number up to two steps from it.
 double power(Random& random);
 
-/// Up to three steps from where the way of conversion, the width or the notation changes.
+/// Up to three steps from a number where the conversion path, the width or the notation changes.
 double border(Random& random);
 
 }  // namespace values
@@ -38,7 +39,7 @@ namespace tokens {
 /// A random bit pattern in up to 17 digits, or the same without its exponent.
 std::string random_bits(Random& random);
 
-/// Up to nineteen digits with a point anywhere or nowhere.
+/// Up to nineteen digits with a point in any place, or without one.
 std::string short_decimal(Random& random);
 
 /// Exactly half-way between two doubles, with all digits, or one unit of a further digit from it.

@@ -70,7 +70,7 @@ std::string short_decimal(Random& random) {
 }
 
 std::string halfway(Random& random) {
-  // Most doubles that occur are near 1, and so are half of these; the others are anywhere.
+  // Most doubles in real inputs are near 1, and so are half of these; the others can be any.
   const int exponent = static_cast<int>(random() % 2 == 0 ? number_between(random, -80, 40)
                                                           : number_between(random, -1075, 970));
   // 2m + 1 in units of half the last bit: m with all 53 bits, or fewer for a subnormal number.

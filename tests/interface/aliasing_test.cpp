@@ -52,20 +52,20 @@ std::vector<const std::vector<std::string>*> the_files(const QuillInput& documen
 }
 
 /// Makes the call with each of the arguments that `find` finds in the document, three times in a
-/// row, so that a list with room for no more is met along the way. Returns the number of arguments.
+/// row, so that one of the calls finds a list without spare room. Returns the number of arguments.
 template <typename Make, typename Find, typename Call>
 std::size_t expect_as_if_copied(Make make, Find find, Call call) {
   std::size_t count = 0;
   for (const Setting& setting : every_setting()) {
     const auto untouched = make(setting);
     for (std::size_t i = 0; i < find(untouched.document()).size(); ++i, ++count) {
-      auto door = make(setting);
+      auto author = make(setting);
       auto other = make(setting);
-      for (int time = 0; time < 3 && i < find(door.document()).size(); ++time) {
+      for (int time = 0; time < 3 && i < find(author.document()).size(); ++time) {
         const auto copy = *find(other.document())[i];
-        call(door, *find(door.document())[i]);
+        call(author, *find(author.document())[i]);
         call(other, copy);
-        EXPECT_EQ(door.document(), other.document())
+        EXPECT_EQ(author.document(), other.document())
             << "argument " << i << ", call " << time << ", " << to_text(setting);
       }
     }
@@ -73,21 +73,21 @@ std::size_t expect_as_if_copied(Make make, Find find, Call call) {
   return count;
 }
 
-const auto add_command = [](auto& door, const HeaderCommand& command) {
-  door.add_command(command);
+const auto add_command = [](auto& author, const HeaderCommand& command) {
+  author.add_command(command);
 };
-const auto add_atom = [](auto& door, const AtomRecord& atom) { door.add_atom(atom); };
-const auto set_geometry = [](auto& door, const std::vector<AtomRecord>& atoms) {
-  door.set_geometry(atoms);
+const auto add_atom = [](auto& author, const AtomRecord& atom) { author.add_atom(atom); };
+const auto set_geometry = [](auto& author, const std::vector<AtomRecord>& atoms) {
+  author.set_geometry(atoms);
 };
-const auto set_xyz_files = [](auto& door, const std::vector<std::string>& files) {
-  door.set_xyz_files(files);
+const auto set_xyz_files = [](auto& author, const std::vector<std::string>& files) {
+  author.set_xyz_files(files);
 };
-const auto add_post_command = [](auto& door, const PostCommand& command) {
-  door.add_post_command(command);
+const auto add_post_command = [](auto& author, const PostCommand& command) {
+  author.add_post_command(command);
 };
-const auto add_scan = [](auto& door, const std::vector<int>& indices) {
-  door.add_scan(indices, 1.5, 10);
+const auto add_scan = [](auto& author, const std::vector<int>& indices) {
+  author.add_scan(indices, 1.5, 10);
 };
 
 struct Row {

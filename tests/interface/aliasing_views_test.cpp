@@ -11,14 +11,14 @@
 #include "support/edit_case.hpp"
 #include "support/printing.hpp"
 
-// A text view passed to an editor may look into the editor's own document: the result is the one
+// A text view passed to an editor may point into the editor's own document: the result is the one
 // that a copy of the text would have given.
 
 namespace kelp::input::quill {
 
 namespace {
 
-/// A call with one text; what it answers, for the removals.
+/// A call with one text; for removals, it returns their result.
 struct TextCall {
   std::string_view name;
   std::function<bool(InputEditor&, std::string_view)> call;

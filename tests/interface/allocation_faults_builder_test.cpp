@@ -15,8 +15,8 @@
 #include "support/long_document.hpp"
 #include "support/printing.hpp"
 
-// A builder's operation works on a copy of the document and copies the outcome back. Before the
-// copying back, a failure leaves the builder as it was; during it, a valid document.
+// A builder's operation works on a copy of the document and copies the result back. A failure
+// before that last copy leaves the builder as it was; a failure during it leaves a valid document.
 
 namespace kelp::input::quill {
 
@@ -133,40 +133,41 @@ TEST_P(ABuilder, KeepsItsDocumentUntilTheOperationIsDone) {
 }
 
 const Fault rows[] = {
-    fault("SettingAKnownTask", [](auto& door) { door.set_task(opt, parameters); }),
-    fault("SettingANewTask", [](auto& door) { door.set_task(fresh, parameters); }),
+    fault("SettingAKnownTask", [](auto& author) { author.set_task(opt, parameters); }),
+    fault("SettingANewTask", [](auto& author) { author.set_task(fresh, parameters); }),
     {"SettingAKnownTaskParameter",
      [](InputBuilder& builder) { builder.set_task_parameter(opt, maxiter, value); },
      [](InputEditor& editor) { editor.set_parameter(opt, maxiter, value, 0); }},
     {"SettingATaskParameterOfANewCommand",
      [](InputBuilder& builder) { builder.set_task_parameter(fresh, maxiter, value); },
      [](InputEditor& editor) { editor.set_parameter(fresh, maxiter, value, 0); }},
-    fault("SettingTheModel", [](auto& door) { door.set_model(value); }),
-    fault("SettingTheDevice", [](auto& door) { door.set_device(value); }),
-    fault("SettingAKnownAssignment", [](auto& door) { door.set_assignment(opt, value); }),
-    fault("SettingANewAssignment", [](auto& door) { door.set_assignment(fresh, value); }),
-    fault("SettingANewFlag", [](auto& door) { door.set_flag(fresh); }),
-    fault("AddingAnAtom", [](auto& door) { door.add_atom(atom); }),
-    fault("AddingACoreAtom", [](auto& door) { door.add_atom(core_atom); }),
+    fault("SettingTheModel", [](auto& author) { author.set_model(value); }),
+    fault("SettingTheDevice", [](auto& author) { author.set_device(value); }),
+    fault("SettingAKnownAssignment", [](auto& author) { author.set_assignment(opt, value); }),
+    fault("SettingANewAssignment", [](auto& author) { author.set_assignment(fresh, value); }),
+    fault("SettingANewFlag", [](auto& author) { author.set_flag(fresh); }),
+    fault("AddingAnAtom", [](auto& author) { author.add_atom(atom); }),
+    fault("AddingACoreAtom", [](auto& author) { author.add_atom(core_atom); }),
     fault(
-        "AddingAnAtomInPlaceOfFiles", [](auto& door) { door.add_atom(atom); }, Start::WithFiles),
-    fault("SettingTheGeometry", [](auto& door) { door.set_geometry(atoms); }),
-    fault(
-        "SettingTheGeometryInPlaceOfFiles", [](auto& door) { door.set_geometry(atoms); },
+        "AddingAnAtomInPlaceOfFiles", [](auto& author) { author.add_atom(atom); },
         Start::WithFiles),
-    fault("SettingACoreGeometry", [](auto& door) { door.set_geometry(core_geometry); }),
+    fault("SettingTheGeometry", [](auto& author) { author.set_geometry(atoms); }),
     fault(
-        "SettingFiles", [](auto& door) { door.set_xyz_files(files); }, Start::WithFiles),
-    fault("SettingFilesInPlaceOfAtoms", [](auto& door) { door.set_xyz_files(files); }),
-    fault("SettingOneFile", [](auto& door) { door.set_xyz_file(value); }),
-    fault("SettingATrajectory", [](auto& door) { door.set_xyz_trajectory(value); }),
-    fault("AddingAnAtomConstraint", [](auto& door) { door.add_atom_constraint(1); }),
-    fault("AddingABondConstraint", [](auto& door) { door.add_bond_constraint(1, 2); }),
-    fault("AddingAnAngleConstraint", [](auto& door) { door.add_angle_constraint(1, 2, 3); }),
+        "SettingTheGeometryInPlaceOfFiles", [](auto& author) { author.set_geometry(atoms); },
+        Start::WithFiles),
+    fault("SettingACoreGeometry", [](auto& author) { author.set_geometry(core_geometry); }),
+    fault(
+        "SettingFiles", [](auto& author) { author.set_xyz_files(files); }, Start::WithFiles),
+    fault("SettingFilesInPlaceOfAtoms", [](auto& author) { author.set_xyz_files(files); }),
+    fault("SettingOneFile", [](auto& author) { author.set_xyz_file(value); }),
+    fault("SettingATrajectory", [](auto& author) { author.set_xyz_trajectory(value); }),
+    fault("AddingAnAtomConstraint", [](auto& author) { author.add_atom_constraint(1); }),
+    fault("AddingABondConstraint", [](auto& author) { author.add_bond_constraint(1, 2); }),
+    fault("AddingAnAngleConstraint", [](auto& author) { author.add_angle_constraint(1, 2, 3); }),
     fault("AddingADihedralConstraint",
-          [](auto& door) { door.add_dihedral_constraint(1, 2, 3, 4); }),
-    fault("AddingAScan", [](auto& door) { door.add_scan(indices, 1.5, 10); }),
-    fault("AddingAPostFile", [](auto& door) { door.set_post_file(value); }),
+          [](auto& author) { author.add_dihedral_constraint(1, 2, 3, 4); }),
+    fault("AddingAScan", [](auto& author) { author.add_scan(indices, 1.5, 10); }),
+    fault("AddingAPostFile", [](auto& author) { author.set_post_file(value); }),
 };
 
 INSTANTIATE_TEST_SUITE_P(OnACopy, ABuilder, testing::ValuesIn(rows), row_name<Fault>);
@@ -187,11 +188,11 @@ TEST_P(ABuilderInPlace, AppendsOrChangesNothing) {
 }
 
 const Fault rows_in_place[] = {
-    fault("ACopiedCommand", [](auto& door) { door.add_command(command); }),
-    fault("AMovedCommand", [](auto& door) { door.add_command(HeaderCommand(command)); }),
-    fault("ACopiedPostCommand", [](auto& door) { door.add_post_command(post_command); }),
+    fault("ACopiedCommand", [](auto& author) { author.add_command(command); }),
+    fault("AMovedCommand", [](auto& author) { author.add_command(HeaderCommand(command)); }),
+    fault("ACopiedPostCommand", [](auto& author) { author.add_post_command(post_command); }),
     fault("AMovedPostCommand",
-          [](auto& door) { door.add_post_command(PostCommand(post_command)); }),
+          [](auto& author) { author.add_post_command(PostCommand(post_command)); }),
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, ABuilderInPlace, testing::ValuesIn(rows_in_place), row_name<Fault>);

@@ -41,8 +41,8 @@ const kelp::core::Geometry core_geometry{
 const std::vector<std::string> files = {longer("c.xyz"), longer("d.xyz")};
 const std::vector<int> indices = {1, 2, 3, 4};
 
-/// An operation and the documents that one finds after its failures: the first ones leave the first
-/// of them, later ones the next, and so on.
+/// An operation and the documents after its failures: the first failures leave the first document,
+/// later ones the next, and so on.
 struct Fault {
   std::string_view name;
   QuillInput before;

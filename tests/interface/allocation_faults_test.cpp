@@ -14,8 +14,8 @@
 #include "support/printing.hpp"
 #include "support/temporary_folder.hpp"
 
-// Documents, the writer and the reader, with each allocation failing in turn: what comes back is
-// whole, or nothing does.
+// Documents, the writer and the reader, with each allocation failing in turn: the result is
+// complete, or there is none.
 
 namespace kelp::input::quill {
 
@@ -27,8 +27,8 @@ const std::string fresh = longer("fresh");
 const GeometryKind every_kind[] = {GeometryKind::None, GeometryKind::Atoms, GeometryKind::XyzFile,
                                    GeometryKind::XyzTrajectory};
 
-/// A text with every form of line and every warning, in which no word fits into the inside of a
-/// string.
+/// A text with every form of line and every warning, in which every word is too long to be stored
+/// inside a string object.
 std::string long_text(const std::string& coordinates) {
   std::string text = "#" + longer("flag") + "\n#" + longer("assignment") + "='" + longer("v") +
                      "'\n#" + std::string(40, 'o') + "(" + longer("a") + "=" + longer("b") + ", " +
@@ -113,15 +113,15 @@ TEST(AFailedAllocation, LeavesNoHalfATextOfAPiece) {
   }
 }
 
-template <typename Door>
-void expect_whole_file_or_none(const Door& door) {
-  const std::optional<std::string> whole = door.to_string();
+template <typename Author>
+void expect_whole_file_or_none(const Author& author) {
+  const std::optional<std::string> whole = author.to_string();
   const std::optional<std::string> earlier = "an earlier file";
   const TemporaryFolder folder;
   bool was_emptied = false;
   const std::uint64_t failures = fail_each_allocation(
       [&] { return folder.write("out.qin", *earlier); },
-      [&](const std::string& path) { door.write_file(path); },
+      [&](const std::string& path) { author.write_file(path); },
       [&](const std::string& path, std::uint64_t failing) {
         const std::optional<std::string> content = file_content(path);
         EXPECT_TRUE(content == earlier || content == "") << "allocation " << failing;

@@ -7,8 +7,8 @@
 #include "support/comparison.hpp"
 #include "support/printing.hpp"
 
-// The forms in which programs write the data types down. The build compiles this file as C++20 and
-// C++23 too, whose rules for aggregates differ.
+// The ways in which programs initialise the data types with braces. The build compiles this file as
+// C++20 and C++23 too, which have other rules for aggregates.
 
 namespace kelp::input::quill {
 

@@ -36,11 +36,11 @@ const AtomRecord oxygen{"O", 0.0, 0.0, 0.1173};
 const kelp::core::Geometry odd_molecule{{{"cl", -0.0, 1e300, 0.1}, {"", 1.0, 2.0, 3.0}}};
 const std::vector<AtomRecord> odd_atoms = {{"cl", -0.0, 1e300, 0.1}, {"", 1.0, 2.0, 3.0}};
 
-/// Members that do not agree: what is added is not looked at.
+/// Members that contradict each other: what is added is not checked.
 const HeaderCommand any_command{" #OPT", HeaderCommandKind::Flag, "stray", {{"tight"}}};
 const PostCommand any_post_command{Post{9}, {1}, 0.5, 0, "a.dat", "text"};
 
-/// One call on a builder that holds nothing yet, and the document it makes.
+/// One call on an empty builder, and the document that it makes.
 struct BuildCase {
   std::string_view name;
   std::function<InputBuilder&(InputBuilder&)> build;

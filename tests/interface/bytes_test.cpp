@@ -34,17 +34,17 @@ const ReadingRow rows[] = {
      read_as({{}, {}, {raw("\0#opt"s), raw("0 1")}}, {no_section})},
     {"AByteOrderMarkBeforeTheHash", "\xEF\xBB\xBF#opt\n",
      read_as({{}, {}, {raw("\xEF\xBB\xBF#opt")}}, {no_section})},
-    {"ANulByteIsNoName", "#\0\n0 1"s, read_as({{flag("\0"s)}, charged(0, 1)})},
+    {"ANulByteIsNotAName", "#\0\n0 1"s, read_as({{flag("\0"s)}, charged(0, 1)})},
     {"ANulByteInTheCharge", "0\0 1"s, read_as({{}, {}, {raw("0\0 1"s)}}, {no_section})},
     {"ANulByteInASymbol", "O\0 0 0 0"s, read_as({{}, {}, {raw("O\0 0 0 0"s)}}, {no_section})},
-    {"ANulByteBehindACoordinate", "O 0 0 0\0"s,
+    {"ANulByteAfterACoordinate", "O 0 0 0\0"s,
      read_as({{}, {}, {raw("O 0 0 0\0"s)}}, {no_section})},
     {"AByteOutsideAsciiInASymbol", "\xC3\x84 0 0 0",
      read_as({{}, {}, {raw("\xC3\x84 0 0 0")}}, {no_section})},
     {"ANulByteInAKeyword", "0 1\nPOST\0 x"s, read_as({{}, charged(0, 1), {raw("POST\0 x"s)}})},
-    {"ANulByteBehindAnAtomNumber", "0 1\nC 1\0"s,
+    {"ANulByteAfterAnAtomNumber", "0 1\nC 1\0"s,
      read_as({{}, charged(0, 1)}, {"Line 2: ignored unrecognized QUILL post-processing line"})},
-    {"ANoBreakSpaceIsNoBlank",
+    {"ANoBreakSpaceIsNotABlank",
      "#a\xC2\xA0\n0\xC2\xA0"
      "1",
      read_as({{flag("a\xC2\xA0")},
@@ -60,7 +60,7 @@ const ReadingRow rows[] = {
 INSTANTIATE_TEST_SUITE_P(Table, Bytes, testing::ValuesIn(rows),
                          [](const auto& row) { return row.param.name; });
 
-/// A document with the byte wherever a document keeps text.
+/// A document with the byte in every place that holds text.
 QuillInput document_full_of(char byte) {
   const std::string c(1, byte);
   const std::string post = "-" + c + "-" + c;
@@ -127,8 +127,8 @@ std::size_t count_lines(std::string_view text) {
   return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
 }
 
-/// Whatever the text: it is read, each warning is one of the known ones and names a line of the
-/// text, and the lines come in order.
+/// For any text: it is read, each warning is one of the known ones and names a line of the text,
+/// and the warnings are in the order of the lines.
 void expect_sound(const std::string& text, const ParseResult& result) {
   static const std::regex pattern(
       "Line ([1-9][0-9]*): (empty QUILL header command|missing '\\)' in QUILL header command"
@@ -155,7 +155,7 @@ void expect_sound_and_kept(const std::string& text, char byte) {
   const ParseResult result = parse_string(text);
   expect_sound(text, result);
   const std::string written = result.input.to_string();
-  // Of no line does a byte vanish in silence.
+  // No byte of any line is lost without a warning.
   EXPECT_TRUE(written.find(byte) != std::string::npos || !result.warnings.empty());
   expect_sound(written, parse_string(written));
 }
@@ -174,7 +174,7 @@ TEST_P(ByteInSample, MayReplaceAnyByte) {
   }
 }
 
-TEST_P(ByteInSample, MayStandAnywhere) {
+TEST_P(ByteInSample, MayBeAnywhere) {
   for (std::size_t i = 0; i <= sample().size(); ++i) {
     std::string text = sample();
     text.insert(i, 1, byte());

@@ -14,7 +14,7 @@ namespace kelp::input::quill {
 
 namespace {
 
-/// Longer than what a string keeps inside itself, so that a shared buffer would show.
+/// Too long to be stored inside a string object, so that a shared buffer would be noticed.
 std::string long_text(const std::string& start) { return start + std::string(100, '.'); }
 
 /// A result in which no member is empty.
@@ -133,7 +133,7 @@ T piece_of(ParseResult result) {
   }
 }
 
-/// Where the first buffer that a piece owns lies: a move hands it over, a copy makes another.
+/// The address of the first buffer that a piece owns: a move passes it on, a copy makes another.
 const void* buffer_of(const CommandParameter& piece) { return piece.name.data(); }
 const void* buffer_of(const HeaderCommand& piece) { return piece.parameters.data(); }
 const void* buffer_of(const AtomRecord& piece) { return piece.symbol.data(); }

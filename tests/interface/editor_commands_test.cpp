@@ -14,7 +14,7 @@ namespace {
 
 using Kind = HeaderCommandKind;
 
-/// A command whose members do not agree: something to be cleared in each of them.
+/// A command with a value in every member, so that each has something to be cleared.
 HeaderCommand everything(std::string name, Kind kind) {
   return {std::move(name), kind, "stray", {{"tight"}, {"maxiter", "50"}}};
 }
@@ -146,7 +146,7 @@ const EditCase set_task_rows[] = {
     {"ATaskOfAnotherNameStays", with_commands({list("opt", {{"tight"}})}),
      [](InputEditor& editor) { editor.set_task("freq"); },
      with_commands({list("opt", {{"tight"}}), flag("freq")})},
-    {"ANameThatIsNoTaskWillDo", with_commands({flag("opt")}),
+    {"ANameThatIsNotATaskIsAccepted", with_commands({flag("opt")}),
      [](InputEditor& editor) { editor.set_task("basis", {{"b1"}}); },
      with_commands({flag("opt"), list("basis", {{"b1"}})})},
     {"OnlyTheFirstOfTheNameIsChanged", with_commands({flag("opt"), flag("opt")}),

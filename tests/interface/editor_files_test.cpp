@@ -88,7 +88,7 @@ const EditCase file_rows[] = {
 
 INSTANTIATE_TEST_SUITE_P(Table, SetXyz, testing::ValuesIn(file_rows), row_name<EditCase>);
 
-/// A path of three bytes that are nowhere.
+/// A path with a length of three bytes and a null pointer as its data.
 std::string_view text_without_data() { return {nullptr, 3}; }
 
 template <typename Operation>

@@ -25,8 +25,7 @@ const AtomRecord hydrogen{"H", 0.0, 0.7572, -0.4692};
 const AtomRecord oxygen{"O", 0.0, 0.0, 0.1173};
 const std::vector<AtomRecord> water = {oxygen, hydrogen, {"H", 0.0, -0.7572, -0.4692}};
 
-/// Numbers that a conversion which computes anything would change, and symbols that one which
-/// understands anything would.
+/// Numbers that any computation would change, and symbols that any normalisation would change.
 const kelp::core::Geometry odd_molecule{
     {{"cl", -0.0, std::numeric_limits<double>::denorm_min(), 0.1},
      {" H#1", -std::nan("7"), std::numeric_limits<double>::infinity(), -1e300},

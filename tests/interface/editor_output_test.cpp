@@ -18,12 +18,12 @@ namespace {
 
 using Text = std::optional<std::string>;
 
-template <typename Door>
-void expect_writing_to_fail(const Door& door) {
+template <typename Author>
+void expect_writing_to_fail(const Author& author) {
   const TemporaryFolder folder;
   const std::string path = folder.path("no/such/directory/out.qin");
   try {
-    door.write_file(path);
+    author.write_file(path);
     ADD_FAILURE() << "nothing was thrown";
   } catch (const std::runtime_error& error) {
     EXPECT_EQ(error.what(), "Failed to open QUILL input for writing: " + path);

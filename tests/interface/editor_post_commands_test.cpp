@@ -23,7 +23,7 @@ PostCommand raw(std::string line) { return {Kind::Raw, {}, {}, {}, {}, std::move
 
 PostCommand post_file(std::string path) { return {Kind::PostFile, {}, {}, {}, std::move(path)}; }
 
-/// Members that no kind uses together: what is added is not looked at.
+/// Members that no kind uses together: what is added is not checked.
 PostCommand inconsistent() { return {Kind{9}, {1}, std::nan("7"), 0, "a.dat", "text"}; }
 
 class PostCommands : public testing::TestWithParam<EditCase> {};

@@ -38,7 +38,7 @@ QuillInput a_document() {
   return with_commands({list("opt", {{"maxiter", "50"}, {"tight"}}), assignment("model", "m1")});
 }
 
-TEST(InputEditor, TakesADocumentOverAsItIs) {
+TEST(InputEditor, TakesADocumentAsItIs) {
   QuillInput input = with_commands({flag(" #OPT "), flag("")});
   const QuillInput copy = input;
   const HeaderCommand* const first = input.commands.data();
@@ -47,7 +47,7 @@ TEST(InputEditor, TakesADocumentOverAsItIs) {
   EXPECT_EQ(editor.document().commands.data(), first);
 }
 
-TEST(InputEditor, LeavesTheDocumentThatWasCopiedIntoItAlone) {
+TEST(InputEditor, DoesNotChangeTheDocumentThatWasCopiedIntoIt) {
   const QuillInput input = a_document();
   InputEditor editor(input);
   editor.set_flag("opt");
@@ -126,7 +126,7 @@ TEST(InputEditor, HasNoModelAndNoDeviceWhenTheyAreNotAssigned) {
   EXPECT_EQ(editor.device(), std::nullopt);
 }
 
-TEST(InputEditor, TellsAnEmptyModelFromNone) {
+TEST(InputEditor, DistinguishesAnEmptyModelFromNone) {
   InputEditor editor{QuillInput()};
   EXPECT_EQ(editor.model(), std::nullopt);
   editor.set_model("");

@@ -53,7 +53,7 @@ const RemovalCase removal_rows[] = {
 INSTANTIATE_TEST_SUITE_P(Table, RemoveCommand, testing::ValuesIn(removal_rows),
                          row_name<RemovalCase>);
 
-/// Nothing in it agrees: what is added is not looked at.
+/// Its members contradict each other: what is added is not checked.
 HeaderCommand inconsistent() { return {" #OPT", Kind::Flag, "stray", {{"tight"}, {"tight"}}}; }
 
 class AddCommand : public testing::TestWithParam<EditCase> {};

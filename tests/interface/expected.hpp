@@ -12,7 +12,7 @@
 
 #include "kelp/input/quill/quill.hpp"
 
-// Short ways to write down the documents that texts are read as.
+// Short functions that make the documents which texts are read as.
 
 namespace kelp::input::quill {
 
@@ -48,7 +48,7 @@ inline GeometryBlock trajectory(std::vector<std::string> paths) {
   return geometry;
 }
 
-/// The same section, or none, behind a charge and multiplicity line.
+/// The same section, or none, after a charge and multiplicity line.
 inline GeometryBlock charged(std::int32_t charge, std::int32_t multiplicity,
                              GeometryBlock geometry = {}) {
   geometry.charge = charge;
@@ -80,7 +80,7 @@ inline PostCommand raw(std::string line) {
   return constraint(PostCommandKind::Raw, {}, std::move(line));
 }
 
-/// What reading a text gives, whatever the text.
+/// The result of reading a text.
 inline ParseResult read_as(QuillInput input, std::vector<std::string> warnings = {}) {
   return ParseResult(std::move(input), true, "", std::move(warnings));
 }

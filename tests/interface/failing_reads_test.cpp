@@ -1,5 +1,5 @@
-// A file that opens and cannot be read to its end is a file that cannot be opened: no half of it
-// becomes a document.
+// A file that can be opened but not read to its end is treated as one that cannot be opened: no
+// part of it becomes a document.
 
 #include "support/failing_reads.hpp"
 

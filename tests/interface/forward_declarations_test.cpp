@@ -6,8 +6,8 @@
 #include "kelp/input/quill/builder.hpp"
 #include "kelp/input/quill/editor.hpp"
 
-// Whoever has no molecule of the core library pays nothing for the overloads that take one. So this
-// file includes no header that defines its types, the comparison of documents among them.
+// Programs that do not use the core library's molecules need not include their header. So this file
+// includes no header that defines these types, not even the one that compares documents.
 
 namespace kelp::input::quill {
 

@@ -36,7 +36,7 @@ std::string file_content(const std::string& path) {
   return content;
 }
 
-/// All that the library makes of the text below: gathered under a locale, compared under another.
+/// All results of the library for the text below: computed in one locale, compared in another.
 struct Outcome {
   ParseResult read;
   ParseResult read_from_file;
@@ -56,7 +56,7 @@ const std::string written_text =
     "S 1000000 2000000 1234.5 100000\n"
     "C 1234567\n";
 
-// The blank lines bring the line numbers of the warnings above a thousand.
+// The blank lines make the line numbers of the warnings larger than a thousand.
 const std::string read_text = written_text + std::string(1200, '\n') + "C 1,5\nB 1.000 2\n";
 
 ParseResult expected_result() {
@@ -111,7 +111,7 @@ class CommaNumbers : public std::numpunct<char> {
   std::string do_grouping() const override { return "\3"; }
 };
 
-/// Files in which every character stands as its successor.
+/// A locale in whose files every character is written as its successor.
 class ShiftedFiles : public std::codecvt<char, char, std::mbstate_t> {
  protected:
   bool do_always_noconv() const noexcept override { return false; }
@@ -141,7 +141,7 @@ std::locale comma_locale() { return std::locale(std::locale::classic(), new Comm
 std::locale shifted_locale() { return std::locale(std::locale::classic(), new ShiftedFiles); }
 
 /// Makes a locale the current one of the C library, for as long as the object lives. The locale is
-/// compiled for the occasion, so that the test does not depend on those that are installed.
+/// compiled for the test, so that the test does not depend on those that are installed.
 class CurrentCLocale {
  public:
   /// `source` is the name of a locale's source, or the path of one.
@@ -251,7 +251,7 @@ std::string source_with_a_further_space() {
   return source;
 }
 
-TEST(Locale, DecidesOnTheBlanksBehindAFirstWordOnlyWhereBytesAreBlanks) {
+TEST(Locale, DecidesOnTheBlanksAfterAFirstWordOnlyWhereBytesAreBlanks) {
   const TemporaryFolder folder;
   const std::string text = "XYZ \xA0 a.xyz\nPOST \xA0 out\n";
   ParseResult in_one_byte;
@@ -280,9 +280,9 @@ TEST(Locale, DoesNotDecideOnLetterCase) {
 }
 
 TEST(Locale, DecidesOnTheLettersOfASymbolOnlyWhereBytesAreLetters) {
-  // The symbol of an atom is made of what the C library calls letters. In a locale of one byte for
-  // each character these are more than "A" to "Z"; in UTF-8 no byte above 0x7F is one. 0xFF is the
-  // byte that must not be taken for the end of a file.
+  // The C library decides which bytes are letters in the symbol of an atom. In a locale with one
+  // byte for each character there are more than "A" to "Z"; in UTF-8 no byte above 0x7F is a
+  // letter. The byte 0xFF must not be taken for the end of a file.
   const std::string text = "\xFF 1 2 3\n\xC4 1 2 3\nO 1 2 3\n";
   ParseResult in_one_byte;
   ParseResult in_utf8;

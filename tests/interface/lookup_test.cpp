@@ -50,10 +50,10 @@ const NameRow name_rows[] = {
     {"Empty", "", ""},
     {"BlanksOnly", " \t\n\v\f\r ", ""},
     {"NeighboursOfTheAlphabetStay", "@AZ[`az{", "@az[`az{"},
-    {"NulIsNoBlank", "\0 OPT \0"sv, "\0 opt \0"sv},
+    {"NulIsNotABlank", "\0 OPT \0"sv, "\0 opt \0"sv},
     {"NulBeforeTheHash", "\0#OPT"sv, "\0#opt"sv},
     {"BytesAbove127Stay", "\xC3\x84\xC0OPT\xC3\x96\xDF", "\xC3\x84\xC0opt\xC3\x96\xDF"},
-    {"ANoBreakSpaceIsNoBlank", "\xA0opt\xA0", "\xA0opt\xA0"},
+    {"ANoBreakSpaceIsNotABlank", "\xA0opt\xA0", "\xA0opt\xA0"},
 };
 
 class CommandName : public testing::TestWithParam<NameRow> {};
@@ -135,8 +135,8 @@ const FindRow find_rows[] = {
     {"HashAtTheEnd", "opt#", 0, std::nullopt},
     {"NulAtTheEnd", "opt\0"sv, 0, std::nullopt},
     {"AnotherName", "sp", 0, std::nullopt},
-    {"AValueIsNoName", "m1", 0, std::nullopt},
-    {"AParameterIsNoName", "tight", 0, std::nullopt},
+    {"AValueIsNotAName", "m1", 0, std::nullopt},
+    {"AParameterIsNotAName", "tight", 0, std::nullopt},
 };
 
 class FindCommand : public testing::TestWithParam<FindRow> {};
@@ -231,8 +231,8 @@ const TaskRow task_rows[] = {
     {"ModelAndDevice", {{"model"}, {"device"}}, false},
     {"TwoHashes", {{"##opt"}}, false},
     {"EmptyName", {{""}}, false},
-    {"AValueIsNoTask", {{"task", HeaderCommandKind::Assignment, "opt"}}, false},
-    {"AParameterIsNoTask", {{"x", HeaderCommandKind::ParameterList, {}, {{"opt"}}}}, false},
+    {"AValueIsNotATask", {{"task", HeaderCommandKind::Assignment, "opt"}}, false},
+    {"AParameterIsNotATask", {{"x", HeaderCommandKind::ParameterList, {}, {{"opt"}}}}, false},
     {"OneCharacterShort", {{"s"}, {"op"}, {"t"}, {"fre"}, {"ir"}, {"sca"}}, false},
     {"OneCharacterTooMany", {{"spx"}, {"opts"}, {"tss"}, {"freqs"}, {"irc2"}, {"scans"}}, false},
     {"NoName", {{""}, {" # "}}, false},

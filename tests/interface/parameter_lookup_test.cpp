@@ -54,7 +54,7 @@ HeaderCommand command_with(const std::vector<std::string>& names, HeaderCommandK
 
 class FindParameterIndex : public testing::TestWithParam<ParameterRow> {};
 
-TEST_P(FindParameterIndex, ReturnsTheFirstMatchWhateverTheKind) {
+TEST_P(FindParameterIndex, ReturnsTheFirstMatchForAnyKind) {
   for (const std::int32_t kind : {0, 1, 2, 3, -1}) {
     const HeaderCommand command = command_with(GetParam().names, HeaderCommandKind{kind});
     EXPECT_EQ(find_parameter_index(command, GetParam().query), GetParam().index) << kind;

@@ -41,7 +41,7 @@ TEST(ParseFile, ReadsAFileAsTheTextInIt) {
                                        {constraint(Kind::BondConstraint, {1, 2}, "B 1 2")}}));
 }
 
-TEST(ParseFile, NumbersLinesAsTheyStandInTheFile) {
+TEST(ParseFile, NumbersLinesAsInTheFile) {
   const TemporaryFolder folder;
   EXPECT_EQ(parse_file(folder.write("job.qin", "\n#\n\nC x\n")),
             read_as({{flag("")}},
@@ -134,7 +134,7 @@ TEST(ParseFile, ReportsAFolder) {
 }
 
 TEST(ParseFile, ReportsAFileThatOpensAndCannotBeRead) {
-  // Nothing is mapped at the address 0, where reading this file begins.
+  // This file is read from address 0, where no memory is mapped.
   EXPECT_EQ(parse_file("/proc/self/mem"), not_opened("/proc/self/mem"));
 }
 
@@ -167,14 +167,14 @@ TEST(ParseFile, ReadsAPipeToItsEnd) {
   const TemporaryFolder folder;
   const std::string path = folder.path("pipe");
   ASSERT_EQ(mkfifo(path.c_str(), S_IRUSR | S_IWUSR), 0);
-  // Three lines, each longer than what a pipe holds at once.
+  // Three lines, each longer than a pipe's buffer.
   const std::string line(300000, 'x');
   const std::future<void> writer = std::async(std::launch::async, [&] {
     std::ofstream pipe(path);
     for (int i = 0; i < 3; ++i) pipe << line << std::endl;
   });
   const ParseResult result = parse_file(path);
-  // Should the library not have opened the pipe, the writer waits for somebody who does.
+  // If the library has not opened the pipe, the writer still waits for a reader.
   while (writer.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready)
     close(open(path.c_str(), O_RDONLY | O_NONBLOCK));
   EXPECT_TRUE(result.ok);
@@ -184,7 +184,7 @@ TEST(ParseFile, ReadsAPipeToItsEnd) {
     EXPECT_TRUE(command == raw(line));  // a difference would print the whole line
 }
 
-/// A line of the large file: its number, which makes it unlike all others, and a filling.
+/// A line of the large file: its number, which makes every line different, and a filling.
 std::string large_line(int number) {
   constexpr std::size_t size = std::size_t{1024} * 1024;
   std::string line = "line-" + std::to_string(number) + "-";

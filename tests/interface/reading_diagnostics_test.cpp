@@ -1,4 +1,4 @@
-// What the reader has to say of texts with problems, and in which order.
+// The diagnostics of texts with problems, and their order.
 
 #include <gtest/gtest.h>
 

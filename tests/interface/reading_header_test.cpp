@@ -1,5 +1,5 @@
-// Header lines within whole texts. Behind each row's lines stands "0 1", so that no row has to
-// speak of missing coordinates.
+// Header lines within whole texts. Each row's lines are followed by "0 1", so that no row has the
+// diagnostic about missing coordinates.
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ ParseResult header(std::vector<HeaderCommand> commands, std::vector<std::string>
 
 const ReadingRow flag_rows[] = {
     {"AFlag", "#opt", header({flag("opt")})},
-    {"BlanksBehindTheHash", "#  opt", header({flag("opt")})},
+    {"BlanksAfterTheHash", "#  opt", header({flag("opt")})},
     {"OneHashIsRemoved", "##freq", header({flag("#freq")})},
     {"InnerBlanks", "#freq opt", header({flag("freq opt")})},
     {"LetterCaseIsKept", "#Opt", header({flag("Opt")})},
@@ -58,7 +58,7 @@ const std::string nameless = "Line 1: QUILL header command has no name";
 const ReadingRow list_rows[] = {
     {"KeyedAndBare", "#opt(maxiter=100, tight)",
      header({list("opt", {{"maxiter", "100"}, {"tight"}})})},
-    {"AnEqualsSignBehindTheParenthesis", "#a(b=c)", header({list("a", {{"b", "c"}})})},
+    {"AnEqualsSignAfterTheParenthesis", "#a(b=c)", header({list("a", {{"b", "c"}})})},
     {"AnEqualsSignBetweenTheParentheses", "# opt(maxiter=50)",
      header({list("opt", {{"maxiter", "50"}})})},
     {"ACommaBetweenApostrophes", "#opt(x='1,2', y=3)",
@@ -76,7 +76,7 @@ const ReadingRow list_rows[] = {
     {"NoClosingParenthesis", "#opt(x=1", header({list("opt", {{"x", "1"}})}, {unclosed})},
     {"AClosingParenthesisInTheName", "#opt)x(y", header({list("opt)x", {{"y"}})}, {unclosed})},
     {"TrailingText", "#opt(x=1) junk", header({list("opt", {{"x", "1"}})}, {trailing})},
-    {"TrailingTextBehindInnerParentheses", "# opt(a=(1)) x",
+    {"TrailingTextAfterInnerParentheses", "# opt(a=(1)) x",
      header({list("opt", {{"a", "(1)"}})}, {trailing})},
     {"NoName", "# (a=1)", header({list("", {{"a", "1"}})}, {nameless})},
     {"NeitherNameNorEnd", "#(x=1", header({list("", {{"x", "1"}})}, {unclosed, nameless})},

@@ -1,4 +1,4 @@
-// Post-processing lines within whole texts. Before each row's lines stands "0 1" as line 1.
+// Post-processing lines within whole texts. Line 1, before each row's lines, is "0 1".
 
 #include <gtest/gtest.h>
 
@@ -45,7 +45,7 @@ const ReadingRow rows[] = {
     {"PostAlone", "POST", post({raw("POST")})},
     {"Text", "  keep   this  ", post({raw("keep   this")})},
     {"AHashLine", "#freq", post({raw("#freq")})},
-    {"ABondOfFourTokensThatIsNoAtom", "note\nB 1 2 3", post({raw("note"), raw("B 1 2 3")})},
+    {"ABondOfFourTokensThatIsNotAnAtom", "note\nB 1 2 3", post({raw("note"), raw("B 1 2 3")})},
     {"AScanWithTooManyTokens", "S 1 2 3 4 5 1.0 3", post({raw("S 1 2 3 4 5 1.0 3")})},
     {"AScanWithTooFewTokens", "note\nS 1 2 3", post({raw("note"), raw("S 1 2 3")})},
     {"ABondWithAWord", "B 1 x", post({}, {dropped})},

@@ -1,5 +1,5 @@
-// Whole texts: how they are cut into lines, and how the lines fall into sections. What the lines of
-// each section are read as stands in the files beside this one.
+// Whole texts: how they are split into lines, and to which sections the lines belong. Other files
+// in this folder test how the lines of each section are read.
 
 #include <gtest/gtest.h>
 
@@ -91,13 +91,13 @@ INSTANTIATE_TEST_SUITE_P(Header, Reading, testing::ValuesIn(header_rows),
 
 const ReadingRow charge_rows[] = {
     {"Alone", "0 1", read_as({{}, charged(0, 1)})},
-    {"BehindBlankLines", "\n\n-1 2\n\n", read_as({{}, charged(-1, 2)})},
+    {"AfterBlankLines", "\n\n-1 2\n\n", read_as({{}, charged(-1, 2)})},
     {"BlankLinesBeforeTheCoordinates", "0 1\n\n \t\n\nO 0 0 0",
      read_as({{}, charged(0, 1, atoms({oxygen}))})},
     {"IsOptional", "O 0 0 0", read_as({{}, atoms({oxygen})})},
     {"IsReadOnce", "0 1\n1 2\nO 0 0 0", read_as({{}, charged(0, 1), {raw("1 2"), raw("O 0 0 0")}})},
-    {"BehindTheAtomsItIsText", "O 0 0 0\n0 1", read_as({{}, atoms({oxygen}), {raw("0 1")}})},
-    {"BehindAReferenceItIsText", "XYZ a\n0 1", read_as({{}, files({"a"}), {raw("0 1")}})},
+    {"AfterTheAtomsItIsText", "O 0 0 0\n0 1", read_as({{}, atoms({oxygen}), {raw("0 1")}})},
+    {"AfterAReferenceItIsText", "XYZ a\n0 1", read_as({{}, files({"a"}), {raw("0 1")}})},
     {"ThreeIntegersAreText", "1 2 3\nO 0 0 0",
      read_as({{}, {}, {raw("1 2 3"), raw("O 0 0 0")}}, {no_section})},
     {"OneIntegerIsText", "0\n", read_as({{}, {}, {raw("0")}}, {no_section})},
@@ -114,9 +114,9 @@ INSTANTIATE_TEST_SUITE_P(Charge, Reading, testing::ValuesIn(charge_rows),
                          [](const auto& row) { return row.param.name; });
 
 const ReadingRow post_rows[] = {
-    {"BehindChargeAndMultiplicityOnly", "0 1\nC 1",
+    {"AfterChargeAndMultiplicityOnly", "0 1\nC 1",
      read_as({{}, charged(0, 1), {constraint(Kind::AtomConstraint, {1}, "C 1")}})},
-    {"BehindTheHeaderOnly", "#opt\nC 1",
+    {"AfterTheHeaderOnly", "#opt\nC 1",
      read_as({{flag("opt")}, {}, {constraint(Kind::AtomConstraint, {1}, "C 1")}}, {no_section})},
     {"WithoutAnythingBefore", "C 1",
      read_as({{}, {}, {constraint(Kind::AtomConstraint, {1}, "C 1")}}, {no_section})},
@@ -147,14 +147,14 @@ TEST(ReadingViews, StopsWhereTheViewEnds) {
 TEST(ReadingViews, ReadsNotAByteBeyondTheView) {
   const std::string text = "#opt(a='1\n0 1\nO 0 0 123\nS 1 2 1.5 10";
   for (std::size_t size = 0; size <= text.size(); ++size) {
-    // A block of its own for each size: a sanitizer sees the first byte behind it.
+    // Each size has its own block: a sanitizer reports a read of the first byte after it.
     const std::vector<char> block(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(size));
     EXPECT_EQ(parse_string(std::string_view(block.data(), size)),
               parse_string(text.substr(0, size)));
   }
 }
 
-TEST(ReadingAtoms, KeepsNoRoomForLinesThatAreNone) {
+TEST(ReadingAtoms, KeepsNoRoomForLinesThatAreNotAtoms) {
   std::string text = "O 0 0 0\nO 0 0 0\n";
   for (int i = 0; i < 10000; ++i) text += "note\n";
   const ParseResult result = parse_string(text);
@@ -171,7 +171,7 @@ TEST(ReadingAtoms, TakesLessThanTwiceTheRoomOfTheAtoms) {
     const ParseResult result = parse_string(text);
     EXPECT_EQ(result.input.geometry.atoms.size(), count);
     EXPECT_LT(result.input.geometry.atoms.capacity(), 2 * count);
-    // The atoms are not copied into a room of their own where little would come of it.
+    // The atoms are not copied into a smaller block when that would save little.
     if (count > lines / 2) {
       EXPECT_EQ(result.input.geometry.atoms.capacity(), lines);
     }

@@ -43,7 +43,7 @@ TEST(RoundTrip, OfOneJobWithAllItsSections) {
   EXPECT_EQ(parse_string(text), read_as(document));
 }
 
-/// A document and what the reader has to say of its text.
+/// A document and the diagnostics of its text.
 struct Row {
   std::string name;
   QuillInput document;
@@ -107,8 +107,8 @@ const Row rows[] = {
        scan({1, 2, 3}, 90.5, 3, "S 1 2 3 90.5 3"),
        scan({4, 3, 2, 1}, -180.0, 12, "S 4 3 2 1 -180 12"), post_file("a  b", "POST a  b"),
        raw("keep   this"), raw("#freq"), raw("XYZ a"), raw("O 0 0 0")}}},
-    {"AnAngleConstraintBehindAReference", {{}, files({"a"}), {angle}}},
-    {"AnAngleConstraintBehindATrajectory", {{}, trajectory({"t"}), {angle}}},
+    {"AnAngleConstraintAfterAReference", {{}, files({"a"}), {angle}}},
+    {"AnAngleConstraintAfterATrajectory", {{}, trajectory({"t"}), {angle}}},
     {"BytesOutsideAsciiAndNul",
      {{assignment("\xC3\xA9", "\xFF\0\x80"s), list("\0"s, {{"\xFE", "\0"s}})},
       charged(0, 1, files({"\x80\0\xFF"s})),
@@ -135,22 +135,22 @@ TEST_P(Ambiguity, ReadsBackAs) {
 }
 
 const AmbiguousRow ambiguous_rows[] = {
-    // Four tokens, a word and three numbers: an atom line, as far as a line can tell.
-    {"AnAngleConstraintBehindAtoms",
+    // Four tokens, a word and three numbers: taken alone, the line is an atom line.
+    {"AnAngleConstraintAfterAtoms",
      {{}, charged(0, 1, atoms({oxygen})), {angle}},
      read_as({{}, charged(0, 1, atoms({oxygen, {"A", 1, 2, 3}}))},
              {"Line 4: unknown element symbol 'A'"})},
-    {"AngleConstraintsBehindAtomsUpToAnotherLine",
+    {"AngleConstraintsAfterAtomsUpToAnotherLine",
      {{}, charged(0, 1, atoms({oxygen})), {angle, angle, bond, angle}},
      read_as({{}, charged(0, 1, atoms({oxygen, {"A", 1, 2, 3}, {"A", 1, 2, 3}})), {bond, angle}},
              {"Line 4: unknown element symbol 'A'", "Line 5: unknown element symbol 'A'"})},
-    {"AnAngleConstraintBehindAChargeOnly",
+    {"AnAngleConstraintAfterAChargeOnly",
      {{}, charged(0, 1), {angle}},
      read_as({{}, charged(0, 1, atoms({{"A", 1, 2, 3}}))}, {"Line 3: unknown element symbol 'A'"})},
-    {"TextWithTheShapeOfAnAtomBehindAtoms",
+    {"TextWithTheShapeOfAnAtomAfterAtoms",
      {{}, atoms({oxygen}), {raw("B 1 2 3"), raw("C 1 2 3"), raw("note")}},
      read_as({{}, atoms({oxygen, {"B", 1, 2, 3}, {"C", 1, 2, 3}}), {raw("note")}})},
-    {"TextWithTheShapeOfAReferenceBehindReferences",
+    {"TextWithTheShapeOfAReferenceAfterReferences",
      {{}, files({"a"}), {raw("XYZ b")}},
      read_as({{}, files({"a", "b"})})},
     {"AtomsWithoutAnAtom", {{}, charged(0, 1, atoms({}))}, read_as({{}, charged(0, 1)})},
@@ -183,8 +183,8 @@ class DocumentMaker {
     for (int i = number(0, 4); i > 0; --i) input.commands.push_back(command());
     input.geometry = geometry();
     for (int i = number(0, 4); i > 0; --i) input.post_commands.push_back(post_command());
-    // The first line behind the atoms must be one that cannot be taken for another atom, and a
-    // section must be there lest the first line be taken for one.
+    // The first line after the atoms must be one that cannot be read as another atom, and there
+    // must be a coordinate section, or the first line could be read as its beginning.
     input.post_commands.insert(input.post_commands.begin(), raw("-- " + word()));
     return input;
   }

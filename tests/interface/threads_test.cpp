@@ -1,5 +1,5 @@
-// Distinct documents in distinct threads, and one unchanging document in several. Meant for the
-// thread sanitizer, which sees shared state that a result would not show.
+// Distinct documents in distinct threads, and one unchanging document in several. Made for the
+// thread sanitizer, which reports shared state that the results would not show.
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ using Kind = PostCommandKind;
 constexpr int thread_count = 8;
 constexpr int rounds = 50;
 
-/// Runs the work in all threads at once, handing each its number, and waits for them all.
+/// Runs the work in all threads at once, passing each its number, and waits for them all.
 void run_in_threads(const std::function<void(int)>& work) {
   std::promise<void> start;
   const std::shared_future<void> started = start.get_future().share();
@@ -64,7 +64,7 @@ ParseResult result_of(int thread) {
        line(3) + ": ignored unrecognized QUILL post-processing line"});
 }
 
-/// What went wrong, by thread: assertions are for the main thread.
+/// The failures, by thread: only the main thread can use assertions.
 class Failures {
  public:
   void check(int thread, bool holds) {

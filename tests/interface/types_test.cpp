@@ -110,8 +110,8 @@ static_assert(is<decltype(ParseResult::ok), bool>);
 static_assert(is<decltype(ParseResult::error), std::string>);
 static_assert(is<decltype(ParseResult::warnings), Strings>);
 
-// A structured binding takes every member, in the order of declaration: a member more, one less or
-// two that changed places do not compile or fail here.
+// A structured binding takes every member, in the order of declaration: if a member is added or
+// removed, or two change places, this does not compile or fails.
 
 TEST(Types, AParameterHasANameAndPerhapsAValue) {
   CommandParameter parameter;
@@ -133,7 +133,7 @@ TEST(Types, ACommandIsAFlagWithoutValueAndParametersAtFirst) {
   EXPECT_TRUE(parameters.empty());
 }
 
-TEST(Types, AnAtomStandsAtTheOriginAtFirst) {
+TEST(Types, AnAtomIsAtTheOriginAtFirst) {
   AtomRecord atom;
   auto& [symbol, x, y, z] = atom;
   EXPECT_EQ(&x, &atom.x);

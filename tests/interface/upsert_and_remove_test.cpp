@@ -136,7 +136,7 @@ const RemoveRow remove_rows[] = {
     {"NoneOfTheName", "sp", std::nullopt, false, all_left},
     {"OneCharacterShort", "op", std::nullopt, false, all_left},
     {"OneCharacterTooMany", "opts", std::nullopt, false, all_left},
-    {"AValueIsNoName", "m1", std::nullopt, false, all_left},
+    {"AValueIsNotAName", "m1", std::nullopt, false, all_left},
     {"First", "opt", 0, true, {0, 2, 3, 4, 5, 6}},
     {"Middle", "opt", 1, true, {0, 1, 2, 4, 5, 6}},
     {"Last", "OPT", 2, true, {0, 1, 2, 3, 5, 6}},

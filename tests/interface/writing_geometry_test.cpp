@@ -23,7 +23,7 @@ class GeometryText : public testing::TestWithParam<GeometryRow> {};
 
 TEST_P(GeometryText, IsAsWritten) { EXPECT_EQ(to_string(GetParam().piece), GetParam().text); }
 
-/// Content for every kind, so that each kind shows what it passes over.
+/// Content for every kind, so that each kind shows what it leaves out.
 GeometryBlock filled(GeometryKind kind, bool has_line) {
   return {kind, -1, 2, has_line, {{"H", 0.0, 0.0, 0.74}}, {"a.xyz", "b.xyz"}};
 }

@@ -1,5 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+#include <numeric>
+#include <string>
+#include <vector>
+
 #include "interface/written_piece.hpp"
 #include "kelp/input/quill/writer.hpp"
 #include "support/comparison.hpp"
@@ -61,7 +67,7 @@ TEST_P(HeaderCommandText, IsAsWritten) { EXPECT_EQ(to_string(GetParam().piece), 
 INSTANTIATE_TEST_SUITE_P(Table, HeaderCommandText, testing::ValuesIn(command_rows),
                          name_of_row<HeaderCommand>);
 
-/// Every field that any kind writes, so that each kind shows which ones it passes over.
+/// Every field that any kind writes, so that each kind shows which ones it leaves out.
 PostCommand filled(PostCommandKind kind) { return {kind, {3, 1, 2}, 1.5, 10, "out.dat", "free"}; }
 
 using PostRow = PieceRow<PostCommand>;
@@ -116,7 +122,7 @@ const PostRow post_rows[] = {
     {"LargeValueHasAnExponent", {scan, {1}, 1000000.0}, "S 1 1e+06"},
     {"SmallValueHasAnExponent", {scan, {1}, 0.00001}, "S 1 1e-05"},
     {"InfiniteValue", {scan, {1}, -infinity, 2}, "S 1 -inf 2"},
-    {"ValueThatIsNoNumber", {scan, {1}, nan, 2}, "S 1 nan 2"},
+    {"ValueThatIsNotANumber", {scan, {1}, nan, 2}, "S 1 nan 2"},
 };
 
 class PostCommandText : public testing::TestWithParam<PostRow> {};
@@ -125,6 +131,54 @@ TEST_P(PostCommandText, IsAsWritten) { EXPECT_EQ(to_string(GetParam().piece), Ge
 
 INSTANTIATE_TEST_SUITE_P(Table, PostCommandText, testing::ValuesIn(post_rows),
                          name_of_row<PostCommand>);
+
+/// "C", and each number after a blank.
+std::string constraint_text(const std::vector<std::int32_t>& numbers) {
+  std::string text = "C";
+  for (const std::int32_t number : numbers) text += " " + std::to_string(number);
+  return text;
+}
+
+TEST(PostCommandText, MayHaveAnyCountOfAtomNumbers) {
+  std::vector<std::int32_t> numbers;
+  while (numbers.size() < 300) {
+    numbers.push_back(numbers.size() % 3 == 0 ? least : greatest);
+    ASSERT_EQ(to_string(PostCommand(atom_constraint, numbers)), constraint_text(numbers));
+  }
+}
+
+TEST(PostCommandText, MayHaveAHundredThousandAtomNumbers) {
+  std::vector<std::int32_t> numbers(100'000);
+  std::iota(numbers.begin(), numbers.end(), -50'000);
+  EXPECT_EQ(to_string(PostCommand(atom_constraint, numbers)), constraint_text(numbers));
+}
+
+TEST(PostCommandText, IsThatOfTheLineAloneAfterLinesOfAnyLength) {
+  const PostCommand commands[] = {
+      {scan, {least, greatest}, -1.23456e-300, least},
+      {scan, {1}, 0.5},
+      {bond_constraint, {9, 10}},
+      {atom_constraint},
+      {post_file, {}, {}, {}, "out.dat"},
+      {PostCommandKind{7}},
+  };
+  for (std::size_t length = 0; length < 1100; ++length) {
+    const std::string before(length, 'x');
+    for (const PostCommand& command : commands) {
+      QuillInput input;
+      input.post_commands = {PostCommand(raw, {}, {}, {}, {}, before), command};
+      ASSERT_EQ(input.to_string(), before + "\n" + to_string(command) + "\n");
+    }
+  }
+}
+
+TEST(PostCommandText, MayBeOfAnyLength) {
+  for (std::size_t length = 0; length < 1100; ++length) {
+    const std::string text(length, 'x');
+    ASSERT_EQ(to_string(PostCommand(raw, {}, {}, {}, {}, text)), text);
+    ASSERT_EQ(to_string(PostCommand(post_file, {}, {}, {}, text)), "POST " + text);
+  }
+}
 
 }  // namespace
 

@@ -1,5 +1,5 @@
-// The text of a whole input grows into room that was reserved at once. Text that has to grow again
-// takes twice the room, which shows.
+// The text of a whole input is written into room that was reserved at once. If the text had to grow
+// again, it would take twice the room, which the tests would notice.
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-// Geometries as other programs write them, read from XYZ files and checked against the lines that
-// they stand in. The files are a few that this test makes for itself and, when the environment
-// variable KELP_QUILL_INP_XYZ_DIR names a folder, every .xyz file in that folder.
+// Geometries as other programs write them, read from XYZ files and compared with the lines of these
+// files. The test makes a few files itself and, if the environment variable KELP_QUILL_INP_XYZ_DIR
+// names a folder, also uses every .xyz file in that folder.
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// The lines of a text with whatever ends them, so that they can be put together again.
+/// The lines of a text with their line ends, so that they can be put together again.
 Lines lines_with_ends(const std::string& text) {
   Lines lines;
   for (std::size_t start = 0; start < text.size();) {
@@ -68,7 +68,7 @@ std::vector<Lines> frames_of(const Lines& lines) {
     line += static_cast<std::ptrdiff_t>(std::min(count + 2, left));
     frames.emplace_back(first, line);
   }
-  EXPECT_TRUE(std::all_of(line, lines.end(), is_blank)) << "text behind the last frame";
+  EXPECT_TRUE(std::all_of(line, lines.end(), is_blank)) << "text after the last frame";
   return frames;
 }
 
@@ -112,11 +112,11 @@ std::string without_outer_blanks(const std::string& line) {
   return first == std::string::npos ? "" : line.substr(first, last + 1 - first);
 }
 
-/// What stands before the lines of a file.
+/// The text before the lines of a file.
 const std::string head = "#sp\n-1 2\n";
 constexpr std::size_t head_lines = 2;
 
-/// What the lines say, found out without the library: atoms up to the first line that is neither
+/// The content of the lines, read without the library: atoms up to the first line that is neither
 /// blank nor an atom, and text from there on.
 ParseResult expected_of(const Lines& lines) {
   ParseResult expected = read_as({{flag("sp")}, charged(-1, 2)});
@@ -146,7 +146,8 @@ bool is_as_near_as_written(const AtomRecord& left, const AtomRecord& right) {
          is_as_near_as_written(left.y, right.y) && is_as_near_as_written(left.z, right.z);
 }
 
-/// Everything but the coordinates comes back as it was, and these as near as six decimals allow.
+/// Everything except the coordinates is read back as it was, and these as exactly as six decimals
+/// allow.
 void expect_same_when_written(const QuillInput& input) {
   const std::string text = input.to_string();
   ParseResult again = parse_string(text);
@@ -170,8 +171,8 @@ void check_lines(const Lines& lines) {
   expect_same_when_written(result.input);
 }
 
-/// Checks every frame of every file in the folder, and every file as it stands, counts and comments
-/// included. Returns how many frames there were.
+/// Checks every frame of every file in the folder, and every file as it is, counts and comments
+/// included. Returns the number of frames.
 std::size_t check_folder(const std::filesystem::path& folder) {
   std::set<std::filesystem::path> paths;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
@@ -191,7 +192,7 @@ std::size_t check_folder(const std::filesystem::path& folder) {
   return frame_count;
 }
 
-/// Writes five frames in the manners of several programs into the folder.
+/// Writes five frames into the folder, in the style of several programs.
 void write_odd_files(const TemporaryFolder& folder) {
   folder.write("two_frames.xyz",
                "3\nwater, then without a line end\n"

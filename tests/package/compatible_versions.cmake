@@ -1,4 +1,4 @@
-# Asks an installed package, as find_package does, which versions it stands for:
+# Asks an installed package, as find_package does, which versions it is compatible with:
 #
 #   cmake -DVERSION_FILE=... -P compatible_versions.cmake
 

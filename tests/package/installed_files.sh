@@ -1,10 +1,10 @@
 #!/bin/sh
-# Installs each component into a folder of its own and compares what is there with a list, whose
-# lines are a component and a file:
+# Installs each component into a separate folder and compares the files there with a list, whose lines
+# are a component and a file:
 #
 #   installed_files.sh CMAKE BUILD_FOLDER SCRATCH_FOLDER LIST
 #
-# The files of the component documentation are as many as the pages; it has its folder to itself.
+# The files of the component documentation are not listed one by one: it has a folder of its own.
 set -eu
 export LC_ALL=C
 

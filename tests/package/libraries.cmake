@@ -1,4 +1,4 @@
-# Libraries in the forms in which they reach their users, each as a fixture that consumers ask for.
+# The libraries in all forms in which users get them, each as a fixture that consumers require.
 
 function(add_step name command_name)
   cmake_parse_arguments(PARSE_ARGV 2 arg "" "SETUP" "REQUIRES;COMMAND")
@@ -8,8 +8,8 @@ function(add_step name command_name)
 endfunction()
 
 # install_project(NAME SOURCE [OPTION...]): a build in NAME/build, an installation in
-# NAME/installed. It is not installed where it is told that it would be, so that a file which
-# remembers the folder is found out.
+# NAME/installed. That is not the folder it was configured for, so that a file which contains the
+# configured folder does not work.
 function(install_project name source)
   set(folder "${PROJECT_BINARY_DIR}/${name}")
   add_step(${name} is_built SETUP ${name}.built
@@ -30,9 +30,9 @@ function(move_installation name moved)
     COMMAND "${CMAKE_COMMAND}" -E rename "${folder}_before" "${folder}")
 endfunction()
 
-# install_outside_of_the_prefix(NAME OUTSIDE): configures the build of NAME anew, with a library
-# folder that is absolute and not in the prefix. It waits for the fixtures named last, which take
-# the build as it is before.
+# install_outside_of_the_prefix(NAME OUTSIDE): configures the build of NAME again, with a library
+# folder that is absolute and not in the prefix. It waits for the fixtures named last, which need the
+# build as it was before.
 function(install_outside_of_the_prefix name outside)
   set(build "${PROJECT_BINARY_DIR}/${name}/build")
   set(folder "${PROJECT_BINARY_DIR}/${outside}")

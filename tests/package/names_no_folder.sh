@@ -1,5 +1,5 @@
 #!/bin/sh
-# Fails when a file of an installation names a folder of the machine that it comes from:
+# Fails when a file of an installation names a folder of the machine that it was built on:
 #
 #   names_no_folder.sh INSTALLATION FOLDER...
 set -eu

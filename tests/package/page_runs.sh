@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Does what docs/packaging.md says, block by block, in a copy of the tree: shell blocks are run, C++
-# and CMake blocks become my_program/main.cpp and my_program/CMakeLists.txt. Fails too when the page
-# leaves out an option.
+# and CMake blocks become my_program/main.cpp and my_program/CMakeLists.txt. Also fails when the page
+# does not list an option.
 #
 #   page_runs.sh TREE SCRATCH_FOLDER
 set -euo pipefail

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Builds and runs the consumer with what pkg-config says of the library, in two standards:
+# Builds and runs the consumer with the flags that pkg-config prints, in two standards:
 #
 #   with_pkg_config.sh COMPILER FOLDER_OF_PC_FILES SCRATCH_FOLDER
 set -eu
@@ -15,7 +15,7 @@ export LD_LIBRARY_PATH
 
 # run SOURCE STANDARD
 run() {
-  # The flags are words, and no folder of this test has a blank in its name.
+  # The flags must be split into words, and no folder of this test has a blank in its name.
   # shellcheck disable=SC2046
   "$compiler" "-std=c++$2" -Wall -Wextra -Wpedantic -Werror "$folder/$1.cpp" -o "$scratch/$1_$2" \
     $(pkg-config --cflags --libs 'kelp_quill_inp >= 0.1')

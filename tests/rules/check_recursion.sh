@@ -1,5 +1,5 @@
 #!/bin/sh
-# Fails when functions in compiled objects call themselves, be it through others: a text must not
+# Fails when functions in compiled objects call themselves, directly or through others: a text must not
 # decide how deep the stack gets. Names every function in such a circle.
 #
 #   check_recursion.sh OBJDUMP OBJECT...
@@ -12,7 +12,7 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
 # A call to a function of the same section is shown with its name, any other one by a relocation in
-# the next line. An offset behind the name is a jump to the inside of a function.
+# the next line. An offset after the name means a jump into a function.
 "$objdump" --disassemble --reloc --no-show-raw-insn "$@" >"$scratch/code"
 awk '
   /^[0-9a-f]+ <.*>:$/ { caller = substr($2, 2, length($2) - 3); next }
@@ -32,8 +32,8 @@ if [ ! -s "$scratch/calls" ]; then
   exit 1
 fi
 
-# tsort takes a line with the same name twice for no relation at all, and names circles of others.
-# It fails when there is a circle, and grep when there is none; the file says which it was.
+# tsort ignores a line with the same name twice, and names circles of different ones. It fails when
+# there is a circle, and grep fails when there is none; the file says which it was.
 {
   awk '$1 == $2 { print $1 }' "$scratch/calls"
   tsort "$scratch/calls" 2>&1 >"$scratch/order" | sed -n 's/^tsort: \([^ ]*\)$/\1/p'

@@ -4,7 +4,7 @@
 #
 #   check_sources.sh FOLDER...
 #
-# Every offending line is named, and so is the rule that it breaks. Comments are not looked at.
+# Every wrong line is named, and so is the rule that it breaks. Comments are ignored.
 set -eu
 export LC_ALL=C
 

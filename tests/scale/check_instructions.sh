@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Fails if a task of tasks.cpp takes more than twice the instructions, and a little, for twice the
-# size. Instructions are the same whatever else the machine does, unlike times; what grows with the
-# square takes four times as many.
+# Fails if a task of tasks.cpp takes more than slightly above twice the instructions for twice the size.
+# Unlike times, instructions do not depend on other programs; a task with quadratic cost takes four times
+# as many.
 #
 #   check_instructions.sh VALGRIND PROGRAM
 set -euo pipefail
@@ -15,7 +15,7 @@ if ! "$1" --tool=callgrind --instr-atstart=no --callgrind-out-file="$counts/coun
 fi
 
 cd "$counts"
-# One file a task and size, but for the last one, of what is counted at the end.
+# One file for each task and size. The last file has what is counted at the end; it is left out.
 # shellcheck disable=SC2046  # the names have no blanks
 awk -v most=2.05 '
   /^desc: Trigger: Client Request: / { task = $5; size = $6 }

@@ -20,9 +20,9 @@ struct Counts {
 // Zero before the first allocation of any initialiser.
 Counts counts;
 
-// Memory that was freed stays with the program. Blocks above a size glibc fetches anew each time,
-// in whole pages: twice as large may be more than twice the bytes, and take far more than twice the
-// time. It happens before main, where no other thread is there yet.
+// Memory that was freed stays with the program. Without this setting, glibc maps new whole pages
+// for every block above some size: a block twice as large may then take more than twice the bytes,
+// and far more than twice the time. This runs before main, when there is no other thread yet.
 // NOLINTBEGIN(concurrency-mt-unsafe)
 [[maybe_unused]] const bool is_memory_kept =
     mallopt(M_MMAP_MAX, 0) != 0 && mallopt(M_TRIM_THRESHOLD, -1) != 0;
@@ -59,7 +59,7 @@ std::int64_t MemoryCount::allocations() const noexcept {
 
 }  // namespace kelp::input::quill
 
-// The forms that do not throw come here as well, by way of the standard library's own.
+// The forms that do not throw are counted as well: the standard library's versions call these.
 
 void* operator new(std::size_t size) { return kelp::input::quill::allocate(size); }
 void* operator new[](std::size_t size) { return kelp::input::quill::allocate(size); }

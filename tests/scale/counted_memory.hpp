@@ -4,11 +4,11 @@
 #include <cstdint>
 
 // A program that is linked with counted_memory.cpp allocates through a global operator new that
-// counts. The counts are those of the whole program, which is to have one thread.
+// counts. The counts are those of the whole program, which must have only one thread.
 
 namespace kelp::input::quill {
 
-/// Counts from its construction on. There is one at a time.
+/// Counts from its construction on. Only one may exist at a time.
 class MemoryCount {
  public:
   MemoryCount() noexcept;

@@ -1,5 +1,5 @@
-// Prints what reading texts of every shape costs where they are as large as they get, against half
-// of that; the least and the most of it; and what is quadratic by contract costs as it grows.
+// Prints the cost of reading the largest text of every shape, compared with half of that text; the
+// least and the most of it; and the cost of the operations that are quadratic by contract.
 
 #include <algorithm>
 #include <cstddef>
@@ -21,7 +21,7 @@ constexpr double bytes_per_megabyte = 1e6;
 constexpr double nanoseconds_per_second = 1e9;
 
 struct Cost {
-  /// Of the processor, for this process alone: what else the machine does hardly counts.
+  /// Processor time of this process alone: other programs hardly influence it.
   double seconds = 0.0;
   /// Bytes that were allocated at the same time, beyond those before the work.
   std::int64_t peak_bytes = 0;
@@ -42,7 +42,7 @@ struct Reading {
   bool is_read = false;
 };
 
-/// The best of three attempts: other programs only ever add to the time.
+/// The best of three attempts: other programs can only make the time longer.
 Reading reading_of(const Shape& shape, std::size_t size) {
   const std::string text = shape.text(size);
   Reading best;

@@ -1,4 +1,4 @@
-// What is twice as large takes about twice the memory, in about twice as many allocations.
+// Twice the size takes about twice the memory, in about twice as many allocations.
 
 #include <gtest/gtest.h>
 

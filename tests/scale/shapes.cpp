@@ -161,7 +161,7 @@ const std::vector<Shape>& shapes() {
        [](std::size_t n) { return "#a(" + repeated(",", n) + "b)"; }, has_one_parameter},
       {"Quotes", 40 * thousand, 64 * million,
        [](std::size_t n) { return "#a(" + repeated("'", n) + ")"; }, has_parameter_of},
-      {"CommasBehindALongName", 20 * thousand, 16 * million,
+      {"CommasAfterALongName", 20 * thousand, 16 * million,
        [](std::size_t n) { return "#" + repeated("x", n) + "(" + repeated(",", n) + ")"; },
        has_name_of},
       {"CommasInQuotes", 40 * thousand, 64 * million,
@@ -175,7 +175,7 @@ const std::vector<Shape>& shapes() {
       {"OneLongSymbol", 40 * thousand, 64 * million,
        [](std::size_t n) { return repeated("X", n) + " 0 0 0"; }, has_symbol_of},
 
-      // Numbers of many digits, which are numbers all the same.
+      // Numbers of many digits, which are still numbers.
       {"DigitsOfAFraction", 40 * thousand, 64 * million,
        [](std::size_t n) { return "H 0 0 0." + repeated("9", n); }, has_one_atom},
       {"DigitsBeforeAnExponent", 40 * thousand, 64 * million,

@@ -14,12 +14,12 @@ namespace kelp::input::quill {
 /// A way in which a text may be large.
 struct Shape {
   std::string_view name;
-  /// How often the piece is repeated: for a test, where what grows with the square of it outweighs
-  /// everything else, and where it is to be as large as it gets.
+  /// How often the piece is repeated: in a test, where a quadratic cost would be larger than all
+  /// other costs, and for the largest text.
   std::size_t test_size;
   std::size_t full_size;
   std::string (*text)(std::size_t size);
-  /// Whether what was read is as large, so that nothing is measured but what was asked for.
+  /// Whether the document has the expected size, so that only successful reading is measured.
   bool (*is_read)(const ParseResult& result, std::size_t size);
 };
 
@@ -27,7 +27,7 @@ void PrintTo(const Shape& shape, std::ostream* out);
 
 const std::vector<Shape>& shapes();
 
-/// `piece` as often as said.
+/// `piece` repeated `count` times.
 std::string repeated(std::string_view piece, std::size_t count);
 
 }  // namespace kelp::input::quill

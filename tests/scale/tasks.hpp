@@ -9,19 +9,19 @@
 
 namespace kelp::input::quill {
 
-/// Something the library does that is to cost twice as much where it is twice as large.
+/// Some work of the library that must cost only twice as much for twice the size.
 struct Task {
   std::string name;
-  /// Large enough for what grows with the square of it to outweigh everything else.
+  /// So large that a quadratic cost would be larger than all other costs.
   std::size_t size;
-  /// Makes what is needed for a size, and gives what is to be measured, which is done once and
-  /// returns whether it did what it is measured for.
+  /// Makes what is needed for a size, and returns the work to be measured, which is done once and
+  /// returns whether its result was right.
   std::function<std::function<bool()>(std::size_t size)> prepare;
 };
 
 void PrintTo(const Task& task, std::ostream* out);
 
-/// Reading texts of every shape; writing, copying, asking and changing large documents.
+/// Reading texts of every shape; writing, copying, searching and changing large documents.
 const std::vector<Task>& tasks();
 
 }  // namespace kelp::input::quill

@@ -1,8 +1,8 @@
 """The list of mutants that no test can tell from the source, each with its reason.
 
 A list is a text of blocks, with an empty line between them. A block names its file, then the lines
-before and after each change ("- " and "+ ", without indentation), then the reason. It holds for
-every such line of the file, wherever it stands.
+before and after each change ("- " and "+ ", without indentation), then the reason. It applies to
+every such line in the file.
 """
 
 

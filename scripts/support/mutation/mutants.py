@@ -2,7 +2,7 @@
 
 The source is cut into tokens, not parsed. Where that is not enough to tell an operator from
 something else (a template's brackets, a reference), the layout of clang-format is: binary operators
-have blanks around them, the others have not. A change that does not compile is told apart later.
+have blanks around them, the others have not. Changes that do not compile are sorted out later.
 """
 
 import hashlib
@@ -169,7 +169,7 @@ class Source:
             self.add("condition", start, end, f"!({self.text[start:end]})")
 
     def parts_of(self, opening):
-        """What stands between the semicolons within a pair of parentheses."""
+        """The parts between the semicolons within a pair of parentheses."""
         closing = self.closing(opening)
         start, parts, depth = self.tokens[opening].end, [], 0
         for i in range(opening + 1, closing):

@@ -1,8 +1,8 @@
-"""Builds one mutant beside a finished build of the tests, and runs them on it.
+"""Builds one mutant next to a finished build of the tests, and runs the tests on it.
 
 Only what contains the mutant is compiled and linked again: an object, the shared library it is part
 of, and those test programs that link the object itself or include a header that is the mutant. The
-others meet the mutant's library by being made to load it first; it has the name of the one they
+other programs are made to load the mutant's library first; it has the name of the library that they
 would load.
 """
 
@@ -134,7 +134,7 @@ class Worker:
 
     def run(self, program, libraries, seconds):
         """Whether a test program passes within a time."""
-        # A program linked anew stands in another folder than the one its run path is reckoned from.
+        # A program that was linked again is in another folder than its run path expects.
         folders = [str(library.parent) for library in self.build.libraries]
         environment = dict(os.environ, TMPDIR=str(self.folder / "tmp"),
                            LD_PRELOAD=":".join(map(str, libraries)),

@@ -3,10 +3,10 @@
 #
 #   exported_symbols.sh [--refresh] NM LIBRARY LIST
 #
-# A symbol more is one that programs may come to rely on, a symbol less breaks those that do. After
-# a change that is meant, --refresh rewrites the list; the build target
+# Programs may begin to rely on an additional symbol, and a missing symbol breaks programs that use it.
+# After an intended change, --refresh rewrites the list; the build target
 # kelp_quill_inp_refresh_exported_symbols does so for all lists. Constructors and destructors have
-# several symbols of one name and stand in the list once.
+# several symbols with the same name, which is in the list once.
 set -eu
 export LC_ALL=C
 

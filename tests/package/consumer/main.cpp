@@ -1,10 +1,10 @@
-// Uses a bit of every part of the library, in the headers and behind them. Ends with 0 when all is
-// as it should be; otherwise it says what is not.
+// Uses something from every part of the library, inline and compiled code. Ends with 0 when all
+// results are right; if not, it says which one is wrong.
 //
 //   consumer [stand-ins]
 //
-// The stand-ins for the sister libraries know one element more than there are, which tells them
-// from those that come with the library.
+// The stand-ins for the sister libraries know an element that does not exist, so that they can be
+// told from those that come with the library.
 
 #include <exception>
 #include <iostream>

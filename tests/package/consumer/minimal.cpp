@@ -1,5 +1,5 @@
-// Uses nothing but the library itself, so that nothing but its own needs leads to the two small
-// libraries that it stands on.
+// Uses only the library itself, so that the two small libraries are found only if the library names
+// them.
 
 #include <kelp/input/quill/quill.hpp>
 

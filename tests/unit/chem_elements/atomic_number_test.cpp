@@ -108,7 +108,7 @@ const Row rows[] = {
 INSTANTIATE_TEST_SUITE_P(Table, AtomicNumberOf, testing::ValuesIn(rows),
                          [](const auto& row) { return row.param.name; });
 
-TEST(AtomicNumber, OfAViewLooksAtNothingBesideIt) {
+TEST(AtomicNumber, OfAViewLooksAtNothingAroundIt) {
   const std::string_view text = "NaCl";
   EXPECT_EQ(atomic_number_from_symbol(text.substr(0, 2)), 11);
   EXPECT_EQ(atomic_number_from_symbol(text.substr(0, 1)), 7);

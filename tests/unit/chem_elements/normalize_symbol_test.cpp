@@ -38,9 +38,9 @@ const Row rows[] = {
     {"LettersThatAreNoSymbol", "xYZ", "Xyz"},
     {"ALongWord", "cHLORINE", "Chlorine"},
     {"AWordLongerThanAShortString", std::string(100, 'Q'), "Q" + std::string(99, 'q')},
-    {"LettersBehindADigit", "13C", "13c"},
-    {"LettersBehindABlank", " CL ", " cl "},
-    {"LettersBehindANul", "\0CL"s, "\0cl"s},
+    {"LettersAfterADigit", "13C", "13c"},
+    {"LettersAfterABlank", " CL ", " cl "},
+    {"LettersAfterANul", "\0CL"s, "\0cl"s},
     {"TheNeighboursOfTheLetters", "@[`{@[`{", "@[`{@[`{"},
     {"BytesAbove7F", "\xC3\xA9\xC3\x89", "\xC3\xA9\xC3\x89"},
 };
@@ -58,7 +58,7 @@ TEST(NormalizeSymbolOfEveryByte, HasTheLetterCaseOfTheCLocale) {
   }
 }
 
-TEST(NormalizeSymbolOfAView, LooksAtNothingBesideIt) {
+TEST(NormalizeSymbolOfAView, LooksAtNothingAroundIt) {
   const std::string_view text = "nACL";
   EXPECT_EQ(normalize_symbol(text.substr(1, 2)), "Ac");
   EXPECT_EQ(normalize_symbol(text.substr(1, 0)), "");

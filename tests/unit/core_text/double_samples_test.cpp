@@ -16,7 +16,7 @@
 #include "properties/obvious_text.hpp"
 #include "text_samples.hpp"
 
-// Every number here, however it was made, is read as the C library reads it, bit by bit.
+// Every number here must be read as the C library reads it, bit by bit.
 
 namespace kelp::core::text {
 namespace {
@@ -52,13 +52,13 @@ std::string in_17_digits(double value) {
   return text.data();
 }
 
-/// Does nothing more in a test that has failed: one number says enough.
+/// Does nothing in a test that has already failed: one number is enough.
 void expect_as_strtod(const std::string& token) {
   if (testing::Test::HasFailure()) return;
   EXPECT_EQ(parsed(token), ParsedDouble(obvious::number(token))) << testing::PrintToString(token);
 }
 
-/// The number as it stands, with either sign, and with the exponent letters of Fortran.
+/// The number as it is, with either sign, and with the exponent letters of Fortran.
 void expect_all_forms_as_strtod(const std::string& token) {
   std::string fortran = token;
   std::replace(fortran.begin(), fortran.end(), 'e', 'D');
@@ -164,8 +164,8 @@ TEST(ParseDoubleAsStrtod, OfIntegersAroundThe53Bits) {
   }
 }
 
-/// The numbers exactly halfway between two neighbouring doubles have the most digits of all that
-/// decide on a rounding. A long double holds them without rounding.
+/// The numbers exactly halfway between two neighbouring doubles have the most digits of all numbers
+/// whose digits decide how to round. A long double can hold them exactly.
 class ParseDoubleHalfway : public testing::Test {
  protected:
   static_assert(std::numeric_limits<long double>::digits > Limits::digits,
@@ -179,7 +179,7 @@ class ParseDoubleHalfway : public testing::Test {
     const std::size_t last = text.find_last_not_of('0', exponent - 1);
     const std::string exact = text.substr(0, last + 1);
     const std::string rest = text.substr(exponent);
-    // Of the exact number, a little more, far more behind than matters, and a little less.
+    // The exact number, a little more, more digits than matter, and a little less.
     expect_all_forms_as_strtod(exact + rest);
     expect_all_forms_as_strtod(exact + '1' + rest);
     expect_all_forms_as_strtod(exact + std::string(900, '0') + rest);

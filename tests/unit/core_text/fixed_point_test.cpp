@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-// What the short way to read a coordinate takes, and what it leaves to the long one.
+// Which texts the fast way to read a coordinate accepts, and which it leaves to the general way.
 
 namespace kelp::core::text {
 namespace {
@@ -27,7 +27,7 @@ bool is_taken(std::size_t size, std::size_t point) {
   return size >= shortest && size <= longest && point <= last_place_of_point && point + 1 < size;
 }
 
-/// What may stand behind the text in memory is digits, which do not belong to it.
+/// The bytes after the text in memory are digits, which do not belong to it.
 std::optional<double> read_within_digits(const std::string& text) {
   const std::string memory = "12345678" + text + "12345678";
   return parse_fixed_point(std::string_view(memory).substr(8, text.size()));

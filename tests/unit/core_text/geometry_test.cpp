@@ -23,7 +23,7 @@ TEST(Atom, HoldsItsSymbolAndThenItsCoordinates) {
   EXPECT_EQ(atom.z, 0.1173);
 }
 
-TEST(Atom, StandsAtTheOriginUntilItIsPutElsewhere) {
+TEST(Atom, IsAtTheOriginAtFirst) {
   const Atom atom;
   EXPECT_EQ(atom.symbol, "");
   EXPECT_EQ(atom.x, 0.0);

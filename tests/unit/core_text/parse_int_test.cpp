@@ -20,7 +20,7 @@ using namespace std::string_literals;
 
 constexpr int untouched = -987654;
 
-/// What try_parse_int makes of a token, seeing to it that it leaves the value alone on false.
+/// What try_parse_int reads; the test fails if it returns false and has changed the value.
 std::optional<int> parsed(std::string_view token) {
   int value = untouched;
   if (try_parse_int(token, value)) return value;
@@ -48,7 +48,7 @@ const Row tokens_of_numbers[] = {
     {"MinusZero", "-0", 0},
     {"PlusZero", "+0", 0},
     {"LeadingZeros", "007", 7},
-    {"LeadingZerosBehindASign", "-007", -7},
+    {"LeadingZerosAfterASign", "-007", -7},
     {"MoreLeadingZerosThanAnIntHasDigits", std::string(100, '0') + "42", 42},
     {"TheLargestInt", "2147483647", 2147483647},
     {"TheLargestIntWithAPlus", "+2147483647", 2147483647},
@@ -63,12 +63,12 @@ const Row other_tokens[] = {
     {"TwoMinuses", "--1"},
     {"PlusAndMinus", "+-1"},
     {"MinusAndPlus", "-+1"},
-    {"ALetterBehindTheDigits", "12x"},
+    {"ALetterAfterTheDigits", "12x"},
     {"ALetterBeforeTheDigits", "x12"},
-    {"ASignBehindTheDigits", "12-"},
+    {"ASignAfterTheDigits", "12-"},
     {"ABlankBefore", " 1"},
     {"ABlankBehind", "1 "},
-    {"ABlankBehindTheSign", "+ 1"},
+    {"ABlankAfterTheSign", "+ 1"},
     {"ACarriageReturnBehind", "1\r"},
     {"TwoNumbers", "1 2"},
     {"APoint", "1."},
@@ -150,7 +150,7 @@ TEST(ParseIntOfRandomNumbers, GivesWhatStrtollGives) {
   }
 }
 
-TEST(ParseIntOfAView, LooksAtNothingBesideIt) {
+TEST(ParseIntOfAView, LooksAtNothingAroundIt) {
   const std::string_view text = "1234";
   EXPECT_EQ(parsed(text.substr(1, 2)), 23);
   EXPECT_EQ(parsed(text.substr(1, 0)), std::nullopt);

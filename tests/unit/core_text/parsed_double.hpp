@@ -7,8 +7,8 @@
 
 namespace kelp::core::text {
 
-/// What parsing a token gave, or should give: one exact double, or no number. Two of them are equal
-/// when the doubles are so bit by bit, except that every NaN of one sign is the same.
+/// The actual or expected result of parsing a token: one exact double, or no number. Two results
+/// are equal when the doubles are equal bit by bit, except that all NaNs of one sign are equal.
 class ParsedDouble {
  public:
   explicit ParsedDouble(std::optional<double> value) : value_(value) {}
@@ -24,8 +24,8 @@ inline ParsedDouble same_bits(double value) { return ParsedDouble(value); }
 
 inline const ParsedDouble no_number{std::nullopt};
 
-/// What try_parse_double makes of the token, in a block of memory of its own. Fails the test when
-/// it returns false and has changed the value.
+/// What try_parse_double reads from the token, in its own block of memory. The test fails if it
+/// returns false and has changed the value.
 ParsedDouble parsed(std::string_view token);
 
 }  // namespace kelp::core::text

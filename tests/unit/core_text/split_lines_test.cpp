@@ -49,7 +49,7 @@ const Row rows[] = {
     {"ALoneCarriageReturn", "\r", {"\r"}},
     {"ALoneCarriageReturnAfterALine", "a\n\r", {"a", "\r"}},
     {"OnlyOneCarriageReturnLess", "a\r\r\n", {"a\r"}},
-    {"ACarriageReturnBehindALineFeed", "a\n\rb", {"a", "\rb"}},
+    {"ACarriageReturnAfterALineFeed", "a\n\rb", {"a", "\rb"}},
     {"BlanksAsTheyAre", " a \n \n", {" a ", " "}},
     {"OtherVerticalWhiteSpaceAsItIs", "a\vb\fc\n", {"a\vb\fc"}},
     {"LineBreaksOfUnicodeAsTheyAre",
@@ -84,14 +84,14 @@ TEST(SplitLinesOfRandomTexts, EndsALineAtEachLineFeed) {
 }
 
 TEST(SplitLinesOfManyTerminators, CountsEachOfThem) {
-  // Lines are counted in blocks, and a block of nothing but line feeds has the most of them.
+  // Lines are counted in blocks, and a block of only line feeds has the most of them.
   for (std::size_t size = 0; size < 1'000; ++size) {
     ASSERT_EQ(split_lines(std::string(size, '\n')), Lines(size)) << size;
     ASSERT_EQ(split_lines(std::string(size, '\n') + "a").size(), size + 1);
   }
 }
 
-TEST(SplitLinesOfOneTerminator, CountsItOnceWhereverItStands) {
+TEST(SplitLinesOfOneTerminator, CountsItOnceInAnyPlace) {
   for (std::size_t place = 0; place < 400; ++place) {
     std::string text(400, 'a');
     text[place] = '\n';
@@ -112,7 +112,7 @@ TEST(SplitLinesOfALongText, TakesTheRoomOfItsLinesAndNoMore) {
 
 TEST(SplitLinesOfAnEmptyView, GivesNoLine) { EXPECT_EQ(split_lines(std::string_view()), Lines()); }
 
-TEST(SplitLinesOfAView, LooksAtNothingBesideIt) {
+TEST(SplitLinesOfAView, LooksAtNothingAroundIt) {
   const std::string_view text = "a\r\nb\nc";
   EXPECT_EQ(split_lines(text.substr(0, 2)), Lines{"a\r"});
   EXPECT_EQ(split_lines(text.substr(2, 2)), (Lines{"", "b"}));

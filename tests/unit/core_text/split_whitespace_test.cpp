@@ -62,7 +62,7 @@ const Row rows[] = {
 INSTANTIATE_TEST_SUITE_P(Table, SplitWhitespace, testing::ValuesIn(rows),
                          [](const auto& row) { return row.param.name; });
 
-TEST(SplitWhitespaceOfEveryByte, SplitsAtTheWhiteSpaceOfTheCLocaleWhereverItStands) {
+TEST(SplitWhitespaceOfEveryByte, SplitsAtTheWhiteSpaceOfTheCLocaleInAnyPlace) {
   for (const std::size_t size : {1U, 2U, 7U, 8U, 9U, 15U, 16U, 17U, 63U, 64U, 65U, 130U}) {
     for (std::size_t place = 0; place < size; ++place) {
       for (const char c : every_byte()) {
@@ -126,7 +126,7 @@ TEST(SplitWhitespaceOfAnEmptyView, GivesNoWord) {
   EXPECT_EQ(split_whitespace(std::string_view()), Words());
 }
 
-TEST(SplitWhitespaceOfAView, LooksAtNothingBesideIt) {
+TEST(SplitWhitespaceOfAView, LooksAtNothingAroundIt) {
   const std::string_view text = "abc def";
   EXPECT_EQ(split_whitespace(text.substr(1, 2)), Words{"bc"});
   EXPECT_EQ(split_whitespace(text.substr(1, 5)), (Words{"bc", "de"}));

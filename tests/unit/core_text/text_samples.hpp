@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-// Texts that are many, and the same in every run.
+// Many texts, the same in every run.
 
 namespace kelp::core::text {
 
@@ -20,8 +20,8 @@ std::vector<std::string> random_texts();
 /// All texts of up to `longest` characters from `alphabet`, the empty one included.
 std::vector<std::string> every_short_text(std::string_view alphabet, std::size_t longest);
 
-/// A copy of a text at an address of its own, with no byte behind it: a tool that watches the
-/// memory sees who reads beyond the end.
+/// A copy of a text in its own block of memory, with no byte after it: a tool that checks memory
+/// finds any code that reads beyond the end.
 class ExactBlock {
  public:
   explicit ExactBlock(std::string_view text) : bytes_(text.begin(), text.end()) {}

@@ -62,7 +62,7 @@ TEST(TrimOfRandomTexts, IsTheTextWithoutItsOuterWhiteSpace) {
 
 TEST(TrimOfAnEmptyView, IsEmptyWithoutAnyText) { EXPECT_EQ(trim(std::string_view()), ""); }
 
-TEST(TrimOfAView, LooksAtNothingBesideIt) {
+TEST(TrimOfAView, LooksAtNothingAroundIt) {
   const std::string_view text = " a  b ";
   EXPECT_EQ(trim(text.substr(1, 2)), "a");
   EXPECT_EQ(trim(text.substr(2, 2)), "");

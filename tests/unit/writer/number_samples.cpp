@@ -9,8 +9,8 @@
 #include <random>
 #include <string>
 
-// The distributions of the standard library give other numbers with another library; these are made
-// from the bits of a generator that is the same everywhere.
+// The distributions of the standard library differ from one library to another; these numbers are
+// made from the bits of a generator that is the same everywhere.
 
 namespace kelp::input::quill {
 

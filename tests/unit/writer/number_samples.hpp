@@ -3,7 +3,7 @@
 
 #include <vector>
 
-// Numbers that are hard to write, or many. All are the same in every run.
+// Numbers that are hard to write, and many others. All are the same in every run.
 
 namespace kelp::input::quill {
 
@@ -13,7 +13,7 @@ std::vector<double> special_numbers();
 /// Every power of two and of ten that a double can hold, with its neighbours, of both signs.
 std::vector<double> powers_and_neighbours();
 
-/// Doubles of every exponent, NaNs included, evenly among the bit patterns.
+/// Doubles of every exponent, NaNs included, with every bit pattern equally likely.
 std::vector<double> random_bit_patterns();
 
 /// Numbers between -1000 and 1000, as coordinates are.
@@ -22,8 +22,8 @@ std::vector<double> uniform_numbers();
 /// Numbers of up to twelve digits with up to nine decimals.
 std::vector<double> short_decimals();
 
-/// Random digits with every exponent from 2^-80 to 2^70, which takes in all that are converted
-/// in integers and both borders of these.
+/// Random digits with every exponent from 2^-80 to 2^70, which includes all numbers that are
+/// converted in integers and both borders of their range.
 std::vector<double> every_small_exponent();
 
 /// Numbers that lie exactly half-way between two millionths.

@@ -20,11 +20,20 @@ namespace {
 using Limits = std::numeric_limits<double>;
 using IntLimits = std::numeric_limits<std::int32_t>;
 
-template <typename Number>
-std::string text_of(void (*append)(std::string&, Number), Number number) {
+std::string coordinate_text(double number) {
   std::string text;
-  append(text, number);
+  append_coordinate(text, number);
   return text;
+}
+
+std::string scan_value_text(double number) {
+  char field[longest_scan_value];
+  return std::string(field, write_scan_value(field, number));
+}
+
+std::string integer_text(std::int32_t number) {
+  char field[longest_integer];
+  return std::string(field, write_integer(field, number));
 }
 
 struct NumberRow {
@@ -72,7 +81,7 @@ const NumberRow coordinate_rows[] = {
 class CoordinateText : public testing::TestWithParam<NumberRow> {};
 
 TEST_P(CoordinateText, IsAsWritten) {
-  EXPECT_EQ(text_of(append_coordinate, GetParam().number), GetParam().text);
+  EXPECT_EQ(coordinate_text(GetParam().number), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, CoordinateText, testing::ValuesIn(coordinate_rows), name_of_row);
@@ -107,7 +116,7 @@ const NumberRow scan_value_rows[] = {
 class ScanValueText : public testing::TestWithParam<NumberRow> {};
 
 TEST_P(ScanValueText, IsAsWritten) {
-  EXPECT_EQ(text_of(append_scan_value, GetParam().number), GetParam().text);
+  EXPECT_EQ(scan_value_text(GetParam().number), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, ScanValueText, testing::ValuesIn(scan_value_rows), name_of_row);
@@ -123,6 +132,15 @@ void PrintTo(const IntegerRow& row, std::ostream* out) { *out << row.name; }
 const IntegerRow integer_rows[] = {
     {"Zero", 0, "0"},
     {"One", 1, "1"},
+    {"LastOfOneDigit", 9, "9"},
+    {"FirstOfTwoDigits", 10, "10"},
+    {"LastOfTwoDigits", 99, "99"},
+    {"FirstOfThreeDigits", 100, "100"},
+    {"ZeroAmongThreeDigits", 305, "305"},
+    {"LastOfThreeDigits", 999, "999"},
+    {"FirstOfFourDigits", 1000, "1000"},
+    {"LastOfFourDigits", 9999, "9999"},
+    {"FirstOfFiveDigits", 10000, "10000"},
     {"MinusOne", -1, "-1"},
     {"NoGrouping", 1234567, "1234567"},
     {"TrailingZerosStay", -1000, "-1000"},
@@ -133,9 +151,7 @@ const IntegerRow integer_rows[] = {
 
 class IntegerText : public testing::TestWithParam<IntegerRow> {};
 
-TEST_P(IntegerText, IsAsWritten) {
-  EXPECT_EQ(text_of(append_integer, GetParam().number), GetParam().text);
-}
+TEST_P(IntegerText, IsAsWritten) { EXPECT_EQ(integer_text(GetParam().number), GetParam().text); }
 
 INSTANTIATE_TEST_SUITE_P(Table, IntegerText, testing::ValuesIn(integer_rows),
                          [](const auto& row) { return std::string(row.param.name); });
@@ -144,7 +160,7 @@ TEST(IntegerText, EqualsThatOfTheStandardLibraryForRandomNumbers) {
   std::mt19937 random(20240611);
   for (int i = 0; i < 20'000; ++i) {
     const auto number = static_cast<std::int32_t>(random());
-    ASSERT_EQ(text_of(append_integer, number), std::to_string(number));
+    ASSERT_EQ(integer_text(number), std::to_string(number));
   }
 }
 
@@ -160,15 +176,13 @@ std::string printed_as_scan_value(double number) {
   return std::string(text, static_cast<std::size_t>(length));
 }
 
-/// The numbers, at most ten of them, that come out unlike printf writes them.
+/// The numbers that are not written as printf writes them, at most ten.
 std::vector<std::string> differences(const std::vector<double>& numbers,
-                                     void (*append)(std::string&, double),
+                                     std::string (*written)(double),
                                      std::string (*printed)(double)) {
   std::vector<std::string> found;
-  std::string text;
   for (const double number : numbers) {
-    text.clear();
-    append(text, number);
+    const std::string text = written(number);
     const std::string expected = printed(number);
     if (text == expected) continue;
     char exact[64];
@@ -200,28 +214,49 @@ const SampleRow sample_rows[] = {
 class NumberText : public testing::TestWithParam<SampleRow> {};
 
 TEST_P(NumberText, OfCoordinatesIsThatOfPrintf) {
-  EXPECT_THAT(differences(GetParam().numbers(), append_coordinate, printed_as_coordinate),
+  EXPECT_THAT(differences(GetParam().numbers(), coordinate_text, printed_as_coordinate),
               testing::IsEmpty());
 }
 
 TEST_P(NumberText, OfScanValuesIsThatOfPrintf) {
-  EXPECT_THAT(differences(GetParam().numbers(), append_scan_value, printed_as_scan_value),
+  EXPECT_THAT(differences(GetParam().numbers(), scan_value_text, printed_as_scan_value),
               testing::IsEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, NumberText, testing::ValuesIn(sample_rows),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(NumberText, IsAppendedToWhatIsThereAlready) {
+TEST(IntegerText, EqualsThatOfTheStandardLibraryForEveryNumberOfUpToFiveDigits) {
+  for (std::int32_t number = -99'999; number <= 99'999; ++number)
+    ASSERT_EQ(integer_text(number), std::to_string(number));
+}
+
+/// Writes into a field of `size` characters between others and returns all of them.
+template <typename Number>
+std::string text_around_field(char* (*write)(char*, Number), Number number, std::size_t size) {
+  std::string text(size + 2, '.');
+  write(text.data() + 1, number);
+  return text;
+}
+
+TEST(NumberText, DoesNotChangeWhatIsAroundItsField) {
+  EXPECT_EQ(text_around_field(write_integer, std::int32_t{7}, 1), ".7.");
+  EXPECT_EQ(text_around_field(write_integer, std::int32_t{42}, 2), ".42.");
+  EXPECT_EQ(text_around_field(write_integer, std::int32_t{305}, 3), ".305.");
+  EXPECT_EQ(text_around_field(write_integer, std::int32_t{9999}, 4), ".9999.");
+  EXPECT_EQ(text_around_field(write_integer, IntLimits::min(), longest_integer), ".-2147483648.");
+  EXPECT_EQ(text_around_field(write_scan_value, 0.5, 3), ".0.5.");
+  EXPECT_EQ(text_around_field(write_scan_value, -1.23457e-300, longest_scan_value),
+            ".-1.23457e-300.");
+}
+
+TEST(CoordinateText, IsAppendedToWhatIsThereAlready) {
   std::string text = "S";
-  append_integer(text, -7);
   append_coordinate(text, 1.5);
   append_coordinate(text, 1e15);
   append_coordinate(text, Limits::infinity());
   append_coordinate(text, -1234567.0);
-  append_scan_value(text, 0.5);
-  append_integer(text, 42);
-  EXPECT_EQ(text, "S-7      1.5000001000000000000000.000000           inf-1234567.0000000.542");
+  EXPECT_EQ(text, "S      1.5000001000000000000000.000000           inf-1234567.000000");
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 #define KELP_INPUT_QUILL_BUILDER_HPP
 
 /// @file
-/// Making a QUILL input from nothing, in one chain of calls.
+/// Building a new QUILL input in one chain of calls.
 ///
 ///     const std::string text = InputBuilder()
 ///                                  .set_task("opt", {{"maxiter", "50"}, {"tight"}})
@@ -13,9 +13,9 @@
 ///
 /// Every operation does what the InputEditor operation of the same name does, and the result is the
 /// document that the same calls of an editor would give. Each operation either succeeds or leaves
-/// the builder's document as it was, except that a copy at its very end may run out of memory
-/// half-way. The price is two copies of the document for each call that does not say that it costs
-/// none: to add thousands of atoms one by one, use an InputEditor, or set_geometry() once.
+/// the builder's document as it was, with one exception: an operation ends with a copy, which may
+/// run out of memory half-way. Every call copies the document twice unless its comment says that it
+/// makes no copy: to add thousands of atoms one by one, use an InputEditor, or set_geometry() once.
 ///
 /// A builder may be used by one thread at a time; distinct builders are independent.
 
@@ -38,8 +38,8 @@ class InputBuilder {
  public:
   InputBuilder() = default;
 
-  /// Returns the document, valid as long as the builder; from a builder that is about to go, moves
-  /// it out.
+  /// Returns the document, valid as long as the builder exists; for an rvalue, moves it out of the
+  /// builder.
   const QuillInput& document() const& noexcept { return document_; }
   QuillInput document() && { return std::move(document_); }
 
@@ -49,7 +49,7 @@ class InputBuilder {
   /// Writes the canonical text into a file, as QuillInput::write_file().
   KELP_QUILL_INP_EXPORT void write_file(const std::string& path) const;
 
-  /// Gives the first command named `name` these parameters, or makes it a flag without any.
+  /// Gives the first command named `name` these parameters; without any, makes it a flag.
   KELP_QUILL_INP_EXPORT InputBuilder& set_task(std::string name,
                                                std::vector<CommandParameter> parameters = {});
 
@@ -69,17 +69,17 @@ class InputBuilder {
   /// Makes the first command named `name` a flag without value and parameters.
   KELP_QUILL_INP_EXPORT InputBuilder& set_flag(std::string name);
 
-  /// Appends a command as it is. Costs no copy of the document.
+  /// Appends a command as it is. Makes no copy of the document.
   KELP_QUILL_INP_EXPORT InputBuilder& add_command(HeaderCommand&& command);
   KELP_QUILL_INP_EXPORT InputBuilder& add_command(const HeaderCommand& command);
 
-  /// Set the charge and multiplicity line and take it away, which sets the numbers to 0 and 1. Any
-  /// numbers will do. Cost no copy of the document.
+  /// Set the charge and multiplicity line, or remove it, which sets the numbers to 0 and 1. All
+  /// numbers are allowed. These make no copy of the document.
   KELP_QUILL_INP_EXPORT InputBuilder& set_charge_and_multiplicity(int charge, int multiplicity);
   KELP_QUILL_INP_EXPORT InputBuilder& clear_charge_and_multiplicity();
 
   /// Appends a copy of one atom to the inline atoms. A geometry of another kind is first replaced
-  /// by one of no atoms.
+  /// by an empty list of atoms.
   KELP_QUILL_INP_EXPORT InputBuilder& add_atom(const AtomRecord& atom);
   KELP_QUILL_INP_EXPORT InputBuilder& add_atom(const kelp::core::Atom& atom);
 
@@ -93,7 +93,7 @@ class InputBuilder {
   KELP_QUILL_INP_EXPORT InputBuilder& set_xyz_file(std::string path);
   KELP_QUILL_INP_EXPORT InputBuilder& set_xyz_trajectory(std::string path);
 
-  /// Appends a post-processing line as it is. Costs no copy of the document.
+  /// Appends a post-processing line as it is. Makes no copy of the document.
   KELP_QUILL_INP_EXPORT InputBuilder& add_post_command(PostCommand&& command);
   KELP_QUILL_INP_EXPORT InputBuilder& add_post_command(const PostCommand& command);
 
@@ -103,8 +103,8 @@ class InputBuilder {
   KELP_QUILL_INP_EXPORT InputBuilder& add_angle_constraint(int a, int b, int c);
   KELP_QUILL_INP_EXPORT InputBuilder& add_dihedral_constraint(int a, int b, int c, int d);
 
-  /// Appends a scan of a bond, an angle or a dihedral, named by two to four atoms; any number is
-  /// stored.
+  /// Appends a scan of a bond, an angle or a dihedral, given by two, three or four atoms; the count
+  /// is not checked.
   KELP_QUILL_INP_EXPORT InputBuilder& add_scan(std::vector<int> atoms, double value, int steps);
 
   /// Appends a post-processing file; earlier ones stay.

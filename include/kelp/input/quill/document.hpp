@@ -13,8 +13,8 @@
 ///
 /// All types are plain values that own what they hold. Strings are byte strings, kept exactly as
 /// given. Distinct documents may be used in distinct threads at the same time; one document may be
-/// read by several threads as long as none changes it. Unless a function says otherwise, it throws
-/// only what the standard library throws when memory runs out.
+/// read by several threads as long as none changes it. Functions throw only what the standard
+/// library throws when memory runs out, unless their comment says more.
 
 #include <cstdint>
 #include <optional>
@@ -44,24 +44,24 @@ enum class GeometryKind : std::int32_t {
 
 /// The form of a post-processing line. The values never change.
 enum class PostCommandKind : std::int32_t {
-  AtomConstraint = 0,      ///< `C i`: atom i keeps its place
-  BondConstraint = 1,      ///< `B i j`: the distance of two atoms is held
-  AngleConstraint = 2,     ///< `A i j k`: the angle at atom j is held
-  DihedralConstraint = 3,  ///< `D i j k l`: the dihedral angle is held
+  AtomConstraint = 0,      ///< `C i`: the position of atom i is fixed
+  BondConstraint = 1,      ///< `B i j`: the distance between two atoms is fixed
+  AngleConstraint = 2,     ///< `A i j k`: the angle at atom j is fixed
+  DihedralConstraint = 3,  ///< `D i j k l`: the dihedral angle is fixed
   Scan = 4,                ///< `S`, two to four atom numbers, a value and a number of steps
   PostFile = 5,            ///< `POST path`
   Raw = 6,                 ///< any other text
 };
 
 /// One entry of a parameter list: `tight` (no value), `maxiter=50`, or `basis=` (an empty value,
-/// which is not the same as none).
+/// which is not the same as no value).
 struct CommandParameter {
-  /// What stands in front of the first `=`, or the whole entry; the reader stores it trimmed, with
-  /// quotes and letter case as in the file.
+  /// The text before the first `=`, or the whole entry; the reader stores it trimmed, with quotes
+  /// and letter case as in the file.
   std::string name;
 
-  /// What stands behind the first `=`; the reader takes off blanks and one pair of quotes around
-  /// it. The writer adds no quotes.
+  /// The text after the first `=`; the reader removes blanks and one pair of quotes around it. The
+  /// writer adds no quotes.
   std::optional<std::string> value;
 
   CommandParameter() = default;
@@ -79,24 +79,24 @@ struct CommandParameter {
 
 /// One header line. Only what `kind` selects is written.
 struct HeaderCommand {
-  /// Stands without the leading "#", in the spelling of whoever stored it. Commands are found by
-  /// the form that normalize_command_name() gives it.
+  /// The name without the leading "#", as it was stored. Commands are found by the form that
+  /// normalize_command_name() returns.
   std::string name;
 
   /// Decides which of the two members below is written.
   HeaderCommandKind kind = HeaderCommandKind::Flag;
 
-  /// What is assigned; counts for an assignment only. An assignment without a value is written as
-  /// one of nothing, `#name = `, and the reader makes an empty value of that.
+  /// The assigned value, used only by an assignment. An assignment without a value is written as
+  /// `#name = `, which the reader reads as an assignment of an empty value.
   std::optional<std::string> value;
 
-  /// The entries between the parentheses, in order and possibly several of a name; count for a
-  /// parameter list only.
+  /// The entries between the parentheses, in order, used only by a parameter list. Several entries
+  /// may have the same name.
   std::vector<CommandParameter> parameters;
 
   HeaderCommand() = default;
 
-  /// Takes all members, in their order; what is left out is a flag's.
+  /// Takes all members, in their order; the name alone makes a flag.
   HeaderCommand(std::string command_name, HeaderCommandKind command_kind = HeaderCommandKind::Flag,
                 std::optional<std::string> assigned_value = std::nullopt,
                 std::vector<CommandParameter> parameter_list = {})
@@ -111,11 +111,11 @@ struct HeaderCommand {
   KELP_QUILL_INP_EXPORT ~HeaderCommand();
 };
 
-/// One inline atom. The coordinates are Cartesian, in the unit of the file they come from; nothing
-/// in the library converts them.
+/// One inline atom. The coordinates are Cartesian, in the unit of the file they come from; the
+/// library never converts them.
 struct AtomRecord {
-  /// The reader stores the letter case of element symbols, "Cl", also for a symbol that is no
-  /// element's. The writer prints what is stored.
+  /// The reader stores symbols in the letter case of element symbols, "Cl", even if no element has
+  /// this symbol. The writer writes what is stored.
   std::string symbol;
 
   double x = 0.0;  ///< written with six decimals
@@ -125,26 +125,26 @@ struct AtomRecord {
 
 /// The coordinate section: charge and multiplicity, and the geometry in one of three forms.
 struct GeometryBlock {
-  /// Selects what is written: `atoms`, every entry of `xyz_files` or the first one alone.
+  /// Selects what is written: `atoms`, all entries of `xyz_files` or only the first one.
   GeometryKind kind = GeometryKind::None;
 
   std::int32_t charge = 0;        ///< of the whole molecule, in elementary charges; not checked
   std::int32_t multiplicity = 1;  ///< of the spin, 1 for a singlet; not checked, not even its sign
 
-  /// Whether the line with both numbers is written; it is for every kind, also without a geometry.
+  /// Whether the line with both numbers is written, for any kind, `None` included.
   bool has_charge_and_multiplicity = false;
 
   /// Atom numbers in post-processing lines refer to this order.
   std::vector<AtomRecord> atoms = {};
 
-  /// Paths as they stand in the file, blanks and quotes included. They are never opened. A
-  /// reference whose path is missing has no entry.
+  /// Paths as they are in the file, blanks and quotes included. The files are never opened. A
+  /// reference without a path has no entry.
   std::vector<std::string> xyz_files = {};
 };
 
 /// One post-processing line. Only what `kind` selects is written.
 struct PostCommand {
-  /// Decides on the keyword in front and on which of the members below are written.
+  /// Decides which keyword begins the line and which of the members below are written.
   PostCommandKind kind = PostCommandKind::Raw;
 
   /// Atom numbers as in the file, for constraints and scans: neither their count nor their range is
@@ -157,7 +157,7 @@ struct PostCommand {
   /// The number of steps of a scan. Written also when `scan_value` is missing.
   std::optional<std::int32_t> scan_steps;
 
-  /// The path of a post file, with its inner blanks. It is never opened.
+  /// The path of a post file, with its inner blanks. The file is never opened.
   std::string post_file;
 
   /// The trimmed line, which the reader keeps for every kind; written for `Raw` only.
@@ -165,7 +165,7 @@ struct PostCommand {
 
   PostCommand() = default;
 
-  /// Takes all members, in their order; what is left out is empty.
+  /// Takes all members, in their order; those left out are empty.
   PostCommand(PostCommandKind command_kind, std::vector<std::int32_t> atom_numbers = {},
               std::optional<double> value = std::nullopt,
               std::optional<std::int32_t> steps = std::nullopt, std::string path = {},
@@ -183,20 +183,20 @@ struct PostCommand {
   KELP_QUILL_INP_EXPORT ~PostCommand();
 };
 
-/// A whole input. The order of every vector is the order of the lines in the file.
+/// A whole input. Every vector has the order of the lines in the file.
 struct QuillInput {
-  /// The header. Several commands may have one name; the lookups below number them from 0.
+  /// The header. Several commands may have the same name; the functions below count them from 0.
   std::vector<HeaderCommand> commands;
 
   /// Everything between the header and the post-processing lines.
   GeometryBlock geometry;
 
-  /// What stands behind the coordinates, text that means nothing to the reader included.
+  /// The lines after the coordinates, including those that the reader does not understand.
   std::vector<PostCommand> post_commands;
 
   QuillInput() = default;
 
-  /// Takes all members, in their order; what is left out is empty.
+  /// Takes all members, in their order; those left out are empty.
   QuillInput(std::vector<HeaderCommand> header, GeometryBlock coordinates = {},
              std::vector<PostCommand> post_processing = {})
       : commands(std::move(header)),
@@ -209,7 +209,7 @@ struct QuillInput {
   KELP_QUILL_INP_EXPORT ~QuillInput();
 
   /// Returns the command that is number `occurrence`, counted from 0, among the commands whose name
-  /// matches `name` (see normalize_command_name()), or a null pointer when there are not so many.
+  /// matches `name` (see normalize_command_name()), or a null pointer when there are fewer.
   /// The pointer is valid until a command is inserted or removed. Linear in the number of commands.
   KELP_QUILL_INP_EXPORT const HeaderCommand* find_command(std::string_view name,
                                                           std::uint64_t occurrence = 0) const;
@@ -220,7 +220,7 @@ struct QuillInput {
   KELP_QUILL_INP_EXPORT bool has_command(std::string_view name) const;
 
   /// Returns whether the document says what to compute: whether it has a command named `sp`, `opt`,
-  /// `ts`, `freq`, `irc` or `scan`, of whatever kind.
+  /// `ts`, `freq`, `irc` or `scan`, of any kind.
   KELP_QUILL_INP_EXPORT bool has_task_command() const;
 
   /// Returns the stored name of every command, in document order, repeated names included.
@@ -228,12 +228,12 @@ struct QuillInput {
 
   /// Returns the first command whose name matches `name`, unchanged; if there is none, appends a
   /// flag that stores `name` exactly as given and returns that. The reference is valid until a
-  /// command is inserted or removed. Should memory run out, the document is as before.
+  /// command is inserted or removed. If memory runs out, the document is not changed.
   KELP_QUILL_INP_EXPORT HeaderCommand& upsert_command(std::string name);
 
   /// Removes every command whose name matches `name`, or only the one that is number `occurrence`,
   /// counted from 0, among them. The others keep their order. Returns whether a command was
-  /// removed. `name` may point into the document. Should memory run out, the document is as before.
+  /// removed. `name` may point into the document. If memory runs out, the document is not changed.
   KELP_QUILL_INP_EXPORT bool remove_command(std::string_view name,
                                             std::optional<std::uint64_t> occurrence = std::nullopt);
 
@@ -245,8 +245,8 @@ struct QuillInput {
 
   /// Creates or truncates the file at `path` and writes the canonical text into it. Throws
   /// std::runtime_error, "Failed to open QUILL input for writing: " followed by `path`, when the
-  /// file cannot be opened. Errors after that, a full disk for one, are not reported: a caller who
-  /// must know writes the result of to_string() by its own means.
+  /// file cannot be opened. Later errors, such as a full disk, are not reported: a caller that must
+  /// know about them writes the result of to_string() itself.
   KELP_QUILL_INP_EXPORT void write_file(const std::string& path) const;
 };
 

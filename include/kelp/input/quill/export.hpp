@@ -3,7 +3,7 @@
 
 /// @file
 /// What makes a function part of the shared library's interface. The build defines
-/// KELP_QUILL_INP_STATIC for a static library and for those who link it, and CMake defines
+/// KELP_QUILL_INP_STATIC for a static library and for the programs that link it, and CMake defines
 /// kelp_quill_inp_EXPORTS while it compiles the shared one.
 
 /// Marks what the shared library offers; everything else in it is hidden.

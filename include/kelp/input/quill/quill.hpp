@@ -7,8 +7,8 @@
 ///     #include "kelp/input/quill/quill.hpp"
 ///
 /// @namespace kelp::input::quill
-/// Reading, looking up, editing, building and writing QUILL inputs. Nothing of the library stands
-/// outside this namespace but the macro KELP_QUILL_INP_EXPORT.
+/// Reading, looking up, editing, building and writing QUILL inputs. Everything in the library is
+/// in this namespace, except the macro KELP_QUILL_INP_EXPORT.
 
 #include "kelp/input/quill/builder.hpp"
 #include "kelp/input/quill/document.hpp"

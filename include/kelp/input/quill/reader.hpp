@@ -23,7 +23,7 @@
 
 namespace kelp::input::quill {
 
-/// What reading gives: the document, and how reading went.
+/// The result of reading: the document, and the problems that were found.
 struct ParseResult {
   /// Everything that could be read; an empty document when `ok` is false.
   QuillInput input;
@@ -40,7 +40,7 @@ struct ParseResult {
 
   ParseResult() = default;
 
-  /// Takes all members, in their order; without a second one, `ok` is false.
+  /// Takes all members, in their order; if `was_read` is not given, `ok` is false.
   ParseResult(QuillInput document, bool was_read = false, std::string failure = {},
               std::vector<std::string> diagnostics = {})
       : input(std::move(document)),
@@ -59,9 +59,9 @@ struct ParseResult {
 /// One pass; the cost is linear in the length of the text.
 KELP_QUILL_INP_EXPORT ParseResult parse_string(std::string_view text);
 
-/// Reads the file at `path` whole and returns parse_string() of its content. When the file cannot
-/// be opened or read (a directory, for one), `input` is an empty document, `ok` is false, `error`
-/// is "Failed to open QUILL input file: " followed by `path`, and there are no warnings.
+/// Reads the whole file at `path` and returns parse_string() of its content. When the file cannot
+/// be opened or read (a directory, for example), `input` is an empty document, `ok` is false,
+/// `error` is "Failed to open QUILL input file: " followed by `path`, and there are no warnings.
 KELP_QUILL_INP_EXPORT ParseResult parse_file(const std::string& path);
 
 }  // namespace kelp::input::quill

@@ -22,8 +22,8 @@ namespace kelp::chem::elements {
 std::string normalize_symbol(std::string_view symbol);
 
 /// Returns the atomic number, 1 to 118, of the element with exactly this symbol, or nothing when
-/// there is none. Letter case counts: "Cl" is chlorine, "CL" and "cl" are nothing. Takes constant
-/// time.
+/// there is none. Letter case matters: "Cl" is chlorine, and no element has the symbol "CL" or
+/// "cl". Takes constant time.
 std::optional<int> atomic_number_from_symbol(std::string_view symbol);
 
 }  // namespace kelp::chem::elements

@@ -1,7 +1,7 @@
 #ifndef KELP_CORE_GEOMETRY_HPP
 #define KELP_CORE_GEOMETRY_HPP
 
-// A molecule as the programs of the family hand it to one another: plain data, copied deeply.
+// A molecule in the form that the programs of the family exchange: plain data; a copy copies all.
 //
 //   const Geometry hydrogen{{{"H", 0.0, 0.0, 0.0}, {"H", 0.0, 0.0, 0.74}}};
 //
@@ -12,8 +12,8 @@
 
 namespace kelp::core {
 
-/// One atom: its element symbol and Cartesian coordinates. Neither the symbol's spelling nor the
-/// unit of the coordinates is fixed here; they are what the program that fills it says they are.
+/// One atom: its element symbol and Cartesian coordinates. The spelling of the symbol and the unit
+/// of the coordinates are not fixed here; the program that fills them in decides.
 struct Atom {
   std::string symbol;
   double x = 0.0;

@@ -11,10 +11,9 @@
 //   }
 //
 // White space is the blank, "\t", "\n", "\v", "\f" and "\r". Every other byte, NUL and those above
-// 0x7F included, is an ordinary character, so UTF-8 text passes through unharmed. Nothing is thrown
-// for any text, unless memory for a result runs out. Every function takes a time that is
-// linear in the length of its text. No function keeps any state; any number of threads may call
-// them at once.
+// 0x7F included, is an ordinary character, so UTF-8 text is not damaged. No text makes a function
+// throw; only running out of memory for a result does. The time that a function takes is linear in
+// the length of its text. No function keeps any state; any number of threads may call them at once.
 
 #include <string>
 #include <string_view>
@@ -22,8 +21,8 @@
 
 namespace kelp::core::text {
 
-/// Returns `text` without the white space at its two ends. White space inside it stays. A text of
-/// white space only gives the empty string.
+/// Returns `text` without the white space at its two ends. White space inside it stays. A text that
+/// is only white space gives the empty string.
 std::string trim(std::string_view text);
 
 /// Returns `text` with the letters "A" to "Z" in lower case and every other byte as it is.
@@ -38,7 +37,7 @@ std::vector<std::string> split_whitespace(std::string_view text);
 
 /// Returns the lines of `text`, in order and without their terminators. "\n" ends a line, and one
 /// "\r" right before it belongs to the terminator; any other "\r" is part of its line. Each line
-/// gives one element, empty ones included. A terminator at the very end starts no further line: ""
+/// gives one element, empty ones included. No line begins after a terminator at the very end: ""
 /// has no lines, "a" and "a\n" have one each, and "\n" has one, which is empty.
 std::vector<std::string> split_lines(std::string_view text);
 
@@ -55,9 +54,9 @@ bool try_parse_int(std::string_view token, int& value);
 /// white space in it and no hexadecimal form.
 ///
 /// The value is the double nearest to the number, of two equally near ones the even one, as long as
-/// the floating-point environment rounds to nearest. The sign is kept, of zero and NaN as well. A
-/// number of any number of digits is good. One too large for a double gives false; one too small
-/// for it gives the nearest subnormal or zero, and true.
+/// the floating-point environment rounds to nearest. Zero and NaN keep their sign too. A number may
+/// have any count of digits. A number too large for a double gives false; one too small for it
+/// gives the nearest subnormal or zero, and true.
 bool try_parse_double(std::string_view token, double& value);
 
 }  // namespace kelp::core::text

@@ -13,9 +13,9 @@
 #include "support/comparison.hpp"
 #include "support/printing.hpp"
 
-// What an editor makes of an empty document and what a builder makes are the same, whatever the
-// calls. The calls are drawn at random, from few names, so that they meet the traces of earlier
-// ones; a seed names each sequence, and the same seed gives the same sequence everywhere.
+// For any calls, an editor with an empty document and a builder give the same document. The calls
+// are random, with few names, so that they often change what earlier calls have stored; each
+// sequence has a seed, and the same seed gives the same sequence everywhere.
 
 namespace kelp::input::quill {
 
@@ -119,7 +119,7 @@ class Dice {
   std::mt19937 engine_;
 };
 
-/// The same call, ready for both doors.
+/// The same call, for the editor and for the builder.
 struct Step {
   std::function<void(InputEditor&)> edit;
   std::function<void(InputBuilder&)> build;
@@ -138,22 +138,22 @@ Step draw_header_step(Dice& dice, std::size_t operation) {
   const std::vector<CommandParameter> parameters = dice.parameters();
   switch (operation) {
     case 0:
-      return step([=](auto& door) { door.set_task(name, parameters); });
+      return step([=](auto& author) { author.set_task(name, parameters); });
     case 1:
       return {[=](InputEditor& editor) { editor.set_parameter(name, key, value, 0); },
               [=](InputBuilder& builder) { builder.set_task_parameter(name, key, value); }};
     case 2:
-      return step([=](auto& door) { door.set_model(value); });
+      return step([=](auto& author) { author.set_model(value); });
     case 3:
-      return step([=](auto& door) { door.set_device(value); });
+      return step([=](auto& author) { author.set_device(value); });
     case 4:
-      return step([=](auto& door) { door.set_assignment(name, value); });
+      return step([=](auto& author) { author.set_assignment(name, value); });
     case 5:
-      return step([=](auto& door) { door.set_flag(name); });
+      return step([=](auto& author) { author.set_flag(name); });
     case 6:
-      return step([=](auto& door) { door.add_command(command); });
+      return step([=](auto& author) { author.add_command(command); });
     default:
-      return step([=](auto& door) { door.add_command(HeaderCommand(command)); });
+      return step([=](auto& author) { author.add_command(HeaderCommand(command)); });
   }
 }
 
@@ -168,23 +168,23 @@ Step draw_geometry_step(Dice& dice, std::size_t operation) {
   const kelp::core::Atom core_atom = dice.core_atom();
   switch (operation) {
     case 0:
-      return step([=](auto& door) { door.set_charge_and_multiplicity(charge, multiplicity); });
+      return step([=](auto& author) { author.set_charge_and_multiplicity(charge, multiplicity); });
     case 1:
-      return step([](auto& door) { door.clear_charge_and_multiplicity(); });
+      return step([](auto& author) { author.clear_charge_and_multiplicity(); });
     case 2:
-      return step([=](auto& door) { door.set_geometry(atoms); });
+      return step([=](auto& author) { author.set_geometry(atoms); });
     case 3:
-      return step([=](auto& door) { door.set_geometry(core_geometry); });
+      return step([=](auto& author) { author.set_geometry(core_geometry); });
     case 4:
-      return step([=](auto& door) { door.add_atom(atom); });
+      return step([=](auto& author) { author.add_atom(atom); });
     case 5:
-      return step([=](auto& door) { door.add_atom(core_atom); });
+      return step([=](auto& author) { author.add_atom(core_atom); });
     case 6:
-      return step([=](auto& door) { door.set_xyz_files(files); });
+      return step([=](auto& author) { author.set_xyz_files(files); });
     case 7:
-      return step([=](auto& door) { door.set_xyz_file(path); });
+      return step([=](auto& author) { author.set_xyz_file(path); });
     default:
-      return step([=](auto& door) { door.set_xyz_trajectory(path); });
+      return step([=](auto& author) { author.set_xyz_trajectory(path); });
   }
 }
 
@@ -199,21 +199,21 @@ Step draw_post_step(Dice& dice, std::size_t operation) {
   const PostCommand command = dice.post_command();
   switch (operation) {
     case 0:
-      return step([=](auto& door) { door.add_atom_constraint(a); });
+      return step([=](auto& author) { author.add_atom_constraint(a); });
     case 1:
-      return step([=](auto& door) { door.add_bond_constraint(a, b); });
+      return step([=](auto& author) { author.add_bond_constraint(a, b); });
     case 2:
-      return step([=](auto& door) { door.add_angle_constraint(a, b, c); });
+      return step([=](auto& author) { author.add_angle_constraint(a, b, c); });
     case 3:
-      return step([=](auto& door) { door.add_dihedral_constraint(a, b, c, d); });
+      return step([=](auto& author) { author.add_dihedral_constraint(a, b, c, d); });
     case 4:
-      return step([=](auto& door) { door.add_scan(numbers, value, a); });
+      return step([=](auto& author) { author.add_scan(numbers, value, a); });
     case 5:
-      return step([=](auto& door) { door.set_post_file(path); });
+      return step([=](auto& author) { author.set_post_file(path); });
     case 6:
-      return step([=](auto& door) { door.add_post_command(command); });
+      return step([=](auto& author) { author.add_post_command(command); });
     default:
-      return step([=](auto& door) { door.add_post_command(PostCommand(command)); });
+      return step([=](auto& author) { author.add_post_command(PostCommand(command)); });
   }
 }
 
@@ -229,9 +229,9 @@ Step draw_step(Dice& dice, std::size_t operation) {
   return draw_post_step(dice, operation - header_operations - geometry_operations);
 }
 
-class BothDoors : public testing::TestWithParam<std::uint32_t> {};
+class EditorAndBuilder : public testing::TestWithParam<std::uint32_t> {};
 
-TEST_P(BothDoors, LeadToTheSameDocumentAfterEveryStep) {
+TEST_P(EditorAndBuilder, HaveTheSameDocumentAfterEveryStep) {
   constexpr std::uint32_t sequences = 40;
   constexpr int steps = 30;
   for (std::uint32_t seed = GetParam(); seed < GetParam() + sequences; ++seed) {
@@ -251,9 +251,9 @@ TEST_P(BothDoors, LeadToTheSameDocumentAfterEveryStep) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, BothDoors, testing::Range(1U, 401U, 40U));
+INSTANTIATE_TEST_SUITE_P(Seeds, EditorAndBuilder, testing::Range(1U, 401U, 40U));
 
-TEST(BothDoorsInTurn, TakeEveryOperationThroughEachDoor) {
+TEST(EditorAndBuilderInTurn, MakeEveryOperation) {
   Dice dice(0);
   for (std::size_t operation = 0; operation < operations; ++operation) {
     InputEditor editor{QuillInput()};
