@@ -23,13 +23,14 @@ bool is_letter(char c) { return std::isalpha(static_cast<unsigned char>(c)) != 0
 
 bool is_blank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
 
-/// Reads four tokens as those of an atom, the symbol aside, and returns how many of them fit, from
-/// the first on.
-std::size_t read_atom_tokens(const std::vector<std::string>& tokens, AtomRecord& atom) {
-  if (!std::all_of(tokens[0].begin(), tokens[0].end(), is_letter)) return 0;
-  if (!text::try_parse_double(tokens[1], atom.x)) return 1;
-  if (!text::try_parse_double(tokens[2], atom.y)) return 2;
-  return text::try_parse_double(tokens[3], atom.z) ? atom_tokens : 3;
+bool is_symbol(const std::string& token) {
+  return std::all_of(token.begin(), token.end(), is_letter);
+}
+
+/// Returns whether a token is one that an atom line may have in this place.
+bool is_atom_token(const std::string& token, std::size_t place) {
+  double number = 0.0;
+  return place == 0 ? is_symbol(token) : text::try_parse_double(token, number);
 }
 
 /// Only blanks come between two tokens, so the first place where a token is found is its own.
@@ -71,7 +72,11 @@ bool parse_xyz_reference(std::string_view line, std::string& keyword, std::strin
 // atom-line = letters number number number
 bool parse_atom_line(std::string_view line, AtomRecord& atom) {
   const std::vector<std::string> tokens = text::split_whitespace(line);
-  if (tokens.size() != atom_tokens || read_atom_tokens(tokens, atom) != atom_tokens) return false;
+  if (tokens.size() != atom_tokens) return false;
+  if (!is_symbol(tokens[0])) return false;
+  if (!text::try_parse_double(tokens[1], atom.x)) return false;
+  if (!text::try_parse_double(tokens[2], atom.y)) return false;
+  if (!text::try_parse_double(tokens[3], atom.z)) return false;
   atom.symbol = elements::normalize_symbol(tokens[0]);
   return true;
 }
@@ -86,10 +91,10 @@ std::optional<std::string_view> find_token_unlike_an_atom(std::string_view line)
   const std::vector<std::string> tokens = text::split_whitespace(line);
   if (tokens.size() > atom_tokens) return view_of_token(line, tokens, atom_tokens);
   if (tokens.size() < atom_tokens) return line.substr(line.size());
-  AtomRecord atom;
-  const std::size_t fitting = read_atom_tokens(tokens, atom);
-  if (fitting == atom_tokens) return std::nullopt;
-  return view_of_token(line, tokens, fitting);
+  for (std::size_t i = 0; i < atom_tokens; ++i) {
+    if (!is_atom_token(tokens[i], i)) return view_of_token(line, tokens, i);
+  }
+  return std::nullopt;
 }
 
 std::string rest_after_first_word(std::string_view text) {

@@ -8,11 +8,12 @@ LineCursor::LineCursor(std::string_view text) : lines_(core::text::split_lines(t
   skip_blank_lines();
 }
 
-void LineCursor::take(LineRole role, std::optional<std::size_t> index) {
-  if (records_ != nullptr) {
-    records_[index_].role = role;
-    records_[index_].index = index;
-  }
+void LineCursor::note(LineRole role, std::optional<std::size_t> index) {
+  records_[index_].role = role;
+  records_[index_].index = index;
+}
+
+void LineCursor::advance() {
   ++index_;
   skip_blank_lines();
 }

@@ -42,9 +42,14 @@ class LineCursor {
 
   /// Takes the line for what it was read as, and moves on to the next line that is not blank, or to
   /// the end. `index` is the position in the list that `role` names. Not to be called at the end.
-  void take(LineRole role, std::optional<std::size_t> index = std::nullopt);
+  void take(LineRole role, std::optional<std::size_t> index = std::nullopt) {
+    if (records_ != nullptr) note(role, index);
+    advance();
+  }
 
  private:
+  void note(LineRole role, std::optional<std::size_t> index);
+  void advance();
   void skip_blank_lines();
 
   std::vector<std::string> lines_;
