@@ -20,6 +20,7 @@ struct PostLineShape {
   std::size_t most_tokens;
   std::string_view noun;
   std::string_view article;  // of the noun; empty where it takes none
+  std::string_view subject;  // what a constraint holds; empty for other kinds
   std::string_view name;     // of the kind, in JSON
   const char* option;        // of the command line, that makes such a line
   const char* placeholder;   // for the value of the option
@@ -36,19 +37,19 @@ struct PostLineShape {
 inline constexpr std::size_t any_number_of_tokens = std::numeric_limits<std::size_t>::max();
 
 inline constexpr std::array<PostLineShape, 7> post_line_shapes = {{
-    {"B", PostCommandKind::BondConstraint, 3, 3, "bond constraint", "a", "bond_constraint",
+    {"B", PostCommandKind::BondConstraint, 3, 3, "bond constraint", "a", "bond", "bond_constraint",
      "--bond", "I,J", "Hold the distance of two atoms"},
-    {"A", PostCommandKind::AngleConstraint, 4, 4, "angle constraint", "an", "angle_constraint",
-     "--angle", "I,J,K", "Hold the angle of three atoms"},
-    {"D", PostCommandKind::DihedralConstraint, 5, 5, "dihedral constraint", "a",
+    {"A", PostCommandKind::AngleConstraint, 4, 4, "angle constraint", "an", "angle",
+     "angle_constraint", "--angle", "I,J,K", "Hold the angle of three atoms"},
+    {"D", PostCommandKind::DihedralConstraint, 5, 5, "dihedral constraint", "a", "dihedral",
      "dihedral_constraint", "--dihedral", "I,J,K,L", "Hold the dihedral of four atoms"},
-    {"C", PostCommandKind::AtomConstraint, 2, 2, "atom constraint", "an", "atom_constraint",
+    {"C", PostCommandKind::AtomConstraint, 2, 2, "atom constraint", "an", "atom", "atom_constraint",
      "--atom", "I", "Hold the place of an atom"},
-    {"S", PostCommandKind::Scan, 5, 7, "scan", "a", "scan", "--scan", "I,J[,K[,L]]:VALUE:STEPS",
+    {"S", PostCommandKind::Scan, 5, 7, "scan", "a", "", "scan", "--scan", "I,J[,K[,L]]:VALUE:STEPS",
      "Scan a distance, angle or dihedral"},
-    {"POST", PostCommandKind::PostFile, 2, any_number_of_tokens, "post file", "a", "post_file",
+    {"POST", PostCommandKind::PostFile, 2, any_number_of_tokens, "post file", "a", "", "post_file",
      "--post", "PATH", "Name a post-processing file"},
-    {"", PostCommandKind::Raw, 0, any_number_of_tokens, "raw text", "", "raw", "--raw", "TEXT",
+    {"", PostCommandKind::Raw, 0, any_number_of_tokens, "raw text", "", "", "raw", "--raw", "TEXT",
      "Add a line of text as it is"},
 }};
 

@@ -4,6 +4,7 @@
 #include "kelp/input/quill/writer.hpp"
 #include "lossless_edit/quoting.hpp"
 #include "lossless_edit/wording.hpp"
+#include "model/post_line_shapes.hpp"
 #include "quill-inp/summary/command_roles.hpp"
 #include "quill-inp/summary/composition.hpp"
 #include "quill-inp/summary/summary.hpp"
@@ -74,22 +75,28 @@ void add_geometry(Rows& rows, const GeometryBlock& geometry) {
   for (const std::string& path : geometry.xyz_files) rows.add("file", path);
 }
 
-/// Returns what this number of atoms have between them.
-std::string_view coordinate_of(std::size_t atoms) {
-  constexpr std::string_view names[] = {"atom", "bond", "angle", "dihedral"};
-  return 1 <= atoms && atoms <= 4 ? names[atoms - 1] : std::string_view("atoms");
+/// Returns what a scan of this number of atoms changes.
+std::string_view scanned(std::size_t atoms) {
+  constexpr std::string_view names[] = {"bond", "angle", "dihedral"};
+  return 2 <= atoms && atoms <= 4 ? names[atoms - 2] : std::string_view("atoms");
 }
 
-std::string describe_atoms(const std::vector<std::int32_t>& numbers) {
-  return std::string(coordinate_of(numbers.size())) + " " + lossless_edit::joined(numbers);
+std::string describe_atoms(std::string_view subject, const std::vector<std::int32_t>& numbers) {
+  return std::string(subject) + " " + lossless_edit::joined(numbers);
 }
 
 std::string describe_scan(const PostCommand& scan) {
-  std::string text = describe_atoms(scan.atom_indices);
+  std::string text = describe_atoms(scanned(scan.atom_indices.size()), scan.atom_indices);
   if (scan.scan_value) text += ", value " + lossless_edit::shortest_text(*scan.scan_value);
   if (scan.scan_steps)
     text += ", " + std::to_string(*scan.scan_steps) + (*scan.scan_steps == 1 ? " step" : " steps");
   return text;
+}
+
+void add_constraint(Rows& rows, const PostCommand& command) {
+  const PostLineShape* shape = find_post_line_shape(command.kind);
+  const std::string_view subject = shape == nullptr ? std::string_view("unknown") : shape->subject;
+  rows.add("constraint", describe_atoms(subject, command.atom_indices));
 }
 
 void add_post_command(Rows& rows, const PostCommand& command) {
@@ -104,7 +111,7 @@ void add_post_command(Rows& rows, const PostCommand& command) {
       rows.add("raw line", command.raw_text);
       return;
     default:
-      rows.add("constraint", describe_atoms(command.atom_indices));
+      add_constraint(rows, command);
   }
 }
 
