@@ -38,14 +38,14 @@ void read_charge_and_multiplicity(LineCursor& cursor, GeometryBlock& geometry) {
 /// Takes a reference line, which may have no path.
 void take_reference(LineCursor& cursor, LineRole role, std::string&& path,
                     std::string_view complaint, ParseResult& result) {
-  std::vector<std::string>& paths = result.input.geometry.xyz_files;
   if (path.empty()) {
     result.warnings.push_back(line_diagnostic(cursor.number(), complaint));
     cursor.take(role);
-  } else {
-    paths.push_back(std::move(path));
-    cursor.take(role, paths.size() - 1);
+    return;
   }
+  std::vector<std::string>& paths = result.input.geometry.xyz_files;
+  paths.push_back(std::move(path));
+  cursor.take(role, paths.size() - 1);
 }
 
 void read_trajectory(LineCursor& cursor, std::string path, ParseResult& result) {

@@ -40,6 +40,7 @@ enum class LineRole {
 /// One line of a text. Its content is `length` bytes from `offset` on, and its line end the
 /// `terminator_length` bytes after that.
 struct LineRecord {
+  /// What the reader made of the line.
   LineRole role = LineRole::Blank;
 
   /// The position in the list that `role` names, counted from 0. Empty for roles without a list
