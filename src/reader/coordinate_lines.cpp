@@ -81,12 +81,6 @@ bool parse_atom_line(std::string_view line, AtomRecord& atom) {
   return true;
 }
 
-std::optional<AtomRecord> parse_atom_line(std::string_view line) {
-  std::optional<AtomRecord> atom(std::in_place);
-  if (!parse_atom_line(line, *atom)) atom.reset();
-  return atom;
-}
-
 std::optional<std::string_view> find_token_unlike_an_atom(std::string_view line) {
   const std::vector<std::string> tokens = text::split_whitespace(line);
   if (tokens.size() > atom_tokens) return view_of_token(line, tokens, atom_tokens);

@@ -28,13 +28,11 @@ std::optional<ChargeAndMultiplicity> parse_charge_and_multiplicity(std::string_v
 /// left as they were.
 bool parse_xyz_reference(std::string_view line, std::string& keyword, std::string& path);
 
-/// Reads a line of exactly four tokens, a symbol made of letters and three numbers. The symbol is
-/// returned in its normal spelling and need not be an element's. Any other line gives nothing.
-std::optional<AtomRecord> parse_atom_line(std::string_view line);
-
-/// The same into an atom that was just made; returns whether the line is one of an atom, and if
-/// not, leaves something in it that is of no use. Spares a reader of many lines two moves for each:
-/// an atom that has been written byte by byte is slow to move at once.
+/// Reads a line of exactly four tokens, a symbol made of letters and three numbers, into an atom
+/// that was just made. The symbol is stored in its normal spelling and need not be an element's.
+/// Returns whether the line is one of an atom; if it is not, what is left in `atom` has no meaning.
+/// The atom is not returned, because one that has been written byte by byte is slow to move at
+/// once.
 bool parse_atom_line(std::string_view line, AtomRecord& atom);
 
 /// Returns the token because of which a line is not one of an atom, as a view of it: the fifth one

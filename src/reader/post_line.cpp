@@ -57,10 +57,4 @@ bool parse_post_line(std::string_view line, PostCommand& command) {
   return parse_fields(tokens, command);
 }
 
-std::optional<PostCommand> parse_post_line(std::string_view line) {
-  std::optional<PostCommand> command(std::in_place);
-  if (!parse_post_line(line, *command)) command.reset();
-  return command;
-}
-
 }  // namespace kelp::input::quill

@@ -10,6 +10,7 @@
 #include "reader/header_line.hpp"
 #include "reader/post_line.hpp"
 #include "support/comparison.hpp"
+#include "support/read_line.hpp"
 
 namespace kelp::input::quill {
 
@@ -60,8 +61,8 @@ void check_line_readers(std::string_view line, std::string_view expected) {
   check_header_line(line, expected);
   check_charge_line(line, expected);
   check_reference_line(line, expected);
-  require(parse_atom_line(line) == obvious::atom_line(expected), "the atom is right", line);
-  require(parse_post_line(line) == obvious::post_line(expected), "the post command is right", line);
+  require(read_atom_line(line) == obvious::atom_line(expected), "the atom is right", line);
+  require(read_post_line(line) == obvious::post_line(expected), "the post command is right", line);
 }
 
 }  // namespace kelp::input::quill

@@ -12,6 +12,7 @@
 
 #include "support/comparison.hpp"
 #include "support/printing.hpp"
+#include "support/read_line.hpp"
 
 namespace kelp::input::quill {
 namespace {
@@ -155,7 +156,7 @@ void PrintTo(const AtomRow& row, std::ostream* out) { *out << testing::PrintToSt
 
 class AtomLine : public testing::TestWithParam<AtomRow> {};
 
-TEST_P(AtomLine, IsReadAs) { EXPECT_EQ(parse_atom_line(GetParam().line), GetParam().atom); }
+TEST_P(AtomLine, IsReadAs) { EXPECT_EQ(read_atom_line(GetParam().line), GetParam().atom); }
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
@@ -250,7 +251,7 @@ TEST(AtomSymbol, IsMadeOfTheLettersAToZAndOfNoOtherByte) {
   for (int byte = 0; byte < 256; ++byte) {
     const std::string c(1, static_cast<char>(byte));
     for (const std::string& symbol : {c, "C" + c + "e"}) {
-      EXPECT_EQ(parse_atom_line(symbol + " 0 0 0").has_value(), is_ascii_letter(byte))
+      EXPECT_EQ(read_atom_line(symbol + " 0 0 0").has_value(), is_ascii_letter(byte))
           << "byte " << byte << " in " << testing::PrintToString(symbol);
     }
   }

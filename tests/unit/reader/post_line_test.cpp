@@ -10,6 +10,7 @@
 
 #include "support/comparison.hpp"
 #include "support/printing.hpp"
+#include "support/read_line.hpp"
 
 namespace kelp::input::quill {
 namespace {
@@ -44,7 +45,7 @@ PostCommand raw(std::string line) { return constraint(Kind::Raw, {}, std::move(l
 
 class PostLine : public testing::TestWithParam<Row> {};
 
-TEST_P(PostLine, IsReadAs) { EXPECT_EQ(parse_post_line(GetParam().line), GetParam().command); }
+TEST_P(PostLine, IsReadAs) { EXPECT_EQ(read_post_line(GetParam().line), GetParam().command); }
 
 const Row constraints[] = {
     {"OneAtom", "C 3", constraint(Kind::AtomConstraint, {3}, "C 3")},
@@ -138,11 +139,11 @@ void PrintTo(const RawRow& row, std::ostream* out) { *out << testing::PrintToStr
 class RawLine : public testing::TestWithParam<RawRow> {};
 
 TEST_P(RawLine, IsKeptAsItStands) {
-  EXPECT_EQ(parse_post_line(GetParam().line), raw(GetParam().line));
+  EXPECT_EQ(read_post_line(GetParam().line), raw(GetParam().line));
 }
 
 TEST_P(RawLine, LosesItsOuterBlanks) {
-  EXPECT_EQ(parse_post_line(" \t" + GetParam().line + " \v\f\r\n"), raw(GetParam().line));
+  EXPECT_EQ(read_post_line(" \t" + GetParam().line + " \v\f\r\n"), raw(GetParam().line));
 }
 
 const RawRow wrong_counts[] = {
