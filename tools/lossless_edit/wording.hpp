@@ -30,8 +30,8 @@ std::string_view noun_of(PostCommandKind kind);
 std::string words(const Difference& difference);
 
 /// Returns why a proof does not hold, without a full stop: "line 14 would be read as an atom of
-/// element A, not as an angle constraint; another post-processing line before it avoids that".
-/// `wanted` is the document that was to be proved.
+/// element A, not as an angle constraint; put another post-processing line before it to avoid
+/// that". `wanted` is the document that was to be proved.
 std::string words(const Proof& proof, const QuillInput& wanted);
 
 /// Returns why a piece of a header command cannot be written.

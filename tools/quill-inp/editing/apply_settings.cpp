@@ -49,7 +49,7 @@ class Settings {
   void set_special(const Setting& setting, SpecialKey key) {
     if (key != SpecialKey::Charge && key != SpecialKey::Multiplicity) {
       throw UsageError("'" + setting.key_text +
-                       "' cannot be set by a value; use --atoms, --xyz or --trajectory");
+                       "' cannot be set to a value; use --atoms, --xyz or --trajectory");
     }
     if (!setting.value)
       throw UsageError("'" + setting.key_text + "' cannot be set without a value");

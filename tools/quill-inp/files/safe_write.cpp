@@ -47,8 +47,8 @@ void require_one_name(const Target& target, const ReplaceOptions& options) {
   const auto names = target.origin.state.st_nlink;
   if (names > 1 && !options.breaks_hard_links) {
     throw Trouble("has " + std::to_string(names) +
-                  " names (hard links), of which only this one would get the new text; "
-                  "--break-hard-links accepts that");
+                  " names (hard links), and only this one would get the new text; "
+                  "use --break-hard-links to accept that");
   }
 }
 
@@ -105,7 +105,7 @@ struct Backup {
 void place(Backup& backup) {
   if (!backup.file.take_free_name(backup.name)) {
     throw Trouble("the backup '" + backup.name +
-                  "' exists already, and would be lost; --backup=SUFFIX gives another name");
+                  "' exists already and would be lost; use --backup=SUFFIX for another name");
   }
 }
 

@@ -69,7 +69,7 @@ std::int32_t read_integer(const JsonPlace& place) {
   // A double holds every integer of this size exactly, and 2.0 is an integer in JSON.
   const bool is_integer =
       std::trunc(number) == number && Limits::min() <= number && number <= Limits::max();
-  if (!is_integer) throw_expected(place, "an integer of 32 bits");
+  if (!is_integer) throw_expected(place, "a 32-bit integer");
   return static_cast<std::int32_t>(number);
 }
 

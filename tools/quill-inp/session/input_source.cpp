@@ -30,7 +30,7 @@ std::string_view kind_of_file(mode_t mode) {
 
 [[noreturn]] void throw_not_regular(mode_t mode) {
   throw Trouble("is " + std::string(kind_of_file(mode)) +
-                ", not a regular file; '-' reads standard input");
+                ", not a regular file; use '-' to read standard input");
 }
 
 struct Free {
@@ -72,8 +72,8 @@ void require_regular(const struct stat& state, std::uint64_t limit) {
 void require_apart_from_output(Session& session, const struct stat& state) {
   if (session.output().goes_into(state)) {
     throw Trouble(
-        "is also the standard output; redirect that to another file (fmt, set, unset and add have "
-        "--in-place)");
+        "is also where standard output goes; write to another file, or use --in-place with fmt, "
+        "set, unset or add");
   }
 }
 

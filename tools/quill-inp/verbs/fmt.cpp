@@ -60,7 +60,7 @@ ExitCode fmt(Session& session, const CLI::App& app) {
 }  // namespace
 
 Verb add_fmt(CLI::App& program) {
-  CLI::App* app = add_verb(program, "fmt", "Lay inputs out in the canonical way", example);
+  CLI::App* app = add_verb(program, "fmt", "Format inputs in the canonical layout", example);
   add_arguments(*app, files);
   add_delivery_options(*app, CheckOption::Present);
   add_loss_options(*app);

@@ -24,13 +24,14 @@ constexpr const char* example =
     "Example:\n"
     "  quill-inp unset -i water.qin opt.tight device\n"
     "\n"
-    "KEY is as for 'get'. COMMAND removes every command of the name, COMMAND[N] one of them,\n"
-    "COMMAND.PARAMETER a parameter of the first one, given twice also the second parameter of the\n"
-    "name; @charge or @multiplicity the line that has both. When a key has no match, nothing is\n"
+    "KEY has the same form as for 'get'. COMMAND removes every command with that name,\n"
+    "COMMAND[N] only one of them, COMMAND.PARAMETER a parameter of the first one. Where a\n"
+    "command has two parameters with the same name, give the key twice to remove both. @charge\n"
+    "or @multiplicity removes the line with both numbers. When a key has no match, nothing is\n"
     "removed and the exit code is 1.";
 
 constexpr Option file{"FILE", "", "The input"};
-constexpr Option keys{"KEY", "", "What to remove, all or nothing"};
+constexpr Option keys{"KEY", "", "What to remove; either all of it is removed or nothing"};
 
 using lossless_edit::TrackedDocument;
 
