@@ -253,8 +253,7 @@ const Row rows[] = {
 /// The words for all that differs from the sample.
 std::vector<std::string> words_of(const Comparison& comparison) {
   std::vector<std::string> all;
-  for (const Difference& difference : comparison.differences)
-    all.push_back(words(difference));
+  for (const Difference& difference : comparison.differences) all.push_back(words(difference));
   return all;
 }
 
@@ -351,8 +350,7 @@ TEST(NumberChanges, AreCountedOverTheWholeDocument) {
   found.geometry.atoms[1].z += 0.125;
   found.post_commands[0].scan_value = 1.75;
   const Comparison comparison = compare(sample(), found, 0.25);
-  EXPECT_THAT(words_of(comparison),
-              testing::ElementsAre("y of atom 2 is -2.5 instead of -2"));
+  EXPECT_THAT(words_of(comparison), testing::ElementsAre("y of atom 2 is -2.5 instead of -2"));
   EXPECT_EQ(comparison.number_changes.count, 4U);
   EXPECT_EQ(comparison.number_changes.largest, 0.5);
 }
