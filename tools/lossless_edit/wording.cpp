@@ -99,7 +99,7 @@ std::string owner_of(const Difference& difference) {
   }
 }
 
-/// What comes before the owner of a member, in the order of the enumeration. The members of the
+/// The words before the owner of a member, in the order of the enumeration. The members of the
 /// document as a whole have no owner.
 constexpr std::string_view member_words[] = {
     "the number of header commands",

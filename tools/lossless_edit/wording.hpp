@@ -12,8 +12,8 @@
 #include "lossless_edit/quoting.hpp"
 
 // The words for people: for the parts of a document, for what differs and for what cannot be
-// written. Everything else passes facts on, and words are made of them last. Texts hold bytes of
-// documents as they are: whoever shows them on a terminal escapes them.
+// written. All other files pass facts on; only the words here are for reading. They hold bytes of
+// documents unchanged, and have to be escaped before they are shown on a terminal.
 
 namespace kelp::input::quill::lossless_edit {
 
@@ -43,7 +43,7 @@ std::string in_apostrophes(std::string_view text);
 /// Returns the shortest decimal text that reads back as exactly this number.
 std::string shortest_text(double number);
 
-/// Returns the number with two significant digits, for telling its size.
+/// Returns the number with two significant digits.
 std::string rounded_text(double number);
 
 /// Returns the numbers with single blanks between them.

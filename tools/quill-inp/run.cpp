@@ -66,13 +66,13 @@ std::vector<std::string> option_names(const CLI::App& app) {
   return names;
 }
 
-/// Returns what CLI11 complains about an option whose value is missing, in words of this program.
+/// Returns the message of CLI11 about an option without its value, in the words of this program.
 std::string describe(const CLI::ArgumentMismatch& error) {
   const std::string text = error.what();
   return text.substr(0, text.find_first_of(": ")) + " needs a value";
 }
 
-/// Throws UsageError for what is left over on a part of the command line.
+/// Throws UsageError for arguments that no option or verb has taken.
 void refuse_leftovers(const CLI::App& app) {
   for (const std::string& leftover : app.remaining()) {
     const std::string argument = unmarked(leftover);

@@ -35,7 +35,7 @@ struct SizeUnit {
 
 constexpr SizeUnit size_units[] = {{"", 0}, {"KiB", 10}, {"MiB", 20}, {"GiB", 30}};
 
-/// Far more than any memory holds, and far enough from the end of the range to be added to.
+/// Larger than any memory, and small enough that other sizes can be added without overflow.
 constexpr std::uint64_t largest_size = std::numeric_limits<std::uint64_t>::max() / 4;
 
 /// size = digits [ "KiB" / "MiB" / "GiB" ]

@@ -32,7 +32,7 @@ void warn_of_unknown_elements(Session& session, const std::string& name,
   }
 }
 
-/// An option that takes any number of paths takes a setting after them for one, too.
+/// An option that takes any number of paths would take a setting after them as a path, too.
 const std::string& require_path(const Option& option, const std::string& text) {
   if (text.find('=') < text.find('/')) {
     throw UsageError(

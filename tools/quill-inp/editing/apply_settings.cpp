@@ -14,7 +14,7 @@ namespace {
 
 using lossless_edit::TrackedDocument;
 
-/// Makes one setting after another and collects what there is to say about them.
+/// Makes one setting after another and collects what to report about them.
 class Settings {
  public:
   explicit Settings(TrackedDocument& document) : document_(document) {}
@@ -101,7 +101,7 @@ class Settings {
     document_.set_task(key.command, std::move(parameters));
   }
 
-  /// The editor knows only the first command of a name where whole commands are set.
+  /// The editor can set a whole command only if it is the first one with its name.
   static void require_first(const Setting& setting, const CommandKey& key) {
     if (key.occurrence.value_or(0) > 0) {
       throw UsageError("'" + setting.key_text +

@@ -18,7 +18,7 @@ constexpr Option allow_loss{"--allow-loss", "",
 constexpr Option max_change{"--max-change", "NUMBER",
                             "Accept rounding by up to this number (default 1e-6)"};
 
-// A text in which nearly everything differs needs no line for every number.
+// If nearly everything in a text differs, a message for every number would be of no use.
 constexpr std::size_t most_losses_told = 20;
 
 double parse_max_change(const std::string& text) {

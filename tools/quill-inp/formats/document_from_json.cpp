@@ -17,7 +17,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// A JSON value and the way to it from the outermost object, for messages.
+/// A JSON value and the path to it from the outermost object, for messages.
 struct JsonPlace {
   const Json& value;
   std::string path;
@@ -39,7 +39,7 @@ JsonPlace entry(const JsonPlace& place, std::size_t index) {
   return {place.value[index], place.path + "/" + std::to_string(index)};
 }
 
-/// Sees to it that the value is an object with these members only.
+/// Throws unless the value is an object with no other members than these.
 void require_object(const JsonPlace& place, const std::vector<std::string>& names) {
   if (!place.value.is_object()) throw_expected(place, "an object");
   for (const auto& item : place.value.items()) {
@@ -102,7 +102,7 @@ std::vector<Entry> read_list(const JsonPlace& place, Entry (*read_entry)(const J
   return entries;
 }
 
-/// Reads a member into `target`, which stays as it is when there is no such member.
+/// Reads a member into `target`, which is unchanged when there is no such member.
 template <typename Target, typename Value>
 void read_optional(const JsonPlace& place, const std::string& name, Target& target,
                    Value (*read)(const JsonPlace&)) {

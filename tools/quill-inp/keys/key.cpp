@@ -31,7 +31,7 @@ constexpr std::string_view escapable = ".[]=@\\";
                    std::string(key_grammar()));
 }
 
-/// Walks over a key. Inside a piece, a backslash takes the meaning from the character after it.
+/// Walks over a key. In a name, a character after a backslash has no special meaning.
 class KeyCursor {
  public:
   explicit KeyCursor(std::string_view text) : text_(text) {}
@@ -44,7 +44,7 @@ class KeyCursor {
     return true;
   }
 
-  /// Returns the characters up to one that has a meaning.
+  /// Returns the characters up to the next one with a special meaning.
   std::string piece() {
     std::string piece;
     for (; !at_end() && !is_special(text_[position_]); ++position_) {

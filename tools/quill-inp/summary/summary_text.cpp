@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t label_width = 14;
 
-/// Rows of a label and what it is about.
+/// Rows of a label and a text.
 class Rows {
  public:
   void add(std::string_view label, std::string_view text) {
@@ -33,7 +33,7 @@ class Rows {
   std::string text_;
 };
 
-/// Returns a command as it would stand in a file, with quotes where they are needed.
+/// Returns a command as it would be in a file, with quotes where they are needed.
 std::string header_line(const HeaderCommand& command) {
   return to_string(lossless_edit::quote(command).command);
 }
@@ -74,7 +74,7 @@ void add_geometry(Rows& rows, const GeometryBlock& geometry) {
   for (const std::string& path : geometry.xyz_files) rows.add("file", path);
 }
 
-/// Returns what this number of atoms have between them.
+/// Returns the name for what this number of atoms defines.
 std::string_view coordinate_of(std::size_t atoms) {
   constexpr std::string_view names[] = {"atom", "bond", "angle", "dihedral"};
   return 1 <= atoms && atoms <= 4 ? names[atoms - 1] : std::string_view("atoms");

@@ -23,8 +23,8 @@ constexpr const char* example =
 
 constexpr Option files{"FILE", "", "The inputs"};
 
-/// Returns what the lines of the text say and the document does not hold: the canonical text is
-/// made of the document alone.
+/// Returns what the lines of the text say and the document does not hold. The canonical text is
+/// made only from the document.
 std::vector<LineLoss> list_line_losses(const lossless_edit::ReadText& read) {
   std::vector<LineLoss> losses;
   for (std::size_t i = 0; i < read.lines.size(); ++i) {

@@ -24,8 +24,8 @@ constexpr const char* example =
 constexpr Option file{"FILE", "", "The input"};
 constexpr Option keys{"KEY", "", "What to print, in this order"};
 
-/// Prints the answers to all keys, or nothing when one has none: a script that reads the lines can
-/// rely on which of them is which.
+/// Prints the answers to all keys, or nothing when one key has no answer: a script that reads the
+/// lines can rely on their order.
 ExitCode get_from_file(Session& session, const std::string& argument,
                        const std::vector<std::string>& texts) {
   std::vector<Key> parsed;
