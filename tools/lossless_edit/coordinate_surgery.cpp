@@ -10,7 +10,7 @@ namespace kelp::input::quill::lossless_edit {
 
 namespace {
 
-/// How many lines the geometry takes, charge and multiplicity aside.
+/// How many lines the geometry takes, without the line of charge and multiplicity.
 std::size_t count_parts(const GeometryBlock& geometry) {
   switch (geometry.kind) {
     case GeometryKind::None:
@@ -104,7 +104,7 @@ void CoordinateSurgery::change_parts(EditedLines& lines) {
   added_after_ = paired_end;
 }
 
-/// A reference without a path says nothing but that the coordinates are in files.
+/// A reference without a path says only that the coordinates are in files.
 void CoordinateSurgery::remove_idle_lines(EditedLines& lines) const {
   if (after_.kind == before_.kind) return;
   for (const std::size_t line : idle_lines_) lines.remove(line);
@@ -123,7 +123,7 @@ void CoordinateSurgery::add_lines(EditedLines& lines, std::size_t end_of_header)
   if (!section.empty()) lines.insert_section(end_of_header, std::move(section));
 }
 
-/// The first line of the geometry; there is one when a section without charge line exists.
+/// The first line of the geometry. A section without a charge line has one.
 std::size_t CoordinateSurgery::first_line() const {
   if (part_lines_.empty()) return idle_lines_.front();
   if (idle_lines_.empty()) return part_lines_.front();

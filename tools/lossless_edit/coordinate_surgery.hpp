@@ -11,11 +11,11 @@
 
 namespace kelp::input::quill::lossless_edit {
 
-/// Brings the coordinate section of a text in line with an edited document. Atoms and references
+/// Changes the coordinate section of a text to that of an edited document. Atoms and references
 /// that are the same at both ends of the list, or in the same place, keep their lines.
 class CoordinateSurgery {
  public:
-  /// `after` is what the edits made of the geometry of `read`. Keeps references to both.
+  /// `after` is the geometry of `read` after the edits. Keeps references to both.
   CoordinateSurgery(const ReadText& read, const GeometryBlock& after);
 
   void change_lines(EditedLines& lines);
@@ -36,7 +36,7 @@ class CoordinateSurgery {
   const GeometryBlock& after_;
   std::optional<std::size_t> charge_line_;
   std::vector<std::size_t> part_lines_;  // the lines of atoms, or of references with a path
-  std::vector<std::size_t> idle_lines_;  // references without a path, which count for nothing
+  std::vector<std::size_t> idle_lines_;  // references without a path, which have no effect
   bool adds_charge_line_ = false;
   std::vector<std::string> added_parts_;
   std::size_t added_after_ = 0;  // how many old parts are before those that are added

@@ -19,7 +19,7 @@ bool ends_in_empty_line(std::string_view content) {
   return content.empty() || content.back() == '\n';
 }
 
-/// Puts the new text together from its first line to its last.
+/// Builds the new text from its first line to its last.
 class Assembly {
  public:
   explicit Assembly(std::string_view usual_terminator) : usual_terminator_(usual_terminator) {}
@@ -44,7 +44,7 @@ class Assembly {
   }
 
   EditedText finish(bool without_last_terminator) {
-    // An empty last line keeps its line end: without it there would be no line.
+    // An empty last line keeps its line end: without that it would not be a line.
     if (without_last_terminator && !lines_.empty() && !ends_in_empty_line(lines_.back().content))
       lines_.back().terminator = {};
     EditedText result;
@@ -62,7 +62,7 @@ class Assembly {
     std::string_view terminator;
   };
 
-  /// A content with line breaks in it makes as many lines.
+  /// Content with line breaks makes several lines.
   void report(std::optional<std::size_t> old_line, std::string_view content) {
     changes_.push_back({old_line, ++count_});
     for (auto i = std::count(content.begin(), content.end(), '\n'); i > 0; --i)
@@ -87,7 +87,7 @@ EditedLines::EditedLines(const ReadText& read) : gaps_(read.lines.size() + 1) {
   }
   if (lines_.empty()) return;
   ends_without_terminator_ = lines_.back().terminator.empty();
-  // All lines but the last have a line end, so the first one sets the example.
+  // All lines but the last have a line end, so new lines can take that of the first one.
   if (!lines_.front().terminator.empty()) usual_terminator_ = lines_.front().terminator;
 }
 
@@ -114,7 +114,7 @@ void EditedLines::insert_section(std::size_t gap, std::vector<std::string> conte
   if (has_text_after(gap) && !has_blank_line_after(gap)) insert(gap, {});
 }
 
-/// What is already in the gap itself counts as being before it.
+/// Lines that were already put into the gap count as before it.
 bool EditedLines::has_text_before(std::size_t gap) const {
   if (holds_text(gaps_[gap])) return true;
   for (std::size_t i = 0; i < gap; ++i) {
@@ -138,7 +138,7 @@ bool EditedLines::has_blank_line_before(std::size_t gap) const {
   return false;
 }
 
-/// Lines are not put after a blank line without a line end: it would have to change.
+/// A blank line without a line end does not count: it would have to change to have lines after it.
 bool EditedLines::has_blank_line_after(std::size_t gap) const {
   const std::size_t line = next_line(gap);
   return line != lines_.size() && lines_[line].is_blank && !lines_[line].terminator.empty();

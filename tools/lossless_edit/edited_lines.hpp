@@ -11,24 +11,24 @@
 
 namespace kelp::input::quill::lossless_edit {
 
-/// One line that is not as before: changed when it has both numbers, added without the old one,
-/// removed without the new one. Numbers count from 1 in the respective text.
+/// One line that is not as before. A changed line has both numbers, an added line only the new one,
+/// and a removed line only the old one. Numbers count from 1 in their own text.
 struct LineChange {
   std::optional<std::size_t> old_line = std::nullopt;
   std::optional<std::size_t> new_line = std::nullopt;
 };
 
-/// The new text and how its lines relate to those of the old one.
+/// The new text and the lines in which it differs from the old one.
 struct EditedText {
   std::string text = {};
   std::vector<LineChange> changes = {};
 };
 
-/// The lines of a text, of which some are replaced, some removed, and between which others are put.
-/// Lines are named by their position in the old text throughout; a gap is named by the line after
-/// it, so that gap 0 is before all lines and the last gap after them. Lines are put in from the
-/// beginning of the text to its end, after all replacements and removals; in one gap they are in
-/// the order in which they were put there.
+/// The lines of a text. Lines can be replaced, removed and inserted between others. A line is
+/// always named by its position in the old text. A gap is named by the line after it, so gap 0 is
+/// before all lines and the last gap is after them. Lines have to be inserted from the beginning of
+/// the text to its end, after all replacements and removals; those in one gap keep the order in
+/// which they were inserted.
 class EditedLines {
  public:
   /// Keeps views of the text of `read`.
@@ -38,8 +38,8 @@ class EditedLines {
   void remove(std::size_t line);
   void insert(std::size_t gap, std::string content);
 
-  /// Puts lines that are a section of their own into a gap, with an empty line between them and
-  /// what is before and after, as far as there is none yet.
+  /// Inserts the lines of a new section into a gap. Where there is no blank line between them and
+  /// the text before and after, an empty line is added.
   void insert_section(std::size_t gap, std::vector<std::string> contents);
 
   /// Returns the gap after the last line that is not blank, old or new; gap 0 if there is none.

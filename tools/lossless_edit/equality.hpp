@@ -3,9 +3,9 @@
 
 #include "kelp/input/quill/document.hpp"
 
-// When two parts of documents are equal: in every member, with one exception. The reader keeps the
-// line that it read in `raw_text` for every kind of post-processing line, so that member counts for
-// raw text alone.
+// Two parts of documents are equal when all their members are, with one exception: the reader keeps
+// the line that it read in `raw_text` for every kind of post-processing line, so that member counts
+// for raw text only.
 
 namespace kelp::input::quill::lossless_edit {
 
@@ -13,8 +13,8 @@ bool is_equal(const HeaderCommand& left, const HeaderCommand& right);
 bool is_equal(const AtomRecord& left, const AtomRecord& right);
 bool is_equal(const PostCommand& left, const PostCommand& right);
 
-/// Returns whether two numbers are equal to the bit, the payload of a NaN aside: no text can hold
-/// it.
+/// Returns whether two numbers are the same in every bit. The payload of a NaN does not count,
+/// since no text can hold it.
 bool is_equal_number(double left, double right);
 
 /// Returns how far apart two numbers are that are not equal: infinitely when one of them is

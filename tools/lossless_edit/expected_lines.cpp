@@ -8,7 +8,7 @@ namespace kelp::input::quill::lossless_edit {
 
 namespace {
 
-/// The text of a section of one line, without that line's end.
+/// The text of a section of one line, without its line end.
 std::string only_line(const GeometryBlock& geometry) {
   std::string text = to_string(geometry);
   if (!text.empty()) text.pop_back();

@@ -9,7 +9,7 @@
 #include "lossless_edit/comparison.hpp"
 
 // The lines that a document is written as, one by one: the library's writer writes a coordinate
-// section as a whole. All lines are without their ends.
+// section as a whole. All lines come without their line ends.
 
 namespace kelp::input::quill::lossless_edit {
 
@@ -21,14 +21,15 @@ std::string atom_line(const AtomRecord& atom);
 /// trajectory.
 std::string reference_line(const GeometryBlock& geometry, std::size_t index);
 
-/// Returns the parts of `input` that have lines, in the order of these.
+/// Returns the parts of `input` that have lines, in the order of the lines.
 std::vector<Part> list_parts(const QuillInput& input);
 
 /// Returns the line of a part.
 std::string expected_line(const Part& part, const QuillInput& input);
 
 /// Returns whether a line of this content can be the one that was written for the part:
-/// expected_line(), or the line that a post-processing line was once read from, outer blanks aside.
+/// expected_line(), or the line that a post-processing line was once read from, with any blanks
+/// around it.
 bool may_be_line_of(std::string_view content, const Part& part, const QuillInput& input);
 
 }  // namespace kelp::input::quill::lossless_edit

@@ -10,9 +10,9 @@ namespace kelp::input::quill::lossless_edit {
 
 namespace {
 
-/// For each command of the document, the old one whose line it takes. An added command takes the
-/// line of one that was removed from the end of the header, if there is one: a task that replaces
-/// another then changes a line, and one that was removed and added again changes none.
+/// Returns, for each command of the document, the old command whose line it takes. An added command
+/// takes the line of a command that was removed from the end of the header, if there is one. So a
+/// task that replaces another changes a line, and a task that was removed and added again does not.
 std::vector<std::optional<std::size_t>> take_lines(std::vector<std::optional<std::size_t>> origins,
                                                    std::size_t old_count) {
   std::size_t next = 0;

@@ -13,16 +13,16 @@
 
 namespace kelp::input::quill::lossless_edit {
 
-/// Brings the header lines of a text in line with an edited document.
+/// Changes the header lines of a text to those of an edited document.
 class HeaderSurgery {
  public:
-  /// `after` is what the edits made of the document of `read`. Keeps references to both documents.
+  /// `after` is the document of `read` after the edits. Keeps references to both documents.
   HeaderSurgery(const ReadText& read, const TrackedDocument& after);
 
   void change_lines(EditedLines& lines);
   void add_lines(EditedLines& lines);
 
-  /// The gap after the old header, for what belongs to no other place.
+  /// The gap after the old header, for lines that have no other place.
   std::size_t end() const { return positions_.empty() ? 0 : positions_.back() + 1; }
 
   /// Why some pieces of changed lines cannot be written.

@@ -10,8 +10,8 @@ namespace kelp::input::quill::lossless_edit {
 
 namespace {
 
-/// Walks over the lines of a text and the parts that are wanted, side by side, up to the first line
-/// that is not read as its part.
+/// Walks over the lines of a text and, at the same time, over the parts that are wanted, up to the
+/// first line that is not read as its part.
 class Walk {
  public:
   Walk(std::string_view text, const QuillInput& wanted, const Comparison& comparison)
@@ -40,7 +40,7 @@ class Walk {
     return has_next() && may_be_line_of(content_of(line, text_), parts_[next_], wanted_);
   }
 
-  /// Lines that leave nothing in the document may have been in the text all along.
+  /// Lines that leave nothing in the document may have been in the old text already.
   bool was_written_for_nothing(const LineRecord& line) const {
     const bool left_nothing =
         line.role == LineRole::Dropped || (line.role == LineRole::XyzReference && !line.index);
@@ -59,7 +59,7 @@ class Walk {
     if (!may_be_next(line)) return explanation;
     explanation.wanted = parts_[next_];
     // The first post-processing line ends the sections before it, unless it looks like one of their
-    // lines itself.
+    // lines.
     explanation.is_avoidable = parts_[next_].role == LineRole::PostCommand &&
                                line.role != LineRole::PostCommand && line.role != LineRole::Dropped;
     return explanation;

@@ -1,14 +1,14 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_EDIT_PROOF_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_EDIT_PROOF_HPP
 
-// The proof that a text says what is wanted, to be had before the text is written anywhere.
+// The proof that a text says what is wanted. It is made before the text is written anywhere.
 //
 //   const Proof proof = prove(text, wanted, 1e-6);
 //   if (!proof.holds()) return refuse(words(proof, wanted));
 //
 // The text is read by the library's own reader and compared, member by member, with the document
-// that is wanted. The QUILL format has texts that its writer can produce and its reader understands
-// in another way; the explanation names the line concerned and, where there is one, the way out.
+// that is wanted. In the QUILL format, the reader can understand a text differently than its writer
+// wanted. The explanation names the line where that happens and, if possible, how to avoid it.
 
 #include <cstddef>
 #include <optional>
@@ -37,9 +37,9 @@ struct Explanation {
   std::optional<std::size_t> difference = std::nullopt;  // into Comparison::differences
 };
 
-/// The outcome of reading a text again. There is an explanation exactly when the proof does not
-/// hold. `comparison` has every difference, for whoever writes the text all the same, and the
-/// numbers that changed. `found` and `lines` are what parse_lines() made of the text.
+/// The result of reading a text again. There is an explanation exactly when the proof does not
+/// hold. `comparison` has every difference, for callers that write the text anyway, and the numbers
+/// that changed. `found` and `lines` are what parse_lines() made of the text.
 struct Proof {
   std::optional<Explanation> explanation = std::nullopt;
   Comparison comparison = {};
@@ -53,8 +53,8 @@ struct Proof {
 };
 
 /// Reads `text` and compares it with `wanted`; numbers may change by up to `max_change`, see
-/// compare(). Lines of the text that mean nothing to the reader, blank or dropped with a warning,
-/// are not a difference as long as they were not written for anything else.
+/// compare(). Lines that the reader skips, because they are blank or with a warning, are not a
+/// difference unless they were written for a part of `wanted`.
 Proof prove(std::string_view text, const QuillInput& wanted, double max_change = 0.0);
 
 }  // namespace kelp::input::quill::lossless_edit

@@ -65,8 +65,9 @@ std::optional<std::string> first_candidate(std::string_view value, Survives surv
   return std::nullopt;
 }
 
-/// Returns how to write the value of a parameter, the empty text where it has none, or nothing when
-/// there is no way. The name takes part: a quote in it changes what a quote in the value means.
+/// Returns how to write the value of a parameter, the empty text if it has no value, or nothing
+/// when it cannot be written. The name counts, too: a quote in it changes the effect of one in the
+/// value.
 std::optional<std::string> find_value_text(const CommandParameter& parameter, Place place) {
   if (!parameter.value)
     return reads_back(parameter, parameter, place) ? std::optional<std::string>("") : std::nullopt;
@@ -79,7 +80,7 @@ Reason or_line_break(std::string_view text, Reason reason) {
   return text.find('\n') == npos ? reason : Reason::LineBreak;
 }
 
-/// The name is to blame when it does not even read back with the plainest of values.
+/// The problem is the name when even the simplest value does not make the parameter read back.
 QuotingProblem problem_of(const CommandParameter& parameter, Place place) {
   CommandParameter plain = parameter;
   if (plain.value) plain.value = "1";
@@ -101,7 +102,7 @@ QuotingProblem problem_of(const CommandParameter& parameter, Place place) {
 
 void quote_parameter(CommandParameter& parameter, Place place,
                      std::vector<QuotingProblem>& problems) {
-  // What can be followed by another parameter is the better choice for the last one too.
+  // A text that can have another parameter after it is the better choice for the last one, too.
   std::optional<std::string> text = find_value_text(parameter, Place::BeforeOthers);
   if (!text && place == Place::Last) text = find_value_text(parameter, Place::Last);
   if (!text) {
@@ -150,7 +151,7 @@ bool is_known(HeaderCommandKind kind) {
          kind == HeaderCommandKind::ParameterList;
 }
 
-/// What is in the way when every value can be written and the line does not read back yet.
+/// The problem when every value can be written but the line is still read differently.
 QuotingProblem problem_of(const HeaderCommand& command) {
   QuotingProblem problem;
   problem.name = command.name;

@@ -1,15 +1,15 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_EDIT_QUOTING_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_EDIT_QUOTING_HPP
 
-// Quoting the values of header commands so that they read back as they are.
+// Quotes the values of header commands so that they are read back unchanged.
 //
 //   to_string(quote(command).command);     // a header line that reads back as `command`
 //   quote(document).document.to_string();  // the canonical text, with quotes where they are needed
 //
-// The library's writer quotes nothing, while its reader removes quotes, trims, and splits lists at
-// commas. A value that would not survive that is put between quotes: in the kind that does not
-// occur in it, double quotes before single ones. Whether it then survives is decided by asking the
-// reader, never by rules of its own.
+// The library's writer quotes nothing, but its reader removes quotes, trims values, and splits
+// lists at commas. A value that would change in this way is put between quotes: those that do not
+// occur in it, and double quotes if neither do. Whether it is then read back unchanged is decided
+// by asking the reader, never by rules written here.
 
 #include <string>
 #include <vector>
@@ -23,8 +23,8 @@ struct QuotingProblem {
   enum class Piece { Command, CommandName, CommandValue, ParameterName, ParameterValue };
   enum class Reason {
     LineBreak,        // in the name or value; a header command is one line
-    ReadDifferently,  // the name would be
-    NoQuotesHelp,     // the value would be read differently, with quotes of both kinds too
+    ReadDifferently,  // the name would be read differently
+    NoQuotesHelp,     // the value would be read differently, with either kind of quotes, too
     NoValue,          // an assignment without one
     UnknownKind,      // a kind outside its enumeration
     UnusedMembers,    // a value or parameters that the kind does not write
@@ -35,25 +35,25 @@ struct QuotingProblem {
   std::string name = {};   // of the command or parameter
   std::string value = {};  // where the piece is a value
   HeaderCommandKind kind = HeaderCommandKind::Flag;
-  /// Whether the parameter could be written if it were the last one: an unclosed quote takes the
-  /// parameters after it into its own.
+  /// Whether the parameter could be written if it were the last one: a parameter with an unclosed
+  /// quote takes in the parameters after it.
   bool is_due_to_next_parameter = false;
 };
 
-/// A command whose to_string() reads back as the one that was given. Where that cannot be, there
-/// are problems, and the pieces concerned are as they were.
+/// A command whose to_string() is read back as the given one. Pieces for which that is impossible
+/// are unchanged and have an entry in `problems`.
 struct QuotedCommand {
   HeaderCommand command = {};
   std::vector<QuotingProblem> problems = {};
 };
 
-/// Quotes every value of a command. Names cannot be quoted: one that does not read back (one with
-/// outer blanks, a flag's with "=" or "(" in it) is a problem. So are members that the kind does
-/// not use and a kind outside its enumeration, which no text can keep.
+/// Quotes every value of a command. Names cannot be quoted: a name that is read differently (with
+/// blanks around it, or the name of a flag with "=" or "(" in it) is a problem. So are members that
+/// the kind does not use and a kind outside its enumeration, which no text can keep.
 QuotedCommand quote(const HeaderCommand& command);
 
 /// A document whose to_string() is the canonical text with the values quoted. The problems are
-/// those of header commands only; whether the whole text reads back is for prove() to say.
+/// those of header commands only; prove() decides whether the whole text is read back unchanged.
 struct QuotedDocument {
   QuillInput document = {};
   std::vector<QuotingProblem> problems = {};

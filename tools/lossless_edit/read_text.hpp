@@ -11,8 +11,7 @@
 
 namespace kelp::input::quill::lossless_edit {
 
-/// A text and what the reader made of it. Whoever needs two of the three takes this, so that a text
-/// is read once.
+/// A text and what the reader made of it. It is passed around so that a text is read only once.
 struct ReadText {
   std::string text = {};
   ParseResult result = {};
@@ -21,7 +20,7 @@ struct ReadText {
 
 ReadText read_text(std::string text);
 
-/// Returns a line of `text` without its end.
+/// Returns a line of `text` without its line end.
 std::string_view content_of(const LineRecord& line, std::string_view text);
 
 /// Returns the position in `lines` of the line with this role and index, or nothing.

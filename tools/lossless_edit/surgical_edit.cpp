@@ -15,7 +15,7 @@ bool is_post_processing(const LineRecord& line) {
   return line.role == LineRole::PostCommand || line.role == LineRole::Dropped;
 }
 
-/// Post-processing lines are only ever appended.
+/// Post-processing lines are never changed or removed, only appended.
 void add_post_lines(const ReadText& read, const QuillInput& after, EditedLines& lines) {
   std::vector<std::string> added;
   for (std::size_t i = read.result.input.post_commands.size(); i < after.post_commands.size(); ++i)

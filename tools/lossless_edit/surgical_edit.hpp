@@ -1,7 +1,7 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_EDIT_SURGICAL_EDIT_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_EDIT_SURGICAL_EDIT_HPP
 
-// Changing a text in the lines that must change and in no other byte.
+// Changes only those lines of a text that have to change.
 //
 //   const ReadText read = read_text(text);
 //   TrackedDocument document(read.result.input);
@@ -10,15 +10,16 @@
 //   const SurgicalEdit edit = render(read, document);
 //   if (edit.proof.holds()) write(edit.text);
 //
-// Layout, digits, blank lines, lines that the reader drops and line ends stay as they are, a
-// missing last line end included. A changed header line is the library's to_string() of the
-// command, with quotes where its values need them to read back. New lines take the line end of the
-// line before them, or of the first line if there is none. A header line comes after the last
-// header line, or in the place of one that was removed there; charge and multiplicity come before
-// the coordinates, and post-processing lines after the last line that is not blank. Where a section
-// comes into being, an empty line separates it from its neighbours. When the coordinates change,
-// atoms and references that stay the same keep their lines, as far as they are at either end of
-// the list or in the same place.
+// All other lines stay the same byte for byte: layout, digits, blank lines, lines that the reader
+// drops and line ends. A last line without a line end stays without one. A changed header line is
+// the library's to_string() of the command, with quotes around values that need them. A new line
+// gets the line end of the line before it, or of the first line if there is none before it.
+//
+// A new header line comes after the last header line, or in the place of one that was removed
+// there; charge and multiplicity come before the coordinates, and post-processing lines after the
+// last line that is not blank. An empty line separates a new section from its neighbours. When the
+// coordinates change, atoms and references that are the same at either end of the list, or in the
+// same place, keep their lines.
 
 #include <string>
 #include <vector>
@@ -31,15 +32,16 @@
 
 namespace kelp::input::quill::lossless_edit {
 
-/// A text that says what an edited document says. All members are there whether the proof holds or
-/// not, so that a caller who accepts a loss can go on; `text` then is what comes closest.
+/// A text that says what an edited document says. All members are set even if the proof does not
+/// hold, so that a caller who accepts a loss can go on; `text` is then the best that can be
+/// written.
 struct SurgicalEdit {
   /// The new text.
   std::string text = {};
-  /// Every line that is not as before, in the order of the new text, a removed line where it was.
-  /// All other lines are in both texts, in the same order and byte for byte, but for one line end:
-  /// that which a text without a last line end needs when a line is put after its last line, and
-  /// loses when its last line goes.
+  /// Every line that is not as before, in the order of the new text, with a removed line where it
+  /// was. All other lines are in both texts, in the same order and byte for byte, except for one
+  /// line end: when a text ends without a line end, its last line gets one if a line is added after
+  /// it; if the last line is removed, the line before it loses its line end.
   std::vector<LineChange> changes = {};
   /// Why pieces of changed header lines cannot be written; empty when all can.
   std::vector<QuotingProblem> quoting_problems = {};
@@ -47,8 +49,8 @@ struct SurgicalEdit {
   Proof proof = {};
 };
 
-/// Changes the text of `read` to say what `document` says, which was made of the document of
-/// `read`. Numbers may change by up to `max_change`, see compare().
+/// Changes the text of `read` so that it says what `document` says. `document` was made from the
+/// document of `read`. Numbers may change by up to `max_change`, see compare().
 SurgicalEdit render(const ReadText& read, const TrackedDocument& document, double max_change = 0.0);
 
 }  // namespace kelp::input::quill::lossless_edit

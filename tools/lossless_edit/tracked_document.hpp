@@ -11,8 +11,8 @@
 
 namespace kelp::input::quill::lossless_edit {
 
-/// A document under edit that knows of every command where it came from, so that of two equal
-/// commands the right one loses its line. The operations are those of InputEditor, with its rules
+/// A document that is being edited. It knows where every command came from, so that the right one
+/// of two equal commands loses its line. The operations are those of InputEditor, with its rules
 /// for what is found and what is created.
 class TrackedDocument : private InputEditor {
  public:
@@ -43,7 +43,7 @@ class TrackedDocument : private InputEditor {
   std::vector<std::optional<std::size_t>> origins() const;
 
  private:
-  /// Shorter than the list of commands where some were added: they are only ever added at the end.
+  /// Shorter than the list of commands if some were added: commands are only added at the end.
   std::vector<std::optional<std::size_t>> origins_;
 };
 

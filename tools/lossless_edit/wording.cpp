@@ -99,7 +99,7 @@ std::string owner_of(const Difference& difference) {
   }
 }
 
-/// What comes before the owner of a member, in the order of the enumeration. The members of the
+/// The words before the owner of a member, in the order of the enumeration. The members of the
 /// document as a whole have no owner.
 constexpr std::string_view member_words[] = {
     "the number of header commands",
@@ -149,7 +149,8 @@ std::string misread_words(const Explanation& explanation, const QuillInput& want
   if (!explanation.wanted) return text + ", which is not in the document you asked for";
   text += is_dropped ? ", not read as " : ", not as ";
   text += name_of(*explanation.wanted, wanted);
-  if (explanation.is_avoidable) text += "; another post-processing line before it avoids that";
+  if (explanation.is_avoidable)
+    text += "; put another post-processing line before it to avoid that";
   return text;
 }
 
@@ -173,11 +174,12 @@ std::string subject_of(const QuotingProblem& problem) {
 std::string predicate_of(const QuotingProblem& problem) {
   switch (problem.reason) {
     case QuotingProblem::Reason::LineBreak:
-      return " holds a line break, and a header command is one line";
+      return " contains a line break, but a header command is one line";
     case QuotingProblem::Reason::ReadDifferently:
-      return " would not read back as it is";
+      return " would be read differently";
     case QuotingProblem::Reason::NoQuotesHelp:
-      return " cannot be written: as it is, in double quotes and in single quotes it would be read "
+      return " cannot be written: without quotes, in double quotes and in single quotes it would "
+             "be read "
              "differently";
     case QuotingProblem::Reason::NoValue:
       return " is an assignment without a value and would read back with an empty one";
@@ -187,7 +189,7 @@ std::string predicate_of(const QuotingProblem& problem) {
       break;
   }
   return " is " + std::string(kind_words(problem.kind)) +
-         " and holds a value or parameters that are not written with it";
+         " and has a value or parameters that would not be written";
 }
 
 }  // namespace

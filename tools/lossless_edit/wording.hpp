@@ -12,8 +12,8 @@
 #include "lossless_edit/quoting.hpp"
 
 // The words for people: for the parts of a document, for what differs and for what cannot be
-// written. Everything else passes facts on, and words are made of them last. Texts hold bytes of
-// documents as they are: whoever shows them on a terminal escapes them.
+// written. All other files pass facts on; only the words here are for reading. They hold bytes of
+// documents unchanged, and have to be escaped before they are shown on a terminal.
 
 namespace kelp::input::quill::lossless_edit {
 
@@ -30,8 +30,8 @@ std::string_view noun_of(PostCommandKind kind);
 std::string words(const Difference& difference);
 
 /// Returns why a proof does not hold, without a full stop: "line 14 would be read as an atom of
-/// element A, not as an angle constraint; another post-processing line before it avoids that".
-/// `wanted` is the document that was to be proved.
+/// element A, not as an angle constraint; put another post-processing line before it to avoid
+/// that". `wanted` is the document that was to be proved.
 std::string words(const Proof& proof, const QuillInput& wanted);
 
 /// Returns why a piece of a header command cannot be written.
@@ -43,7 +43,7 @@ std::string in_apostrophes(std::string_view text);
 /// Returns the shortest decimal text that reads back as exactly this number.
 std::string shortest_text(double number);
 
-/// Returns the number with two significant digits, for telling its size.
+/// Returns the number with two significant digits.
 std::string rounded_text(double number);
 
 /// Returns the numbers with single blanks between them.

@@ -24,7 +24,7 @@ namespace {
 
 constexpr const char* program_name = "quill-inp";
 constexpr const char* description =
-    "Shows, formats and edits QUILL inputs. Every text is proved before it is written.";
+    "Shows, formats and edits QUILL inputs. Every text is checked before it is written.";
 constexpr const char* footer =
     "Example:\n"
     "  quill-inp set -i job.qin opt.maxiter=100 @charge=-1\n"
@@ -66,13 +66,13 @@ std::vector<std::string> option_names(const CLI::App& app) {
   return names;
 }
 
-/// Returns what CLI11 complains about an option whose value is missing, in words of this program.
+/// Returns the message of CLI11 about an option without its value, in the words of this program.
 std::string describe(const CLI::ArgumentMismatch& error) {
   const std::string text = error.what();
   return text.substr(0, text.find_first_of(": ")) + " needs a value";
 }
 
-/// Throws UsageError for what is left over on a part of the command line.
+/// Throws UsageError for arguments that no option or verb has taken.
 void refuse_leftovers(const CLI::App& app) {
   for (const std::string& leftover : app.remaining()) {
     const std::string argument = unmarked(leftover);
@@ -103,13 +103,13 @@ std::string help_hint(const CommandLine& line) {
   for (const Verb& verb : line.verbs) {
     if (verb.app->parsed()) command += " " + verb.app->get_name();
   }
-  return "'" + command + " --help' says more";
+  return "see '" + command + " --help'";
 }
 
 ExitCode carry_out(CommandLine& line, const StandardStreams& streams, Output& out) {
   const Verb& verb = find_verb(line);
   for (const std::string& leftover : line.program.remaining())
-    throw UsageError("options come after the verb, unlike '" + unmarked(leftover) + "'");
+    throw UsageError("'" + unmarked(leftover) + "' must come after the verb");
   refuse_leftovers(*verb.app);
   Session session(streams, out, read_common_options(*verb.app));
   return verb.action(session, *verb.app);

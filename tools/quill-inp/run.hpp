@@ -8,9 +8,9 @@
 
 namespace kelp::input::quill::tool {
 
-/// Runs the program with these arguments, its own name not among them, and returns its exit code: 0
-/// when it did what was asked, 1 when the answer is no, 2 for trouble. Data goes to standard
-/// output, everything else to standard error. Data that did not arrive is trouble, too. Nothing is
+/// Runs the program with these arguments, without its own name, and returns its exit code: 0 when
+/// it did what was asked, 1 when the answer is no, 2 for trouble. Data goes to standard output,
+/// everything else to standard error. Data that could not be written is trouble, too. Nothing is
 /// thrown.
 int run(const std::vector<std::string>& arguments, const StandardStreams& streams);
 

@@ -57,8 +57,8 @@ const Row rows[] = {
        editor.set_geometry({{"O", 0, 0, 0}, {"H", 0, 0, 1}, {"H", 0, 1, 0}});
        editor.add_angle_constraint(1, 2, 3);
      },
-     "line 8 would be read as an atom of element A, not as an angle constraint; another "
-     "post-processing line before it avoids that",
+     "line 8 would be read as an atom of element A, not as an angle constraint; put another "
+     "post-processing line before it to avoid that",
      8},
     {"AnAngleConstraintBehindAnotherLine",
      [](InputEditor& editor) {
@@ -78,24 +78,24 @@ const Row rows[] = {
        editor.set_geometry({{"O", 0, 0, 0}});
        editor.add_post_command(raw("B 1 2 3"));
      },
-     "line 3 would be read as an atom of element B, not as raw text; another post-processing line "
-     "before it avoids that",
+     "line 3 would be read as an atom of element B, not as raw text; put another post-processing "
+     "line before it to avoid that",
      3},
     {"RawTextLikeAnAtomWithoutGeometry",
      [](InputEditor& editor) {
        editor.set_flag("opt");
        editor.add_post_command(raw("Fe 0 0 0"));
      },
-     "line 3 would be read as an atom of element Fe, not as raw text; another post-processing line "
-     "before it avoids that",
+     "line 3 would be read as an atom of element Fe, not as raw text; put another post-processing "
+     "line before it to avoid that",
      3},
     {"RawTextLikeACommandBehindTheHeader",
      [](InputEditor& editor) {
        editor.set_flag("opt");
        editor.add_post_command(raw("# note"));
      },
-     "line 3 would be read as a header command, not as raw text; another post-processing line "
-     "before it avoids that",
+     "line 3 would be read as a header command, not as raw text; put another post-processing line "
+     "before it to avoid that",
      3},
     {"RawTextLikeACommandBehindTheGeometry",
      [](InputEditor& editor) {
@@ -104,40 +104,40 @@ const Row rows[] = {
      },
      ""},
     {"RawTextOfTwoNumbers", [](InputEditor& editor) { editor.add_post_command(raw("1 2")); },
-     "line 1 would be read as charge and multiplicity, not as raw text; another post-processing "
-     "line before it avoids that",
+     "line 1 would be read as charge and multiplicity, not as raw text; put another "
+     "post-processing line before it to avoid that",
      1},
     {"RawTextLikeAReference",
      [](InputEditor& editor) {
        editor.set_xyz_file("a");
        editor.add_post_command(raw("xyz b"));
      },
-     "line 3 would be read as an XYZ reference, not as raw text; another post-processing line "
-     "before it avoids that",
+     "line 3 would be read as an XYZ reference, not as raw text; put another post-processing line "
+     "before it to avoid that",
      3},
     {"RawTextLikeAReferenceWithoutAPath",
      [](InputEditor& editor) {
        editor.set_xyz_file("a");
        editor.add_post_command(raw("XYZ"));
      },
-     "line 3 would be read as an XYZ reference without a path, not as raw text; another "
-     "post-processing line before it avoids that",
+     "line 3 would be read as an XYZ reference without a path, not as raw text; put another "
+     "post-processing line before it to avoid that",
      3},
     {"RawTextLikeATrajectory",
      [](InputEditor& editor) {
        editor.set_charge_and_multiplicity(0, 1);
        editor.add_post_command(raw("XYZTRAJ t"));
      },
-     "line 3 would be read as a trajectory reference, not as raw text; another post-processing "
-     "line before it avoids that",
+     "line 3 would be read as a trajectory reference, not as raw text; put another post-processing "
+     "line before it to avoid that",
      3},
     {"RawTextLikeATrajectoryWithoutAPath",
      [](InputEditor& editor) {
        editor.set_charge_and_multiplicity(0, 1);
        editor.add_post_command(raw("XYZTRAJ"));
      },
-     "line 3 would be read as a trajectory reference without a path, not as raw text; another "
-     "post-processing line before it avoids that",
+     "line 3 would be read as a trajectory reference without a path, not as raw text; put another "
+     "post-processing line before it to avoid that",
      3},
     {"RawTextThatIsDropped",
      [](InputEditor& editor) {
@@ -342,8 +342,8 @@ TEST(Proof, RecognisesALineByTheSpellingItWasReadFrom) {
   wanted.geometry.atoms = {{"O", 0, 0, 0}};
   wanted.geometry.xyz_files.clear();
   EXPECT_EQ(words(prove("O 0 0 0\na  1 +2 3\n", wanted), wanted),
-            "line 2 would be read as an atom of element A, not as an angle constraint; another "
-            "post-processing line before it avoids that");
+            "line 2 would be read as an atom of element A, not as an angle constraint; put another "
+            "post-processing line before it to avoid that");
 }
 
 TEST(Proof, AcceptsChangesOfNumbersUpToTheLimitAndTellsThem) {

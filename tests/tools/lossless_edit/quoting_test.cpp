@@ -135,84 +135,87 @@ HeaderCommand list(std::string name, std::vector<CommandParameter> parameters) {
 const RefusalRow refusals[] = {
     {"ALineBreakInAnAssignedValue",
      assignment("model", "a\nb"),
-     {"the value 'a\nb' holds a line break, and a header command is one line"}},
+     {"the value 'a\nb' contains a line break, but a header command is one line"}},
     {"ALineBreakInAParameterValue",
      list("opt", {{"p", "a\r\n"}}),
-     {"the value 'a\r\n' of parameter 'p' holds a line break, and a header command is one line"}},
+     {"the value 'a\r\n' of parameter 'p' contains a line break, but a header command is one "
+      "line"}},
     {"ALineBreakInAParameterName",
      list("opt", {{"p\nq", "1"}}),
-     {"the parameter name 'p\nq' holds a line break, and a header command is one line"}},
+     {"the parameter name 'p\nq' contains a line break, but a header command is one line"}},
     {"ALineBreakInACommandName",
      HeaderCommand("opt\nfreq"),
-     {"the command name 'opt\nfreq' holds a line break, and a header command is one line"}},
+     {"the command name 'opt\nfreq' contains a line break, but a header command is one line"}},
     {"BothKindsOfOpenQuotesBeforeAnotherParameter",
      list("opt", {{"p", "'\""}, {"q"}}),
-     {"the value ''\"' of parameter 'p' cannot be written: as it is, in double quotes and in "
+     {"the value ''\"' of parameter 'p' cannot be written: without quotes, in double quotes and in "
       "single quotes it would be read differently with another parameter after it"}},
     {"AValueThatNoQuotesKeepAnywhere",
      list("opt", {{"p", ",\"',',"}}),
-     {"the value ',\"',',' of parameter 'p' cannot be written: as it is, in double quotes and in "
+     {"the value ',\"',',' of parameter 'p' cannot be written: without quotes, in double quotes "
+      "and in "
       "single quotes it would be read differently"}},
     {"TheSameBeforeAnotherParameter",
      list("opt", {{"p", ",\"',',"}, {"q"}}),
-     {"the value ',\"',',' of parameter 'p' cannot be written: as it is, in double quotes and in "
+     {"the value ',\"',',' of parameter 'p' cannot be written: without quotes, in double quotes "
+      "and in "
       "single quotes it would be read differently"}},
     {"AnEmptyParameterName",
      list("opt", {{""}, {"", "1"}}),
-     {"the parameter name '' would not read back as it is",
-      "the parameter name '' would not read back as it is"}},
+     {"the parameter name '' would be read differently",
+      "the parameter name '' would be read differently"}},
     {"AnEqualsSignInAParameterName",
      list("opt", {{"a=b"}}),
-     {"the parameter name 'a=b' would not read back as it is"}},
+     {"the parameter name 'a=b' would be read differently"}},
     {"ACommaInAParameterName",
      list("opt", {{"a,b"}, {"c"}}),
-     {"the parameter name 'a,b' would not read back as it is"}},
+     {"the parameter name 'a,b' would be read differently"}},
     {"OuterBlanksInAParameterName",
      list("opt", {{" a", "1"}}),
-     {"the parameter name ' a' would not read back as it is"}},
+     {"the parameter name ' a' would be read differently"}},
     {"AnApostropheInANameBeforeAnotherParameter",
      list("opt", {{"it's"}, {"it's"}}),
-     {"the parameter name 'it's' would not read back as it is with another parameter after it"}},
+     {"the parameter name 'it's' would be read differently with another parameter after it"}},
     {"AnApostropheInANameWithAValueBeforeAnotherParameter",
      list("opt", {{"it's", "5"}, {"b"}}),
-     {"the parameter name 'it's' would not read back as it is with another parameter after it"}},
+     {"the parameter name 'it's' would be read differently with another parameter after it"}},
     {"OuterBlanksInACommandName",
      HeaderCommand(" opt"),
-     {"the command name ' opt' would not read back as it is"}},
+     {"the command name ' opt' would be read differently"}},
     {"AParenthesisInAFlag",
      HeaderCommand("f(x)"),
-     {"the command name 'f(x)' would not read back as it is"}},
+     {"the command name 'f(x)' would be read differently"}},
     {"AnEqualsSignInAnAssignment",
      assignment("a=b", "c"),
-     {"the command name 'a=b' would not read back as it is"}},
+     {"the command name 'a=b' would be read differently"}},
     {"AnEqualsSignInAList",
      list("a=b", {{"c"}}),
-     {"the command name 'a=b' would not read back as it is"}},
+     {"the command name 'a=b' would be read differently"}},
     {"NoValue",
      assignment("model", std::nullopt),
      {"the command 'model' is an assignment without a value and would read back with an empty "
       "one"}},
     {"AFlagWithAValue",
      HeaderCommand("opt", HeaderCommandKind::Flag, "1"),
-     {"the command 'opt' is a flag and holds a value or parameters that are not written with it"}},
+     {"the command 'opt' is a flag and has a value or parameters that would not be written"}},
     {"AFlagWithParameters",
      HeaderCommand("opt", HeaderCommandKind::Flag, std::nullopt, {{"a"}}),
-     {"the command 'opt' is a flag and holds a value or parameters that are not written with it"}},
+     {"the command 'opt' is a flag and has a value or parameters that would not be written"}},
     {"AnAssignmentWithParameters",
      HeaderCommand("opt", HeaderCommandKind::Assignment, "1", {{"a"}}),
-     {"the command 'opt' is an assignment and holds a value or parameters that are not written "
-      "with it"}},
+     {"the command 'opt' is an assignment and has a value or parameters that would not be "
+      "written"}},
     {"AListWithAValue",
      HeaderCommand("opt", HeaderCommandKind::ParameterList, "1", {{"a"}}),
-     {"the command 'opt' is a parameter list and holds a value or parameters that are not written "
-      "with it"}},
+     {"the command 'opt' is a parameter list and has a value or parameters that would not be "
+      "written"}},
     {"AnUnknownKind",
      HeaderCommand("opt", HeaderCommandKind{3}),
      {"the command 'opt' is of unknown kind"}},
     {"EveryReasonInAList",
      list("opt", {{"a=", "1"}, {"b", "2"}, {"c", "\n"}}),
-     {"the parameter name 'a=' would not read back as it is",
-      "the value '\n' of parameter 'c' holds a line break, and a header command is one line"}},
+     {"the parameter name 'a=' would be read differently",
+      "the value '\n' of parameter 'c' contains a line break, but a header command is one line"}},
 };
 
 class CommandThatCannotBeWritten : public testing::TestWithParam<RefusalRow> {};
@@ -326,7 +329,7 @@ TEST(QuotedDocument, QuotesEveryCommandAndLeavesTheRestAlone) {
   EXPECT_THAT(
       words_of(quoted.problems),
       testing::ElementsAre(
-          "the value '\n' of parameter 'y' holds a line break, and a header command is one line",
+          "the value '\n' of parameter 'y' contains a line break, but a header command is one line",
           "the command 'device' is an assignment without a value and would read back with an empty "
           "one"));
 }

@@ -132,8 +132,8 @@ const SurgicalCase charge_rows[] = {
      {ClearChargeAndMultiplicity{}},
      "#a\n\n3  4\n",
      "-2",
-     "line 3 would be read as charge and multiplicity, not as raw text; another post-processing "
-     "line before it avoids that"},
+     "line 3 would be read as charge and multiplicity, not as raw text; put another "
+     "post-processing line before it to avoid that"},
 };
 
 class SurgeryOnTheChargeLine : public testing::TestWithParam<SurgicalCase> {};
@@ -239,8 +239,8 @@ const SurgicalCase atom_rows[] = {
      {SetAtoms{{oxygen}}},
      oxygen_line + "\n a 1 2 3\n",
      "1",
-     "line 3 would be read as an atom of element A, not as an angle constraint; another "
-     "post-processing line before it avoids that"},
+     "line 3 would be read as an atom of element A, not as an angle constraint; put another "
+     "post-processing line before it to avoid that"},
     {"WouldTakeInALineThatIsDropped",
      "XYZ a\nA 1 2 3.5\n",
      {SetAtoms{{oxygen}}},
@@ -293,8 +293,8 @@ const SurgicalCase reference_rows[] = {
      {SetXyzFiles{{"a"}}},
      "XYZ a\nXYZ b\n",
      "1",
-     "line 2 would be read as an XYZ reference, not as raw text; another post-processing line "
-     "before it avoids that"},
+     "line 2 would be read as an XYZ reference, not as raw text; put another post-processing line "
+     "before it to avoid that"},
     {"HaveAPathThatDoesNotReadBack",
      "XYZ a\n",
      {SetXyzFiles{{"a", " b"}}},

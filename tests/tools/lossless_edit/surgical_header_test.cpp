@@ -160,13 +160,14 @@ const SurgicalCase rows[] = {
      {SetParameter{"opt", "a", "x\ny"}},
      "#opt(a=x\ny)\n\nO 0 0 0\n",
      "1 +2",
-     "the value 'x\ny' of parameter 'a' holds a line break, and a header command is one line"},
+     "the value 'x\ny' of parameter 'a' contains a line break, but a header command is one line"},
     {"AnOldValueThatBearsNoParameterBehindIt",
      "#opt(a=it's \"x)\n",
      {SetParameter{"opt", "b", "1"}},
      "#opt(a=it's \"x, b=1)\n",
      "1",
-     "the value 'it's \"x' of parameter 'a' cannot be written: as it is, in double quotes and in "
+     "the value 'it's \"x' of parameter 'a' cannot be written: without quotes, in double quotes "
+     "and in "
      "single "
      "quotes it would be read differently with another parameter after it"},
     {"ANameThatIsNoName",
@@ -174,14 +175,14 @@ const SurgicalCase rows[] = {
      {SetFlag{"a(b)"}},
      "#opt\n#a(b)\n",
      "+2",
-     "the command name 'a(b)' would not read back as it is"},
+     "the command name 'a(b)' would be read differently"},
     {"ALineBehindTheHeaderThatWouldBecomeACommand",
      "#opt\nO 0 0 0\n#sp\n",
      {SetXyzFiles{}},
      "#opt\n#sp\n",
      "-2",
-     "line 2 would be read as a header command, not as raw text; another post-processing line "
-     "before it avoids that"},
+     "line 2 would be read as a header command, not as raw text; put another post-processing line "
+     "before it to avoid that"},
 };
 
 class SurgeryOnTheHeader : public testing::TestWithParam<SurgicalCase> {};
@@ -195,12 +196,11 @@ INSTANTIATE_TEST_SUITE_P(Table, SurgeryOnTheHeader, testing::ValuesIn(rows), row
 TEST(SurgeryOnTheHeader, GivesEveryProblemOfQuoting) {
   const EditOutcome edit =
       edit_text("#sp\n", {SetParameter{"opt", "a", "\n"}, SetParameter{"sp", "b=", "1"}});
-  EXPECT_THAT(
-      edit.problems(),
-      testing::ElementsAre(
-          "the parameter name 'b=' would not read back as it is",
-          "the value '\n' of parameter 'a' holds a line break, and a header command is one line"));
-  EXPECT_EQ(edit.refusal(), "the parameter name 'b=' would not read back as it is");
+  EXPECT_THAT(edit.problems(),
+              testing::ElementsAre("the parameter name 'b=' would be read differently",
+                                   "the value '\n' of parameter 'a' contains a line break, but a "
+                                   "header command is one line"));
+  EXPECT_EQ(edit.refusal(), "the parameter name 'b=' would be read differently");
 }
 
 TEST(SurgeryOnTheHeader, GivesTheDocumentOfTheEdits) {

@@ -84,8 +84,8 @@ const SurgicalCase rows[] = {
      {angle},
      "O 0 0 0\n\nA 1 2 3\n",
      "+2 +3",
-     "line 3 would be read as an atom of element A, not as an angle constraint; another "
-     "post-processing line before it avoids that"},
+     "line 3 would be read as an atom of element A, not as an angle constraint; put another "
+     "post-processing line before it to avoid that"},
     {"AnAngleBehindADroppedLine", "O 0 0 0\nC x\n", {angle}, "O 0 0 0\nC x\nA 1 2 3\n", "+3"},
     {"RawTextOfTwoLines",
      "C 1\n",

@@ -15,7 +15,7 @@ namespace {
 
 constexpr char mark = '\0';
 
-/// An option with a value attached, whatever the value: an empty one is the hardest to see.
+/// Whether the argument is an option with its value, even if that is empty: "--raw=".
 bool has_attached_value(std::string_view argument) {
   return argument.substr(0, 2) == "--" && argument.find('=') != std::string_view::npos;
 }
@@ -25,15 +25,15 @@ bool needs_mark(std::string_view argument) {
 }
 
 CLI::Option& add(CLI::App& app, const Option& option) {
-  // Without a place to convert its values to, an option keeps them as they are. All of them are
-  // kept, so that the complaint about a second one is made here.
+  // An option without a variable for its values keeps them unchanged. All of them are kept, so that
+  // the message about a second one is written here.
   return *app.add_option(option.names, CLI::callback_t(), option.help)
               ->type_size(1)
               ->expected(1)
               ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
 
-/// Any number of values, one use after another.
+/// Lets an option have any number of values.
 CLI::Option& take_all(CLI::Option& option) {
   return *option.expected(CLI::detail::expected_max_vector_size);
 }
@@ -124,11 +124,11 @@ std::vector<std::string> values_of(const CLI::App& app, const Option& option) {
 }
 
 std::optional<std::string> attached_value_of(const CLI::App& app, const Option& option,
-                                             const std::string& otherwise) {
+                                             const std::string& default_value) {
   const std::vector<std::string>& results = find(app, option).results();
   if (results.empty()) return std::nullopt;
-  // A value that was typed bears a mark; the result of the bare option does not.
-  return is_marked(results.back()) ? unmarked(results.back()) : otherwise;
+  // A value that was typed has a mark; the result of the option without a value does not.
+  return is_marked(results.back()) ? unmarked(results.back()) : default_value;
 }
 
 std::vector<OptionUse> uses_in_order(const CLI::App& app, const std::vector<Option>& options) {

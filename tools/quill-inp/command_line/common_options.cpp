@@ -17,10 +17,10 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-constexpr Option quiet{"-q,--quiet", "", "Report errors only, no warnings and notes"};
+constexpr Option quiet{"-q,--quiet", "", "Print errors only, no warnings and notes"};
 constexpr Option color{"--color", "WHEN", "Use colour: auto, always or never"};
-constexpr Option max_size{"--max-size", "SIZE", "Refuse larger files (256MiB)"};
-constexpr Option stdin_filename{"--stdin-filename", "NAME", "What to call standard input, '-'"};
+constexpr Option max_size{"--max-size", "SIZE", "Refuse larger files (default 256MiB)"};
+constexpr Option stdin_filename{"--stdin-filename", "NAME", "Name for standard input in messages"};
 
 ColorMode parse_color_mode(const std::string& text) {
   if (const auto mode = find_color_mode(text)) return *mode;
@@ -35,7 +35,7 @@ struct SizeUnit {
 
 constexpr SizeUnit size_units[] = {{"", 0}, {"KiB", 10}, {"MiB", 20}, {"GiB", 30}};
 
-/// Far more than any memory holds, and far enough from the end of the range to be added to.
+/// Larger than any memory, and small enough that other sizes can be added without overflow.
 constexpr std::uint64_t largest_size = std::numeric_limits<std::uint64_t>::max() / 4;
 
 /// size = digits [ "KiB" / "MiB" / "GiB" ]
@@ -48,8 +48,8 @@ std::uint64_t parse_size(const std::string& text) {
     if (error == std::errc() && unit.name == unit_name && number <= largest_size >> unit.shift)
       return number << unit.shift;
   }
-  throw UsageError("--max-size takes a number of bytes, KiB, MiB or GiB, '256MiB', not '" + text +
-                   "'");
+  throw UsageError("--max-size takes a number of bytes, KiB, MiB or GiB, such as '256MiB', not '" +
+                   text + "'");
 }
 
 /// "-q", alone or with other short options that have no value: "-iq".

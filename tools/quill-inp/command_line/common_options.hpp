@@ -12,9 +12,9 @@ void add_common_options(CLI::App& verb);
 /// Reads the options that every verb has, see CommonOptions. Throws UsageError for bad values.
 CommonOptions read_common_options(const CLI::App& verb);
 
-/// Returns what arguments that cannot be parsed say about messages: -q, --quiet and --color before
-/// "--", the last --color with a value that is one. Words are not told from the values of other
-/// options.
+/// Returns the options for messages, for arguments that cannot be parsed: -q, --quiet and --color
+/// before "--", and of several --color the last one with a valid value. Values of other options
+/// that look like these options count, too.
 CommonOptions find_message_options(const std::vector<std::string>& arguments);
 
 }  // namespace kelp::input::quill::tool

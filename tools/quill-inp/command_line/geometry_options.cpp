@@ -17,7 +17,8 @@ namespace {
 
 using lossless_edit::TrackedDocument;
 
-constexpr Option atoms_option{"--atoms", "FILE.xyz", "Inline the atoms of an XYZ file"};
+constexpr Option atoms_option{"--atoms", "FILE.xyz",
+                              "Copy the atoms of an XYZ file into the input"};
 constexpr Option xyz_option{"--xyz", "PATH", "Refer to XYZ files"};
 constexpr Option trajectory_option{"--trajectory", "PATH", "Refer to an XYZ trajectory"};
 
@@ -31,14 +32,13 @@ void warn_of_unknown_elements(Session& session, const std::string& name,
   }
 }
 
-/// An option that takes any number of paths takes a setting after them for one, too.
+/// An option that takes any number of paths would take a setting after them as a path, too.
 const std::string& require_path(const Option& option, const std::string& text) {
   if (text.find('=') < text.find('/')) {
     throw UsageError(
-        name_of(option) + " takes a path, and '" + text +
-        "' looks like a setting; put the settings of 'set' before the options or after "
-        "'--', and write a path of this name './" +
-        text + "'");
+        name_of(option) + " takes a path, but '" + text +
+        "' looks like a setting; put settings before the options or after '--', or write './" +
+        text + "' for a path");
   }
   return text;
 }
@@ -69,7 +69,7 @@ GeometryChange read_geometry_change(Session& session, const CLI::App& verb) {
   const auto trajectory = value_of(verb, trajectory_option);
   for (const std::string& path : paths) require_path(xyz_option, path);
   const int given = (xyz_file ? 1 : 0) + (paths.empty() ? 0 : 1) + (trajectory ? 1 : 0);
-  if (given > 1) throw UsageError("--atoms, --xyz and --trajectory exclude each other");
+  if (given > 1) throw UsageError("only one of --atoms, --xyz and --trajectory can be given");
   if (xyz_file) {
     return [atoms = read_atoms(session, *xyz_file)](TrackedDocument& document) {
       document.set_geometry(atoms);

@@ -12,12 +12,12 @@ namespace kelp::input::quill::tool {
 /// Adds --atoms, --xyz and --trajectory to a verb.
 void add_geometry_options(CLI::App& verb);
 
-/// What sets the geometry of a document.
+/// A function that sets the geometry of a document.
 using GeometryChange = std::function<void(lossless_edit::TrackedDocument&)>;
 
-/// Returns the change that they ask for, empty if none of them was given. Reads the atoms of the
-/// file that --atoms names. Throws UsageError for two of them and for a path that looks like a
-/// setting, "model=m2", and ReportedTrouble for a file that cannot be read.
+/// Returns the change that these options ask for, empty if none of them was given. Reads the atoms
+/// of the file that --atoms names. Throws UsageError for two of the options and for a path that
+/// looks like a setting, "model=m2", and ReportedTrouble for a file that cannot be read.
 GeometryChange read_geometry_change(Session& session, const CLI::App& verb);
 
 }  // namespace kelp::input::quill::tool

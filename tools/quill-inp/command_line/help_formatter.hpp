@@ -9,7 +9,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// Lays the help texts out: what the program or verb does, how it is called, its arguments, options
+/// Formats the help texts: what the program or verb does, how it is called, its arguments, options
 /// and verbs, and its example.
 class HelpFormatter : public CLI::Formatter {
  public:

@@ -18,13 +18,13 @@ std::vector<Option> post_options() {
   return options;
 }
 
-/// What a constraint takes, by the number of its atoms.
+/// What the option of a constraint takes, by the number of its atoms.
 constexpr std::string_view constraint_examples[] = {
-    "", "an atom number, '1'", "two atom numbers, '1,2'", "three atom numbers, '1,2,3'",
-    "four atom numbers, '1,2,3,4'"};
+    "", "an atom number, such as '1'", "two atom numbers, such as '1,2'",
+    "three atom numbers, such as '1,2,3'", "four atom numbers, such as '1,2,3,4'"};
 
 constexpr std::string_view scan_example =
-    "two to four atom numbers, a value and a number of steps, '1,2:1.5:10'";
+    "two to four atom numbers, a value and a number of steps, such as '1,2:1.5:10'";
 
 [[noreturn]] void throw_expected(const std::string& option, std::string_view expected,
                                  std::string_view text) {
@@ -49,7 +49,7 @@ std::vector<std::string_view> split(std::string_view text, char separator) {
   }
 }
 
-/// Stores atom numbers separated by commas; false when one is not a number.
+/// Stores atom numbers separated by commas; returns false when one is not a number.
 bool read_atoms(std::string_view text, std::vector<std::int32_t>& atoms) {
   for (const std::string_view piece : split(text, ',')) {
     int number = 0;

@@ -15,18 +15,18 @@ namespace kelp::input::quill::tool {
 /// --scan, --post and --raw.
 void add_post_options(CLI::App& verb);
 
-/// Returns the lines that they ask for, in the order of the command line.
+/// Returns the lines that these options ask for, in the order of the command line.
 /// Throws UsageError for bad values.
 std::vector<PostCommand> read_post_commands(const CLI::App& verb);
 
-/// Returns the integer that `text` spells. Throws UsageError, naming the option, for any other
-/// text.
+/// Returns the integer that `text` spells. Throws UsageError, with the name of the option, for any
+/// other text.
 std::int32_t parse_integer(const std::string& option, std::string_view text);
 
-/// Returns the constraint or scan that the value of a command line option spells: "--atom",
-/// "--bond", "--angle" and "--dihedral" take atom numbers separated by commas, "--scan" two to four
-/// of them, a value and a number of steps, separated by colons: "1,2:1.5:10". "--post" takes a path
-/// and "--raw" a line of text. Throws UsageError for anything else.
+/// Returns the post-processing line for the value of an option. "--atom", "--bond", "--angle" and
+/// "--dihedral" take atom numbers separated by commas. "--scan" takes two to four of them, a value
+/// and a number of steps, separated by colons: "1,2:1.5:10". "--post" takes a path and "--raw" a
+/// line of text. Throws UsageError for anything else.
 PostCommand parse_post_argument(const std::string& option, const std::string& text);
 
 }  // namespace kelp::input::quill::tool

@@ -11,15 +11,16 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-constexpr Option settings_argument{"KEY=VALUE", "", "What to set, all or nothing"};
-constexpr Option flag{"--flag", "KEY", "Set a command or parameter that has no value"};
+constexpr Option settings_argument{"KEY=VALUE", "",
+                                   "What to set; either all of it is set or nothing"};
+constexpr Option flag{"--flag", "KEY", "Set a command or parameter without a value"};
 
 std::string explain_bare_word(const std::string& word) {
   std::string text =
-      "expected KEY=VALUE, not '" + word + "'; a setting without a value is made by --flag KEY";
+      "expected KEY=VALUE, not '" + word + "'; use --flag KEY for a setting without a value";
   std::error_code ignored;
   if (std::filesystem::exists(word, ignored))
-    text += "; there is a file of that name, and 'set' takes one FILE";
+    text += "; there is a file with that name, but 'set' takes only one FILE";
   return text;
 }
 

@@ -8,12 +8,12 @@
 
 namespace kelp::input::quill::tool {
 
-/// Adds the arguments KEY=VALUE and the option --flag to a verb, after the file that it is for.
+/// Adds the arguments KEY=VALUE and the option --flag to a verb, after its argument FILE.
 void add_setting_options(CLI::App& verb);
 
-/// Returns the settings that they ask for, in the order of the command line.
-/// Throws UsageError for bad ones, and for a word without "=": a second file name or a forgotten
-/// "=" would be written into the input.
+/// Returns the settings in the order of the command line. Throws UsageError for bad ones, and for a
+/// word without "=", which may be a second file name or a setting with a forgotten "=". Neither
+/// should be written into the input.
 std::vector<Setting> read_settings(const CLI::App& verb);
 
 }  // namespace kelp::input::quill::tool

@@ -29,7 +29,7 @@ _quill_inp_keys() {
   esac
 }
 
-# Offers the words that begin with $2, and no blank behind one that waits for a value.
+# Offers the words that begin with $2, and no blank after one that waits for a value.
 _quill_inp_offer() {
   mapfile -t COMPREPLY < <(compgen -W "$1" -- "$2")
   if [[ ${#COMPREPLY[@]} -eq 1 && ${COMPREPLY[0]} == *= ]]; then compopt -o nospace 2>/dev/null; fi

@@ -14,7 +14,7 @@ namespace {
 
 using lossless_edit::TrackedDocument;
 
-/// Makes one setting after another and collects what there is to say about them.
+/// Makes one setting after another and collects what to report about them.
 class Settings {
  public:
   explicit Settings(TrackedDocument& document) : document_(document) {}
@@ -49,7 +49,7 @@ class Settings {
   void set_special(const Setting& setting, SpecialKey key) {
     if (key != SpecialKey::Charge && key != SpecialKey::Multiplicity) {
       throw UsageError("'" + setting.key_text +
-                       "' cannot be set by a value; use --atoms, --xyz or --trajectory");
+                       "' cannot be set to a value; use --atoms, --xyz or --trajectory");
     }
     if (!setting.value)
       throw UsageError("'" + setting.key_text + "' cannot be set without a value");
@@ -101,7 +101,7 @@ class Settings {
     document_.set_task(key.command, std::move(parameters));
   }
 
-  /// The editor knows only the first command of a name where whole commands are set.
+  /// The editor can set a whole command only if it is the first one with its name.
   static void require_first(const Setting& setting, const CommandKey& key) {
     if (key.occurrence.value_or(0) > 0) {
       throw UsageError("'" + setting.key_text +

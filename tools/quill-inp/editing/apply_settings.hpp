@@ -9,10 +9,10 @@
 
 namespace kelp::input::quill::tool {
 
-/// Makes the settings, one after another. A command that has a value or parameters and becomes
-/// something else loses them, and a parameter that is set without a value loses the one it had: the
-/// report tells that. It also tells of a command by a number that there are not so many of, which
-/// is not created, and of a new name that is like one that is there. Throws UsageError for what
+/// Makes the settings, one after another. The report lists what is lost: a command that becomes
+/// something else loses its value or parameters, and a parameter that is set without a value loses
+/// its old one. The report also lists commands with a number that is too large, which are not
+/// created, and new names that are similar to an existing one. Throws UsageError for keys that
 /// cannot be set.
 EditReport apply_settings(const std::vector<Setting>& settings,
                           lossless_edit::TrackedDocument& document);

@@ -33,7 +33,8 @@ std::size_t number_of(const LineChange& change) {
   return change.new_line ? *change.new_line : *change.old_line;
 }
 
-/// Returns the end of the run of changes of one kind, line after line, that begins at `begin`.
+/// Returns the end of the run of changes of one kind, in lines without a gap, that starts at
+/// `begin`.
 std::size_t end_of_run(const std::vector<LineChange>& changes, std::size_t begin) {
   std::size_t end = begin + 1;
   while (end < changes.size() && kind_of(changes[end]) == kind_of(changes[begin]) &&

@@ -10,15 +10,15 @@
 
 namespace kelp::input::quill::tool {
 
-/// What to note of a change.
+/// A note about a change.
 struct ChangeNote {
   Place place = {};
   std::string message = {};
 };
 
-/// Describes every line that an edit of an input changes, adds or removes: one by one with its
-/// text, and several of the same kind in a row as one range. Removed lines go by their old numbers,
-/// others by their new ones.
+/// Describes every line that an edit of an input changes, adds or removes: a single line with its
+/// text, and several lines of the same kind in a row as one range. Removed lines have their old
+/// numbers, all others their new ones.
 std::vector<ChangeNote> describe_changes(const ReadInput& input,
                                          const lossless_edit::SurgicalEdit& edit);
 

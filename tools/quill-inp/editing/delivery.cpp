@@ -10,20 +10,21 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-constexpr Option in_place{"-i,--in-place", "", "Write the file instead of standard output"};
+constexpr Option in_place{"-i,--in-place", "", "Write to the file instead of standard output"};
 constexpr Option check_option{"--check", "",
-                              "Only name the files that would change; exit code 1 if any"};
-constexpr Option diff{"--diff", "", "Only print what would change; exit code 1 if anything"};
-constexpr Option backup{"--backup", "SUFFIX", "With -i, keep the old text beside the file (.bak)"};
+                              "Only list files that would change; exit code 1 if any do"};
+constexpr Option diff{"--diff", "", "Only print the changes; exit code 1 if there are any"};
+constexpr Option backup{"--backup", "SUFFIX",
+                        "With -i, keep a copy of the old text (default .bak)"};
 constexpr Option break_hard_links{"--break-hard-links", "",
-                                  "With -i, write a file that has other names, too"};
+                                  "With -i, also write a file that has several hard links"};
 
 constexpr const char* default_suffix = ".bak";
 
 std::string require_suffix(const std::string& suffix) {
   if (suffix.empty() || suffix.find('/') != std::string::npos)
-    throw UsageError("--backup takes a suffix for the name of the file, '.bak', not '" + suffix +
-                     "'");
+    throw UsageError("--backup takes a suffix for the name of the file, such as '.bak', not '" +
+                     suffix + "'");
   return suffix;
 }
 
@@ -57,7 +58,7 @@ Delivery read_delivery(const CLI::App& verb, CheckOption check) {
   delivery.replace.breaks_hard_links = is_given(verb, break_hard_links);
 
   if (delivery.in_place && (delivery.as_diff || delivery.as_check))
-    throw UsageError("--check and --diff never write, so they exclude --in-place");
+    throw UsageError("--check and --diff write no file and cannot be used with --in-place");
   if (!delivery.in_place && delivery.replace.backup_suffix)
     throw UsageError("--backup needs --in-place");
   if (!delivery.in_place && delivery.replace.breaks_hard_links)

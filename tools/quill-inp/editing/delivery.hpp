@@ -22,14 +22,14 @@ struct Delivery {
 /// Whether a verb has --check.
 enum class CheckOption { Absent, Present };
 
-/// Adds --in-place, --diff, --backup and --break-hard-links to a verb, and --check if it has that.
+/// Adds --in-place, --diff, --backup and --break-hard-links to a verb, and --check if wanted.
 void add_delivery_options(CLI::App& verb, CheckOption check = CheckOption::Absent);
 
-/// Reads them. Throws UsageError for some that do not go together.
+/// Reads these options. Throws UsageError for options that cannot be used together.
 Delivery read_delivery(const CLI::App& verb, CheckOption check = CheckOption::Absent);
 
-/// Delivers the new text of a file: prints it, writes it in place of the old one, or tells whether
-/// and how it differs, which is an answer of "no". Throws Trouble when that fails.
+/// Delivers the new text of a file: prints it, writes it in place of the old one, or prints whether
+/// and how it differs. The answer is "no" if it differs. Throws Trouble when that fails.
 ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_text,
                  const Delivery& delivery);
 

@@ -26,7 +26,7 @@ void report_notes(Session& session, const ReadInput& input, const std::vector<Ed
   }
 }
 
-/// Returns what the header lines that change or go say besides their commands. The other lines that
+/// Returns what changed or removed header lines say besides their commands. The other lines that
 /// change hold nothing more than what they were read as.
 std::vector<LineLoss> list_line_losses(const ReadText& read, const SurgicalEdit& edit) {
   std::vector<LineLoss> losses;
@@ -55,8 +55,8 @@ ExitCode edit_file(Session& session, const std::string& argument, const Edit& ed
   const Losses losses{std::move(report.losses), list_line_losses(input.read, edited),
                       std::move(edited.quoting_problems), edited.proof, document.document()};
   if (!accept_losses(session, input.name, losses, policy)) return ExitCode::Trouble;
-  // Whatever fails for lack of memory once the file holds the new text would say that it does not,
-  // so what takes much of it comes first.
+  // If memory ran out after the file was written, the error would look as if it was not written. So
+  // the notes, which can take much memory, are made first.
   std::vector<ChangeNote> notes;
   if (delivery.in_place) notes = describe_changes(input, edited);
   const ExitCode code = deliver(session, input, edited.text, delivery);

@@ -12,10 +12,10 @@
 
 namespace kelp::input::quill::tool {
 
-/// Changes a document and tells what there is to say about that. Throws UsageError.
+/// Changes a document and returns what to report about that. May throw UsageError.
 using Edit = std::function<EditReport(lossless_edit::TrackedDocument&)>;
 
-/// Reads an input, edits its document and delivers the new text, or nothing of it. The answer is
+/// Reads an input, edits its document and delivers the whole new text or nothing. The answer is
 /// "no" when something is missing. Throws Trouble and UsageError.
 ExitCode edit_file(Session& session, const std::string& argument, const Edit& edit,
                    const Delivery& delivery, const LossPolicy& policy);

@@ -14,8 +14,8 @@ namespace kelp::input::quill::tool {
 /// Something to note about an edit.
 struct EditNote {
   enum class Kind {
-    NewName,             // `name` names nothing yet and is like `similar`
-    OtherParameterLeft,  // another parameter `name` of `command` is left
+    NewName,             // `name` is new and similar to the existing name `similar`
+    OtherParameterLeft,  // another parameter `name` of `command` is still there
   };
 
   Kind kind = Kind::NewName;
@@ -24,8 +24,8 @@ struct EditNote {
   std::optional<std::size_t> command = std::nullopt;  // into the commands that were read
 };
 
-/// What there is to say about an edit that was made to a document: what the document says no more
-/// without having been asked about it, what the edit is about and is not there, and notes.
+/// What to report about an edit of a document: what was lost without being asked for, what the edit
+/// needs and the document does not have, and notes.
 struct EditReport {
   std::vector<SettingLoss> losses = {};
   std::vector<MissingAnswer> missing = {};

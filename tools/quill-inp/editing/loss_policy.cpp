@@ -14,17 +14,18 @@ namespace kelp::input::quill::tool {
 namespace {
 
 constexpr Option allow_loss{"--allow-loss", "",
-                            "Write the text even if something gets lost, and say what"};
+                            "Write the text even if something is lost, and say what"};
 constexpr Option max_change{"--max-change", "NUMBER",
-                            "Accept numbers rounded by up to this (1e-6)"};
+                            "Accept rounding by up to this number (default 1e-6)"};
 
-// A text in which nearly everything differs needs no line for every number.
+// If nearly everything in a text differs, a message for every number would be of no use.
 constexpr std::size_t most_losses_told = 20;
 
 double parse_max_change(const std::string& text) {
   double change = 0.0;
   if (!core::text::try_parse_double(text, change) || !(change >= 0.0))
-    throw UsageError("--max-change takes a number from 0 on, '1e-6', not '" + text + "'");
+    throw UsageError("--max-change takes a number that is 0 or larger, such as '1e-6', not '" +
+                     text + "'");
   return change;
 }
 

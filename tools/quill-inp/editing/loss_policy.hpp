@@ -9,22 +9,23 @@
 
 namespace kelp::input::quill::tool {
 
-/// What may get lost on the way into a new text.
+/// What a new text may lose.
 struct LossPolicy {
   bool allows_loss = false;
   double max_change = 1e-6;
 };
 
-/// Adds --allow-loss and --max-change to a verb, and reads them. Reading throws UsageError for a
-/// change that is not a number from 0 on.
+/// Add --allow-loss and --max-change to a verb, and read them. Reading throws UsageError for a
+/// change that is not a number of 0 or more.
 void add_loss_options(CLI::App& verb);
 LossPolicy read_loss_policy(const CLI::App& verb);
 
-/// Whether the lines that losses are about are lines of a text that somebody can look at.
+/// Whether messages about losses have line numbers: only if the user can see the text they count.
 enum class LossLines { Shown, Hidden };
 
 /// Returns whether a text with these losses may be written or printed: when there are none, or when
-/// the policy allows them. Either way they are reported, a refusal with the first one.
+/// the policy allows them. Allowed losses are reported as warnings, and the first of losses that
+/// are not allowed as an error.
 bool accept_losses(Session& session, const std::string& name, const Losses& losses,
                    const LossPolicy& policy, LossLines lines = LossLines::Shown);
 

@@ -18,7 +18,7 @@ std::optional<LineLoss> find_line_loss(const lossless_edit::ReadText& read, std:
 std::size_t Losses::count() const {
   const std::size_t of_text = settings.size() + lines.size() + quoting.size();
   if (!proof.explanation) return of_text;
-  // The explanation may be about one of the differences, which is not told twice.
+  // The explanation may be about one of the differences, which is not reported twice.
   const std::size_t told = proof.explanation->difference ? 1 : 0;
   return of_text + 1 + proof.comparison.differences.size() - told;
 }

@@ -13,7 +13,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// What a setting takes from a command or parameter besides what it was asked to.
+/// What a setting removes from a command or parameter without being asked to.
 struct SettingLoss {
   enum class Kind { Parameters, Value, ParameterValue };
 
@@ -22,7 +22,7 @@ struct SettingLoss {
   std::string value = {};  // that is lost
 };
 
-/// A line of the old text that says something which the document does not hold.
+/// A line of the old text that says something that the document does not hold.
 struct LineLoss {
   enum class Kind {
     WholeLine,   // all that the line says
@@ -34,8 +34,8 @@ struct LineLoss {
   std::string_view content = {};
 };
 
-/// Returns the loss when the line number `index`, counted from 0, is made anew from the document,
-/// if there is one. The loss keeps a view of the text.
+/// Returns what is lost, if anything, when line number `index`, counted from 0, is written again
+/// from the document. The loss keeps a view of the text.
 std::optional<LineLoss> find_line_loss(const lossless_edit::ReadText& read, std::size_t index);
 
 /// All that a new text would lose.

@@ -7,7 +7,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// The numbers of the lines are those of the text that is printed.
+/// The name for warnings whose line numbers are those of the printed text.
 constexpr const char* name_of_output = "<stdout>";
 
 }  // namespace
@@ -19,7 +19,7 @@ ExitCode print_document(Session& session, const std::string& name, const QuillIn
   const lossless_edit::Proof proof = lossless_edit::prove(text, document, policy.max_change);
   note_number_changes(session, name, proof.comparison.number_changes);
   const Losses losses{{}, {}, std::move(quoted.problems), proof, document};
-  // Their lines are those of the text that is not printed, and `name` is not the name of that.
+  // Their lines are those of a text that is not printed, and `name` is not the name of that text.
   if (!accept_losses(session, name, losses, policy, LossLines::Hidden)) return ExitCode::Trouble;
   report_warnings(session.reporter(), name_of_output, proof.found);
   session.output().write(text);

@@ -8,9 +8,9 @@
 
 namespace kelp::input::quill::tool {
 
-/// Prints the canonical text of a document, with its values spelled so that they survive, if the
-/// text is proved to read back as the document, or the policy allows that it does not. Errors go by
-/// `name`; warnings are those that a reader of the text will get, and go by "<stdout>".
+/// Prints the canonical text of a document, with quotes around values that need them. The text has
+/// to be read back as the document, unless the policy allows losses. Errors are reported under
+/// `name`, and the warnings that a reader of the text will get under "<stdout>".
 ExitCode print_document(Session& session, const std::string& name, const QuillInput& document,
                         const LossPolicy& policy);
 

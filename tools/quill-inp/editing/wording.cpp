@@ -27,7 +27,7 @@ std::string words(const LineLoss& loss) {
   const bool is_whole = loss.kind == LineLoss::Kind::WholeLine;
   return "line " + std::to_string(loss.number) +
          (is_whole ? " would be left out: "
-                   : " says more than its command, which would be lost: ") +
+                   : " says more than its command, and the rest would be lost: ") +
          in_apostrophes(loss.content);
 }
 
@@ -58,7 +58,7 @@ std::vector<LossWords> words(const Losses& losses, std::size_t most) {
 std::string words(const EditNote& note) {
   if (note.kind == EditNote::Kind::NewName)
     return in_apostrophes(note.name) + " is new" + did_you_mean(note.similar);
-  return "another parameter " + in_apostrophes(note.name) + " is left";
+  return "another parameter " + in_apostrophes(note.name) + " is still there";
 }
 
 }  // namespace kelp::input::quill::tool

@@ -9,18 +9,18 @@
 #include "quill-inp/editing/edit_report.hpp"
 #include "quill-inp/editing/losses.hpp"
 
-// The words for what there is to say about an edit. All decisions were taken before.
+// The words for the report about an edit. They decide nothing.
 
 namespace kelp::input::quill::tool {
 
-/// Words about a text, and the line that they are about, if they are about one: a line of the old
-/// text that says more than is kept, or one of the new text that would be read differently.
+/// The words for a loss, and the line that they are about, if there is one: a line of the old text
+/// that says more than is kept, or a line of the new text that would be read differently.
 struct LossWords {
   std::string text = {};
   std::optional<std::size_t> line = std::nullopt;
 };
 
-/// Returns the words for the losses, in the order of their members, and for no more than `most`.
+/// Returns the words for the losses, in the order of their members, but for at most `most` of them.
 std::vector<LossWords> words(const Losses& losses, std::size_t most);
 
 std::string words(const EditNote& note);

@@ -28,7 +28,7 @@ struct Kept {
 void copy_owner_and_group(const struct stat& wanted, int to, Kept& kept) {
   struct stat state = state_of(to, temporary_file_failure);
   if (state.st_uid != wanted.st_uid || state.st_gid != wanted.st_gid) {
-    // Only the superuser gives files away, but any user may use the groups he is in.
+    // Only the superuser can change the owner, but users can set any group that they are in.
     if (fchown(to, wanted.st_uid, wanted.st_gid) != 0)
       static_cast<void>(fchown(to, static_cast<uid_t>(-1), wanted.st_gid) == 0);
     state = state_of(to, temporary_file_failure);
@@ -40,8 +40,8 @@ void copy_owner_and_group(const struct stat& wanted, int to, Kept& kept) {
 #if defined(__linux__)
 constexpr const char* access_list_attribute = "system.posix_acl_access";
 
-/// Returns whether the new file has the access list of the old one, or both have none. A folder may
-/// have given the new file one of its own, which would let others in as soon as the mode is set.
+/// Returns whether the new file now has the access list of the old one, or both have none. The new
+/// file may have got a list from its folder, which would let others in as soon as the mode is set.
 bool copy_access_list(int from, int to) {
   char list[4096];
   const ssize_t size = fgetxattr(from, access_list_attribute, list, sizeof list);
@@ -69,11 +69,12 @@ std::vector<std::string> copy_access_rights(int from, const struct stat& state, 
   Kept kept;
   copy_owner_and_group(state, to, kept);
   kept.access_list = copy_access_list(from, to);
-  // With an access list the bits of the group are the most that anybody named in it may do, and
-  // without the list they would be what the group may do.
+  // With an access list, the group bits limit what anybody in the list may do. Without the list,
+  // they would be the rights of the group.
   const bool keeps_group_bits = kept.group && kept.access_list;
   const mode_t mode = narrowed_mode(state.st_mode & permission_bits, kept.owner, keeps_group_bits);
-  // Last, since a change of owner takes bits away, and since until here only the owner gets in.
+  // Last, since a change of owner clears some bits, and since only the owner can open the file
+  // before this.
   if (fchmod(to, mode) != 0) throw_system_trouble("the permission bits cannot be set", errno);
   return describe_losses(kept);
 }

@@ -9,15 +9,15 @@
 namespace kelp::input::quill::tool {
 
 /// Gives the new file `to` the owner, group, access list and permission bits of `from`, whose state
-/// is `state`; both are open files. What may not be given is left out, and the permission bits are
-/// then narrowed so that nobody can do more than before. Returns what was left out, one sentence
-/// each. Throws Trouble when not even narrower permission bits can be set.
+/// is `state`; both are open files. What the system does not allow is left out, and the permission
+/// bits are then reduced so that nobody can do more than before. Returns what was left out, one
+/// sentence each. Throws Trouble when not even reduced permission bits can be set.
 std::vector<std::string> copy_access_rights(int from, const struct stat& state, int to);
 
-/// Returns the permission bits for a file whose owner or group could not be kept. A new group, and
-/// the members of the old one, get what everybody and the old group had in common; without the old
-/// owner the rest gets no more than the owner had. Bits that run a program as somebody go with that
-/// somebody.
+/// Returns the permission bits for a file whose owner or group could not be kept. Without the old
+/// group, the group and all others get only rights that both had. Without the old owner, the group
+/// and all others get only rights that the owner had, too. The set-user-ID bit is kept only with
+/// the owner, and the set-group-ID bit only with the group.
 mode_t narrowed_mode(mode_t mode, bool keeps_owner, bool keeps_group);
 
 }  // namespace kelp::input::quill::tool

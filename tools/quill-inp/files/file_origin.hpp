@@ -7,7 +7,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// The file that a text was read from, with every symbolic link on the way resolved, and its state
+/// The file that a text was read from, with all symbolic links in its path resolved, and its state
 /// before it was read.
 struct FileOrigin {
   std::string folder = {};
@@ -15,8 +15,8 @@ struct FileOrigin {
   struct stat state = {};
 };
 
-/// Returns whether two states are those of the same file with, as far as the system tells, the same
-/// content: device, inode, size, and the times of the last change of content and of state.
+/// Returns whether two states are those of the same file with, as far as the system can tell, the
+/// same content: device, inode, size, and the times of the last change of content and of state.
 bool is_same_state(const struct stat& left, const struct stat& right);
 
 }  // namespace kelp::input::quill::tool

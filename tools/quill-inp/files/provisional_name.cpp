@@ -15,8 +15,8 @@ namespace {
 
 constexpr std::size_t signal_count = sizeof ending_signals / sizeof ending_signals[0];
 
-// What the signal handler needs. While it may run nothing of this changes: whoever changes it holds
-// the signals.
+// What the signal handler needs. It is changed only while the signals are held, so never while the
+// handler can run.
 ListedName* first_listed = nullptr;
 struct sigaction former_actions[signal_count] = {};
 
@@ -27,7 +27,7 @@ extern "C" void remove_listed_names(int signal) {
   for (std::size_t i = 0; i < signal_count; ++i) {
     if (ending_signals[i] == signal) sigaction(signal, &former_actions[i], nullptr);
   }
-  // It comes through as soon as this handler returns. There is nobody to tell of a failure.
+  // The signal arrives as soon as this handler returns. A failure cannot be reported from here.
   static_cast<void>(raise(signal));
   errno = error;
 }
@@ -38,7 +38,7 @@ void catch_signals() {
   action.sa_mask = ending_signal_set();
   for (std::size_t i = 0; i < signal_count; ++i) {
     sigaction(ending_signals[i], nullptr, &former_actions[i]);
-    // Who started the program under nohup wants it to go on.
+    // An ignored signal stays ignored: under nohup, the program has to go on.
     if (former_actions[i].sa_handler != SIG_IGN) sigaction(ending_signals[i], &action, nullptr);
   }
 }

@@ -5,7 +5,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// A name in an open folder, in the list of those that a signal removes.
+/// A name in an open folder, in the list of names that are removed on a signal.
 struct ListedName {
   int folder = -1;
   std::string text = {};
@@ -13,11 +13,11 @@ struct ListedName {
 };
 
 /// The name of a new file in an open folder. Unless it is kept, the name is removed when the object
-/// goes, and on SIGINT, SIGTERM and SIGHUP, which then do what they would have done without it.
+/// is destroyed, and on SIGINT, SIGTERM and SIGHUP, which then have their usual effect.
 class ProvisionalName {
  public:
-  /// The file is there already. So that no signal leaves it behind, they are held from before it is
-  /// made until the object is, and nothing is thrown here.
+  /// The file must exist. The caller holds the signals from before it creates the file until this
+  /// constructor is done, so that no signal leaves the file in the folder. Nothing is thrown here.
   ProvisionalName(int folder, std::string text) noexcept;
   ProvisionalName(const ProvisionalName&) = delete;
   ProvisionalName& operator=(const ProvisionalName&) = delete;
@@ -25,7 +25,7 @@ class ProvisionalName {
 
   const std::string& text() const { return name_.text; }
 
-  /// Leaves the name alone from now on: the file is to stay, or has another name.
+  /// Does not remove the name any more: the file is to stay, or has another name.
   void keep();
 
  private:

@@ -17,8 +17,8 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// The file that is to be replaced, by its name in its open folder, so that neither can be swapped
-/// for another by renaming something further up the path.
+/// The file that is to be replaced, by its name in its open folder, so that renaming a folder in
+/// its path cannot put another file in its place.
 struct Target {
   FileDescriptor folder;
   FileDescriptor file;
@@ -37,8 +37,8 @@ void require_unchanged(const Target& target) {
 }
 
 void require_writable(const Target& target) {
-  // Replacing the file needs the right to write to its folder only, but whoever took the right to
-  // write to the file away meant something by it.
+  // Replacing the file needs only the right to write to its folder. But a file without write
+  // permission is not supposed to be changed.
   if (faccessat(target.folder.number(), target.origin.name.c_str(), W_OK, AT_EACCESS) != 0)
     throw_system_trouble("cannot be written", errno);
 }
@@ -47,8 +47,8 @@ void require_one_name(const Target& target, const ReplaceOptions& options) {
   const auto names = target.origin.state.st_nlink;
   if (names > 1 && !options.breaks_hard_links) {
     throw Trouble("has " + std::to_string(names) +
-                  " names (hard links), of which only this one would get the new text; "
-                  "--break-hard-links accepts that");
+                  " names (hard links), and only this one would get the new text; "
+                  "use --break-hard-links to accept that");
   }
 }
 
@@ -66,7 +66,7 @@ void flush_to_disk(int file) {
   }
 }
 
-/// Reads the file back by its name: what counts is what others will find.
+/// Reads the file back by its name, since others will find it by its name, too.
 void require_content(const Target& target, const TemporaryFile& temporary, std::string_view text) {
   const FileDescriptor file(
       open_in(target.folder.number(), temporary.name(), O_RDONLY | O_NOFOLLOW));
@@ -75,8 +75,8 @@ void require_content(const Target& target, const TemporaryFile& temporary, std::
     throw Trouble("the temporary file does not hold what was written to it");
 }
 
-/// Puts the text into the temporary file, with the access rights of the target, and sees to it that
-/// it is there. Returns what of the rights could not be kept.
+/// Puts the text into the temporary file, with the access rights of the target, and checks that it
+/// is there. Returns which of the rights could not be kept.
 std::vector<std::string> fill(TemporaryFile& temporary, const Target& target,
                               std::string_view text) {
   const int file = temporary.file().number();
@@ -90,7 +90,7 @@ std::vector<std::string> fill(TemporaryFile& temporary, const Target& target,
   return losses;
 }
 
-/// A backup in the making: a copy of the old text, and the name that it is to have.
+/// A copy of the old text in a temporary file, and the name that it is to have.
 struct Backup {
   TemporaryFile file;
   std::string name;
@@ -105,13 +105,13 @@ struct Backup {
 void place(Backup& backup) {
   if (!backup.file.take_free_name(backup.name)) {
     throw Trouble("the backup '" + backup.name +
-                  "' exists already, and would be lost; --backup=SUFFIX gives another name");
+                  "' exists already and would be lost; use --backup=SUFFIX for another name");
   }
 }
 
-/// Gives the file the place of the target, and the backup, if there is one, its name: both or none,
-/// so that what failed can be tried again. The backup has its name first; at no moment is the old
-/// text without one.
+/// Puts the file in the place of the target and gives the backup, if there is one, its name. Either
+/// both is done or nothing, so that a failed call can be repeated. The backup gets its name first,
+/// so that the old text has a name at every moment.
 void place(TemporaryFile& file, std::optional<Backup>& backup, const Target& target) {
   const HeldSignals held;
   std::optional<ProvisionalName> backup_name;

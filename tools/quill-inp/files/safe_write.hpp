@@ -1,8 +1,8 @@
 #ifndef KELP_INPUT_QUILL_TOOL_FILES_SAFE_WRITE_HPP
 #define KELP_INPUT_QUILL_TOOL_FILES_SAFE_WRITE_HPP
 
-// Putting a new text in place of the one that was read, so that at no moment, whatever fails or
-// kills the program, the file holds anything but the whole old or the whole new text.
+// Replaces the text of a file by a new one. At every moment, even if the program fails or is
+// killed, the file holds either the whole old text or the whole new text.
 //
 //   for (const std::string& note : replace_content(origin, old_text, new_text, {})) report(note);
 
@@ -17,20 +17,20 @@ namespace kelp::input::quill::tool {
 
 /// How to replace a file.
 struct ReplaceOptions {
-  /// What to append to the name of the file for that of a copy of the old text; no copy without it,
-  /// nor where the file keeps the old text.
+  /// A suffix for the name of the file, which gives the name of a copy of the old text. There is no
+  /// copy without a suffix, or if the file keeps the old text.
   std::optional<std::string> backup_suffix = std::nullopt;
-  /// Whether a file with several names may be replaced, which leaves the others with the old text.
+  /// Whether a file with several names may be replaced. Its other names keep the old text.
   bool breaks_hard_links = false;
 };
 
-/// Replaces the content of the file that `old_text` was read from, unless it is the same bytes:
-/// then nothing is touched. The new text is written to a temporary file in the folder of the file,
-/// which gets its owner, group and permission bits as far as possible, is flushed to disk, read
-/// back, and renamed, provided that the file is still the one that was read.
+/// Replaces the content of the file that `old_text` was read from. If the new text is the same,
+/// nothing is done. The new text is written to a temporary file in the same folder, which gets the
+/// owner, group and permission bits of the old file as far as possible. It is flushed to disk, read
+/// back, and renamed if the old file is still the one that was read.
 ///
-/// Returns what of the file's access rights could not be kept. Throws Trouble on any failure; the
-/// file then holds the old text, or, if the text says so, the new one.
+/// Returns which access rights of the file could not be kept. Throws Trouble on any failure; the
+/// file then holds the old text, or, if the message says so, the new one.
 std::vector<std::string> replace_content(const FileOrigin& origin, std::string_view old_text,
                                          std::string_view new_text, const ReplaceOptions& options);
 

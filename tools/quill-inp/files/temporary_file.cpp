@@ -16,7 +16,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// The name does not grow with that of the target, which may be as long as names can be.
+/// The name does not contain that of the target, which may already have the longest allowed length.
 std::string random_name() {
   std::random_device random;
   std::string name = ".quill-inp.";
@@ -55,13 +55,13 @@ void TemporaryFile::take_place_of(const std::string& name) {
 }
 
 bool TemporaryFile::take_free_name(const std::string& name) {
-  // A link is made in one step or not at all, and never takes the place of a file. The name that
-  // remains beside it goes with the object.
+  // A link is made in one step or not at all, and never replaces a file. The temporary name is
+  // removed with this object.
   if (linkat(folder_, name_->text().c_str(), folder_, name.c_str(), 0) == 0) return true;
   if (errno == EEXIST) return false;
   if (errno != EPERM && errno != ENOTSUP)
     throw_system_trouble("the backup '" + name + "' cannot be made", errno);
-  // Some file systems know no links. There the name can only be looked at first.
+  // Some file systems have no links. There, a check of the name before the rename has to do.
   struct stat state {};
   if (fstatat(folder_, name.c_str(), &state, AT_SYMLINK_NOFOLLOW) == 0) return false;
   take_place_of(name);

@@ -9,9 +9,9 @@
 
 namespace kelp::input::quill::tool {
 
-/// A new file in a folder, which only its owner can open, and which is gone again when the object
-/// goes, unless it was given its final name: on every error, and on SIGINT, SIGTERM and SIGHUP,
-/// too, which then do what they would have done without it.
+/// A new file in a folder, which only its owner can open. Unless it was given its final name, it is
+/// removed when the object is destroyed, so on every error, and on SIGINT, SIGTERM and SIGHUP,
+/// which then have their usual effect.
 class TemporaryFile {
  public:
   /// Creates the file in the open folder. Throws Trouble when that fails.

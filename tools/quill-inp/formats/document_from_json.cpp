@@ -17,7 +17,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// A JSON value and the way to it from the outermost object, for messages.
+/// A JSON value and the path to it from the outermost object, for messages.
 struct JsonPlace {
   const Json& value;
   std::string path;
@@ -39,7 +39,7 @@ JsonPlace entry(const JsonPlace& place, std::size_t index) {
   return {place.value[index], place.path + "/" + std::to_string(index)};
 }
 
-/// Sees to it that the value is an object with these members only.
+/// Throws unless the value is an object with no other members than these.
 void require_object(const JsonPlace& place, const std::vector<std::string>& names) {
   if (!place.value.is_object()) throw_expected(place, "an object");
   for (const auto& item : place.value.items()) {
@@ -69,7 +69,7 @@ std::int32_t read_integer(const JsonPlace& place) {
   // A double holds every integer of this size exactly, and 2.0 is an integer in JSON.
   const bool is_integer =
       std::trunc(number) == number && Limits::min() <= number && number <= Limits::max();
-  if (!is_integer) throw_expected(place, "an integer of 32 bits");
+  if (!is_integer) throw_expected(place, "a 32-bit integer");
   return static_cast<std::int32_t>(number);
 }
 
@@ -102,7 +102,7 @@ std::vector<Entry> read_list(const JsonPlace& place, Entry (*read_entry)(const J
   return entries;
 }
 
-/// Reads a member into `target`, which stays as it is when there is no such member.
+/// Reads a member into `target`, which is unchanged when there is no such member.
 template <typename Target, typename Value>
 void read_optional(const JsonPlace& place, const std::string& name, Target& target,
                    Value (*read)(const JsonPlace&)) {

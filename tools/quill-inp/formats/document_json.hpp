@@ -1,8 +1,9 @@
 #ifndef KELP_INPUT_QUILL_TOOL_FORMATS_DOCUMENT_JSON_HPP
 #define KELP_INPUT_QUILL_TOOL_FORMATS_DOCUMENT_JSON_HPP
 
-// A document as JSON and back, without loss. docs/quill-inp.schema.json describes the form; members
-// are named as in the library, and those that hold what a new document would hold are left out.
+// Writes a document as JSON and reads it again, without loss. docs/quill-inp.schema.json describes
+// the form. Members have the names of the library; members with the value that they have in a new
+// document are left out.
 
 #include <string>
 #include <string_view>
@@ -12,12 +13,12 @@
 
 namespace kelp::input::quill::tool {
 
-/// Returns the document as a JSON text of several lines. Every kind is one of its enumeration.
+/// Returns the document as a JSON text of several lines. Every kind must be in its enumeration.
 std::string document_to_json(const QuillInput& input);
 
-/// Returns the document that a JSON text describes. Throws Trouble, naming the place, for a text
-/// that is not JSON or not of the form: an unknown member is refused, since ignoring it could lose
-/// something.
+/// Returns the document that a JSON text describes. Throws Trouble, with the place in the text, for
+/// a text that is not JSON or does not have this form. Unknown members are refused, since something
+/// could be lost if they were ignored.
 QuillInput document_from_json(std::string_view text);
 
 /// Return a command or a post-processing line in the form that it has in the JSON of a document.

@@ -25,8 +25,8 @@ OrderedJson to_json(const AtomRecord& atom) {
   return json;
 }
 
-/// The numbers alone say that there is a line with them; where there are numbers and no line, that
-/// takes a word of its own.
+/// If the numbers are there, the document has a line with them. Numbers without a line need a
+/// member that says so.
 void add_charge_and_multiplicity(OrderedJson& json, const GeometryBlock& geometry) {
   const bool has_line = geometry.has_charge_and_multiplicity;
   const GeometryBlock fresh;

@@ -56,7 +56,8 @@ bool is_same_special(double left, double right) {
          std::signbit(left) == std::signbit(right);
 }
 
-/// The two places where lists of parts stand: members of the document, and of its geometry.
+/// Whether the entries of a value begin new lines: those of the document, of its geometry, and of
+/// the lists of parts in them.
 bool begins_lines(const OrderedJson& value, int depth) {
   if (!value.is_structured() || value.empty()) return false;
   return depth < 2 || (depth == 2 && value.is_array() && value.front().is_object());
@@ -86,7 +87,7 @@ void append(std::string& out, const OrderedJson& value, int depth) {
   out += value.is_object() ? '}' : ']';
 }
 
-/// Remembers the names of the members of every object that is being read.
+/// Finds members with the same name in one object. Knows the names in every object being read.
 class NameWatch {
  public:
   bool operator()(int /*depth*/, Json::parse_event_t event, const Json& parsed) {
@@ -106,7 +107,7 @@ class NameWatch {
   std::vector<std::set<std::string>> open_objects_;
 };
 
-/// The JSON library reads a number as an integer with a sign only if it has one, and loses that of
+/// The JSON library reads a number as a signed integer only if it has a sign, and loses the sign of
 /// "-0".
 bool is_negative_zero(const Json& value) {
   return value.type() == Json::value_t::number_integer && value.get<std::int64_t>() == 0;
@@ -124,7 +125,7 @@ std::size_t line_after(std::string_view text, std::size_t bytes) {
   return 1 + static_cast<std::size_t>(std::count(read.begin(), read.end(), '\n'));
 }
 
-/// The line is told beside the message, and so need not be in it.
+/// The line is reported separately, so it is removed from the message.
 Trouble to_trouble(const Json::parse_error& error, std::string_view text) {
   const std::string message = without_identifier(error.what());
   const std::size_t line = line_after(text, error.byte);

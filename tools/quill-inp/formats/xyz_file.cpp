@@ -56,7 +56,7 @@ std::vector<AtomRecord> read_xyz_atoms(std::string_view content) {
     atoms.push_back(read_atom(lines[i], i + 1));
   for (std::size_t i = end; i < lines.size(); ++i) {
     if (!text::trim(lines[i]).empty())
-      throw_at(i + 1, "more text after the last atom; only files of one structure are read");
+      throw_at(i + 1, "more text after the last atom; only files with one structure can be read");
   }
   return atoms;
 }

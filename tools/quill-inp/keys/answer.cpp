@@ -91,8 +91,8 @@ std::vector<std::string> parameter_names(const HeaderCommand& command) {
 
 std::string count_words(const MissingAnswer& missing) {
   return "there " + std::string(missing.count == 1 ? "is" : "are") + " only " +
-         std::to_string(missing.count) + " of the command '" + missing.name +
-         "', and [N] counts from 0";
+         std::to_string(missing.count) + (missing.count == 1 ? " command '" : " commands '") +
+         missing.name + "', and [N] counts from 0";
 }
 
 std::string reason_words(const MissingAnswer& missing) {

@@ -11,36 +11,36 @@
 
 namespace kelp::input::quill::tool {
 
-/// Returns what `input` has under a key, one or more lines: the value of an assignment or
-/// parameter, "flag" for a command or parameter without one, the list in parentheses for a
+/// Returns what `input` has under a key, as one or more lines: the value of an assignment or
+/// parameter, "flag" for a command or parameter without a value, the list in parentheses for a
 /// parameter list; for the special keys the number, the kind of geometry, the paths, or the atoms
-/// with every digit. Nothing when there is no such thing.
+/// with all digits. Returns nothing if the input does not have it.
 std::optional<std::string> answer(const QuillInput& input, const Key& key);
 
-/// What a key asks for and is not there.
+/// What a key asks for and the input does not have.
 struct MissingAnswer {
   enum class Kind {
     Section,    // there is no such section
     Command,    // no command has the name
-    Number,     // there are commands of the name, but not so many
+    Number,     // there are commands with the name, but the number is too large
     Parameter,  // the command has no such parameter
   };
 
   std::string key_text = {};  // the key as it was typed
   Kind kind = Kind::Section;
   std::string name = {};                              // of the command or parameter
-  std::uint64_t count = 0;                            // of the commands of the name
-  std::optional<std::string> similar = std::nullopt;  // the nearest name that is there
+  std::uint64_t count = 0;                            // of the commands with the name
+  std::optional<std::string> similar = std::nullopt;  // the nearest name in the input
 };
 
-/// Returns what is missing for an answer. There is no answer to the key.
+/// Returns why there is no answer to a key. answer() must have returned nothing for it.
 MissingAnswer find_missing(const QuillInput& input, std::string_view key_text, const Key& key);
 
-/// Returns the same in words for a person.
+/// Returns the same in words.
 std::string words(const MissingAnswer& missing);
 
-/// Returns the name that is there and like that of a key, for one that names nothing yet; nothing
-/// for other keys.
+/// Returns, for a key whose name is not in the input, a similar name that is; nothing for other
+/// keys.
 std::optional<std::string> find_similar_name(const QuillInput& input, const CommandKey& key);
 
 }  // namespace kelp::input::quill::tool

@@ -31,7 +31,7 @@ constexpr std::string_view escapable = ".[]=@\\";
                    std::string(key_grammar()));
 }
 
-/// Walks over a key. Inside a piece, a backslash takes the meaning from the character after it.
+/// Walks over a key. In a name, a character after a backslash has no special meaning.
 class KeyCursor {
  public:
   explicit KeyCursor(std::string_view text) : text_(text) {}
@@ -44,7 +44,7 @@ class KeyCursor {
     return true;
   }
 
-  /// Returns the characters up to one that has a meaning.
+  /// Returns the characters up to the next one with a special meaning.
   std::string piece() {
     std::string piece;
     for (; !at_end() && !is_special(text_[position_]); ++position_) {
@@ -72,7 +72,7 @@ class KeyCursor {
   void skip_backslash() {
     ++position_;
     if (at_end() || escapable.find(text_[position_]) == std::string_view::npos)
-      throw_bad_key(text_, "a backslash stands in front of one of " + std::string(escapable));
+      throw_bad_key(text_, "a backslash goes before one of " + std::string(escapable));
   }
 
   std::string_view text_;
@@ -94,7 +94,7 @@ CommandKey parse_command_key(std::string_view text) {
   }
   if (!cursor.at_end())
     throw_bad_key(text,
-                  "there is a '.', '[' or ']' too many, or a backslash missing in front of it");
+                  "there is one '.', '[' or ']' too many, or a backslash is missing before it");
   return key;
 }
 
@@ -154,8 +154,8 @@ std::vector<std::string> special_key_names() {
 }
 
 std::string_view key_grammar() {
-  return "a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, N counted from "
-         "0, or @charge, @multiplicity, @geometry, @files or @atoms";
+  return "a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, where N counts "
+         "from 0, or @charge, @multiplicity, @geometry, @files or @atoms";
 }
 
 }  // namespace kelp::input::quill::tool

@@ -1,7 +1,7 @@
 #ifndef KELP_INPUT_QUILL_TOOL_KEYS_KEY_HPP
 #define KELP_INPUT_QUILL_TOOL_KEYS_KEY_HPP
 
-// The keys by which parts of an input are named on the command line.
+// The keys that name parts of an input on the command line.
 //
 //   parse_key("opt");             // the first command "opt"
 //   parse_key("opt[1].maxiter");  // a parameter of the second one
@@ -17,11 +17,11 @@
 
 namespace kelp::input::quill::tool {
 
-/// Returns the name of a command as it is stored, of one that was typed: without blanks around it
-/// and without the "#" that may stand in front as in the file.
+/// Returns the name that is stored for a command name that was typed: without blanks around it, and
+/// without the "#" that may be before it as in a file.
 std::string stored_command_name(std::string_view typed);
 
-/// Returns whether a command of this stored name would stand in an input without any name.
+/// Returns whether a command with this stored name would have no name in an input.
 bool is_nameless(std::string_view command);
 
 /// What an input has besides header commands.
@@ -33,8 +33,8 @@ enum class SpecialKey {
   Atoms,
 };
 
-/// A command, by name and by its number, counted from 0, among those of the name; or a parameter of
-/// it. Names are as InputEditor takes them, `command` without "#" in front.
+/// A command, by its name and its number among the commands with that name, counted from 0; or a
+/// parameter of it. Names are as InputEditor takes them, so `command` has no "#" before it.
 struct CommandKey {
   std::string command = {};
   std::optional<std::uint64_t> occurrence = std::nullopt;
@@ -43,8 +43,8 @@ struct CommandKey {
 
 using Key = std::variant<SpecialKey, CommandKey>;
 
-/// Reads a key. Throws UsageError, with the grammar, for a text that is none, and with the nearest
-/// name for an unknown name after "@".
+/// Reads a key. Throws UsageError, with the grammar, for a text that is not a key, and with the
+/// nearest name for an unknown name after "@".
 Key parse_key(std::string_view text);
 
 /// A key and what it is to be set to: "opt.maxiter=50", or "opt.tight" without a value.
@@ -54,12 +54,12 @@ struct Setting {
   std::optional<std::string> value = std::nullopt;
 };
 
-/// Returns whether a setting has a value: an "=" that no backslash precedes.
+/// Returns whether a setting has a value: an "=" without a backslash before it.
 bool has_value(std::string_view setting);
 
-/// Reads a setting. The first "=" that no backslash precedes ends the key; the value is everything
-/// after it, as it is. Throws as parse_key() does, and for a command without a name: an input may
-/// have one, but nobody means to make one.
+/// Reads a setting. The first "=" without a backslash before it ends the key; the value is all text
+/// after it, unchanged. Throws as parse_key() does, and for a command without a name: an input may
+/// have one, but nobody wants to make one.
 Setting parse_setting(std::string_view text);
 
 /// Returns how the keys that begin with "@" are written, "@charge" and so on.

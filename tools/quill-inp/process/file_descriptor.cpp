@@ -28,7 +28,7 @@ FileDescriptor::~FileDescriptor() { close(); }
 
 int FileDescriptor::close() {
   if (number_ < 0) return 0;
-  // After EINTR the descriptor is gone all the same, so that a second try could close another one.
+  // After EINTR the descriptor is closed, too, so a second try could close another file.
   const int result = ::close(std::exchange(number_, -1));
   return result == 0 || errno == EINTR ? 0 : errno;
 }

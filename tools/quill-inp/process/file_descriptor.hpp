@@ -11,7 +11,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// An open file of the operating system, closed when the object goes.
+/// An open file of the operating system, closed when the object is destroyed.
 class FileDescriptor {
  public:
   explicit FileDescriptor(int number) : number_(number) {}
@@ -23,27 +23,27 @@ class FileDescriptor {
 
   int number() const { return number_; }
 
-  /// Closes the file and returns the error of that, or 0: on some file systems this is where a full
-  /// disk is reported.
+  /// Closes the file and returns the error of closing it, or 0. On some file systems, a full disk
+  /// is reported only here.
   int close();
 
  private:
   int number_;
 };
 
-/// Opens `name` in the folder `folder` (AT_FDCWD for the current one), not inherited by programs
-/// that are started meanwhile. Returns -1 and sets errno on failure, as openat() does.
+/// Opens `name` in the folder `folder` (AT_FDCWD for the current one). Programs that are started do
+/// not inherit the file. Returns -1 and sets errno on failure, as openat() does.
 int open_in(int folder, const std::string& name, int flags, unsigned mode = 0);
 
-/// Returns the state of an open file. Throws Trouble, beginning with `failure`, when it cannot be
-/// had.
+/// Returns the state of an open file. On failure, throws Trouble with a message that begins with
+/// `failure`.
 struct stat state_of(int file, const char* failure = "cannot be examined");
 
-/// Reads to the end, up to `limit` bytes and one more, so that the caller sees when there are too
-/// many. Throws Trouble when reading fails. Reading begins at the position of the file.
+/// Reads from the current position to the end of the file, but at most `limit` bytes and one more,
+/// so that the caller sees when there are too many. Throws Trouble when reading fails.
 std::string read_to_end(int file, std::uint64_t limit);
 
-/// Writes everything, however many calls that takes. Throws Trouble when it cannot.
+/// Writes all data, with as many system calls as needed. Throws Trouble when that fails.
 void write_everything(int file, std::string_view data);
 
 }  // namespace kelp::input::quill::tool

@@ -5,14 +5,14 @@
 
 namespace kelp::input::quill::tool {
 
-/// The signals by which a user or the system ends a program, and which leave it time to clean up.
+/// The signals that a user or the system ends a program with, and that leave it time to clean up.
 inline constexpr int ending_signals[] = {SIGINT, SIGTERM, SIGHUP};
 
-/// Returns the same as a set.
+/// Returns the same signals as a set.
 sigset_t ending_signal_set();
 
-/// Holds these signals back as long as the object lives, so that steps that belong together are
-/// never parted by one. Objects may be nested.
+/// Holds these signals back as long as the object lives, so that no signal comes between steps that
+/// belong together. Objects may be nested.
 class HeldSignals {
  public:
   HeldSignals();

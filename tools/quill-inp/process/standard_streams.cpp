@@ -10,7 +10,8 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// Opened the wrong way round, so that a use of it fails instead of vanishing.
+/// The caller passes the wrong direction, so that using the descriptor fails instead of doing
+/// nothing.
 void occupy(int descriptor, int flags) {
   if (fcntl(descriptor, F_GETFD) == -1)
     static_cast<void>(open("/dev/null", flags));  // takes the lowest free number, which is this one

@@ -8,7 +8,7 @@
 namespace kelp::input::quill::tool {
 
 /// The streams of one call of the program, and the descriptors of the files that they are connected
-/// to; none for a stream in memory.
+/// to. A stream in memory has no descriptor.
 struct StandardStreams {
   std::istream& in;
   std::ostream& out;
@@ -18,12 +18,12 @@ struct StandardStreams {
   std::optional<int> err_file = std::nullopt;
 };
 
-/// Returns the streams of the process. To be called once, before anything is opened: it makes
-/// failures to write (a closed pipe, a file that may not grow) come back as errors, which the exit
-/// code then tells, instead of ending the process. It also takes the descriptors 0, 1 and 2 where
-/// they are free: in a process that was started without one of them, the next file that is opened,
-/// an input perhaps, would get its number and with it the messages. Writing to standard output
-/// fails then, as it should.
+/// Returns the streams of the process. Call it once, before any file is opened. It makes failures
+/// to write (a closed pipe, a file at its size limit) come back as errors, which the exit code then
+/// reports, instead of ending the process. It also takes the descriptors 0, 1 and 2 if they are
+/// free. In a process that was started without one of them, the next file that is opened, perhaps
+/// an input, would get its number, and messages would be written into it. Writing to standard
+/// output then fails, as it should.
 StandardStreams take_standard_streams();
 
 }  // namespace kelp::input::quill::tool

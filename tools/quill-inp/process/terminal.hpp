@@ -21,11 +21,11 @@ std::optional<ColorMode> find_color_mode(std::string_view name);
 /// Returns these names.
 std::vector<std::string> color_mode_names();
 
-/// Returns whether an open file is a terminal; no file is not.
+/// Returns whether an open file is a terminal; false without a file.
 bool is_terminal(std::optional<int> file);
 
-/// Returns whether to colour what goes to an open file, or to none. In the mode Auto it is not
-/// coloured when NO_COLOR is set to anything but the empty text or the terminal calls itself dumb.
+/// Returns whether to colour the text for an open file, or for none. In the mode Auto, text is
+/// coloured only for a terminal that is not "dumb", and only if NO_COLOR is not set or empty.
 bool wants_color(ColorMode mode, std::optional<int> file);
 
 }  // namespace kelp::input::quill::tool

@@ -9,10 +9,10 @@
 
 namespace kelp::input::quill::tool {
 
-/// Why one file could not be processed. The others of the call still are. The text names no file,
-/// which whoever reports it puts in front, and may hold bytes that a terminal would obey.
-/// `line` is the number, counted from 1, of the line of the file that it is about, if it is about
-/// one.
+/// Why one file could not be processed. The other files of the call still are. The message does not
+/// name the file; the caller that reports it adds the name. It may hold bytes that a terminal would
+/// obey. `line` is the number, counted from 1, of the line of the file that it is about, if it is
+/// about one.
 class Trouble : public std::runtime_error {
  public:
   explicit Trouble(const std::string& message, std::optional<std::size_t> line = std::nullopt)
@@ -24,23 +24,23 @@ class Trouble : public std::runtime_error {
   std::optional<std::size_t> line_;
 };
 
-/// What ends the processing of a file and was reported already, for it is trouble with another one.
+/// Ends the processing of a file because of trouble with another file, which was already reported.
 class ReportedTrouble : public std::exception {};
 
-/// Why a call cannot be carried out for any file: its arguments make no sense.
+/// Why a call cannot be carried out for any file: its arguments are wrong.
 class UsageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// Returns why an exception ended the processing of a file, or the call, in words for a person.
+/// Returns why an exception ended the processing of a file, or the call, in words for the user.
 std::string explain(const std::exception& error);
 
-/// Throws the Trouble of a failed system call: `action`, ": ", and what the system says of `error`,
-/// an errno.
+/// Throws the Trouble of a failed system call. Its message is `action`, ": ", and the system's
+/// message for `error`, an errno.
 [[noreturn]] void throw_system_trouble(const std::string& action, int error);
 
-/// Returns what the system says of an errno, "No such file or directory".
+/// Returns the system's message for an errno: "No such file or directory".
 std::string system_message(int error);
 
 }  // namespace kelp::input::quill::tool

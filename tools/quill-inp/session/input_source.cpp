@@ -30,21 +30,20 @@ std::string_view kind_of_file(mode_t mode) {
 
 [[noreturn]] void throw_not_regular(mode_t mode) {
   throw Trouble("is " + std::string(kind_of_file(mode)) +
-                ", not a regular file; '-' reads standard input");
+                ", not a regular file; use '-' to read standard input");
 }
 
 struct Free {
   void operator()(char* pointer) const { std::free(pointer); }
 };
 
-/// Returns the absolute path without any symbolic link in it.
+/// Returns the absolute path with all symbolic links resolved.
 std::string resolve_links(const std::string& path) {
   if (path.find('\0') != std::string::npos) throw Trouble("a file name cannot hold a NUL byte");
   const std::unique_ptr<char, Free> resolved(realpath(path.c_str(), nullptr));
   if (resolved) return resolved.get();
   const int error = errno;
-  // Under /dev/fd are links that lead to open files without a name, which is how a shell passes on
-  // a pipe.
+  // Under /dev/fd there are links to open files without a name. A shell passes pipes in this way.
   struct stat state {};
   if (stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode)) throw_not_regular(state.st_mode);
   if (error == ENOENT && is_symbolic_link(path))
@@ -72,8 +71,8 @@ void require_regular(const struct stat& state, std::uint64_t limit) {
 void require_apart_from_output(Session& session, const struct stat& state) {
   if (session.output().goes_into(state)) {
     throw Trouble(
-        "is also the standard output; redirect that to another file (fmt, set, unset and add have "
-        "--in-place)");
+        "is also where standard output goes; write to another file, or use --in-place with fmt, "
+        "set, unset or add");
   }
 }
 
@@ -87,8 +86,8 @@ void read_file(InputSource& source, Session& session, const std::string& path) {
   const std::uint64_t limit = session.options().max_size;
   const std::string resolved = resolve_links(path);
   FileOrigin origin = split_path(resolved);
-  // Not blocking, so that a pipe that nobody writes to can be refused instead of waited for. A link
-  // that takes the place of the resolved file is not followed.
+  // Not blocking, so that a pipe without a writer is refused at once. If a link has taken the place
+  // of the resolved file, it is not followed.
   const FileDescriptor file(open_in(AT_FDCWD, resolved, O_RDONLY | O_NONBLOCK | O_NOFOLLOW));
   if (file.number() < 0) throw_system_trouble("cannot be opened", errno);
   origin.state = state_of(file.number());
@@ -118,7 +117,7 @@ std::string read_standard_input(Session& session) {
   const Input in = session.take_standard_input();
   if (!in.file) return read_stream(in.stream, limit);
   require_apart_from_output(session, state_of(*in.file));
-  // A stream takes a failed read for the end of the text; the descriptor tells them apart.
+  // A stream treats a failed read as the end of the text; with the descriptor, they are different.
   return read_at_most(*in.file, limit);
 }
 

@@ -18,25 +18,23 @@ struct InputSource {
   std::optional<FileOrigin> origin = std::nullopt;
 };
 
-/// An input that was read: the same with what the reader made of its text.
+/// The same for an input, with what the reader made of its text.
 struct ReadInput {
   std::string name = {};
   lossless_edit::ReadText read = {};
   std::optional<FileOrigin> origin = std::nullopt;
 };
 
-/// Reads the file that `argument` names, or standard input for "-". Throws Trouble when there is no
-/// such file, when a link leads nowhere, when it is not a regular file, when it is larger than the
-/// session accepts, when it changes while it is read, when it is where standard output goes, and
-/// when it cannot be read.
+/// Reads the file that `argument` names, or standard input for "-". Throws Trouble when the file
+/// does not exist, when it is not a regular file, when it is larger than the session accepts, when
+/// it changes while it is read, when standard output goes into it, and when it cannot be read.
 InputSource read_source(Session& session, const std::string& argument);
 
 /// Reads such a file as a QUILL input. Throws as read_source() does.
 ReadInput read_input(Session& session, const std::string& argument);
 
 /// Throws Trouble when `argument` names the file that standard output goes into: the shell may have
-/// emptied it, and what is printed would end up in what is read. Says nothing of files that are not
-/// there.
+/// emptied it, and the program would read its own output. Does nothing if the file does not exist.
 void require_apart_from_output(Session& session, const std::string& argument);
 
 }  // namespace kelp::input::quill::tool

@@ -13,8 +13,8 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// Returns the error of closing an open file, or 0. On network file systems a full disk may be
-/// reported only then, and closing a copy of the descriptor is enough for that.
+/// Returns the error of closing an open file, or 0. On network file systems, a full disk may be
+/// reported only then. Closing a copy of the descriptor is enough to see that.
 int try_closing(int file) {
   const int copy = dup(file);
   return copy < 0 ? errno : FileDescriptor(copy).close();

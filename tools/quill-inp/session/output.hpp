@@ -12,28 +12,28 @@
 
 namespace kelp::input::quill::tool {
 
-/// Where data goes: standard output, or a stream in its place. Whether what was written
-/// arrived is asked once, when all of it was written.
+/// Where data goes: standard output, or a stream instead of it. The caller writes all data and then
+/// checks once whether that failed.
 class Output {
  public:
   /// `file` is the descriptor that the stream is connected to, if it is connected to one.
   Output(std::ostream& stream, std::optional<int> file) : stream_(stream), file_(file) {}
 
-  /// Writes data byte for byte; to a terminal, which would obey some bytes, with those escaped.
+  /// Writes data byte for byte, but escapes bytes that a terminal would obey if it is a terminal.
   void write(std::string_view data);
 
-  /// Writes text that is for a person and in which nothing is left that a terminal would obey, but
-  /// for colours.
+  /// Writes text for people. Except for colours, it must not hold anything that a terminal would
+  /// obey.
   void write_shown(std::string_view text);
 
-  /// Writes a difference, in colour where that is wanted.
+  /// Writes a diff, in colour if `mode` asks for that.
   void write_diff(std::string_view diff, ColorMode mode);
 
-  /// Returns whether data goes into the regular file of this state. Anything else, a terminal or
-  /// /dev/null, may be read and written at once.
+  /// Returns whether data goes into the regular file with this state. Anything else, such as a
+  /// terminal or /dev/null, may be read and written at the same time.
   bool goes_into(const struct stat& file) const;
 
-  /// Returns why not everything arrived that was written, or nothing when it did.
+  /// Returns why some data could not be written, or nothing if all of it was.
   std::optional<std::string> find_failure();
 
  private:

@@ -11,17 +11,17 @@
 
 namespace kelp::input::quill::tool {
 
-/// Where something was found: a file, by the name to show for it, and a line if it is about one.
+/// What a message is about: a file, by the name to show for it, and a line of it, if there is one.
 struct Place {
   std::string name = {};
   std::optional<std::size_t> line = std::nullopt;
 };
 
-/// Writes diagnostics, "path:line: warning: message", one line each. What a terminal would obey is
-/// escaped. The stream is not checked: where nothing can be said, the exit code still can be.
+/// Writes messages, "path:line: warning: message", one line each. Bytes that a terminal would obey
+/// are escaped. Failures of the stream are ignored: the exit code still says what happened.
 class Reporter {
  public:
-  /// A quiet reporter passes over warnings and notes.
+  /// A quiet reporter writes no warnings and notes.
   Reporter(std::ostream& stream, bool is_quiet, bool is_colored);
 
   void error(const Place& place, std::string_view message);
@@ -37,7 +37,7 @@ class Reporter {
   bool is_colored_;
 };
 
-/// Reports every warning of a result as one about the file `name`.
+/// Reports every warning of a result as a warning about the file `name`.
 void report_warnings(Reporter& reporter, const std::string& name, const ParseResult& result);
 
 }  // namespace kelp::input::quill::tool

@@ -14,7 +14,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// What every verb can be told.
+/// The options that every verb has.
 struct CommonOptions {
   ColorMode color = ColorMode::Auto;
   bool is_quiet = false;
@@ -28,7 +28,7 @@ struct Input {
   std::optional<int> file;
 };
 
-/// One call of the program: its streams, and what it was told.
+/// One call of the program: its streams and its common options.
 class Session {
  public:
   Session(const StandardStreams& streams, Output& out, CommonOptions options);
@@ -43,10 +43,10 @@ class Session {
   /// The descriptor of standard input, if it is connected to a file.
   std::optional<int> input_file() const { return in_.file; }
 
-  /// Hands out standard input. Throws Trouble the second time: there is nothing left to read.
+  /// Returns standard input. Throws Trouble the second time, since there is nothing left to read.
   Input take_standard_input();
 
-  /// Reports the trouble with the file that `argument` names, and its line if it is about one.
+  /// Reports trouble with the file that `argument` names, with the line if it is about one.
   void report(const std::string& argument, const Trouble& trouble);
 
  private:

@@ -9,15 +9,15 @@
 
 namespace kelp::input::quill::tool {
 
-/// The header commands of an input by what they are for.
+/// The header commands of an input, sorted by their purpose.
 struct CommandRoles {
   std::vector<const HeaderCommand*> tasks = {};      // what to compute
   std::optional<std::string> model = std::nullopt;   // as InputEditor::model() has it
-  std::optional<std::string> device = std::nullopt;  // likewise
+  std::optional<std::string> device = std::nullopt;  // as InputEditor::device() has it
   std::vector<const HeaderCommand*> others = {};     // the rest, a second model line among it
 };
 
-/// Sorts the commands of `input`, into which the result points.
+/// Sorts the commands of `input`. The result has pointers into `input`.
 CommandRoles sort_commands(const QuillInput& input);
 
 }  // namespace kelp::input::quill::tool

@@ -13,9 +13,9 @@ namespace kelp::input::quill::tool {
 /// Symbols and how many atoms have them.
 using Composition = std::vector<std::pair<std::string, std::size_t>>;
 
-/// Returns what the atoms are made of in the order of Hill: carbon, hydrogen, then the others by
-/// the bytes of their symbols; without carbon all of them by their symbols. Symbols that are no
-/// element are counted like any other.
+/// Returns how many atoms of each element there are, in the Hill order: carbon, hydrogen, then the
+/// others sorted by the bytes of their symbols; without carbon, all of them sorted. Symbols that
+/// are not those of elements are counted in the same way.
 Composition hill_composition(const std::vector<AtomRecord>& atoms);
 
 /// Returns the composition as a formula, "C2H6O"; no atoms give the empty text.

@@ -10,7 +10,7 @@ namespace kelp::input::quill::tool {
 /// Returns what a person wants to know of the input that was read from `name`: a line with the
 /// name, and one line for each task, the model, the device, other commands, charge and
 /// multiplicity, the geometry with its composition, each file, constraint, scan and raw line, and
-/// each warning. What a terminal would obey is escaped.
+/// each warning. Bytes that a terminal would obey are escaped.
 std::string summary_text(const std::string& name, const ParseResult& result);
 
 /// Returns the same as data: a JSON object on one line.

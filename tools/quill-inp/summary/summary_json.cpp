@@ -56,7 +56,7 @@ void add_geometry(OrderedJson& json, const GeometryBlock& geometry) {
   json["files"] = list_of(geometry.xyz_files);
 }
 
-/// Returns the name of the list that tells of a post-processing line.
+/// Returns the name of the list for a kind of post-processing line.
 const char* list_name(PostCommandKind kind) {
   switch (kind) {
     case PostCommandKind::Scan:

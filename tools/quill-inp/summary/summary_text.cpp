@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t label_width = 14;
 
-/// Rows of a label and what it is about.
+/// Rows of a label and a text.
 class Rows {
  public:
   void add(std::string_view label, std::string_view text) {
@@ -34,7 +34,7 @@ class Rows {
   std::string text_;
 };
 
-/// Returns a command as it would stand in a file, with quotes where they are needed.
+/// Returns a command as it would be in a file, with quotes where they are needed.
 std::string header_line(const HeaderCommand& command) {
   return to_string(lossless_edit::quote(command).command);
 }

@@ -10,10 +10,10 @@ namespace {
 using Ids = std::vector<std::size_t>;
 using Known = std::unordered_map<std::string_view, std::size_t>;
 
-// The search takes time and room for the square of it.
+// The search takes time and memory for the square of this number.
 constexpr std::ptrdiff_t most_differences = 1000;
 
-/// Equal lines get equal numbers, so that the search need not compare texts.
+/// Equal lines get equal numbers, so that the search does not have to compare texts.
 Ids number_lines(const std::vector<std::string_view>& lines, Known& known) {
   Ids ids;
   ids.reserve(lines.size());
@@ -22,7 +22,7 @@ Ids number_lines(const std::vector<std::string_view>& lines, Known& known) {
   return ids;
 }
 
-/// Appends a run, to the last one where they touch.
+/// Appends a run. If it touches the last one, that one grows instead.
 void append(std::vector<MatchingRun>& runs, const MatchingRun& run) {
   if (run.length == 0) return;
   if (!runs.empty() && runs.back().old_begin + runs.back().length == run.old_begin &&
@@ -34,8 +34,8 @@ void append(std::vector<MatchingRun>& runs, const MatchingRun& run) {
 }
 
 /// The greedy search of E. W. Myers (An O(ND) Difference Algorithm and Its Variations, 1986). On
-/// diagonal k, where the position in the old text less that in the new one is k, reach_ holds how
-/// far into the old text one gets with the number of differences tried last.
+/// diagonal k, where the position in the old text minus that in the new one is k, reach_ holds how
+/// far into the old text the search gets with the number of differences tried last.
 class GreedySearch {
  public:
   GreedySearch(const Ids& old_ids, const Ids& new_ids)

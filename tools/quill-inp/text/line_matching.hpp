@@ -7,18 +7,18 @@
 
 namespace kelp::input::quill::tool {
 
-/// Lines that two texts share, one after the other in both: `length` of them, from `old_begin` in
-/// one and `new_begin` in the other.
+/// A run of lines that two texts share: `length` lines, from `old_begin` in the old text and from
+/// `new_begin` in the new one.
 struct MatchingRun {
   std::size_t old_begin = 0;
   std::size_t new_begin = 0;
   std::size_t length = 0;
 };
 
-/// Returns the lines that stay, as runs in order, the last one empty and at the end of both texts.
-/// All lines outside the runs are removed or added. Their number is the least possible, unless the
-/// texts differ in more than a thousand lines: then a longer list may come back rather than a
-/// search that takes forever.
+/// Returns the lines that stay, as runs in order. The last run is empty and at the end of both
+/// texts. All lines outside the runs are removed or added. Their number is the smallest possible,
+/// unless the texts differ in more than a thousand lines: then it may be larger, since the search
+/// would take too long.
 std::vector<MatchingRun> match_lines(const std::vector<std::string_view>& old_lines,
                                      const std::vector<std::string_view>& new_lines);
 

@@ -9,10 +9,10 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-// Nobody types a name of this length by hand, and the comparison is quadratic.
+// Nobody types longer names by hand, and the comparison takes quadratic time.
 constexpr std::size_t longest_word = 64;
 
-/// Returns the number of slips between two words: the optimal string alignment distance.
+/// Returns the number of typing mistakes between two words: the optimal string alignment distance.
 std::size_t count_slips(std::string_view left, std::string_view right) {
   const std::size_t width = right.size() + 1;
   std::vector<std::size_t> table((left.size() + 1) * width);
@@ -48,7 +48,7 @@ std::optional<std::string> nearest_name(std::string_view word,
   for (const std::string& name : names) {
     if (name.size() > longest_word) continue;
     const std::size_t slips = count_slips(folded, core::text::to_lower_copy(name));
-    // A name of one letter is one slip away from every other: that is no likeness.
+    // A name of one letter is one mistake away from every other one, so they are not similar.
     if (slips < fewest && slips <= accepted_slips(name.size()) && slips < name.size()) {
       nearest = name;
       fewest = slips;

@@ -51,7 +51,7 @@ void append_escape(std::string& out, char32_t code_point) {
 }
 
 /// Appends the first character of `text`, or the escape of its first byte, and returns how many
-/// bytes of `text` that was.
+/// bytes of `text` it took.
 std::size_t append_shown(std::string& out, std::string_view text) {
   const std::optional<Character> character = first_character(text);
   if (!character) {
@@ -67,7 +67,7 @@ std::size_t append_shown(std::string& out, std::string_view text) {
   return character->length;
 }
 
-/// Returns how many bytes at the beginning of `text` are layout that several lines may keep.
+/// Returns how many bytes at the beginning of `text` are a line end or a tab.
 std::size_t layout_length(std::string_view text) {
   if (text.front() == '\n' || text.front() == '\t') return 1;
   return text.substr(0, 2) == "\r\n" ? 2 : 0;

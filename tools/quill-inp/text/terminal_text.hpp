@@ -6,9 +6,9 @@
 //   shown_on_one_line("a\x1b[2Jb");  // a\x1b[2Jb, as eight visible characters
 //
 // A terminal obeys control characters: it clears the screen, moves the cursor, changes its title,
-// or shows the text after a directional override in another order. None of that may be in the hands
-// of whoever wrote an input, so such bytes are shown as escapes. Everything else is shown as it is,
-// a backslash too: the result is for reading, not for reading back.
+// or shows the text after a directional override in another order. The author of an input must not
+// be able to do that, so such bytes are shown as escapes. All other bytes are shown unchanged, even
+// a backslash: the result is for people, and cannot be turned back into the bytes.
 
 #include <string>
 #include <string_view>

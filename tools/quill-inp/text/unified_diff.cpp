@@ -35,7 +35,7 @@ struct Span {
   std::size_t new_end = 0;
 };
 
-/// Returns what lies between the runs of lines that stay.
+/// Returns the changes between the runs of lines that stay.
 std::vector<Span> find_changes(const Lines& old_lines, const Lines& new_lines) {
   std::vector<Span> changes;
   std::size_t old_at = 0;
@@ -60,7 +60,7 @@ void append_lines(std::string& out, char sign, const Lines& lines, std::size_t b
   for (std::size_t i = begin; i < end; ++i) append_line(out, sign, lines[i]);
 }
 
-/// "begin,count", where a count of one is left out, and no lines stand after line number `begin`.
+/// "begin,count", where a count of one is left out; without lines, `begin` is the line before them.
 std::string position(std::size_t begin, std::size_t end) {
   const std::size_t count = end - begin;
   const std::string first = std::to_string(count == 0 ? begin : begin + 1);

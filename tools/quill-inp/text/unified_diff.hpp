@@ -6,14 +6,14 @@
 
 namespace kelp::input::quill::tool {
 
-/// Returns the difference of two texts of the file `name` in the unified format, three lines of
-/// context around each change, as `patch` understands it; equal texts give the empty text. Lines
-/// are compared with their line ends and stand in the result byte for byte. In the two lines with
-/// the name, characters that a terminal would obey are escaped.
+/// Returns the difference between two texts of the file `name` in the unified format that `patch`
+/// understands, with three lines of context around each change; equal texts give the empty text.
+/// Lines are compared with their line ends and copied to the result byte for byte. In the two lines
+/// with the name, characters that a terminal would obey are escaped.
 std::string unified_diff(std::string_view name, std::string_view old_text,
                          std::string_view new_text);
 
-/// Returns such a difference in colour: removed lines red, added ones green, positions cyan.
+/// Returns such a difference in colour: removed lines red, added lines green, positions cyan.
 std::string colored_diff(std::string_view diff);
 
 }  // namespace kelp::input::quill::tool

@@ -4,7 +4,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// The characters that one number of bytes stands for. The least of them tells overlong forms.
+/// The characters that one number of bytes can encode. Smaller characters would be overlong forms.
 struct Form {
   std::size_t length;
   unsigned lead_mask;

@@ -23,8 +23,8 @@ constexpr const char* example =
 
 constexpr Option files{"FILE", "", "The inputs"};
 
-/// Returns what the lines of the text say and the document does not hold: the canonical text is
-/// made of the document alone.
+/// Returns what the lines of the text say and the document does not hold. The canonical text is
+/// made only from the document.
 std::vector<LineLoss> list_line_losses(const lossless_edit::ReadText& read) {
   std::vector<LineLoss> losses;
   for (std::size_t i = 0; i < read.lines.size(); ++i) {
@@ -60,7 +60,7 @@ ExitCode fmt(Session& session, const CLI::App& app) {
 }  // namespace
 
 Verb add_fmt(CLI::App& program) {
-  CLI::App* app = add_verb(program, "fmt", "Lay inputs out in the canonical way", example);
+  CLI::App* app = add_verb(program, "fmt", "Format inputs in the canonical layout", example);
   add_arguments(*app, files);
   add_delivery_options(*app, CheckOption::Present);
   add_loss_options(*app);

@@ -25,7 +25,7 @@ ExitCode from_json(Session& session, const CLI::App& app) {
 }  // namespace
 
 Verb add_from_json(CLI::App& program) {
-  CLI::App* app = add_verb(program, "from-json", "Print an input that was JSON as a QUILL text",
+  CLI::App* app = add_verb(program, "from-json", "Print a JSON text as a QUILL input",
                            "Example:\n  quill-inp json water.qin | quill-inp from-json -");
   add_argument(*app, file);
   add_loss_options(*app);

@@ -16,15 +16,16 @@ constexpr const char* example =
     "Example:\n"
     "  quill-inp get water.qin model opt.maxiter @charge\n"
     "\n"
-    "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, N counted from 0,\n"
-    "or @charge, @multiplicity, @geometry, @files or @atoms. A backslash takes the meaning from\n"
-    "a '.', '[' or ']' in a name. A command or parameter without a value prints 'flag'.";
+    "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, where N counts\n"
+    "from 0, or @charge, @multiplicity, @geometry, @files or @atoms. Put a backslash before a\n"
+    "'.', '[' or ']' that is part of a name. A command or parameter without a value prints\n"
+    "'flag'.";
 
 constexpr Option file{"FILE", "", "The input"};
-constexpr Option keys{"KEY", "", "What to print, one after another"};
+constexpr Option keys{"KEY", "", "What to print, in this order"};
 
-/// Prints the answers to all keys, or nothing when one has none: a script that reads the lines can
-/// rely on which of them is which.
+/// Prints the answers to all keys, or nothing when one key has no answer: a script that reads the
+/// lines can rely on their order.
 ExitCode get_from_file(Session& session, const std::string& argument,
                        const std::vector<std::string>& texts) {
   std::vector<Key> parsed;
@@ -57,7 +58,7 @@ ExitCode get(Session& session, const CLI::App& app) {
 }  // namespace
 
 Verb add_get(CLI::App& program) {
-  CLI::App* app = add_verb(program, "get", "Print what an input says under a key", example);
+  CLI::App* app = add_verb(program, "get", "Print the values of an input", example);
   add_argument(*app, file);
   add_arguments(*app, keys);
   add_common_options(*app);

@@ -55,7 +55,7 @@ std::vector<HeaderCommand> read_tasks(const CLI::App& app) {
     if (use.name == name_of(task)) {
       tasks.emplace_back(read_task_name(use.value));
     } else if (tasks.empty()) {
-      throw UsageError("--param comes after the --task that it is for");
+      throw UsageError("--param must come after the --task that it belongs to");
     } else {
       tasks.back().kind = HeaderCommandKind::ParameterList;
       tasks.back().parameters.push_back(parse_parameter(use.value));
@@ -94,7 +94,7 @@ ExitCode make_new(Session& session, const CLI::App& app) {
 }  // namespace
 
 Verb add_new(CLI::App& program) {
-  CLI::App* app = add_verb(program, "new", "Print an input made from nothing", example);
+  CLI::App* app = add_verb(program, "new", "Print a new input", example);
   add_repeated(*app, task);
   add_repeated(*app, param);
   for (const Option& option : {model, device, charge, multiplicity}) add_value(*app, option);

@@ -18,9 +18,10 @@ constexpr const char* example =
     "Example:\n"
     "  quill-inp set -i water.qin opt.maxiter=100 model=m1 @charge=-1\n"
     "\n"
-    "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N].PARAMETER, @charge or @multiplicity, for\n"
-    "--flag COMMAND or COMMAND.PARAMETER. Settings are made in the order in which they are\n"
-    "given; after --xyz they would be paths. Only the lines that must change do.";
+    "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N].PARAMETER, @charge or @multiplicity, where\n"
+    "N counts from 0; for --flag it is COMMAND or COMMAND.PARAMETER. Settings are made in the\n"
+    "order in which they are given. Put them before --xyz, which takes all words after it as\n"
+    "paths. Only the lines that have to change are changed.";
 
 constexpr Option file{"FILE", "", "The input"};
 

@@ -95,7 +95,7 @@ class Show {
 
 ExitCode show(Session& session, const CLI::App& app) {
   if (is_given(app, as_json) && is_given(app, as_lines))
-    throw UsageError("--json and --lines exclude each other");
+    throw UsageError("--json and --lines cannot be used together");
   const Form form = is_given(app, as_json)    ? Form::Json
                     : is_given(app, as_lines) ? Form::Lines
                                               : Form::Text;

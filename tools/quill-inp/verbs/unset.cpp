@@ -24,13 +24,14 @@ constexpr const char* example =
     "Example:\n"
     "  quill-inp unset -i water.qin opt.tight device\n"
     "\n"
-    "KEY is as for 'get'. COMMAND removes every command of the name, COMMAND[N] one of them,\n"
-    "COMMAND.PARAMETER a parameter of the first one, given twice also the second parameter of the\n"
-    "name; @charge or @multiplicity the line that has both. When a key has no match, nothing is\n"
+    "KEY has the same form as for 'get'. COMMAND removes every command with that name,\n"
+    "COMMAND[N] only one of them, COMMAND.PARAMETER a parameter of the first one. Where a\n"
+    "command has two parameters with the same name, give the key twice to remove both. @charge\n"
+    "or @multiplicity removes the line with both numbers. When a key has no match, nothing is\n"
     "removed and the exit code is 1.";
 
 constexpr Option file{"FILE", "", "The input"};
-constexpr Option keys{"KEY", "", "What to remove, all or nothing"};
+constexpr Option keys{"KEY", "", "What to remove; either all of it is removed or nothing"};
 
 using lossless_edit::TrackedDocument;
 
@@ -41,8 +42,8 @@ struct Removal {
   std::optional<std::string> parameter = std::nullopt;
 };
 
-/// Numbers of commands are those of the file, so that one given twice is the same command. A
-/// parameter given twice is another one of the name.
+/// Numbers of commands count those in the file, so the same number twice is the same command. The
+/// same parameter twice is another parameter with that name.
 bool asks_for_the_same(const Removal& left, const Removal& right) {
   return !left.parameter && !right.parameter && left.command == right.command &&
          left.occurrence == right.occurrence;
@@ -65,8 +66,9 @@ void remove(const Removal& removal, TrackedDocument& document) {
   }
 }
 
-/// Numbers of commands mean those of the file as it is. So parameters go first, which moves no
-/// command, and then commands from the last to the first; a whole name goes at the very end.
+/// Numbers of commands count those in the unchanged file. So parameters are removed first, which
+/// moves no command, then single commands from the last to the first, and all commands with a name
+/// at the end.
 bool goes_before(const Removal& left, const Removal& right) {
   const auto rank = [](const Removal& removal) {
     return removal.parameter ? 0 : (removal.occurrence ? 1 : 2);
@@ -112,7 +114,7 @@ Request parse_request(const std::vector<std::string>& texts) {
   return request;
 }
 
-/// Returns the index of a command that there is.
+/// Returns the index of a command that exists.
 std::size_t index_of(const QuillInput& input, const Removal& removal) {
   const HeaderCommand* command =
       input.find_command(removal.command, removal.occurrence.value_or(0));
@@ -130,8 +132,8 @@ AskedParameters list_asked_parameters(const Request& request, const QuillInput& 
   return asked;
 }
 
-/// Notes the parameters that are left and have the name of one that is gone: what was to have no
-/// effect any more may still have it.
+/// Notes the parameters that are still there and have the name of a removed one: what the user
+/// wanted to end may still have an effect.
 std::vector<EditNote> note_parameters_left(const AskedParameters& asked,
                                            const TrackedDocument& document) {
   std::vector<EditNote> notes;

@@ -50,7 +50,7 @@ ExitCode for_file(Session& session, const std::string& argument,
 
 ExitCode for_each_file(Session& session, const std::vector<std::string>& arguments,
                        const std::function<ExitCode(const std::string&)>& action) {
-  // The texts of the other files would go into an input as well.
+  // The texts of the other files would be written into this input, too.
   const ExitCode code = process_all(session, arguments, [&](const std::string& argument) {
     require_apart_from_output(session, argument);
     return ExitCode::Done;

@@ -1,7 +1,7 @@
 #ifndef KELP_INPUT_QUILL_TOOL_VERBS_VERB_HPP
 #define KELP_INPUT_QUILL_TOOL_VERBS_VERB_HPP
 
-// What the verbs of the program have in common. Each verb has a file of its own, which adds it to
+// What the verbs of the program have in common. Each verb has its own file, which adds the verb to
 // the program and carries it out.
 
 #include <functional>
@@ -15,8 +15,8 @@
 
 namespace kelp::input::quill::tool {
 
-/// A verb: the part of the command line that is its own, and what it does once that was read.
-/// `action` throws UsageError for options that do not fit together.
+/// A verb: its part of the command line, and the action after that was read. `action` throws
+/// UsageError for options that cannot be used together.
 struct Verb {
   CLI::App* app = nullptr;
   ExitCode (*action)(Session&, const CLI::App&) = nullptr;
@@ -36,14 +36,14 @@ Verb add_from_json(CLI::App& program);
 CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string& description,
                    const std::string& example);
 
-/// Carries `action` out for a file and returns its exit code. Whatever it throws is reported with
-/// the file's name, and is ExitCode::Trouble. There are two exceptions: a ReportedTrouble was
-/// reported already, and a UsageError, which is not about a file, passes through.
+/// Carries `action` out for a file and returns its exit code. If it throws, that is reported with
+/// the file's name, and the code is ExitCode::Trouble. There are two exceptions: a ReportedTrouble
+/// was reported already, and a UsageError, which is not about a file, is thrown on.
 ExitCode for_file(Session& session, const std::string& argument,
                   const std::function<ExitCode()>& action);
 
-/// Carries `action` out for every file, even if it fails for those before it. The worst code wins.
-/// When standard output goes into one of the files, that is reported and none is processed.
+/// Carries `action` out for every file, even if it fails for files before it, and returns the worst
+/// code. If standard output goes into one of the files, that is reported and no file is processed.
 ExitCode for_each_file(Session& session, const std::vector<std::string>& arguments,
                        const std::function<ExitCode(const std::string&)>& action);
 

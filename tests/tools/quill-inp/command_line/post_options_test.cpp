@@ -65,22 +65,26 @@ struct BadRow {
 class BadPostArgument : public testing::TestWithParam<BadRow> {};
 
 const std::string scan_form =
-    "--scan takes two to four atom numbers, a value and a number of steps, '1,2:1.5:10', not ";
+    "--scan takes two to four atom numbers, a value and a number of steps, such as '1,2:1.5:10', "
+    "not ";
 
 const BadRow bad_rows[] = {
-    {"NoAtom", "--atom", "", "--atom takes an atom number, '1', not ''"},
-    {"TwoAtomsForOne", "--atom", "1,2", "--atom takes an atom number, '1', not '1,2'"},
-    {"OneAtomForTwo", "--bond", "1", "--bond takes two atom numbers, '1,2', not '1'"},
-    {"ThreeAtomsForTwo", "--bond", "1,2,3", "--bond takes two atom numbers, '1,2', not '1,2,3'"},
-    {"NoNumber", "--bond", "1,x", "--bond takes two atom numbers, '1,2', not '1,x'"},
-    {"NothingBehindTheComma", "--bond", "1,", "--bond takes two atom numbers, '1,2', not '1,'"},
-    {"BlankInFrontOfANumber", "--bond", "1, 2", "--bond takes two atom numbers, '1,2', not '1, 2'"},
+    {"NoAtom", "--atom", "", "--atom takes an atom number, such as '1', not ''"},
+    {"TwoAtomsForOne", "--atom", "1,2", "--atom takes an atom number, such as '1', not '1,2'"},
+    {"OneAtomForTwo", "--bond", "1", "--bond takes two atom numbers, such as '1,2', not '1'"},
+    {"ThreeAtomsForTwo", "--bond", "1,2,3",
+     "--bond takes two atom numbers, such as '1,2', not '1,2,3'"},
+    {"NoNumber", "--bond", "1,x", "--bond takes two atom numbers, such as '1,2', not '1,x'"},
+    {"NothingBehindTheComma", "--bond", "1,",
+     "--bond takes two atom numbers, such as '1,2', not '1,'"},
+    {"BlankInFrontOfANumber", "--bond", "1, 2",
+     "--bond takes two atom numbers, such as '1,2', not '1, 2'"},
     {"NumberTooLarge", "--bond", "1,2147483648",
-     "--bond takes two atom numbers, '1,2', not '1,2147483648'"},
+     "--bond takes two atom numbers, such as '1,2', not '1,2147483648'"},
     {"TwoAtomsForAnAngle", "--angle", "1,2",
-     "--angle takes three atom numbers, '1,2,3', not '1,2'"},
+     "--angle takes three atom numbers, such as '1,2,3', not '1,2'"},
     {"FiveAtomsForADihedral", "--dihedral", "1,2,3,4,5",
-     "--dihedral takes four atom numbers, '1,2,3,4', not '1,2,3,4,5'"},
+     "--dihedral takes four atom numbers, such as '1,2,3,4', not '1,2,3,4,5'"},
     {"ScanOfOneAtom", "--scan", "1:1.5:10", scan_form + "'1:1.5:10'"},
     {"ScanOfFiveAtoms", "--scan", "1,2,3,4,5:1.5:10", scan_form + "'1,2,3,4,5:1.5:10'"},
     {"ScanWithoutSteps", "--scan", "1,2:1.5", scan_form + "'1,2:1.5'"},

@@ -10,9 +10,9 @@ namespace kelp::input::quill::tool {
 namespace {
 
 Outcome usage_error(const std::string& message, const std::string& verb = "") {
-  return ended(2, "",
-               "quill-inp: error: " + message + "\nquill-inp: note: 'quill-inp" + verb +
-                   " --help' says more\n");
+  return ended(
+      2, "",
+      "quill-inp: error: " + message + "\nquill-inp: note: see 'quill-inp" + verb + " --help'\n");
 }
 
 class Usage : public testing::TestWithParam<Call> {};
@@ -31,7 +31,7 @@ const Call calls[] = {
      usage_error("unknown verb 'sho'; did you mean 'show'?")},
     {"OptionInFrontOfTheVerb",
      {"-q", "show", "water.qin"},
-     ended(2, "", "quill-inp: error: options come after the verb, unlike '-q'\n")},
+     ended(2, "", "quill-inp: error: '-q' must come after the verb\n")},
     {"UnknownLongOptionOfTheProgram",
      {"--versoin"},
      usage_error("unknown option '--versoin'; did you mean '--version'?")},
@@ -53,7 +53,7 @@ const Call calls[] = {
     {"FlagTwice", {"get", "-q", "-q", "water.qin", "model"}, ended(0, "m1\n", "")},
     {"ExclusiveForms",
      {"show", "--json", "--lines", "water.qin"},
-     usage_error("--json and --lines exclude each other", " show")},
+     usage_error("--json and --lines cannot be used together", " show")},
     {"UnknownColour",
      {"show", "--color=alwys", "water.qin"},
      usage_error("--color takes auto, always or never, not 'alwys'; did you mean 'always'?",
@@ -61,24 +61,24 @@ const Call calls[] = {
     {"NoColour", {"show", "--color="}, usage_error("FILE is required", " show")},
     {"SizeThatIsNone",
      {"show", "--max-size", "big", "water.qin"},
-     usage_error("--max-size takes a number of bytes, KiB, MiB or GiB, '256MiB', not 'big'",
+     usage_error("--max-size takes a number of bytes, KiB, MiB or GiB, such as '256MiB', not 'big'",
                  " show")},
     {"SizeInUnknownUnits",
      {"show", "--max-size", "1MB", "water.qin"},
-     usage_error("--max-size takes a number of bytes, KiB, MiB or GiB, '256MiB', not '1MB'",
+     usage_error("--max-size takes a number of bytes, KiB, MiB or GiB, such as '256MiB', not '1MB'",
                  " show")},
     {"NegativeSize",
      {"show", "--max-size=-1", "water.qin"},
-     usage_error("--max-size takes a number of bytes, KiB, MiB or GiB, '256MiB', not '-1'",
+     usage_error("--max-size takes a number of bytes, KiB, MiB or GiB, such as '256MiB', not '-1'",
                  " show")},
     {"SizeBeyondAllMemory",
      {"show", "--max-size=4611686018427387904", "water.qin"},
-     usage_error("--max-size takes a number of bytes, KiB, MiB or GiB, '256MiB', not "
+     usage_error("--max-size takes a number of bytes, KiB, MiB or GiB, such as '256MiB', not "
                  "'4611686018427387904'",
                  " show")},
     {"SizeBeyondAllMemoryInUnits",
      {"show", "--max-size=17179869184GiB", "water.qin"},
-     usage_error("--max-size takes a number of bytes, KiB, MiB or GiB, '256MiB', not "
+     usage_error("--max-size takes a number of bytes, KiB, MiB or GiB, such as '256MiB', not "
                  "'17179869184GiB'",
                  " show")},
     {"LargestSize",

@@ -56,11 +56,10 @@ TEST(HardLinks, AreNotBrokenUnlessAsked) {
   const TemporaryFolder folder;
   const std::string path = folder.write("a.qin", water);
   ASSERT_EQ(link(path.c_str(), folder.path("other").c_str()), 0);
-  EXPECT_EQ(
-      run_in(folder.path(), change),
-      ended(2, "",
-            "a.qin: error: has 2 names (hard links), of which only this one would get the new "
-            "text; --break-hard-links accepts that\n"));
+  EXPECT_EQ(run_in(folder.path(), change),
+            ended(2, "",
+                  "a.qin: error: has 2 names (hard links), and only this one would get the new "
+                  "text; use --break-hard-links to accept that\n"));
   EXPECT_EQ(content_of(path), water);
   std::vector<std::string> breaking = change;
   breaking.emplace_back("--break-hard-links");
@@ -115,8 +114,8 @@ TEST(Backup, IsNotOverwritten) {
   folder.write("a.qin.bak", "the first text");
   EXPECT_EQ(run_in(folder.path(), {"set", "-i", "--backup", "a.qin", "model=m2"}),
             ended(2, "",
-                  "a.qin: error: the backup 'a.qin.bak' exists already, and would be lost; "
-                  "--backup=SUFFIX gives another name\n"));
+                  "a.qin: error: the backup 'a.qin.bak' exists already and would be lost; "
+                  "use --backup=SUFFIX for another name\n"));
   EXPECT_EQ(content_of(path), water);
   EXPECT_EQ(content_of(path + ".bak"), "the first text");
   EXPECT_EQ(names_in(folder.path()), (Names{"a.qin", "a.qin.bak"}));

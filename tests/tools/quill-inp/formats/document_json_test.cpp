@@ -181,13 +181,13 @@ const BadRow bad_rows[] = {
     {"GeometryWithAnUnknownMember", R"({"geometry": {"kind": "none", "mult": 1}})",
      "/geometry: unknown member 'mult'"},
     {"ChargeTooLarge", R"({"geometry": {"kind": "none", "charge": 2147483648}})",
-     "/geometry/charge: expected an integer of 32 bits"},
+     "/geometry/charge: expected a 32-bit integer"},
     {"ChargeTooSmall", R"({"geometry": {"kind": "none", "charge": -2147483649}})",
-     "/geometry/charge: expected an integer of 32 bits"},
+     "/geometry/charge: expected a 32-bit integer"},
     {"HalfACharge", R"({"geometry": {"kind": "none", "charge": 0.5}})",
-     "/geometry/charge: expected an integer of 32 bits"},
+     "/geometry/charge: expected a 32-bit integer"},
     {"ChargeInAString", R"({"geometry": {"kind": "none", "charge": "0"}})",
-     "/geometry/charge: expected an integer of 32 bits"},
+     "/geometry/charge: expected a 32-bit integer"},
     {"LineThatIsNotTrueOrFalse",
      R"({"geometry": {"kind": "none", "has_charge_and_multiplicity": 1}})",
      "/geometry/has_charge_and_multiplicity: expected true or false"},
@@ -203,7 +203,7 @@ const BadRow bad_rows[] = {
     {"PostCommandWithAnUnknownMember", R"({"post_commands": [{"kind": "raw", "text": "a"}]})",
      "/post_commands/0: unknown member 'text'"},
     {"AtomNumberThatIsNone", R"({"post_commands": [{"kind": "raw", "atom_indices": [1, null]}]})",
-     "/post_commands/0/atom_indices/1: expected an integer of 32 bits"},
+     "/post_commands/0/atom_indices/1: expected a 32-bit integer"},
 };
 
 TEST_P(BadDocumentJson, IsRefusedWithThePlace) {

@@ -75,7 +75,7 @@ const BadRow bad_rows[] = {
     {"SymbolWithADigit", "1\n\nHe1 0 0 0\n", no_atom, 3},
     {"BlankLineBetweenAtoms", "2\n\nHe 0 0 0\n\nHe 0 0 1\n", no_atom, 4},
     {"ASecondStructure", "1\n\nHe 0 0 0\n1\n\nHe 0 0 1\n",
-     "more text after the last atom; only files of one structure are read", 4},
+     "more text after the last atom; only files with one structure can be read", 4},
 };
 
 TEST_P(BadXyzFile, IsRefusedWithTheLine) {

@@ -70,31 +70,31 @@ struct BadRow {
 class BadKey : public testing::TestWithParam<BadRow> {};
 
 constexpr std::string_view too_many =
-    "there is a '.', '[' or ']' too many, or a backslash missing in front of it";
+    "there is one '.', '[' or ']' too many, or a backslash is missing before it";
 constexpr std::string_view bad_number = "a number and ']' must follow '['";
-constexpr std::string_view bad_backslash = R"(a backslash stands in front of one of .[]=@\)";
+constexpr std::string_view bad_backslash = R"(a backslash goes before one of .[]=@\)";
 
 const BadRow bad_rows[] = {
     {"NoText", "", "there is no name"},
     {"BlanksOnly", " ", "there is no name"},
     {"NoCommand", ".a", "there is no name"},
-    {"NoCommandInFrontOfANumber", "[1]", "there is no name"},
+    {"NoCommandBeforeANumber", "[1]", "there is no name"},
     {"NoParameter", "a.", "there is no parameter name after '.'"},
     {"BlankParameter", "a. ", "there is no parameter name after '.'"},
     {"TwoDots", "a.b.c", too_many},
     {"NumberOfAParameter", "a.b[1]", too_many},
     {"TwoNumbers", "a[1][2]", too_many},
-    {"TextBehindTheNumber", "a[1]b", too_many},
+    {"TextAfterTheNumber", "a[1]b", too_many},
     {"ClosingBracketAlone", "a]", too_many},
     {"NoNumber", "a[]", bad_number},
     {"NoClosingBracket", "a[1", bad_number},
-    {"NothingBehindTheBracket", "a[", bad_number},
+    {"NothingAfterTheBracket", "a[", bad_number},
     {"NegativeNumber", "a[-1]", bad_number},
     {"NumberWithASign", "a[+1]", bad_number},
     {"NotANumber", "a[x]", bad_number},
     {"NumberThatIsTooLarge", "a[18446744073709551616]", bad_number},
     {"BackslashAtTheEnd", "a\\", bad_backslash},
-    {"BackslashInFrontOfALetter", "a\\b", bad_backslash},
+    {"BackslashBeforeALetter", "a\\b", bad_backslash},
 };
 
 TEST_P(BadKey, IsRefusedWithTheReasonAndTheGrammar) {
@@ -102,10 +102,11 @@ TEST_P(BadKey, IsRefusedWithTheReasonAndTheGrammar) {
     parse_key(GetParam().text);
     FAIL() << "no exception";
   } catch (const UsageError& error) {
-    EXPECT_EQ(std::string(error.what()),
-              "bad key '" + std::string(GetParam().text) + "': " + std::string(GetParam().reason) +
-                  "; a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, N "
-                  "counted from 0, or @charge, @multiplicity, @geometry, @files or @atoms");
+    EXPECT_EQ(
+        std::string(error.what()),
+        "bad key '" + std::string(GetParam().text) + "': " + std::string(GetParam().reason) +
+            "; a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, where "
+            "N counts from 0, or @charge, @multiplicity, @geometry, @files or @atoms");
   }
 }
 

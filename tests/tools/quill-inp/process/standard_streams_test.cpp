@@ -139,8 +139,8 @@ struct RedirectionRow {
 class Redirection : public testing::TestWithParam<RedirectionRow> {};
 
 const char* const also_output =
-    "is also the standard output; redirect that to another file (fmt, set, unset and add "
-    "have --in-place)\n";
+    "is also where standard output goes; write to another file, or use --in-place with fmt, set, "
+    "unset or add\n";
 
 TEST_P(Redirection, OntoTheInputIsRefused) {
   const TemporaryFolder folder;
@@ -293,7 +293,7 @@ TEST(Terminals, GetUsageErrorsAsTheyAreWanted) {
 }
 
 std::string refusal(const std::string& name, const std::string& kind) {
-  return name + ": error: is " + kind + ", not a regular file; '-' reads standard input\n";
+  return name + ": error: is " + kind + ", not a regular file; use '-' to read standard input\n";
 }
 
 TEST(FilesThatAreNotRegular, AreRefused) {

@@ -14,9 +14,8 @@ Outcome refused(const std::string& message) {
 }
 
 Outcome usage_error(const std::string& message) {
-  return ended(
-      2, "",
-      "quill-inp: error: " + message + "\nquill-inp: note: 'quill-inp add --help' says more\n");
+  return ended(2, "",
+               "quill-inp: error: " + message + "\nquill-inp: note: see 'quill-inp add --help'\n");
 }
 
 class Add : public testing::TestWithParam<Call> {};
@@ -56,8 +55,8 @@ const Call calls[] = {
     {"AngleThatWouldBeAnAtom",
      {"add", "water.qin", "--angle", "1,2,3"},
      refused_at("water.qin", 9,
-                "would be read as an atom of element A, not as an angle constraint; another "
-                "post-processing line before it avoids that")},
+                "would be read as an atom of element A, not as an angle constraint; put another "
+                "post-processing line before it to avoid that")},
     {"RawTextThatWouldBeAConstraint",
      {"add", "water.qin", "--raw", "B 1 2"},
      refused_at("water.qin", 9,
@@ -111,7 +110,7 @@ const Call calls[] = {
     {"NothingToAdd", {"add", "water.qin"}, usage_error("nothing to add")},
     {"BadBond",
      {"add", "water.qin", "--bond", "1"},
-     usage_error("--bond takes two atom numbers, '1,2', not '1'")},
+     usage_error("--bond takes two atom numbers, such as '1,2', not '1'")},
     {"BondWithoutValue", {"add", "water.qin", "--bond"}, usage_error("--bond needs a value")},
     {"UnknownOption",
      {"add", "water.qin", "--bnd", "1,2"},

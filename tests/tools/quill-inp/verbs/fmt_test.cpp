@@ -18,9 +18,8 @@ const std::string canonical_by_hand =
     "H        0.000000     -0.756950     -0.468706\n";
 
 Outcome usage_error(const std::string& message) {
-  return ended(
-      2, "",
-      "quill-inp: error: " + message + "\nquill-inp: note: 'quill-inp fmt --help' says more\n");
+  return ended(2, "",
+               "quill-inp: error: " + message + "\nquill-inp: note: see 'quill-inp fmt --help'\n");
 }
 
 const std::string digits = "0 1\nHe 0 0 0.12345678\nHe 0 0 1.00000049\nHe 0 0 1\n";
@@ -116,7 +115,8 @@ const Call calls[] = {
      "XYZ a\nXYZ\n"},
     {"RefusesToDropAParameterWithoutName",
      {"fmt", "-q", "-"},
-     refused_at("<stdin>", 1, "says more than its command, which would be lost: '#a(b, =5)'"),
+     refused_at("<stdin>", 1,
+                "says more than its command, and the rest would be lost: '#a(b, =5)'"),
      "#a(b, =5)\n0 1\n"},
     {"LosesNothingWithEmptyPlacesInAList",
      {"fmt", "-"},
@@ -124,7 +124,7 @@ const Call calls[] = {
      "#a(,b,, c = 'd' ,)\n0 1\n"},
     {"RefusesToDropTrailingText",
      {"fmt", "-q", "-"},
-     refused_at("<stdin>", 1, "says more than its command, which would be lost: '#a(b) c'"),
+     refused_at("<stdin>", 1, "says more than its command, and the rest would be lost: '#a(b) c'"),
      "#a(b) c\n0 1\n"},
     {"QuotesQuotes",
      {"fmt", "-"},
@@ -141,7 +141,7 @@ const Call calls[] = {
            "<stdin>: warning: No QUILL coordinate section found\n"
            "<stdin>:2: warning: lost: line 2 would be left out: 'B 1 x'\n"
            "<stdin>:3: warning: lost: line 3 would be read as charge and multiplicity, not as raw "
-           "text; another post-processing line before it avoids that\n"
+           "text; put another post-processing line before it to avoid that\n"
            "<stdin>: warning: lost: the charge and multiplicity line is present instead of absent\n"
            "<stdin>: warning: lost: the charge is 1 instead of 0\n"
            "<stdin>: warning: lost: the multiplicity is 2 instead of 1\n"
@@ -149,24 +149,25 @@ const Call calls[] = {
      "#a\nB 1 x\n1 2\n"},
     {"DropsWhatItMay",
      {"fmt", "--allow-loss", "-"},
-     ended(0, "#a(b)\n\n0 1\n",
-           "<stdin>:1: warning: ignored trailing text after QUILL header command\n"
-           "<stdin>:3: warning: ignored unrecognized QUILL post-processing line\n"
-           "<stdin>:1: warning: lost: line 1 says more than its command, which would be lost: "
-           "'#a(b) c'\n"
-           "<stdin>:3: warning: lost: line 3 would be left out: 'B 1 x'\n"),
+     ended(
+         0, "#a(b)\n\n0 1\n",
+         "<stdin>:1: warning: ignored trailing text after QUILL header command\n"
+         "<stdin>:3: warning: ignored unrecognized QUILL post-processing line\n"
+         "<stdin>:1: warning: lost: line 1 says more than its command, and the rest would be lost: "
+         "'#a(b) c'\n"
+         "<stdin>:3: warning: lost: line 3 would be left out: 'B 1 x'\n"),
      "#a(b) c\n0 1\nB 1 x\n"},
     {"GoesOnWithTheOtherFiles",
      {"fmt", "-q", "two_opts.qin", "none.qin", "water.qin"},
-     ended(
-         2, water,
-         "two_opts.qin:2: error: refused: line 2 says more than its command, which would be lost: "
-         "'#Opt(maxiter=70) and so on'; use --allow-loss to write it anyway\n"
-         "none.qin: error: cannot be opened: No such file or directory\n")},
+     ended(2, water,
+           "two_opts.qin:2: error: refused: line 2 says more than its command, and the rest would "
+           "be lost: "
+           "'#Opt(maxiter=70) and so on'; use --allow-loss to write it anyway\n"
+           "none.qin: error: cannot be opened: No such file or directory\n")},
 
     {"DoesNotWriteWhatItChecks",
      {"fmt", "-i", "--check", "water.qin"},
-     usage_error("--check and --diff never write, so they exclude --in-place")},
+     usage_error("--check and --diff write no file and cannot be used with --in-place")},
     {"NeedsAFile", {"fmt"}, usage_error("FILE is required")},
 };
 

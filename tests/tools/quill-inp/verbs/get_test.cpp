@@ -65,7 +65,7 @@ const Call calls[] = {
     {"NoSuchOccurrence",
      {"get", "water.qin", "opt[1]"},
      ended(1, "",
-           "water.qin: note: no match for 'opt[1]': there is only 1 of the command 'opt', "
+           "water.qin: note: no match for 'opt[1]': there is only 1 command 'opt', "
            "and [N] counts from 0\n")},
     {"NoThirdOccurrence", {"get", "-q", "two_opts.qin", "opt[2]"}, ended(1, "", "")},
     {"NoChargeLine", {"get", "-q", "two_opts.qin", "@charge"}, ended(1, "", "")},
@@ -85,14 +85,15 @@ const Call calls[] = {
      {"get", "water.qin"},
      ended(2, "",
            "quill-inp: error: KEY is required\n"
-           "quill-inp: note: 'quill-inp get --help' says more\n")},
+           "quill-inp: note: see 'quill-inp get --help'\n")},
     {"BadKeyBeforeTheFileIsLookedAt",
      {"get", "none.qin", "a["},
      ended(2, "",
            "quill-inp: error: bad key 'a[': a number and ']' must follow '['; a key is COMMAND, "
-           "COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, N counted from 0, or @charge, "
+           "COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, where N counts from 0, or "
+           "@charge, "
            "@multiplicity, @geometry, @files or @atoms\n"
-           "quill-inp: note: 'quill-inp get --help' says more\n")},
+           "quill-inp: note: see 'quill-inp get --help'\n")},
 };
 
 TEST_P(Get, PrintsWhatTheInputSays) { expect_outcome(GetParam()); }

@@ -80,8 +80,8 @@ const Call calls[] = {
     {"FromJsonThatNoTextHolds",
      {"from-json", "-"},
      ended(2, "",
-           "<stdin>: error: refused: the command 'a' is a flag and holds a value or parameters "
-           "that are not written with it; use --allow-loss to write it anyway\n"),
+           "<stdin>: error: refused: the command 'a' is a flag and has a value or parameters that "
+           "would not be written; use --allow-loss to write it anyway\n"),
      R"({"commands": [{"name": "a", "kind": "flag", "parameters": [{"name": "b"}]}],
          "geometry": {"kind": "none", "charge": 0}})"},
     {"FromJsonThatNoTextHoldsAllTheSame",

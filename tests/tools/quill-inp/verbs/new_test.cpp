@@ -8,9 +8,8 @@ namespace kelp::input::quill::tool {
 namespace {
 
 Outcome usage_error(const std::string& message) {
-  return ended(
-      2, "",
-      "quill-inp: error: " + message + "\nquill-inp: note: 'quill-inp new --help' says more\n");
+  return ended(2, "",
+               "quill-inp: error: " + message + "\nquill-inp: note: see 'quill-inp new --help'\n");
 }
 
 const std::string no_coordinates = "<stdout>: warning: No QUILL coordinate section found\n";
@@ -63,7 +62,8 @@ const Call calls[] = {
      {"new", "-q", "--atoms", "water.xyz", "--angle", "1,2,3"},
      ended(2, "",
            "<new>: error: refused: line 5 would be read as an atom of element A, not as an angle "
-           "constraint; another post-processing line before it avoids that; use --allow-loss to "
+           "constraint; put another post-processing line before it to avoid that; use --allow-loss "
+           "to "
            "write it anyway\n")},
     {"DigitsThatWouldGo",
      {"new", "-q", "--max-change=0", "--atoms", "odd.xyz"},
@@ -73,7 +73,7 @@ const Call calls[] = {
          "of 0.12345678; use --allow-loss to write it anyway\n")},
     {"ParameterInFrontOfATask",
      {"new", "--param", "a", "--task", "opt"},
-     usage_error("--param comes after the --task that it is for")},
+     usage_error("--param must come after the --task that it belongs to")},
     {"NamelessParameter",
      {"new", "--task", "opt", "--param", "=1"},
      usage_error("--param takes NAME or NAME=VALUE, not '=1'")},
@@ -85,17 +85,15 @@ const Call calls[] = {
      usage_error("--multiplicity takes an integer, not ''")},
     {"TwoGeometries",
      {"new", "--atoms", "water.xyz", "--xyz", "a"},
-     usage_error("--atoms, --xyz and --trajectory exclude each other")},
+     usage_error("only one of --atoms, --xyz and --trajectory can be given")},
     {"ASettingForAPath",
      {"new", "--xyz", "a", "model=m2"},
-     usage_error("--xyz takes a path, and 'model=m2' looks like a setting; put the settings of "
-                 "'set' before the options or after '--', and write a path of this name "
-                 "'./model=m2'")},
+     usage_error("--xyz takes a path, but 'model=m2' looks like a setting; put settings before the "
+                 "options or after '--', or write './model=m2' for a path")},
     {"ASettingForATrajectory",
      {"new", "--trajectory=model=m2"},
-     usage_error(
-         "--trajectory takes a path, and 'model=m2' looks like a setting; put the settings of "
-         "'set' before the options or after '--', and write a path of this name './model=m2'")},
+     usage_error("--trajectory takes a path, but 'model=m2' looks like a setting; put settings "
+                 "before the options or after '--', or write './model=m2' for a path")},
     {"TheSameOptionTwice",
      {"new", "--charge", "1", "--charge", "2"},
      usage_error("--charge can be given only once")},

@@ -15,7 +15,7 @@ const std::string atoms =
 
 const std::string behind_header = "\n0 1\n" + atoms;
 
-const std::string hint = "quill-inp: note: 'quill-inp set --help' says more\n";
+const std::string hint = "quill-inp: note: see 'quill-inp set --help'\n";
 
 /// Water with other header lines.
 Outcome with_header(const std::string& header) { return ended(0, header + behind_header, ""); }
@@ -31,14 +31,14 @@ Outcome refused(const std::string& message) {
 
 std::string not_a_path(const std::string& option) {
   return option +
-         " takes a path, and 'model=m2' looks like a setting; put the settings of 'set' before the "
-         "options or after '--', and write a path of this name './model=m2'";
+         " takes a path, but 'model=m2' looks like a setting; put settings before the options or "
+         "after '--', or write './model=m2' for a path";
 }
 
 Outcome nameless(const std::string& key) {
   return usage_error("bad key '" + key +
                      "': there is no name; a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or "
-                     "COMMAND[N].PARAMETER, N counted from 0, or @charge, @multiplicity, "
+                     "COMMAND[N].PARAMETER, where N counts from 0, or @charge, @multiplicity, "
                      "@geometry, @files or @atoms");
 }
 
@@ -169,7 +169,8 @@ const Call calls[] = {
     {"ParameterWithoutNameWouldGo",
      {"set", "-", "a.b=1"},
      ended(2, "",
-           "<stdin>:1: error: refused: line 1 says more than its command, which would be lost: "
+           "<stdin>:1: error: refused: line 1 says more than its command, and the rest would be "
+           "lost: "
            "'#a(=5, b)'; use --allow-loss to write it anyway\n"),
      "#a(=5, b)\n0 1\n"},
     {"ParameterWithoutNameOnALineThatStays",
@@ -180,7 +181,7 @@ const Call calls[] = {
     {"NoSuchOccurrence",
      {"set", "water.qin", "opt[1].maxiter=1"},
      ended(1, "",
-           "water.qin: note: no match for 'opt[1].maxiter': there is only 1 of the command "
+           "water.qin: note: no match for 'opt[1].maxiter': there is only 1 command "
            "'opt', and [N] counts from 0\n")},
     {"OneOfTwoWithoutMatchSetsNothing",
      {"set", "-q", "water.qin", "model=m2", "freq[1].a=1"},
@@ -188,9 +189,10 @@ const Call calls[] = {
 
     {"ValueThatCannotBeSpelled",
      {"set", "water.qin", "opt.maxiter=x\"y'z,"},
-     refused("the value 'x\"y'z,' of parameter 'maxiter' cannot be written: as it is, in double "
-             "quotes and in single quotes it would be read differently with another parameter "
-             "after it")},
+     refused(
+         "the value 'x\"y'z,' of parameter 'maxiter' cannot be written: without quotes, in double "
+         "quotes and in single quotes it would be read differently with another parameter "
+         "after it")},
     {"ParametersWouldGo",
      {"set", "water.qin", "opt=5"},
      refused("the command 'opt' would lose its parameters")},
@@ -212,10 +214,10 @@ const Call calls[] = {
            "water.qin: warning: lost: the command 'opt' would lose its parameters\n")},
     {"TrailingTextWouldGo",
      {"set", "-q", "two_opts.qin", "opt[1].maxiter=80"},
-     ended(
-         2, "",
-         "two_opts.qin:2: error: refused: line 2 says more than its command, which would be lost: "
-         "'#Opt(maxiter=70) and so on'; use --allow-loss to write it anyway\n")},
+     ended(2, "",
+           "two_opts.qin:2: error: refused: line 2 says more than its command, and the rest would "
+           "be lost: "
+           "'#Opt(maxiter=70) and so on'; use --allow-loss to write it anyway\n")},
     {"DigitsWouldGo",
      {"set", "-q", "--max-change=1e-7", "water.qin", "--atoms", "odd.xyz"},
      ended(2, "",
@@ -223,7 +225,7 @@ const Call calls[] = {
            "0.123457 instead of 0.12345678; use --allow-loss to write it anyway\n")},
     {"LineBreakInAValue",
      {"set", "water.qin", "model=a\nb"},
-     refused("the value 'a\\nb' holds a line break, and a header command is one line")},
+     refused("the value 'a\\nb' contains a line break, but a header command is one line")},
     {"LineBreakInAPath",
      {"set", "water.qin", "--trajectory", "a\nb"},
      refused_at("water.qin", 5,
@@ -236,22 +238,22 @@ const Call calls[] = {
     {"FlagWithoutKey", {"set", "water.qin", "--flag"}, usage_error("--flag needs a value")},
     {"AForgottenEqualsSign",
      {"set", "-i", "water.qin", "opt.maxiter", "100"},
-     usage_error("expected KEY=VALUE, not 'opt.maxiter'; a setting without a value is made by "
-                 "--flag KEY")},
+     usage_error(
+         "expected KEY=VALUE, not 'opt.maxiter'; use --flag KEY for a setting without a value")},
     {"AForgottenEqualsSignBehindASetting",
      {"set", "water.qin", "model=m2", "100"},
-     usage_error("expected KEY=VALUE, not '100'; a setting without a value is made by --flag KEY")},
+     usage_error("expected KEY=VALUE, not '100'; use --flag KEY for a setting without a value")},
     {"ASecondFile",
      {"set", "-i", "bare.qin", "water.qin", "model=m2"},
-     usage_error("expected KEY=VALUE, not 'water.qin'; a setting without a value is made by "
-                 "--flag KEY; there is a file of that name, and 'set' takes one FILE")},
+     usage_error("expected KEY=VALUE, not 'water.qin'; use --flag KEY for a setting without a "
+                 "value; there is a file with that name, but 'set' takes only one FILE")},
     {"ASecondFileWhoseNameIsNoKey",
      {"set", "bare.qin", "./water.qin", "model=m2"},
-     usage_error("expected KEY=VALUE, not './water.qin'; a setting without a value is made by "
-                 "--flag KEY; there is a file of that name, and 'set' takes one FILE")},
+     usage_error("expected KEY=VALUE, not './water.qin'; use --flag KEY for a setting without a "
+                 "value; there is a file with that name, but 'set' takes only one FILE")},
     {"AnEmptyWord",
      {"set", "water.qin", ""},
-     usage_error("expected KEY=VALUE, not ''; a setting without a value is made by --flag KEY")},
+     usage_error("expected KEY=VALUE, not ''; use --flag KEY for a setting without a value")},
     {"ASettingBehindPaths",
      {"set", "-i", "water.qin", "--xyz", "a.xyz", "model=m2"},
      usage_error(not_a_path("--xyz"))},
@@ -266,9 +268,8 @@ const Call calls[] = {
      usage_error(not_a_path("--trajectory"))},
     {"ASettingWithASlashInItsValueBehindPaths",
      {"set", "water.qin", "--xyz", "a.xyz", "model=a/b"},
-     usage_error("--xyz takes a path, and 'model=a/b' looks like a setting; put the settings of "
-                 "'set' before the options or after '--', and write a path of this name "
-                 "'./model=a/b'")},
+     usage_error("--xyz takes a path, but 'model=a/b' looks like a setting; put settings before "
+                 "the options or after '--', or write './model=a/b' for a path")},
     {"NamelessCommand", {"set", "water.qin", "#=x"}, nameless("#")},
     {"NamelessCommandOfHashes", {"set", "water.qin", "##=x"}, nameless("##")},
     {"ParameterOfANamelessCommand", {"set", "water.qin", "#.a=x"}, nameless("#.a")},
@@ -276,7 +277,7 @@ const Call calls[] = {
     {"NothingToSet", {"set", "water.qin"}, usage_error("nothing to set")},
     {"TwoGeometries",
      {"set", "water.qin", "--xyz", "a", "--trajectory", "b"},
-     usage_error("--atoms, --xyz and --trajectory exclude each other")},
+     usage_error("only one of --atoms, --xyz and --trajectory can be given")},
     {"ChargeThatIsNoNumber",
      {"set", "water.qin", "@charge=x"},
      usage_error("@charge takes an integer, not 'x'")},
@@ -285,7 +286,7 @@ const Call calls[] = {
      usage_error("'@charge' cannot be set without a value")},
     {"GeometryByValue",
      {"set", "water.qin", "@geometry=none"},
-     usage_error("'@geometry' cannot be set by a value; use --atoms, --xyz or --trajectory")},
+     usage_error("'@geometry' cannot be set to a value; use --atoms, --xyz or --trajectory")},
     {"WholeCommandByNumber",
      {"set", "-q", "two_opts.qin", "opt[1]=5"},
      ended(2, "",
@@ -299,10 +300,10 @@ const Call calls[] = {
          "set\n")},
     {"BadMaxChange",
      {"set", "--max-change", "-1", "water.qin", "model=a"},
-     usage_error("--max-change takes a number from 0 on, '1e-6', not '-1'")},
+     usage_error("--max-change takes a number that is 0 or larger, such as '1e-6', not '-1'")},
     {"MaxChangeThatIsNoNumber",
      {"set", "--max-change=nan", "water.qin", "model=a"},
-     usage_error("--max-change takes a number from 0 on, '1e-6', not 'nan'")},
+     usage_error("--max-change takes a number that is 0 or larger, such as '1e-6', not 'nan'")},
     {"UnreadableAtoms",
      {"set", "water.qin", "--atoms", "none.xyz"},
      ended(2, "", "none.xyz: error: cannot be opened: No such file or directory\n")},
@@ -328,7 +329,7 @@ const Call calls[] = {
      "#model=m1\n0 1"},
     {"DifferenceInPlace",
      {"set", "-i", "--diff", "water.qin", "model=m2"},
-     usage_error("--check and --diff never write, so they exclude --in-place")},
+     usage_error("--check and --diff write no file and cannot be used with --in-place")},
     {"BackupOfNothing",
      {"set", "--backup", "water.qin", "model=m2"},
      usage_error("--backup needs --in-place")},
@@ -337,10 +338,10 @@ const Call calls[] = {
      usage_error("--break-hard-links needs --in-place")},
     {"BackupWithoutSuffix",
      {"set", "-i", "--backup=", "water.qin", "model=m2"},
-     usage_error("--backup takes a suffix for the name of the file, '.bak', not ''")},
+     usage_error("--backup takes a suffix for the name of the file, such as '.bak', not ''")},
     {"BackupInAnotherFolder",
      {"set", "-i", "--backup=/../x", "water.qin", "model=m2"},
-     usage_error("--backup takes a suffix for the name of the file, '.bak', not '/../x'")},
+     usage_error("--backup takes a suffix for the name of the file, such as '.bak', not '/../x'")},
 };
 
 TEST_P(Set, ChangesWhatItIsTold) { expect_outcome(GetParam()); }

@@ -12,7 +12,7 @@ const std::string atoms =
     "H        0.000000      0.756950     -0.468706\n"
     "H        0.000000     -0.756950     -0.468706\n";
 
-const std::string hint = "quill-inp: note: 'quill-inp unset --help' says more\n";
+const std::string hint = "quill-inp: note: see 'quill-inp unset --help'\n";
 
 const std::string four = "#a(p=1, q)\n#b\n#A(p=2)\n#a = 3\n0 1\n";
 
@@ -59,7 +59,7 @@ const Call calls[] = {
      four},
     {"TheFirstOfTwoParametersOfAName",
      {"unset", "-", "a.p"},
-     ended(0, "#b\n#a(P=2)\n0 1\n", "<stdin>:2: note: another parameter 'P' is left\n"),
+     ended(0, "#b\n#a(P=2)\n0 1\n", "<stdin>:2: note: another parameter 'P' is still there\n"),
      "#b\n#a(p=1, P=2)\n0 1\n"},
     {"BothParametersOfAName",
      {"unset", "-", "a.p", "a.P"},
@@ -67,11 +67,11 @@ const Call calls[] = {
      "#a(p=1, p=2)\n0 1\n"},
     {"TwoOfThreeParametersOfAName",
      {"unset", "-", "a.p", "a.q", "a.p", "A.q"},
-     ended(0, "\n#a(p=3)\n0 1\n", "<stdin>:2: note: another parameter 'p' is left\n"),
+     ended(0, "\n#a(p=3)\n0 1\n", "<stdin>:2: note: another parameter 'p' is still there\n"),
      "\n#a(p=1, p=2, q, p=3)\n0 1\n"},
     {"AParameterOfANameInEachOfTwoCommands",
      {"unset", "-", "a.p", "a[1].p", "b"},
-     ended(0, "#a(p=2)\n#a\n0 1\n", "<stdin>:1: note: another parameter 'p' is left\n"),
+     ended(0, "#a(p=2)\n#a\n0 1\n", "<stdin>:1: note: another parameter 'p' is still there\n"),
      "#a(p=1, p=2)\n#b\n#a(p=3)\n0 1\n"},
     {"AParameterOfACommandThatGoes",
      {"unset", "-", "a.p", "a[0]"},
@@ -84,15 +84,17 @@ const Call calls[] = {
     {"TextBehindACommandThatGoes",
      {"unset", "-q", "-", "a"},
      ended(2, "",
-           "<stdin>:1: error: refused: line 1 says more than its command, which would be lost: "
+           "<stdin>:1: error: refused: line 1 says more than its command, and the rest would be "
+           "lost: "
            "'#a(p=1) # remark'; use --allow-loss to write it anyway\n"),
      "#a(p=1) # remark\n0 1\n"},
     {"TextBehindACommandThatMayGo",
      {"unset", "--allow-loss", "-", "a"},
-     ended(0, "0 1\n",
-           "<stdin>:1: warning: ignored trailing text after QUILL header command\n"
-           "<stdin>:1: warning: lost: line 1 says more than its command, which would be lost: "
-           "'#a(p=1) # remark'\n"),
+     ended(
+         0, "0 1\n",
+         "<stdin>:1: warning: ignored trailing text after QUILL header command\n"
+         "<stdin>:1: warning: lost: line 1 says more than its command, and the rest would be lost: "
+         "'#a(p=1) # remark'\n"),
      "#a(p=1) # remark\n0 1\n"},
     {"ACommandWithoutItsClosingParenthesis",
      {"unset", "-q", "-", "a"},
@@ -122,7 +124,8 @@ const Call calls[] = {
      {"unset", "-", "@charge"},
      ended(2, "",
            "<stdin>:1: error: refused: line 1 would be read as charge and multiplicity, not as raw "
-           "text; another post-processing line before it avoids that; use --allow-loss to write it "
+           "text; put another post-processing line before it to avoid that; use --allow-loss to "
+           "write it "
            "anyway\n"),
      "0 1\n1 2\n"},
     {"Geometry",
