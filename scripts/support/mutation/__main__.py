@@ -1,4 +1,4 @@
-"""Applies mutants to the libraries and the tools and says how many of them the tests notice; see mutate.sh."""
+"""Applies mutants to the sources and says how many of them the tests notice; see mutate.sh."""
 
 import argparse
 import hashlib

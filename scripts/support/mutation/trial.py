@@ -79,7 +79,7 @@ class Build:
         return shlex.split(command)
 
     def find_archives(self):
-        """The objects of every archive that is made of objects of the scope, by the archive's path."""
+        """The objects of every archive of objects of the scope, by the archive's path."""
         archives = {}
         for name in self.targets_of("CXX_STATIC_LIBRARY_LINKER"):
             words = self.ninja("commands", "-s", name).split()
