@@ -1,4 +1,4 @@
-"""Applies mutants to the libraries and says how many of them the tests notice; see mutate.sh."""
+"""Applies mutants to the sources and says how many of them the tests notice; see mutate.sh."""
 
 import argparse
 import hashlib
@@ -11,28 +11,34 @@ from pathlib import Path
 
 import equivalent
 from mutants import Source, enumerations_in
+from scope import SCOPES
 from trial import Build, Worker, measure
 
 ROOT = Path(__file__).resolve().parents[3]
 SCRATCH = ROOT / "build" / "mutation"
 RESULTS = SCRATCH / "results.jsonl"
 EQUIVALENT = ROOT / "tests" / "mutation" / "equivalent.txt"
-LOWEST_SHARE = 0.95
+
+
+def sources_in(folders):
+    return sorted(path for folder in folders for path in (ROOT / folder).glob("**/*.[ch]pp"))
+
+
+def mutants_of(scope, names):
+    enumerations = [enumeration for path in sources_in(scope.enumerations)
+                    for enumeration in enumerations_in(path.read_text())]
+    files = [path.relative_to(ROOT) for path in sources_in(scope.mutated)]
+    return [mutant for file in files
+            if scope.mutates(str(file)) and (not names or any(map(file.is_relative_to, names)))
+            for mutant in Source(str(file), (ROOT / file).read_text(), enumerations).mutants()]
 
 
 def all_mutants(names):
-    enumerations = {}
-    for header in sorted((ROOT / "include").glob("**/*.hpp")):
-        enumerations |= enumerations_in(header.read_text())
-    # src/support/ has declarations only, and every program includes it.
-    files = sorted(path.relative_to(ROOT) for part in ("src", "sisters")
-                   for path in (ROOT / part).glob("**/*.[ch]pp")
-                   if not path.is_relative_to(ROOT / "src" / "support"))
-    wanted = [file for file in files if not names or str(file) in names]
-    if names and len(wanted) != len(set(names)):
-        raise SystemExit("These are files of src/ and sisters/: " + ", ".join(map(str, files)))
-    return [mutant for file in wanted
-            for mutant in Source(str(file), (ROOT / file).read_text(), enumerations).mutants()]
+    for name in names:
+        if not any(mutants_of(scope, [name]) for scope in SCOPES):
+            raise SystemExit(f"Nothing in {name} can be changed; these folders are: " + ", ".join(
+                folder for scope in SCOPES for folder in scope.mutated))
+    return [mutant for scope in SCOPES for mutant in mutants_of(scope, names)]
 
 
 def sample_of(mutants, seed, count):
@@ -100,7 +106,18 @@ def try_all(build, mutants, results, count):
         thread.join()
 
 
-def report(mutants, results, reasons):
+def try_scope(scope, mutants, workers):
+    scratch = SCRATCH / scope.name
+    scratch.mkdir(parents=True, exist_ok=True)
+    build = Build(ROOT, ROOT / "build" / "dev", scratch, scope)
+    results = Results(build.tests_digest())
+    untried = [mutant for mutant in mutants if mutant.key() not in results.known]
+    if untried:
+        try_all(build, untried, results, workers)
+    return results
+
+
+def report(scope, mutants, results, reasons):
     """Prints the figures and what is left to do, and says whether that is nothing."""
     outcome = {mutant: results.known[mutant.key()] for mutant in mutants}
     counts = Counter(outcome.values())
@@ -111,15 +128,15 @@ def report(mutants, results, reasons):
         print(f"{mutant.file}\n- {before}\n+ {after}\n(line {mutant.line_number()})\n")
     total = counts["killed"] + counts["survived"]
     share = counts["killed"] / total if total else 1.0
-    print(f"{total} mutants, {counts['killed']} noticed ({100 * share:.1f} %), "
+    print(f"{scope.name}: {total} mutants, {counts['killed']} noticed ({100 * share:.1f} %), "
           f"{len(survivors) - len(unargued)} equivalent, {len(unargued)} neither; besides, "
           f"{counts['invalid']} do not compile and {counts['same']} change no instruction")
     # A small sample may hold any number of equivalent mutants.
-    return not unargued and (share >= LOWEST_SHARE or total < 400)
+    return not unargued and (share >= scope.lowest_share or total < 400)
 
 
-def stale_reasons(mutants, results, reasons):
-    alive = {(m.file, *m.lines()) for m in mutants if results.known[m.key()] == "survived"}
+def stale_reasons(survivors, reasons):
+    alive = {(mutant.file, *mutant.lines()) for mutant in survivors}
     return [entry for entry in reasons if entry not in alive]
 
 
@@ -130,27 +147,29 @@ def main():
                         help="how many mutants to apply; all if not given")
     parser.add_argument("--workers", type=int, default=2)
     parser.add_argument("--list", action="store_true", help="print the mutants and stop")
-    parser.add_argument("files", nargs="*", help="files of src/ and sisters/; all if none is given")
+    parser.add_argument("files", nargs="*", help="files and folders; all if none is given")
     arguments = parser.parse_args()
 
     mutants = all_mutants(arguments.files)
-    if arguments.sample and not arguments.files:
+    if arguments.sample:
         mutants = sample_of(mutants, arguments.seed, arguments.sample)
     if arguments.list:
         for mutant in mutants:
             print(f"{mutant.file}:{mutant.line_number()} {mutant.kind}: {mutant.lines()[1]}")
         return 0
 
-    SCRATCH.mkdir(parents=True, exist_ok=True)
-    build = Build(ROOT, ROOT / "build" / "dev", SCRATCH)
-    results = Results(build.tests_digest())
-    untried = [mutant for mutant in mutants if mutant.key() not in results.known]
-    if untried:
-        try_all(build, untried, results, arguments.workers)
     reasons = equivalent.read(EQUIVALENT)
-    fine = report(mutants, results, reasons)
+    fine = True
+    survivors = []
+    for scope in SCOPES:
+        in_scope = [mutant for mutant in mutants if scope.mutates(mutant.file)]
+        if not in_scope:
+            continue
+        results = try_scope(scope, in_scope, arguments.workers)
+        fine = report(scope, in_scope, results, reasons) and fine
+        survivors += [m for m in in_scope if results.known[m.key()] == "survived"]
     if not arguments.sample and not arguments.files:
-        for file, before, after in stale_reasons(mutants, results, reasons):
+        for file, before, after in stale_reasons(survivors, reasons):
             fine = False
             print(f"There is a reason for what no test misses:\n{file}\n- {before}\n+ {after}\n")
     return 0 if fine else 1

@@ -79,12 +79,11 @@ def tokens_of(text):
             for m in TOKEN.finditer(text) if m.lastgroup != "skipped"]
 
 
-def enumerations_in(header):
-    """The enumerators of every enumeration in a header, by the enumeration's name."""
-    found = {}
-    for name, body in re.findall(r"enum class (\w+)[^{;]*\{([^}]*)\}", header):
-        found[name] = re.findall(r"^\s*(\w+)", re.sub(r"//[^\n]*", "", body), re.MULTILINE)
-    return found
+def enumerations_in(text):
+    """The name and the enumerators of every enumeration in a source."""
+    for name, body in re.findall(r"enum class (\w+)[^{;]*\{([^}]*)\}", text):
+        pieces = re.sub(r"//[^\n]*", "", body).split(",")
+        yield name, [match.group() for piece in pieces if (match := re.search(r"\w+", piece))]
 
 
 class Source:
@@ -230,10 +229,15 @@ class Source:
         return self.at(place + 1) in ("(", "=", "+=", "-=", "|=", "&=", ".", "->", "[", "++", "--")
 
     def swap_enumerator(self, place, token):
-        names = self.enumerations.get(token.text, [])
-        if self.at(place + 1) == "::" and self.at(place + 2) in names:
-            other = names[(names.index(self.at(place + 2)) + 1) % len(names)]
-            self.replace("enumerator", self.tokens[place + 2], other)
+        if self.at(place + 1) != "::":
+            return
+        # Several enumerations may have one name, in classes of their own.
+        for name, enumerators in self.enumerations:
+            if name == token.text and self.at(place + 2) in enumerators:
+                other = enumerators.index(self.at(place + 2)) + 1
+                self.replace("enumerator", self.tokens[place + 2],
+                             enumerators[other % len(enumerators)])
+                return
 
     def drop_call(self, place, token):
         if token.text not in DROPPED_CALLS or self.at(place + 1) != "(":

@@ -24,6 +24,7 @@ const Row rows[] = {
     {"GroupLostForAFileOfEverybody", 0644, true, false, 0644},
     {"GroupLostWhereOthersMayMore", 0606, true, false, 0600},
     {"GroupLostWhereGroupMayMore", 0664, true, false, 0644},
+    {"GroupLostWhereOthersMayRunIt", 0701, true, false, 0700},
     {"GroupLostAndItsProgramBit", 02775, true, false, 0755},
     {"GroupLostKeepsTheOwnersProgramBit", 04755, true, false, 04755},
     {"OwnerLost", 0640, false, true, 0640},

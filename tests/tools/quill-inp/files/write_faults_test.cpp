@@ -216,6 +216,27 @@ INSTANTIATE_TEST_SUITE_P(Signals, Signal,
                                   words_for(std::get<bool>(row.param));
                          });
 
+/// The number of the last call of this name.
+std::size_t last_call(const std::vector<std::string>& calls, const std::string& name) {
+  return static_cast<std::size_t>(calls.rend() - std::find(calls.rbegin(), calls.rend(), name));
+}
+
+TEST(SignalAtTheSecondFile, EndsTheProgramAsAtTheFirst) {
+  const auto prepare = [](FaultyWrite& write) {
+    for (const char* name : {"b.qin", "c.qin"}) write.write_other(name);
+    write.request().arguments = {"fmt", "-q", "-i", "b.qin", "c.qin"};
+  };
+  FaultyWrite undisturbed;
+  prepare(undisturbed);
+  const std::size_t call = last_call(undisturbed.list_calls(), "write");
+  FaultyWrite write;
+  prepare(write);
+  EXPECT_EQ(write.run_with_fault(call, "signal " + std::to_string(SIGTERM)).signal, SIGTERM);
+  EXPECT_EQ(content_of(write.request().folder + "/b.qin"), "other\n");
+  EXPECT_EQ(content_of(write.request().folder + "/c.qin"), "other");
+  EXPECT_EQ(write.others(), (std::vector<std::string>{"b.qin", "c.qin"}));
+}
+
 /// A write without and with --backup.
 class AnyWrite : public testing::TestWithParam<bool> {};
 
@@ -410,13 +431,23 @@ TEST(ChangeWhileReading, IsNoticed) {
   EXPECT_EQ(write.content(), water + std::string("other\n"));
 }
 
+TEST(TemporaryName, ThatIsTakenIsLeftForAnother) {
+  const std::vector<std::string> calls = calls_of_a_write();
+  const std::vector<std::string> until_it_exists(calls.begin(),
+                                                 std::find(calls.begin(), calls.end(), "fchmod"));
+  FaultyWrite write;
+  EXPECT_EQ(
+      write.run_with_fault(last_call(until_it_exists, "openat"), "errno " + std::to_string(EEXIST)),
+      ended(0, "", ""));
+  EXPECT_EQ(write.content(), changed_water());
+  EXPECT_EQ(write.others(), std::vector<std::string>());
+}
+
 TEST(FolderThatCannotBeFlushed, IsNoErrorWhereTheFileSystemHasNoWayTo) {
   const std::vector<std::string> calls = calls_of_a_write();
-  const std::size_t last =
-      calls.size() -
-      static_cast<std::size_t>(std::find(calls.rbegin(), calls.rend(), "fsync") - calls.rbegin());
   FaultyWrite write;
-  EXPECT_EQ(write.run_with_fault(last, "errno " + std::to_string(EINVAL)), ended(0, "", ""));
+  EXPECT_EQ(write.run_with_fault(last_call(calls, "fsync"), "errno " + std::to_string(EINVAL)),
+            ended(0, "", ""));
   EXPECT_EQ(write.content(), changed_water());
 }
 

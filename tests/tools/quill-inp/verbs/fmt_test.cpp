@@ -24,6 +24,23 @@ Outcome usage_error(const std::string& message) {
 
 const std::string digits = "0 1\nHe 0 0 0.12345678\nHe 0 0 1.00000049\nHe 0 0 1\n";
 
+/// Atoms with a digit too many, which may go, and of which the first twenty are told one by one.
+Call digits_that_go(std::string_view name, int count, const std::string& rest) {
+  std::string input = "0 1\n";
+  std::string text = "0 1\n";
+  std::string told =
+      "<stdin>: note: " + std::to_string(count) + " numbers change, by up to 1e-07\n";
+  for (int atom = 1; atom <= count; ++atom) {
+    input += "He 0 0 0.5000001\n";
+    text += "He       0.000000      0.000000      0.500000\n";
+    if (atom > 20) continue;
+    told += atom == 1 ? "<stdin>:2: warning: lost: line 2 would be read differently: "
+                      : "<stdin>: warning: lost: ";
+    told += "z of atom " + std::to_string(atom) + " is 0.5 instead of 0.5000001\n";
+  }
+  return {name, {"fmt", "--allow-loss", "--max-change=0", "-"}, ended(0, text, told + rest), input};
+}
+
 class Fmt : public testing::TestWithParam<Call> {};
 
 const Call calls[] = {
@@ -157,6 +174,9 @@ const Call calls[] = {
          "'#a(b) c'\n"
          "<stdin>:3: warning: lost: line 3 would be left out: 'B 1 x'\n"),
      "#a(b) c\n0 1\nB 1 x\n"},
+    digits_that_go("TellsTwentyLosses", 20, ""),
+    digits_that_go("CountsTheLossesAfterTwenty", 21,
+                   "<stdin>: warning: lost: 1 more differences of this kind\n"),
     {"GoesOnWithTheOtherFiles",
      {"fmt", "-q", "two_opts.qin", "none.qin", "water.qin"},
      ended(2, water,

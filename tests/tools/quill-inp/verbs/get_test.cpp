@@ -67,7 +67,12 @@ const Call calls[] = {
      ended(1, "",
            "water.qin: note: no match for 'opt[1]': there is only 1 command 'opt', "
            "and [N] counts from 0\n")},
-    {"NoThirdOccurrence", {"get", "-q", "two_opts.qin", "opt[2]"}, ended(1, "", "")},
+    {"NoThirdOccurrence",
+     {"get", "two_opts.qin", "opt[2]"},
+     ended(1, "",
+           two_opts_warnings +
+               "two_opts.qin: note: no match for 'opt[2]': there are only 2 of the command 'opt', "
+               "and [N] counts from 0\n")},
     {"NoChargeLine", {"get", "-q", "two_opts.qin", "@charge"}, ended(1, "", "")},
     {"NoMultiplicity", {"get", "-q", "two_opts.qin", "@multiplicity"}, ended(1, "", "")},
     {"NoAtoms", {"get", "-q", "two_opts.qin", "@atoms"}, ended(1, "", "")},
