@@ -410,7 +410,7 @@ TEST(ChangeWhileReading, IsNoticed) {
   EXPECT_EQ(write.content(), water + std::string("other\n"));
 }
 
-TEST(FolderThatCannotBeFlushed, IsNoErrorWhereTheFileSystemHasNoWayTo) {
+TEST(FolderThatCannotBeFlushed, IsNotAnErrorWhereTheFileSystemCannotDoThat) {
   const std::vector<std::string> calls = calls_of_a_write();
   const std::size_t last =
       calls.size() -

@@ -36,7 +36,7 @@ const Row rows[] = {
     {"FortranExponents", "1\n\nHe 0 5d-1 -1.25D0\n", {helium}},
     {"SymbolsInAnyLetterCase", "2\n\nHE 0 0.5 -1.25\nne 1 2 3\n", {helium, neon}},
     {"FurtherColumnsArePassedOver", "1\n\nHe 0 0.5 -1.25 0.3 text\n", {helium}},
-    {"BlankLinesBehindTheAtoms", "1\n\nHe 0 0.5 -1.25\n\n \t\n", {helium}},
+    {"BlankLinesAfterTheAtoms", "1\n\nHe 0 0.5 -1.25\n\n \t\n", {helium}},
     {"ANumberAsComment", "1\n7\nHe 0 0.5 -1.25\n", {helium}},
 };
 

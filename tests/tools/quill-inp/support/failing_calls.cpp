@@ -1,5 +1,5 @@
 // Preloaded into the program by the tests of writing: counts the system calls that concern files,
-// and makes a chosen one of them fail, or something happen in front of it.
+// and makes a chosen one of them fail, or makes something happen before it.
 //
 //   QUILL_INP_CALL_LOG    a file that gets the name of every call, one per line
 //   QUILL_INP_FAULT_AT    the number of a call, counted from 1
