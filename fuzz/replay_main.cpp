@@ -1,4 +1,4 @@
-// Stands in for libFuzzer where there is none: runs the target once on every file that is named on
+// Replaces libFuzzer where it is missing: runs the target once on every file that is named on
 // the command line, and on every file in every folder that is. Fails when one of them has a
 // finding, and when there is no file where one is named.
 
