@@ -51,7 +51,7 @@ void log_call(const char* name) {
   syscall(SYS_close, file);
 }
 
-/// Returns whether the call is to fail, having set errno.
+/// Returns whether the call has to fail. If so, sets errno.
 bool fails(const char* name) {
   ++calls;
   log_call(name);
