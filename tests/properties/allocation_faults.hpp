@@ -9,9 +9,9 @@
 namespace kelp::input::quill {
 
 /// The first byte picks an operation: an edit, a call on a builder, reading, writing or copying.
-/// The rest is what it works on. Lets its allocation number `failing`, counted from 1, fail. If
-/// that is one more than it makes, it has succeeded, and the answer is true. Otherwise it has run
-/// out of memory, nothing is lost, and what is left behind is in a state that the operation allows.
+/// The rest is what it works on. Makes its allocation number `failing`, counted from 1, fail. If
+/// that is one more than it makes, it has succeeded, and the answer is true. If not, it has run out
+/// of memory: then nothing leaks, and what remains is in a state that the operation allows.
 /// Throws a Violation. A program that calls this links tests/support/failing_allocator.cpp.
 bool survives_fault(std::string_view bytes, std::uint64_t failing);
 

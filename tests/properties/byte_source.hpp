@@ -8,8 +8,8 @@
 
 namespace kelp::input::quill {
 
-/// Makes values out of bytes, front to back. Beyond the last byte there are zeros, so that every
-/// byte sequence makes something and a change of one byte changes little.
+/// Makes values out of bytes, from the first to the last. After the last byte come zeros, so that
+/// every byte sequence makes something and a change of one byte changes little.
 class ByteSource {
  public:
   explicit ByteSource(std::string_view bytes) : bytes_(bytes) {}
@@ -23,13 +23,13 @@ class ByteSource {
 
   bool flip() { return below(2) == 1; }
 
-  /// Often small, of any value otherwise.
+  /// Often a small number, sometimes any number.
   std::int32_t integer();
 
-  /// Now and then special, often of few decimals, of any bit pattern otherwise.
+  /// Sometimes a special number, often one with few decimals, sometimes any bit pattern.
   double number();
 
-  /// Often a word that means something to the library, otherwise up to fifteen bytes as they come.
+  /// Often a word that means something to the library, sometimes up to fifteen bytes as they come.
   std::string text();
 
  private:

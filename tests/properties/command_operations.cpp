@@ -11,7 +11,7 @@ namespace kelp::input::quill {
 
 namespace {
 
-/// Often one that exists, otherwise any.
+/// Often one that exists, sometimes any.
 std::uint64_t made_occurrence(ByteSource& source) {
   const std::size_t choice = source.below(8);
   return choice == 7 ? ~std::uint64_t{0} : choice % 4;

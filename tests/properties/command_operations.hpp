@@ -3,8 +3,8 @@
 
 #include "properties/edit_operation.hpp"
 
-// One function for every operation on header commands. A lack of memory may leave a flag behind
-// where a command was to be found or created.
+// One function for every operation on header commands. If memory runs out while a command is found
+// or created, a new flag may remain.
 
 namespace kelp::input::quill {
 

@@ -12,7 +12,7 @@ namespace {
 
 using Make = EditOperation (*)(ByteSource&, const QuillInput&);
 
-// Those that the builder lacks stand at the end.
+// Those that the builder does not have are at the end.
 constexpr std::array<Make, 26> operations = {make_set_flag,
                                              make_set_assignment,
                                              make_set_model,

@@ -16,7 +16,7 @@ struct Exception {
   bool (*applies)(const QuillInput& document);
 };
 
-/// All of them; between them they leave out no document that reads back.
+/// All of them. None of them applies to a document that reads back.
 const std::array<Exception, 16>& exceptions();
 
 /// The reason of the first exception that applies to a document as it is written (see

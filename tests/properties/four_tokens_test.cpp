@@ -34,7 +34,7 @@ constexpr std::string_view tokens[] = {
     "1.5x",        // neither
 };
 
-/// What stands before the line, so that it is met in one section or another.
+/// The text before the line, which decides the section that the line is in.
 constexpr std::string_view openings[] = {"", "0 1\n", "H 0 0 0\n", "XYZ a\n", "XYZTRAJ a\n"};
 
 class EveryLineOfFourTokens : public testing::TestWithParam<std::string_view> {

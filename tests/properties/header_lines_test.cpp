@@ -1,4 +1,4 @@
-// Every header line of up to five characters behind its "#" that has any meaning.
+// Every header line of up to five characters after its "#" that has any meaning.
 
 #include <gtest/gtest.h>
 

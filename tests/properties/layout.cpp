@@ -11,7 +11,7 @@ namespace kelp::input::quill {
 
 namespace {
 
-/// The text with `before` in front of every line and `end` for every "\n".
+/// The text with `before` before every line and `end` for every "\n".
 std::string laid_out(std::string_view text, std::string_view before, std::string_view end) {
   std::string result(before);
   for (const char c : text) {

@@ -3,8 +3,8 @@
 
 #include "properties/edit_operation.hpp"
 
-// One function for every operation on the geometry and on post-processing lines. A lack of memory
-// may leave the new kind of geometry behind, and the atoms gone where files replace them.
+// One function for every operation on the geometry and on post-processing lines. If memory runs
+// out, the geometry may have its new kind already, and the atoms may be gone if files replace them.
 
 namespace kelp::input::quill {
 

@@ -7,9 +7,9 @@
 
 namespace kelp::input::quill {
 
-/// Asked for commands by a name, `document` finds those that `stored` has, in every way to ask:
-/// has_command() and both forms of find_command(). `stored` is the same document, unless a test
-/// shows that another one is noticed. Throws a Violation.
+/// For a name, has_command() and both forms of find_command() of `document` find the commands that
+/// `stored` has. `stored` is the same document, except in a test that a difference is noticed.
+/// Throws a Violation.
 void check_lookup(QuillInput& document, const QuillInput& stored, std::string_view name);
 
 /// The same for every name that is stored, for the names of tasks, and for no name; and the list of

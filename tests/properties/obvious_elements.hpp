@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-// The functions on elements once more, written for nothing but to be seen to be right.
+// The functions on elements once more, written so that they are obviously right.
 
 namespace kelp::input::quill::obvious {
 

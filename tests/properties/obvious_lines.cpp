@@ -13,7 +13,7 @@ std::string line_warning(std::uint64_t line_number, const std::string& message) 
   return "Line " + std::to_string(line_number) + ": " + message;
 }
 
-/// The pieces between the commas that stand outside quotes, trimmed, empty ones included.
+/// The pieces between the commas outside quotes, trimmed, with the empty ones.
 std::vector<std::string> pieces_of(std::string_view text) {
   constexpr char none = '\0';
   std::vector<std::string> pieces(1);
@@ -39,12 +39,12 @@ HeaderLine parameter_list_line(const std::string& body, std::size_t open,
   HeaderLine read;
   read.command.name = trim(body.substr(0, open));
   read.command.kind = HeaderCommandKind::ParameterList;
-  const std::string behind = body.substr(open + 1);
-  const std::size_t close = behind.rfind(')');
-  read.command.parameters = parameter_list(behind.substr(0, close));
+  const std::string after_open = body.substr(open + 1);
+  const std::size_t close = after_open.rfind(')');
+  read.command.parameters = parameter_list(after_open.substr(0, close));
   if (close == std::string::npos) {
     read.warnings.push_back(line_warning(line_number, "missing ')' in QUILL header command"));
-  } else if (!trim(behind.substr(close + 1)).empty()) {
+  } else if (!trim(after_open.substr(close + 1)).empty()) {
     read.warnings.push_back(
         line_warning(line_number, "ignored trailing text after QUILL header command"));
   }

@@ -25,7 +25,7 @@ std::string exchanged(std::string_view text, std::string_view from, std::string_
   return result;
 }
 
-/// Moves `at` over the digits that stand there and returns how many there were.
+/// Moves `at` over the digits there and returns how many there were.
 std::size_t skip_digits(std::string_view text, std::size_t& at) {
   const std::size_t start = at;
   while (at < text.size() && is_digit(text[at])) ++at;

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-// The text functions once more, written for nothing but to be seen to be right: one
-// byte at a time, numbers by the C library. They are right in the "C" locale only.
+// The text functions once more, written so that they are obviously right: one byte at a time, with
+// numbers read by the C library. They are right in the "C" locale only.
 
 namespace kelp::input::quill::obvious {
 
@@ -22,7 +22,7 @@ std::string upper(std::string_view text);
 std::vector<std::string> words(std::string_view text);
 std::vector<std::string> lines(std::string_view text);
 
-/// What stands behind the first word and the blanks around it.
+/// The text after the first word and the blanks around it.
 std::string rest_after_first_word(std::string_view text);
 
 std::optional<int> integer(std::string_view token);

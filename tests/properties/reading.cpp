@@ -21,7 +21,7 @@ std::size_t count_non_blank_lines(std::string_view text) {
       lines.begin(), lines.end(), [](const auto& line) { return !obvious::trim(line).empty(); }));
 }
 
-/// The warnings that stand for a line of which nothing is in the document.
+/// The warnings about lines of which nothing is in the document.
 std::size_t count_dropped_lines(const std::vector<std::string>& warnings) {
   return static_cast<std::size_t>(
       std::count_if(warnings.begin(), warnings.end(), [](const auto& warning) {

@@ -20,7 +20,7 @@ void check_outcome(std::string_view text, const ParseResult& result);
 void check_that_no_line_is_lost(std::string_view text, const ParseResult& result);
 
 /// Every warning but the last names a line of the text, in the order of the lines; the last one may
-/// say instead that there is no coordinate section, and does so exactly when there is none.
+/// say instead that there is no coordinate section, and does so exactly if it is missing.
 void check_warnings(std::string_view text, const ParseResult& result);
 
 /// The geometry holds what its kind says and nothing else; symbols are spelled as elements are.
@@ -40,7 +40,7 @@ void check_lines(std::string_view text, const ParsedLines& parsed);
 /// one more line end, and, but for the numbers of lines, on blank lines.
 void check_that_layout_does_not_matter(std::string_view text, Reader* read = parse_string);
 
-/// The result is that of the reader written for nothing but to be seen to be right.
+/// The result is that of the reader in obvious_reader.hpp.
 void check_against_obvious_reader(std::string_view text, const ParseResult& result);
 
 }  // namespace kelp::input::quill

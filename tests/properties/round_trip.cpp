@@ -63,7 +63,8 @@ void check_round_trip(const QuillInput& document, Reader* read) {
   const bool is_expected_back = !reason_not_to_read_back(expected);
   adopt_near_numbers(expected, result.input);
   require((result.input == expected) == is_expected_back,
-          is_expected_back ? "what is written reads back" : "only what reads back is no exception",
+          is_expected_back ? "what is written reads back"
+                           : "only what does not read back is an exception",
           text);
   require(!is_expected_back || result.input.to_string() == text,
           "what is read back is written again as the same bytes", text);

@@ -72,7 +72,7 @@ const Row rows[] = {
      "a warning begins with the number of its line"},
     {"WarningsOutOfOrder", [](ParseResult& r) { std::swap(r.warnings[0], r.warnings[1]); },
      "the numbers of the warnings never fall"},
-    {"AWarningBehindTheText",
+    {"AWarningAfterTheText",
      [](ParseResult& r) {
        r.warnings.back() = "Line 12: ignored unrecognized QUILL post-processing line";
      },

@@ -6,8 +6,8 @@
 
 namespace kelp::input::quill {
 
-/// A warning taken apart: "Line 12: message". Of any other text, `is_of_a_line` is false and the
-/// message is the whole.
+/// The parts of a warning: "Line 12: message". For any other text, `is_of_a_line` is false and the
+/// message is the whole text.
 struct SplitWarning {
   bool is_of_a_line = false;
   std::uint64_t line = 0;

@@ -15,7 +15,7 @@ namespace kelp::input::quill {
 /// trace.
 void check_writing(const QuillInput& document, std::string_view text);
 
-/// The text is that of the writer written for nothing but to be seen to be right.
+/// The text is that of the writer in obvious_writer.hpp.
 void check_against_obvious_writer(const QuillInput& document, std::string_view text);
 
 /// What is written can be read. Unless one of the exceptions of expressible.hpp applies, it reads

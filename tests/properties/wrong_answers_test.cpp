@@ -112,7 +112,7 @@ const Row of_a_reader[] = {
          return result;
        });
      },
-     "only what reads back is no exception"},
+     "only what does not read back is an exception"},
 };
 
 const Row of_a_writer[] = {

@@ -50,7 +50,7 @@ const Row rows[] = {
        editor = InputEditor(input);
      },
      ""},
-    {"AnAngleConstraintBehindAtoms",
+    {"AnAngleConstraintAfterAtoms",
      [](InputEditor& editor) {
        editor.set_flag("opt");
        editor.set_charge_and_multiplicity(0, 1);
@@ -60,20 +60,20 @@ const Row rows[] = {
      "line 8 would be read as an atom of element A, not as an angle constraint; put another "
      "post-processing line before it to avoid that",
      8},
-    {"AnAngleConstraintBehindAnotherLine",
+    {"AnAngleConstraintAfterAnotherLine",
      [](InputEditor& editor) {
        editor.set_geometry({{"O", 0, 0, 0}});
        editor.add_atom_constraint(1);
        editor.add_angle_constraint(1, 2, 3);
      },
      ""},
-    {"AnAngleConstraintBehindReferences",
+    {"AnAngleConstraintAfterReferences",
      [](InputEditor& editor) {
        editor.set_xyz_file("a");
        editor.add_angle_constraint(1, 2, 3);
      },
      ""},
-    {"RawTextOfFourTokensBehindAtoms",
+    {"RawTextOfFourTokensAfterAtoms",
      [](InputEditor& editor) {
        editor.set_geometry({{"O", 0, 0, 0}});
        editor.add_post_command(raw("B 1 2 3"));
@@ -89,7 +89,7 @@ const Row rows[] = {
      "line 3 would be read as an atom of element Fe, not as raw text; put another post-processing "
      "line before it to avoid that",
      3},
-    {"RawTextLikeACommandBehindTheHeader",
+    {"RawTextLikeACommandAfterTheHeader",
      [](InputEditor& editor) {
        editor.set_flag("opt");
        editor.add_post_command(raw("# note"));
@@ -97,7 +97,7 @@ const Row rows[] = {
      "line 3 would be read as a header command, not as raw text; put another post-processing line "
      "before it to avoid that",
      3},
-    {"RawTextLikeACommandBehindTheGeometry",
+    {"RawTextLikeACommandAfterTheGeometry",
      [](InputEditor& editor) {
        editor.set_charge_and_multiplicity(0, 1);
        editor.add_post_command(raw("# note"));
@@ -173,7 +173,7 @@ const Row rows[] = {
     {"APostFileWithABlankInFront", [](InputEditor& editor) { editor.set_post_file(" a"); },
      "line 1 would be read differently: the path of post-processing line 1 is 'a' instead of ' a'",
      1},
-    {"AReferenceWithABlankBehind",
+    {"AReferenceWithABlankAfterIt",
      [](InputEditor& editor) {
        editor.set_xyz_files({"a", "b "});
      },
@@ -230,7 +230,7 @@ const Row rows[] = {
     {"ANameThatNeedsNoQuoteButACommandOfAnotherKind",
      [](InputEditor& editor) { editor.set_flag("a=b"); },
      "line 1 would be read differently: the name of command 1 is 'a' instead of 'a=b'", 1},
-    {"ANameThatIsNoHeaderLineAnyMore", [](InputEditor& editor) { editor.set_flag("a\nb"); },
+    {"ANameThatIsNotAHeaderLineAnyMore", [](InputEditor& editor) { editor.set_flag("a\nb"); },
      "line 1 would be read differently: the name of command 1 is 'a' instead of 'a\nb'", 1},
     {"AChargeThatIsNotWritten",
      [](InputEditor& editor) {
@@ -279,17 +279,17 @@ void PrintTo(const TextRow& row, std::ostream* out) { *out << testing::PrintToSt
 const TextRow text_rows[] = {
     {"LinesThatWereAlwaysDropped", "O 0 0 0\nB 1 x\nC 1\nC y\n", "O 0 0 0\nC 1\n", ""},
     {"ReferencesThatNeverHadAPath", "XYZ\nXYZ a\nXYZ\nC 1\n", "XYZ a\nC 1\n", ""},
-    {"ADifferenceBehindALineThatWasAlwaysDropped", "O 0 0 0\nB 1 x\nC 1\n", "O 0 0 0\nC 2\n",
+    {"ADifferenceAfterALineThatWasAlwaysDropped", "O 0 0 0\nB 1 x\nC 1\n", "O 0 0 0\nC 2\n",
      "line 3 would be read differently: the list of atom numbers of post-processing line 1 is 1 "
      "instead of 2"},
-    {"ADifferenceBehindAReferenceThatNeverHadAPath", "XYZ\nXYZ a\nC 1\n", "XYZ a\nC 2\n",
+    {"ADifferenceAfterAReferenceThatNeverHadAPath", "XYZ\nXYZ a\nC 1\n", "XYZ a\nC 2\n",
      "line 3 would be read differently: the list of atom numbers of post-processing line 1 is 1 "
      "instead of 2"},
-    {"ADifferenceBehindEverySectionWithATrajectory", "#irc\n0 1\nXYZTRAJ t\nC 1\n",
+    {"ADifferenceAfterEverySectionWithATrajectory", "#irc\n0 1\nXYZTRAJ t\nC 1\n",
      "#irc\n0 1\nXYZTRAJ t\nC 2\n",
      "line 4 would be read differently: the list of atom numbers of post-processing line 1 is 1 "
      "instead of 2"},
-    {"ADifferenceBehindATrajectoryWithoutAPath", "#irc\nXYZTRAJ\nC 1\n", "#irc\nXYZTRAJ\nC 2\n",
+    {"ADifferenceAfterATrajectoryWithoutAPath", "#irc\nXYZTRAJ\nC 1\n", "#irc\nXYZTRAJ\nC 2\n",
      "line 3 would be read differently: the list of atom numbers of post-processing line 1 is 1 "
      "instead of 2"},
     {"ADroppedLineThatWouldBecomeAnAtom", "O 0 0 0\nA 1 2 3.5\nC 1\n", "O 0 0 0\nC 1\n",

@@ -10,12 +10,12 @@
 
 namespace kelp::input::quill::lossless_edit {
 
-/// Texts and edits as nobody would write them on purpose, the same for the same seed everywhere.
+/// Random texts and edits. The same seed gives the same ones on every system.
 class RandomEdits {
  public:
   explicit RandomEdits(std::uint32_t seed) : generator_(seed) {}
 
-  /// A text of a few lines of every kind, in the order of the sections more often than not, with
+  /// A text of a few lines of every kind, usually in the order of the sections, with
   /// blank lines anywhere and any mixture of line ends.
   std::string text();
 

@@ -7,13 +7,13 @@
 
 #include "tools/properties/edits.hpp"
 
-// What holds for any text and any edits. The expectations are drawn up by means of their own: the
-// editor alone says what is meant, plain cutting at "\n" what a line is, and the equality of the
-// tests what is equal.
+// What holds for any text and any edits. The expectations do not use the code under test: the
+// editor gives the wanted document, cutting at "\n" gives the lines, and the equality of the tests
+// decides what is equal.
 
 namespace kelp::input::quill::lossless_edit {
 
-/// The document without what the reader alone fills in.
+/// The document without what only the reader fills in.
 QuillInput without_source_lines(QuillInput input);
 
 /// Edits a text. The result is what the editor means and reads back, or is refused, and then there
@@ -24,7 +24,7 @@ EditOutcome checked_edit(const std::string& text, const std::vector<Edit>& edits
 /// reads back as it. Throws a Violation.
 void check_proofs(std::string_view text, const QuillInput& document);
 
-/// Takes a text up to a line "%%", or the whole, for a text, and the bytes behind it for edits.
+/// Uses the bytes up to a line "%%", or all of them, as a text, and the bytes after it for edits.
 void check_surgery(std::string_view bytes);
 
 }  // namespace kelp::input::quill::lossless_edit

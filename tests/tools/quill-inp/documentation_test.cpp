@@ -1,5 +1,5 @@
 // The examples of the tool's page and of its section in the README are carried out: blocks marked
-// as "console" hold commands behind "$ " (and "> " where one goes on) and what they print.
+// as "console" hold commands after "$ " (and "> " where one goes on) and what they print.
 
 #include <gtest/gtest.h>
 

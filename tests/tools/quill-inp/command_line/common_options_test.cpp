@@ -24,7 +24,7 @@ const Row rows[] = {
     {"ShortQuiet", {"get", "-q", "a"}, ColorMode::Auto, true},
     {"LongQuiet", {"--quiet"}, ColorMode::Auto, true},
     {"QuietAmongShortOptions", {"set", "-iq"}, ColorMode::Auto, true},
-    {"QuietInFrontOfShortOptions", {"set", "-qi"}, ColorMode::Auto, true},
+    {"QuietBeforeShortOptions", {"set", "-qi"}, ColorMode::Auto, true},
     {"ShortOptionsWithoutIt", {"set", "-i", "-h"}, ColorMode::Auto, false},
     {"AWordWithADashAndTheLetter", {"set", "-query"}, ColorMode::Auto, false},
     {"QuietWithAValue", {"set", "--quiet=yes"}, ColorMode::Auto, false},
@@ -36,11 +36,11 @@ const Row rows[] = {
     {"EmptyColor", {"get", "--color=", "never"}, ColorMode::Auto, false},
     {"AnotherOptionThatBeginsSo", {"get", "--colors=never"}, ColorMode::Auto, false},
     {"Both", {"get", "--color=never", "-q"}, ColorMode::Never, true},
-    {"BehindTheEndOfOptions", {"get", "--", "-q", "--color=never"}, ColorMode::Auto, false},
-    {"AValueBehindTheEndOfOptions", {"get", "--color", "--", "never"}, ColorMode::Auto, false},
+    {"AfterTheEndOfOptions", {"get", "--", "-q", "--color=never"}, ColorMode::Auto, false},
+    {"AValueAfterTheEndOfOptions", {"get", "--color", "--", "never"}, ColorMode::Auto, false},
 };
 
-TEST_P(FoundMessageOptions, AreThoseInFrontOfTheEndOfOptions) {
+TEST_P(FoundMessageOptions, AreThoseBeforeTheEndOfOptions) {
   const CommonOptions options = find_message_options(GetParam().arguments);
   EXPECT_EQ(options.color, GetParam().color);
   EXPECT_EQ(options.is_quiet, GetParam().is_quiet);

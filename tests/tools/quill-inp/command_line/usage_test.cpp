@@ -29,7 +29,7 @@ const Call calls[] = {
     {"NoAbbreviations",
      {"sho", "water.qin"},
      usage_error("unknown verb 'sho'; did you mean 'show'?")},
-    {"OptionInFrontOfTheVerb",
+    {"OptionBeforeTheVerb",
      {"-q", "show", "water.qin"},
      ended(2, "", "quill-inp: error: '-q' must come after the verb\n")},
     {"UnknownLongOptionOfTheProgram",

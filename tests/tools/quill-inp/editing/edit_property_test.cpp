@@ -23,7 +23,7 @@
 namespace kelp::input::quill::tool {
 namespace {
 
-/// What the reader keeps of a line beside its meaning is not part of what was meant.
+/// The text of a line that the reader keeps beside its meaning does not count for the comparison.
 QuillInput without_lines(QuillInput input) {
   for (PostCommand& command : input.post_commands) {
     if (command.kind != PostCommandKind::Raw) command.raw_text.clear();
@@ -64,9 +64,9 @@ Reported read_notes(const std::string& path, const std::string& notes) {
         std::sscanf(rest.c_str(), "%zu: note: %7[a-z]%n", &first, kind, &length) == 2;
     if (!has_line || kinds.count(kind) == 0) continue;
     std::size_t last = first;
-    const char* const behind = rest.c_str() + length;
-    if (std::sscanf(behind, ", up to line %zu", &last) != 1) {
-      EXPECT_EQ(*behind, ':') << line;
+    const char* const after = rest.c_str() + length;
+    if (std::sscanf(after, ", up to line %zu", &last) != 1) {
+      EXPECT_EQ(*after, ':') << line;
     }
     for (std::size_t number = first; number <= last; ++number) kinds.at(kind)->insert(number);
   }
@@ -129,7 +129,7 @@ int run_and_check(const EditCall& call, const std::string& path, const std::stri
   return code;
 }
 
-TEST(EditsInPlace, ChangeTheReportedLinesAndReadBackAsMeant) {
+TEST(EditsInPlace, ChangeTheReportedLinesAndReadBackAsWanted) {
   use_memory_for_temporary_files();
   const TemporaryFolder folder;
   std::map<int, int> codes;

@@ -150,7 +150,7 @@ TEST(InPlace, NeedsTheRightToReadTheFolder) {
 TEST(InPlace, KeepsOwnerAndGroup) {
   const TemporaryFolder folder;
   const std::string path = folder.write("a.qin", water);
-  // Only the superuser can make a file somebody else's; for others it is their own that must stay.
+  // Only the superuser can give a file to another user; for others, their own name must stay.
   if (geteuid() == 0) {
     ASSERT_EQ(chown(path.c_str(), 12345, 23456), 0);
   }

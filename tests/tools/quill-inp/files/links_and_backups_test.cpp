@@ -98,7 +98,7 @@ TEST(Backup, IsGoneWhenFilesMayNotGrowAndNotInTheWayOfTheNext) {
   EXPECT_EQ(content_of(path + ".bak"), water);
 }
 
-TEST(Backup, StandsBesideTheFileThatALinkLeadsTo) {
+TEST(Backup, IsBesideTheFileThatALinkLeadsTo) {
   const TemporaryFolder folder;
   ASSERT_EQ(mkdir(folder.path("real").c_str(), 0755), 0);
   folder.write("real/job.qin", water);
@@ -121,7 +121,7 @@ TEST(Backup, IsNotOverwritten) {
   EXPECT_EQ(names_in(folder.path()), (Names{"a.qin", "a.qin.bak"}));
 }
 
-TEST(Backup, IsNoReasonToFollowALink) {
+TEST(Backup, DoesNotFollowALink) {
   const TemporaryFolder folder;
   folder.write("a.qin", water);
   ASSERT_EQ(symlink("elsewhere", folder.path("a.qin.bak").c_str()), 0);

@@ -58,7 +58,7 @@ class FaultyWrite {
     return run();
   }
 
-  /// The same call once more, with nothing in its way.
+  /// The same call once more, without a fault.
   Outcome run_undisturbed() {
     request_.environment.erase("LD_PRELOAD");
     return run();
@@ -76,15 +76,15 @@ class FaultyWrite {
     return calls;
   }
 
-  /// Names in the folder but for that of the file.
+  /// The names in the folder, without that of the file.
   std::vector<std::string> others() const {
     std::vector<std::string> names = names_in(folder_.path());
     names.erase(std::remove(names.begin(), names.end(), "a.qin"), names.end());
     return names;
   }
 
-  /// What they are to be after a call that could clean up: the new text has a backup beside it, if
-  /// that was asked for, and the old text has nothing.
+  /// The expected names after a call that could clean up: a backup beside the new text, if it was
+  /// asked for, and nothing beside the old text.
   std::vector<std::string> others_wanted() const {
     if (!keeps_backup_ || content() == water) return {};
     return {backup_name};
@@ -93,7 +93,7 @@ class FaultyWrite {
   std::string backup() const { return content_of(folder_.path(backup_name)); }
   std::string path() const { return path_; }
 
-  /// Whether nobody may do with any file of the folder what he may not do with the target.
+  /// Whether no file in the folder gives anybody more rights than the target does.
   bool nothing_is_wider() const {
     for (const std::string& name : names_in(folder_.path())) {
       if ((mode_of(folder_.path(name)) & ~mode) != 0) return false;
@@ -123,7 +123,7 @@ std::size_t position(const std::vector<std::string>& calls, const std::string& n
 TEST(Write, TakesItsStepsInOrder) {
   std::vector<std::string> steps;
   for (const std::string& call : calls_of_a_write()) {
-    // How often a file is read or looked at is of no concern.
+    // It does not matter how often a file is read or examined.
     const bool counts =
         call != "read" && call != "fstat" && call.find("xattr") == std::string::npos;
     if (counts) steps.push_back(call);
@@ -240,8 +240,8 @@ TEST(SignalAtTheSecondFile, EndsTheProgramAsAtTheFirst) {
 /// A write without and with --backup.
 class AnyWrite : public testing::TestWithParam<bool> {};
 
-/// Calls whose failure changes nothing of the file: closing what was only read, and removing what
-/// the backup was called before it had its name.
+/// Calls whose failure does not change the file: closing a file that was only read, and removing
+/// the temporary name of the backup.
 bool may_fail(const std::vector<std::string>& calls, std::size_t call) {
   const bool closes_what_was_written =
       call > 1 && calls[call - 2] == "fsync" && call < position(calls, "renameat");
@@ -425,7 +425,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ChangeWhileReading, IsNoticed) {
   const std::vector<std::string> calls = calls_of_a_write();
   FaultyWrite write;
-  // The file is looked at once more before it is closed.
+  // The file is examined once more before it is closed.
   EXPECT_EQ(write.run_with_fault(position(calls, "close"), "run echo other >> a.qin"),
             ended(2, "", "a.qin: error: changed while it was read\n"));
   EXPECT_EQ(write.content(), water + std::string("other\n"));
@@ -443,7 +443,7 @@ TEST(TemporaryName, ThatIsTakenIsLeftForAnother) {
   EXPECT_EQ(write.others(), std::vector<std::string>());
 }
 
-TEST(FolderThatCannotBeFlushed, IsNoErrorWhereTheFileSystemHasNoWayTo) {
+TEST(FolderThatCannotBeFlushed, IsNotAnErrorWhereTheFileSystemCannotDoThat) {
   const std::vector<std::string> calls = calls_of_a_write();
   FaultyWrite write;
   EXPECT_EQ(write.run_with_fault(last_call(calls, "fsync"), "errno " + std::to_string(EINVAL)),

@@ -51,7 +51,7 @@ const BadRow bad_rows[] = {
     {"EmptyObject", "{}", no_string},
     {"AnotherMember", R"({"byte": "00"})", no_string},
     {"AMemberTooMany", R"({"bytes": "00", "x": 1})", no_string},
-    {"BytesThatAreNoString", R"({"bytes": 0})", no_string},
+    {"BytesThatAreNotAString", R"({"bytes": 0})", no_string},
     {"HalfAByte", R"({"bytes": "00f"})", no_digits},
     {"UpperCase", R"({"bytes": "0F"})", no_digits},
     {"NoHighDigit", R"({"bytes": "g0"})", no_digits},
@@ -149,7 +149,7 @@ TEST(JsonNumber, HasANameWhereJsonHasNoNumber) {
   EXPECT_EQ(number_from_json(parse_json("3"), "x"), 3.0);
 }
 
-/// Returns what is wrong with a text, behind the line if there is one.
+/// Returns what is wrong with a text, after the line number if there is one.
 std::string complaint(std::string_view text) {
   try {
     parse_json(text);

@@ -39,7 +39,7 @@ const Row rows[] = {
      "2\n\nAz 0 0.5 -1.25\nzA 1 2 3\n",
      {{"Az", 0.0, 0.5, -1.25}, {"Za", 1.0, 2.0, 3.0}}},
     {"FurtherColumnsArePassedOver", "1\n\nHe 0 0.5 -1.25 0.3 text\n", {helium}},
-    {"BlankLinesBehindTheAtoms", "1\n\nHe 0 0.5 -1.25\n\n \t\n", {helium}},
+    {"BlankLinesAfterTheAtoms", "1\n\nHe 0 0.5 -1.25\n\n \t\n", {helium}},
     {"ANumberAsComment", "1\n7\nHe 0 0.5 -1.25\n", {helium}},
 };
 

@@ -46,7 +46,7 @@ const Row rows[] = {
     {"BracketsInAName", R"(a\[1\])", "<a[1]>"},
     {"BackslashInAName", R"(a\\.b)", "<a\\> parameter <b>"},
     {"EqualsSignInAName", R"(a\=b)", "<a=b>"},
-    {"AtSignInFrontOfAName", R"(\@charge)", "<@charge>"},
+    {"AtSignBeforeAName", R"(\@charge)", "<@charge>"},
     {"AtSignInsideAName", "a@b", "<a@b>"},
     {"BlanksInsideAName", "freq opt", "<freq opt>"},
     {"Charge", "@charge", "special 0"},

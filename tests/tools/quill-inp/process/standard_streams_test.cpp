@@ -176,12 +176,12 @@ INSTANTIATE_TEST_SUITE_P(
         RedirectionRow{"ToALink", "quill-inp fmt a.qin >> link", "a.qin: error: "},
         RedirectionRow{"FromALink", "quill-inp fmt link >> a.qin", "link: error: "},
         RedirectionRow{"ToAnotherName", "quill-inp fmt a.qin >> second", "a.qin: error: "},
-        RedirectionRow{"BehindAnotherFile", "quill-inp fmt b.qin a.qin >> a.qin", "a.qin: error: "},
-        RedirectionRow{"BehindAnotherFileOfStandardInput",
-                       "quill-inp show b.qin - < a.qin >> a.qin", "<stdin>: error: "}),
+        RedirectionRow{"AfterAnotherFile", "quill-inp fmt b.qin a.qin >> a.qin", "a.qin: error: "},
+        RedirectionRow{"AfterAnotherFileOfStandardInput", "quill-inp show b.qin - < a.qin >> a.qin",
+                       "<stdin>: error: "}),
     [](const auto& row) { return row.param.name; });
 
-TEST(StandardOutput, ThatEmptiedTheInputIsNoSuccess) {
+TEST(StandardOutput, ThatEmptiedTheInputIsAnError) {
   const TemporaryFolder folder;
   folder.write("a.qin", water);
   EXPECT_EQ(run_shell(folder.path(), "quill-inp set a.qin model=m2 > a.qin"),

@@ -25,7 +25,7 @@ const Row rows[] = {
     {"WithoutCarbonHydrogenIsOneOfTheRest", {"Pt", "N", "H", "H", "Cl"}, "ClH2NPt"},
     {"CobaltIsNotCarbon", {"Co", "H"}, "CoH"},
     {"TenOfAKind", {"C", "C", "C", "C", "C", "C", "C", "C", "C", "C"}, "C10"},
-    {"SymbolsThatAreNoElement", {"D", "A", "C", "H"}, "CHAD"},
+    {"SymbolsThatAreNotAnElement", {"D", "A", "C", "H"}, "CHAD"},
 };
 
 TEST_P(HillFormula, CountsInOrder) {

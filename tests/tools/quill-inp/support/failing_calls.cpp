@@ -1,5 +1,5 @@
 // Preloaded into the program by the tests of writing: counts the system calls that concern files,
-// and makes a chosen one of them fail, or something happen in front of it.
+// and makes a chosen one of them fail, or makes something happen before it.
 //
 //   QUILL_INP_CALL_LOG    a file that gets the name of every call, one per line
 //   QUILL_INP_FAULT_AT    the number of a call, counted from 1
@@ -51,7 +51,7 @@ void log_call(const char* name) {
   syscall(SYS_close, file);
 }
 
-/// Returns whether the call is to fail, having set errno.
+/// Returns whether the call has to fail. If so, sets errno.
 bool fails(const char* name) {
   ++calls;
   log_call(name);

@@ -23,8 +23,8 @@ std::vector<std::string> names_in(const std::string& folder);
 /// Copies the example inputs, with the structures they refer to, into a folder.
 void copy_example_inputs(const std::string& folder);
 
-/// Lets temporary files live in memory where there is such a folder, for tests that write many of
-/// them: waiting for a disk is no part of what they test. To be called before the first is made.
+/// Puts temporary files into memory where there is such a folder, for tests that write many of
+/// them: waiting for a disk is not part of what they test. Call it before the first one is made.
 bool use_memory_for_temporary_files();
 
 /// A small input, in the canonical layout: water.

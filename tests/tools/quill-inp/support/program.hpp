@@ -37,7 +37,7 @@ struct Request {
   bool without_privileges = false;  // permission bits and owners count, even for the superuser
 };
 
-/// What came of a run: the exit code, or the signal that ended it, and what it wrote.
+/// The result of a run: the exit code, or the signal that ended it, and what it wrote.
 struct Outcome {
   std::optional<int> code = std::nullopt;
   std::optional<int> signal = std::nullopt;

@@ -29,7 +29,7 @@ const Row rows[] = {
     {"TwoSlipsInFourLetters", "shxx", {"show"}, std::nullopt},
     {"TwoSlipsInSevenLetters", "maxitre", {"maxiter"}, "maxiter"},
     {"ThreeSlipsInSevenLetters", "maxixxx", {"maxiter"}, std::nullopt},
-    {"LetterCaseIsNoSlip", "MODEL", {"Model"}, "Model"},
+    {"LetterCaseIsNotAMistake", "MODEL", {"Model"}, "Model"},
     {"TheNearestOfSeveral", "unst", {"set", "unset"}, "unset"},
     {"TheFirstOfEquallyNear", "ab", {"ac", "ad"}, "ac"},
     {"OneLetterIsLikeNoOther", "a", {"b"}, std::nullopt},
@@ -37,10 +37,10 @@ const Row rows[] = {
     {"AShortNameIsLikeAShortWord", "op", {"opt"}, "opt"},
     {"ALongWordIsNotLikeAShortName", "oooopt", {"opt"}, std::nullopt},
     {"NoWord", "", {"a"}, std::nullopt},
-    {"AnEmptyNameIsNeverMeant", "a", {""}, std::nullopt},
+    {"AnEmptyNameIsNeverSuggested", "a", {""}, std::nullopt},
 };
 
-TEST_P(NearestName, IsTheOneProbablyMeant) {
+TEST_P(NearestName, IsTheOneProbablyWanted) {
   EXPECT_EQ(nearest_name(GetParam().word, GetParam().names), GetParam().nearest);
 }
 

@@ -32,23 +32,23 @@ const Row rows[] = {
     {"LastControlCharacter", "\x1F ", "\\x1f ", "\\x1f "},
     {"Delete", "~\x7F", "~\\x7f", "~\\x7f"},
     {"ControlSequenceInOneCharacter", "\xC2\x9B", "\\u009b", "\\u009b"},
-    {"FirstBehindTheControls", "\xC2\xA0", "\xC2\xA0", "\xC2\xA0"},
+    {"FirstAfterTheControls", "\xC2\xA0", "\xC2\xA0", "\xC2\xA0"},
     {"ArabicLetterMark", "\xD8\x9C", "\\u061c", "\\u061c"},
     {"BeforeTheMarks", "\xE2\x80\x8D", "\xE2\x80\x8D", "\xE2\x80\x8D"},
     {"LeftToRightMark", "\xE2\x80\x8E", "\\u200e", "\\u200e"},
     {"RightToLeftMark", "\xE2\x80\x8F", "\\u200f", "\\u200f"},
-    {"BehindTheMarks", "\xE2\x80\x90", "\xE2\x80\x90", "\xE2\x80\x90"},
+    {"AfterTheMarks", "\xE2\x80\x90", "\xE2\x80\x90", "\xE2\x80\x90"},
     {"LineSeparator", "\xE2\x80\xA8", "\\u2028", "\\u2028"},
     {"RightToLeftOverride",
      "a\xE2\x80\xAE"
      "b",
      "a\\u202eb", "a\\u202eb"},
-    {"BehindTheOverrides", "\xE2\x80\xAF", "\xE2\x80\xAF", "\xE2\x80\xAF"},
+    {"AfterTheOverrides", "\xE2\x80\xAF", "\xE2\x80\xAF", "\xE2\x80\xAF"},
     {"FirstIsolate", "\xE2\x81\xA6", "\\u2066", "\\u2066"},
     {"LastIsolate", "\xE2\x81\xA9", "\\u2069", "\\u2069"},
-    {"BehindTheIsolates", "\xE2\x81\xAA", "\xE2\x81\xAA", "\xE2\x81\xAA"},
+    {"AfterTheIsolates", "\xE2\x81\xAA", "\xE2\x81\xAA", "\xE2\x81\xAA"},
     {"NotUtf8", "\xFF\xC3", "\\xff\\xc3", "\\xff\\xc3"},
-    {"NotUtf8InFrontOfText", "\xC3(", "\\xc3(", "\\xc3("},
+    {"NotUtf8BeforeText", "\xC3(", "\\xc3(", "\\xc3("},
 };
 
 TEST_P(TerminalText, ShowsWhatATerminalWouldObey) {

@@ -19,7 +19,7 @@ struct Row {
   std::string_view name;
   std::string_view old_text;
   std::string_view new_text;
-  std::string_view diff;  // behind the two lines with the name
+  std::string_view diff;  // after the two lines with the name
 };
 
 class UnifiedDiff : public testing::TestWithParam<Row> {};
@@ -152,7 +152,7 @@ Lines split(std::string_view text) {
   return lines;
 }
 
-/// Positions are counted from 0 here, and stand in front of the first line of a hunk.
+/// Positions are counted from 0 here, and are before the first line of a hunk.
 struct Hunk {
   std::size_t old_begin = 0;
   std::size_t old_count = 1;

@@ -147,7 +147,7 @@ const Call calls[] = {
      {"fmt", "-"},
      ended(0, "#a = \"\"a'b\"\"\n\n0 1\n", ""),
      "#a = '\"a'b\"'\n0 1\n"},
-    {"TellsWhatBecomesOfALineWithoutTheOneInFrontOfIt",
+    {"TellsWhatALineIsReadAsWithoutTheOneBeforeIt",
      {"fmt", "-q", "-"},
      refused_at("<stdin>", 2, "would be left out: 'B 1 x'"),
      "#a\nB 1 x\n1 2\n"},

@@ -58,7 +58,7 @@ const Call calls[] = {
            "odd.xyz:4: warning: unknown element symbol 'D'\n"
            "<new>: note: 1 number changes, by up to 2.2e-07\n"
            "<stdout>:2: warning: unknown element symbol 'D'\n")},
-    {"AnAngleBehindAtoms",
+    {"AnAngleAfterAtoms",
      {"new", "-q", "--atoms", "water.xyz", "--angle", "1,2,3"},
      ended(2, "",
            "<new>: error: refused: line 5 would be read as an atom of element A, not as an angle "
@@ -71,16 +71,16 @@ const Call calls[] = {
          2, "",
          "<new>: error: refused: line 1 would be read differently: z of atom 1 is 0.123457 instead "
          "of 0.12345678; use --allow-loss to write it anyway\n")},
-    {"ParameterInFrontOfATask",
+    {"ParameterBeforeATask",
      {"new", "--param", "a", "--task", "opt"},
      usage_error("--param must come after the --task that it belongs to")},
     {"NamelessParameter",
      {"new", "--task", "opt", "--param", "=1"},
      usage_error("--param takes NAME or NAME=VALUE, not '=1'")},
-    {"ChargeThatIsNoNumber",
+    {"ChargeThatIsNotANumber",
      {"new", "--charge", "1.0"},
      usage_error("--charge takes an integer, not '1.0'")},
-    {"MultiplicityThatIsNoNumber",
+    {"MultiplicityThatIsNotANumber",
      {"new", "--multiplicity="},
      usage_error("--multiplicity takes an integer, not ''")},
     {"TwoGeometries",

@@ -49,7 +49,7 @@ const Call calls[] = {
      {"unset", "-", "a.p"},
      ended(0, "#a(q)\n#b\n#A(p=2)\n#a = 3\n0 1\n", ""),
      four},
-    {"ParameterBehindACommandInFrontOfIt",
+    {"ParameterAfterACommandBeforeIt",
      {"unset", "-", "a[0]", "a[1].p"},
      ended(0, "#b\n#A\n#a = 3\n0 1\n", ""),
      four},
@@ -81,14 +81,14 @@ const Call calls[] = {
      {"unset", "-", "a.p", "b"},
      ended(1, "", "<stdin>: note: no match for 'b': no command 'b'\n"),
      "#a(p=1, p=2)\n0 1\n"},
-    {"TextBehindACommandThatGoes",
+    {"TextAfterACommandThatIsRemoved",
      {"unset", "-q", "-", "a"},
      ended(2, "",
            "<stdin>:1: error: refused: line 1 says more than its command, and the rest would be "
            "lost: "
            "'#a(p=1) # remark'; use --allow-loss to write it anyway\n"),
      "#a(p=1) # remark\n0 1\n"},
-    {"TextBehindACommandThatMayGo",
+    {"TextAfterACommandThatMayBeRemoved",
      {"unset", "--allow-loss", "-", "a"},
      ended(
          0, "0 1\n",
