@@ -191,7 +191,7 @@ class Worker:
             environment["KELP_QUILL_INP_PROGRAM"] = str(linked.get(executable, executable))
         process = subprocess.Popen(
             [program, "--gtest_fail_fast", "--gtest_brief=1"], cwd=self.folder / "tmp",
-            env=environment, preexec_fn=prepare_process, stdin=subprocess.DEVNULL,
+            env=environment, preexec_fn=lambda: prepare_process(seconds), stdin=subprocess.DEVNULL,
             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         try:
             return process.wait(seconds) == 0
@@ -251,8 +251,11 @@ class Worker:
         return bool(objects.intersection(self.build.contents[target]))
 
 
-def prepare_process():
+def prepare_process(seconds):
     os.setpgid(0, 0)  # so that what it has started can be ended with it
+    # A program that never ends is noticed sooner: what others take of the machine does not count.
+    computing = int(seconds / 2) + 1
+    resource.setrlimit(resource.RLIMIT_CPU, (computing, computing))
     resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
     resource.setrlimit(resource.RLIMIT_FSIZE, (LARGEST_FILE, LARGEST_FILE))

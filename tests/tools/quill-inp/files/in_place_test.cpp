@@ -182,6 +182,21 @@ TEST(InPlace, LetsNobodyInWhereOwnerAndGroupCannotBeKept) {
   EXPECT_EQ(content_of(path), changed_water());
 }
 
+// Nobody but the superuser gives files away, but anybody may use the groups he is in.
+TEST(InPlace, KeepsTheGroupWhereOnlyTheOwnerCannotBeKept) {
+  if (geteuid() != 0) GTEST_SKIP() << "only the superuser can make a file somebody else's";
+  const TemporaryFolder folder;
+  const std::string path = folder.write("a.qin", water);
+  ASSERT_EQ(chown(path.c_str(), 12345, getegid()), 0);
+  chmod(path.c_str(), 0666);
+  // New files in the folder have its group.
+  ASSERT_EQ(chown(folder.path().c_str(), geteuid(), 23456), 0);
+  chmod(folder.path().c_str(), 02777);
+  EXPECT_EQ(change_without_privileges(folder), ended(0, "", ""));
+  EXPECT_EQ(state_of(path).st_uid, geteuid());
+  EXPECT_EQ(state_of(path).st_gid, getegid());
+}
+
 /// An access control list as the kernel stores it: a version, and entries of tag, rights and id.
 std::string access_list(unsigned named_user, unsigned rights) {
   constexpr std::uint32_t nobody = 0xFFFFFFFF;
