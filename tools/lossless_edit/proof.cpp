@@ -85,7 +85,6 @@ class Walk {
       explanation.kind = Explanation::Kind::MissingLine;
       explanation.wanted = parts_[next_];
     } else {
-      explanation.kind = Explanation::Kind::Difference;
       explanation.difference = 0;
     }
     return explanation;

@@ -71,7 +71,7 @@ const Call calls[] = {
      {"get", "two_opts.qin", "opt[2]"},
      ended(1, "",
            two_opts_warnings +
-               "two_opts.qin: note: no match for 'opt[2]': there are only 2 of the command 'opt', "
+               "two_opts.qin: note: no match for 'opt[2]': there are only 2 commands 'opt', "
                "and [N] counts from 0\n")},
     {"NoChargeLine", {"get", "-q", "two_opts.qin", "@charge"}, ended(1, "", "")},
     {"NoMultiplicity", {"get", "-q", "two_opts.qin", "@multiplicity"}, ended(1, "", "")},
