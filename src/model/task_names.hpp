@@ -1,6 +1,7 @@
 #ifndef KELP_INPUT_QUILL_MODEL_TASK_NAMES_HPP
 #define KELP_INPUT_QUILL_MODEL_TASK_NAMES_HPP
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -11,11 +12,8 @@ inline constexpr std::array<std::string_view, 6> task_names = {"sp",   "opt", "t
                                                                "freq", "irc", "scan"};
 
 /// Returns whether a canonical command name is that of a task.
-constexpr bool is_task_name(std::string_view canonical_name) {
-  for (const std::string_view task : task_names) {
-    if (task == canonical_name) return true;
-  }
-  return false;
+inline bool is_task_name(std::string_view canonical_name) {
+  return std::find(task_names.begin(), task_names.end(), canonical_name) != task_names.end();
 }
 
 }  // namespace kelp::input::quill
