@@ -53,10 +53,11 @@ inline constexpr std::array<PostLineShape, 7> post_line_shapes = {{
      "Add a line of text as it is"},
 }};
 
-/// Returns the row of an upper-case keyword, or a null pointer for any other word.
+/// Returns the row of an upper-case keyword, that of raw text for no word at all, or a null pointer
+/// for any other word.
 constexpr const PostLineShape* find_post_line_shape(std::string_view keyword) {
   for (const PostLineShape& shape : post_line_shapes) {
-    if (shape.keyword == keyword && !keyword.empty()) return &shape;
+    if (shape.keyword == keyword) return &shape;
   }
   return nullptr;
 }

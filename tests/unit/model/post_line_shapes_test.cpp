@@ -61,8 +61,8 @@ TEST(PostLineShapes, AreAsManyAsTheKinds) {
 
 TEST(PostLineShapes, AreFoundByWholeUpperCaseKeywordsOnly) {
   for (const std::string_view word :
-       {"",   " ",   "c",     "b",   "a",  "d",  "s",  "post", "Post", "E",   "R", "P",
-        "PO", "POS", "POSTS", "OST", "CC", "C ", " C", "B1",   "SCAN", "RAW", "#"}) {
+       {" ",  "c",   "b",     "a",   "d",  "s",  "post", "Post", "E",    "R",   "P",
+        "PO", "POS", "POSTS", "OST", "CC", "C ", " C",   "B1",   "SCAN", "RAW", "#"}) {
     EXPECT_EQ(find_post_line_shape(word), nullptr) << "\"" << word << "\"";
   }
 }
@@ -72,6 +72,7 @@ TEST(PostLineShapes, HaveARowForRawTextWithoutAKeyword) {
   ASSERT_NE(shape, nullptr);
   EXPECT_EQ(shape->kind, PostCommandKind::Raw);
   EXPECT_EQ(shape->keyword, "");
+  EXPECT_EQ(find_post_line_shape(""), shape);
   EXPECT_TRUE(shape->accepts(0));
   EXPECT_TRUE(shape->accepts(any_number));
 }

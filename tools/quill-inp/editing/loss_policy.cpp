@@ -37,10 +37,10 @@ void report_accepted(Reporter& reporter, const std::string& name, const Losses& 
                      LossLines lines) {
   for (const LossWords& loss : words(losses, most_losses_told))
     reporter.warning(place_of(name, loss, lines), "lost: " + loss.text);
-  if (losses.count() > most_losses_told) {
-    reporter.warning({name}, "lost: " + std::to_string(losses.count() - most_losses_told) +
-                                 " more differences of this kind");
-  }
+  if (losses.count() <= most_losses_told) return;
+  const std::size_t others = losses.count() - most_losses_told;
+  reporter.warning({name}, "lost: " + std::to_string(others) + " more difference" +
+                               (others == 1 ? "" : "s") + " of this kind");
 }
 
 }  // namespace

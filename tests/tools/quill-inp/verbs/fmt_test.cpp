@@ -176,7 +176,7 @@ const Call calls[] = {
      "#a(b) c\n0 1\nB 1 x\n"},
     digits_that_go("TellsTwentyLosses", 20, ""),
     digits_that_go("CountsTheLossesAfterTwenty", 21,
-                   "<stdin>: warning: lost: 1 more differences of this kind\n"),
+                   "<stdin>: warning: lost: 1 more difference of this kind\n"),
     {"GoesOnWithTheOtherFiles",
      {"fmt", "-q", "two_opts.qin", "none.qin", "water.qin"},
      ended(2, water,
