@@ -36,15 +36,16 @@ struct PostLineShape {
 
 inline constexpr std::size_t any_number_of_tokens = std::numeric_limits<std::size_t>::max();
 
+/// The rows are in the order of the enumerators.
 inline constexpr std::array<PostLineShape, 7> post_line_shapes = {{
+    {"C", PostCommandKind::AtomConstraint, 2, 2, "atom constraint", "an", "atom", "atom_constraint",
+     "--atom", "I", "Hold the place of an atom"},
     {"B", PostCommandKind::BondConstraint, 3, 3, "bond constraint", "a", "bond", "bond_constraint",
      "--bond", "I,J", "Hold the distance of two atoms"},
     {"A", PostCommandKind::AngleConstraint, 4, 4, "angle constraint", "an", "angle",
      "angle_constraint", "--angle", "I,J,K", "Hold the angle of three atoms"},
     {"D", PostCommandKind::DihedralConstraint, 5, 5, "dihedral constraint", "a", "dihedral",
      "dihedral_constraint", "--dihedral", "I,J,K,L", "Hold the dihedral of four atoms"},
-    {"C", PostCommandKind::AtomConstraint, 2, 2, "atom constraint", "an", "atom", "atom_constraint",
-     "--atom", "I", "Hold the place of an atom"},
     {"S", PostCommandKind::Scan, 5, 7, "scan", "a", "", "scan", "--scan", "I,J[,K[,L]]:VALUE:STEPS",
      "Scan a distance, angle or dihedral"},
     {"POST", PostCommandKind::PostFile, 2, any_number_of_tokens, "post file", "a", "", "post_file",
@@ -64,10 +65,8 @@ constexpr const PostLineShape* find_post_line_shape(std::string_view keyword) {
 
 /// Returns the row of a kind, or a null pointer for unknown kinds.
 constexpr const PostLineShape* find_post_line_shape(PostCommandKind kind) {
-  for (const PostLineShape& shape : post_line_shapes) {
-    if (shape.kind == kind) return &shape;
-  }
-  return nullptr;
+  const auto place = static_cast<std::size_t>(kind);  // far above for a negative kind
+  return place < post_line_shapes.size() ? &post_line_shapes[place] : nullptr;
 }
 
 }  // namespace kelp::input::quill

@@ -55,6 +55,11 @@ TEST_P(PostLineShapes, AcceptExactlyTheirNumbersOfTokens) {
 INSTANTIATE_TEST_SUITE_P(Table, PostLineShapes, testing::ValuesIn(shape_rows),
                          [](const auto& row) { return std::string(row.param.name); });
 
+TEST(PostLineShapes, AreInTheOrderOfTheEnumerators) {
+  for (std::size_t i = 0; i < post_line_shapes.size(); ++i)
+    EXPECT_EQ(static_cast<std::size_t>(post_line_shapes[i].kind), i);
+}
+
 TEST(PostLineShapes, AreAsManyAsTheKinds) {
   EXPECT_EQ(post_line_shapes.size(), std::size(shape_rows) + 1);  // raw text has no keyword
 }

@@ -198,8 +198,8 @@ const BadRow bad_rows[] = {
      R"({"geometry": {"kind": "atoms", "atoms": [{"symbol": "H", "x": "a", "y": 0, "z": 0}]}})",
      R"(/geometry/atoms/0/x: expected a number, "inf", "-inf", "nan" or "-nan")"},
     {"PostCommandOfUnknownKind", R"({"post_commands": [{"kind": "bond"}]})",
-     "/post_commands/0/kind: expected one of 'bond_constraint', "
-     "'angle_constraint', 'dihedral_constraint', 'atom_constraint', 'scan', 'post_file', 'raw'"},
+     "/post_commands/0/kind: expected one of 'atom_constraint', 'bond_constraint', "
+     "'angle_constraint', 'dihedral_constraint', 'scan', 'post_file', 'raw'"},
     {"PostCommandWithAnUnknownMember", R"({"post_commands": [{"kind": "raw", "text": "a"}]})",
      "/post_commands/0: unknown member 'text'"},
     {"AtomNumberThatIsNone", R"({"post_commands": [{"kind": "raw", "atom_indices": [1, null]}]})",
