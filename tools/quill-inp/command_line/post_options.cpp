@@ -13,6 +13,7 @@ namespace {
 
 std::vector<Option> post_options() {
   std::vector<Option> options;
+  options.reserve(post_line_shapes.size());
   for (const PostLineShape& shape : post_line_shapes)
     options.push_back({shape.option, shape.placeholder, shape.help});
   return options;
