@@ -22,7 +22,7 @@ Counts counts;
 
 // Memory that was freed stays with the program. Without this setting, glibc maps new whole pages
 // for every block above some size: a block twice as large may then take more than twice the bytes,
-// and far more than twice the time. This runs before main, when there is no other thread yet.
+// and far more than twice the time. This runs before main, before other threads start.
 // NOLINTBEGIN(concurrency-mt-unsafe)
 [[maybe_unused]] const bool is_memory_kept =
     mallopt(M_MMAP_MAX, 0) != 0 && mallopt(M_TRIM_THRESHOLD, -1) != 0;

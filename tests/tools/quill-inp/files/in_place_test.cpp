@@ -164,6 +164,8 @@ TEST(InPlace, KeepsOwnerAndGroup) {
   EXPECT_EQ(after.st_mode, before.st_mode);
 }
 
+// The file has to belong to somebody else, and the system lets only the superuser arrange that. CI
+// runs as the superuser, so this is skipped only for other people at their own machines.
 TEST(InPlace, LetsNobodyInWhereOwnerAndGroupCannotBeKept) {
   if (geteuid() != 0) GTEST_SKIP() << "only the superuser can make a file somebody else's";
   const TemporaryFolder folder;
@@ -183,6 +185,7 @@ TEST(InPlace, LetsNobodyInWhereOwnerAndGroupCannotBeKept) {
 }
 
 // Nobody but the superuser gives files away, but anybody may use the groups he is in.
+// It is skipped for other users for the same reason as the test above.
 TEST(InPlace, KeepsTheGroupWhereOnlyTheOwnerCannotBeKept) {
   if (geteuid() != 0) GTEST_SKIP() << "only the superuser can make a file somebody else's";
   const TemporaryFolder folder;
