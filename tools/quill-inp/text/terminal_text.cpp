@@ -17,19 +17,46 @@ struct Range {
   char32_t last;
 };
 
-constexpr Range obeyed[] = {
-    {0x00, 0x1F},      // control characters of ASCII
-    {0x7F, 0x9F},      // DEL, and the control characters of Unicode, CSI among them
-    {0x061C, 0x061C},  // the marks, embeddings, overrides and isolates of text direction
-    {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069},
+/// What a terminal obeys, what cannot be seen, and what looks like a blank but is none to the
+/// reader.
+constexpr Range not_shown[] = {
+    {0x00, 0x1F},        // control characters of ASCII
+    {0x7F, 0xA0},        // DEL, the control characters of Unicode, CSI among them, a blank
+    {0xAD, 0xAD},        // soft hyphen
+    {0x034F, 0x034F},    // combining grapheme joiner
+    {0x061C, 0x061C},    // a mark of text direction
+    {0x115F, 0x1160},    // Hangul fillers
+    {0x1680, 0x1680},    // a blank
+    {0x17B4, 0x17B5},    // Khmer vowels without a form
+    {0x180B, 0x180F},    // Mongolian variation selectors
+    {0x2000, 0x200F},    // blanks, blanks without width, joiners, marks of text direction
+    {0x2028, 0x202F},    // line ends, embeddings and overrides of text direction, a blank
+    {0x205F, 0x206F},    // a blank, invisible operators, isolates of text direction
+    {0x2800, 0x2800},    // the Braille pattern without dots
+    {0x3000, 0x3000},    // a blank
+    {0x3164, 0x3164},    // a Hangul filler
+    {0xFE00, 0xFE0F},    // variation selectors
+    {0xFEFF, 0xFEFF},    // byte order mark
+    {0xFFA0, 0xFFA0},    // a Hangul filler
+    {0xFFF0, 0xFFFB},    // annotations
+    {0x1BCA0, 0x1BCA3},  // controls of shorthand
+    {0x1D173, 0x1D17A},  // controls of musical notes
+    {0xE0000, 0xE0FFF},  // tags, variation selectors
 };
 
-bool is_obeyed(char32_t code_point) {
+bool has_escape(char32_t code_point) {
   const auto covers = [&](const Range& range) {
     return range.first <= code_point && code_point <= range.last;
   };
-  return std::any_of(std::begin(obeyed), std::end(obeyed), covers);
+  return std::any_of(std::begin(not_shown), std::end(not_shown), covers);
 }
+
+void append_utf16_escape(std::string& out, char32_t unit) {
+  out += "\\u";
+  append_hexadecimal(out, unit, 4);
+}
+
+constexpr char32_t first_astral = 0x10000;
 
 void append_escape(std::string& out, char32_t code_point) {
   switch (code_point) {
@@ -45,9 +72,17 @@ void append_escape(std::string& out, char32_t code_point) {
     default:
       break;
   }
-  const bool is_ascii = code_point < 0x80;
-  out += is_ascii ? "\\x" : "\\u";
-  append_hexadecimal(out, code_point, is_ascii ? 2 : 4);
+  // JSON is shown on a terminal, too, and should still be JSON. Its writer escapes what comes
+  // before the blank. All else gets the escapes that JSON has, surrogate pairs included.
+  if (code_point < ' ') {
+    out += "\\x";
+    append_hexadecimal(out, code_point, 2);
+  } else if (code_point < first_astral) {
+    append_utf16_escape(out, code_point);
+  } else {
+    append_utf16_escape(out, 0xD800 + ((code_point - first_astral) >> 10U));
+    append_utf16_escape(out, 0xDC00 + ((code_point - first_astral) & 0x3FFU));
+  }
 }
 
 /// Appends the first character of `text`, or the escape of its first byte, and returns how many
@@ -59,7 +94,7 @@ std::size_t append_shown(std::string& out, std::string_view text) {
     append_hexadecimal(out, static_cast<unsigned char>(text.front()), 2);
     return 1;
   }
-  if (is_obeyed(character->code_point)) {
+  if (has_escape(character->code_point)) {
     append_escape(out, character->code_point);
   } else {
     out += text.substr(0, character->length);

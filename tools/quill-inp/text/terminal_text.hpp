@@ -7,8 +7,9 @@
 //
 // A terminal obeys control characters: it clears the screen, moves the cursor, changes its title,
 // or shows the text after a directional override in another order. The author of an input must not
-// be able to do that, so such bytes are shown as escapes. All other bytes are shown unchanged, even
-// a backslash: the result is for people, and cannot be turned back into the bytes.
+// be able to do that, so such bytes are shown as escapes. So are characters that nobody can see, or
+// tell from a blank: the reader takes them for text. All other bytes are shown unchanged, even a
+// backslash: the result is for people, and cannot be turned back into the bytes.
 
 #include <string>
 #include <string_view>
@@ -16,8 +17,9 @@
 namespace kelp::input::quill::tool {
 
 /// Returns `text` for one line: control characters of ASCII (line ends and tabs among them) and of
-/// Unicode, characters that change the direction of text, and bytes that are not UTF-8 become "\n",
-/// "\r", "\t", "\x1b" or "\u202e".
+/// Unicode, characters that change the direction of text, that have no form, or that look like a
+/// blank, and bytes that are not UTF-8 become "\n", "\r", "\t", "\x1b", "\u202e" or, above U+FFFF,
+/// a surrogate pair as in JSON.
 std::string shown_on_one_line(std::string_view text);
 
 /// Returns `text` in the same way, but keeps "\n", "\r\n" and tabs.
