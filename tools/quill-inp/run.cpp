@@ -72,16 +72,34 @@ std::string describe(const CLI::ArgumentMismatch& error) {
   return text.substr(0, text.find_first_of(": ")) + " needs a value";
 }
 
-/// Throws UsageError for arguments that no option or verb has taken.
-void refuse_leftovers(const CLI::App& app) {
+/// Returns a complaint about the first argument that an option took by mistake, or that no option
+/// or verb has taken, if there is one.
+std::optional<std::string> find_misplaced(const CLI::App& app) {
+  if (auto complaint = find_forgotten_value(app)) return complaint;
   for (const std::string& leftover : app.remaining()) {
     const std::string argument = unmarked(leftover);
     if (argument == "--") continue;
     const std::string name = argument.substr(0, argument.find('='));
     if (argument.substr(0, 1) == "-")
-      throw UsageError("unknown option '" + name + "'" + suggestion(name, option_names(app)));
-    throw UsageError("unexpected argument '" + argument + "'");
+      return "unknown option '" + name + "'" + suggestion(name, option_names(app));
+    return "unexpected argument '" + argument + "'";
   }
+  return std::nullopt;
+}
+
+void refuse_misplaced(const CLI::App& app) {
+  if (const std::optional<std::string> complaint = find_misplaced(app))
+    throw UsageError(*complaint);
+}
+
+/// Returns the message about an argument that is missing. An option that was misspelled is told
+/// first: it may be why the argument is missing.
+std::string describe(const CLI::RequiredError& error, const CommandLine& line) {
+  for (const Verb& verb : line.verbs) {
+    if (!verb.app->parsed()) continue;
+    if (const std::optional<std::string> complaint = find_misplaced(*verb.app)) return *complaint;
+  }
+  return error.what();
 }
 
 const Verb& find_verb(const CommandLine& line) {
@@ -94,7 +112,7 @@ const Verb& find_verb(const CommandLine& line) {
       throw UsageError("unknown verb '" + argument + "'" +
                        suggestion(argument, names_of(line.verbs)));
   }
-  refuse_leftovers(line.program);
+  refuse_misplaced(line.program);
   throw UsageError("no verb");
 }
 
@@ -110,7 +128,7 @@ ExitCode carry_out(CommandLine& line, const StandardStreams& streams, Output& ou
   const Verb& verb = find_verb(line);
   for (const std::string& leftover : line.program.remaining())
     throw UsageError("'" + unmarked(leftover) + "' must come after the verb");
-  refuse_leftovers(*verb.app);
+  refuse_misplaced(*verb.app);
   Session session(streams, out, read_common_options(*verb.app));
   return verb.action(session, *verb.app);
 }
@@ -137,6 +155,8 @@ ExitCode run_program(const std::vector<std::string>& arguments, const StandardSt
     return ExitCode::Done;
   } catch (const CLI::ArgumentMismatch& error) {
     complaint = describe(error);
+  } catch (const CLI::RequiredError& error) {
+    complaint = describe(error, line);
   } catch (const CLI::ParseError& error) {
     complaint = error.what();
   } catch (const UsageError& error) {

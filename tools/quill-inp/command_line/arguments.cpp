@@ -1,5 +1,6 @@
 #include "quill-inp/command_line/arguments.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <map>
 #include <stdexcept>
@@ -20,8 +21,17 @@ bool has_attached_value(std::string_view argument) {
   return argument.substr(0, 2) == "--" && argument.find('=') != std::string_view::npos;
 }
 
+/// Whether CLI11 would give the argument a meaning of its own.
 bool needs_mark(std::string_view argument) {
-  return has_attached_value(argument) || argument.substr(0, 1) == "[" || argument == "++";
+  return argument.substr(0, 1) == "[" || argument == "++";
+}
+
+bool is_digit(char c) { return '0' <= c && c <= '9'; }
+
+/// Whether a word looks like an option. "-" is standard input, and "-1" and "-.5" are numbers.
+bool looks_like_option(std::string_view word) {
+  if (word.size() < 2 || word[0] != '-') return false;
+  return !is_digit(word[1]) && !(word[1] == '.' && word.size() > 2 && is_digit(word[2]));
 }
 
 CLI::Option& add(CLI::App& app, const Option& option) {
@@ -53,7 +63,7 @@ const std::vector<std::string>& results_of(const CLI::App& app, const Option& op
   return results;
 }
 
-bool is_marked(const std::string& argument) { return !argument.empty() && argument.back() == mark; }
+bool is_marked(std::string_view argument) { return argument.find(mark) != std::string_view::npos; }
 
 }  // namespace
 
@@ -65,13 +75,17 @@ std::string name_of(const Option& option) {
 std::vector<std::string> marked_arguments(const std::vector<std::string>& arguments) {
   std::vector<std::string> marked = arguments;
   for (std::string& argument : marked) {
-    if (needs_mark(argument)) argument += mark;
+    if (has_attached_value(argument)) {
+      argument.insert(argument.find('=') + 1, 1, mark);
+    } else if (needs_mark(argument)) {
+      argument += mark;
+    }
   }
   return marked;
 }
 
 std::string unmarked(std::string argument) {
-  if (is_marked(argument)) argument.pop_back();
+  argument.erase(std::remove(argument.begin(), argument.end(), mark), argument.end());
   return argument;
 }
 
@@ -102,6 +116,21 @@ void add_attached_value(CLI::App& app, const Option& option) {
 
 void begin_group(CLI::App& app, const std::string& heading) {
   app.option_defaults()->group(heading);
+}
+
+std::optional<std::string> find_forgotten_value(const CLI::App& app) {
+  for (const CLI::Option* option : app.get_options(&CLI::Option::nonpositional)) {
+    for (const std::string& result : option->results()) {
+      // The value of "--raw=--x" begins with the mark.
+      if (result.substr(0, 1) == std::string(1, mark)) continue;
+      const std::string value = unmarked(result);
+      const std::string name = option->get_name();
+      if (looks_like_option(value))
+        return name + " needs a value; write '" + name + "=" + value + "' if '" + value +
+               "' is the value";
+    }
+  }
+  return std::nullopt;
 }
 
 bool is_given(const CLI::App& app, const Option& option) {

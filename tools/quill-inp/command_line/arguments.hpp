@@ -57,6 +57,11 @@ void add_attached_value(CLI::App& app, const Option& option);
 /// Puts all options that are added after this call under a heading in the help text.
 void begin_group(CLI::App& app, const std::string& heading);
 
+/// Returns a complaint about the first option whose value looks like an option and was not attached
+/// with "=": then the value was forgotten, and the next option taken for it. "-", "-1" and "-.5" do
+/// not look like options.
+std::optional<std::string> find_forgotten_value(const CLI::App& app);
+
 /// Return whether an argument or option was given, its value if it was given, and all of its
 /// values. They throw UsageError when a flag has a value or an option for one value was given
 /// twice, and std::logic_error for an option that was not added to the verb.

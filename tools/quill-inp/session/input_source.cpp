@@ -11,6 +11,7 @@
 
 #include "quill-inp/process/file_descriptor.hpp"
 #include "quill-inp/process/trouble.hpp"
+#include "quill-inp/text/counted.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -60,7 +61,7 @@ FileOrigin split_path(const std::string& resolved) {
 }
 
 [[noreturn]] void throw_too_large(std::uint64_t limit) {
-  throw Trouble("is larger than " + std::to_string(limit) + " bytes, see --max-size");
+  throw Trouble("is larger than " + counted(limit, "byte") + ", see --max-size");
 }
 
 void require_regular(const struct stat& state, std::uint64_t limit) {

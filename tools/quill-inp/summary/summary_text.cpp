@@ -8,6 +8,7 @@
 #include "quill-inp/summary/command_roles.hpp"
 #include "quill-inp/summary/composition.hpp"
 #include "quill-inp/summary/summary.hpp"
+#include "quill-inp/text/counted.hpp"
 #include "quill-inp/text/terminal_text.hpp"
 #include "reader/diagnostics.hpp"
 
@@ -47,17 +48,13 @@ void add_commands(Rows& rows, const QuillInput& input) {
   for (const HeaderCommand* command : roles.others) rows.add("command", header_line(*command));
 }
 
-std::string count(std::size_t number, const std::string& what) {
-  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
-}
-
 std::string describe_geometry(const GeometryBlock& geometry) {
   switch (geometry.kind) {
     case GeometryKind::Atoms:
-      return count(geometry.atoms.size(), "atom") + ", " +
+      return counted(geometry.atoms.size(), "atom") + ", " +
              to_formula(hill_composition(geometry.atoms));
     case GeometryKind::XyzFile:
-      return count(geometry.xyz_files.size(), "XYZ file");
+      return counted(geometry.xyz_files.size(), "XYZ file");
     case GeometryKind::XyzTrajectory:
       return "a trajectory";
     case GeometryKind::None:
