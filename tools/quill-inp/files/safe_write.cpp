@@ -29,10 +29,17 @@ struct Target {
   throw Trouble("was changed by somebody else after it was read; nothing was written");
 }
 
+/// Throws for a system call that failed on the name of the file. Some errors mean that the name is
+/// not that of the file any more. All others say nothing about the file.
+[[noreturn]] void throw_lost(int error) {
+  if (error == ENOENT || error == ENOTDIR || error == ELOOP) throw_changed();
+  throw_system_trouble("cannot be opened again, nothing was written", error);
+}
+
 void require_unchanged(const Target& target) {
   struct stat state {};
   if (fstatat(target.folder.number(), target.origin.name.c_str(), &state, AT_SYMLINK_NOFOLLOW) != 0)
-    throw_changed();
+    throw_lost(errno);
   if (!is_same_state(state, target.origin.state)) throw_changed();
 }
 
@@ -56,7 +63,8 @@ Target open_target(const FileOrigin& origin) {
   FileDescriptor folder(open_in(AT_FDCWD, origin.folder, O_RDONLY | O_DIRECTORY));
   if (folder.number() < 0) throw_system_trouble("the folder of the file cannot be opened", errno);
   FileDescriptor file(open_in(folder.number(), origin.name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW));
-  if (file.number() < 0 || !is_same_state(state_of(file.number()), origin.state)) throw_changed();
+  if (file.number() < 0) throw_lost(errno);
+  if (!is_same_state(state_of(file.number()), origin.state)) throw_changed();
   return {std::move(folder), std::move(file), origin};
 }
 

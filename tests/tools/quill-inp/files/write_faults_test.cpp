@@ -48,7 +48,7 @@ class FaultyWrite {
   struct stat state() const {
     return state_of(path_);
   }
-  void write_other(const std::string& name) const { folder_.write(name, "other"); }
+  void write_other(const std::string& name) const { folder_.write(name, "#other"); }
 
   Outcome run() const { return run_program(request_); }
 
@@ -232,8 +232,8 @@ TEST(SignalAtTheSecondFile, EndsTheProgramAsAtTheFirst) {
   FaultyWrite write;
   prepare(write);
   EXPECT_EQ(write.run_with_fault(call, "signal " + std::to_string(SIGTERM)).signal, SIGTERM);
-  EXPECT_EQ(content_of(write.request().folder + "/b.qin"), "other\n");
-  EXPECT_EQ(content_of(write.request().folder + "/c.qin"), "other");
+  EXPECT_EQ(content_of(write.request().folder + "/b.qin"), "#other\n");
+  EXPECT_EQ(content_of(write.request().folder + "/c.qin"), "#other");
   EXPECT_EQ(write.others(), (std::vector<std::string>{"b.qin", "c.qin"}));
 }
 
@@ -263,6 +263,8 @@ TEST_P(AnyWrite, ThatFailsLeavesTheOldOrTheNewTextAndNothingElse) {
       EXPECT_EQ(write.content(), changed_water()) << name;
     } else {
       EXPECT_EQ(outcome.err.rfind("a.qin: error: ", 0), 0U) << outcome.err;
+      // The reason is told, and nothing else is blamed.
+      EXPECT_NE(outcome.err.find(": Input/output error\n"), std::string::npos) << outcome.err;
       EXPECT_EQ(write.content() == changed_water(),
                 outcome.err.find("holds the new text") != std::string::npos)
           << outcome.err;
@@ -422,6 +424,19 @@ INSTANTIATE_TEST_SUITE_P(
       return std::get<MeanwhileRow>(row.param).name + words_for(std::get<bool>(row.param));
     });
 
+TEST(TooFewDescriptors, AreNotBlamedOnSomebodyElse) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", water);
+  for (const char* most : {"4", "5"}) {
+    const std::string call =
+        "ulimit -n " + std::string(most) + "; quill-inp set -q -i a.qin model=m2";
+    const Outcome outcome = run_shell(folder.path(), call);
+    EXPECT_EQ(outcome.code, 2) << most;
+    EXPECT_NE(outcome.out.find(": Too many open files\n"), std::string::npos) << outcome.out;
+    EXPECT_EQ(content_of(folder.path("a.qin")), water);
+  }
+}
+
 TEST(ChangeWhileReading, IsNoticed) {
   const std::vector<std::string> calls = calls_of_a_write();
   FaultyWrite write;
@@ -461,7 +476,7 @@ TEST(FileSystemWithoutLinks, StillGetsABackup) {
   FaultyWrite second(true);
   second.write_other("a.qin.bak");
   EXPECT_EQ(second.run_with_fault(link, "errno " + std::to_string(EPERM)).code, 2);
-  EXPECT_EQ(content_of(second.request().folder + "/a.qin.bak"), "other");
+  EXPECT_EQ(content_of(second.request().folder + "/a.qin.bak"), "#other");
 }
 
 }  // namespace
