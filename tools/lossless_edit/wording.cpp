@@ -192,6 +192,15 @@ std::string predicate_of(const QuotingProblem& problem) {
          " and has a value or parameters that would not be written";
 }
 
+std::string unlike_words(std::string_view reason) {
+  return "does not look like a QUILL input: " + std::string(reason);
+}
+
+std::string utf16_words(const std::string& encoding) {
+  return "is UTF-16, which the reader does not know; 'iconv -f " + encoding +
+         " -t UTF-8 FILE' prints it as UTF-8";
+}
+
 }  // namespace
 
 std::string describe(const Part& part, const QuillInput& input) {
@@ -246,6 +255,27 @@ std::string words(const Proof& proof, const QuillInput& wanted) {
       break;
   }
   return words(proof.comparison.differences.at(explanation.difference.value()));
+}
+
+std::string words(const InputDoubt& doubt) {
+  switch (doubt.kind) {
+    case InputDoubt::Kind::ByteOrderMark:
+      return "begins with a byte order mark, which the reader takes for text; 'tail -c +4 FILE' "
+             "prints the text without it";
+    case InputDoubt::Kind::Utf16:
+      return utf16_words("UTF-16");
+    case InputDoubt::Kind::Utf16LittleEndian:
+      return utf16_words("UTF-16LE");
+    case InputDoubt::Kind::Utf16BigEndian:
+      return utf16_words("UTF-16BE");
+    case InputDoubt::Kind::NulByte:
+      return unlike_words("it has a NUL byte");
+    case InputDoubt::Kind::Script:
+      return unlike_words("its first line is that of a script");
+    case InputDoubt::Kind::NoSections:
+      break;
+  }
+  return unlike_words("it has no header line and no coordinates");
 }
 
 std::string words(const QuotingProblem& problem) {

@@ -8,6 +8,7 @@
 
 #include "kelp/input/quill/lines.hpp"
 #include "lossless_edit/comparison.hpp"
+#include "lossless_edit/input_doubt.hpp"
 #include "lossless_edit/proof.hpp"
 #include "lossless_edit/quoting.hpp"
 
@@ -33,6 +34,10 @@ std::string words(const Difference& difference);
 /// element A, not as an angle constraint; put another post-processing line before it to avoid
 /// that". `wanted` is the document that was to be proved.
 std::string words(const Proof& proof, const QuillInput& wanted);
+
+/// Returns why a text does not look like an input, and the cure if there is one, as a predicate:
+/// "does not look like a QUILL input: it has no header line and no coordinates".
+std::string words(const InputDoubt& doubt);
 
 /// Returns why a piece of a header command cannot be written.
 std::string words(const QuotingProblem& problem);

@@ -30,6 +30,7 @@ class Settings {
       report_.missing.push_back(find_missing(input(), setting.key_text, setting.key));
       return;
     }
+    add_ambiguities(input(), setting.key, report_.ambiguities);
     if (auto similar = find_similar_name(input(), key)) {
       report_.notes.push_back(
           {EditNote::Kind::NewName, setting.key_text, std::move(*similar), std::nullopt});

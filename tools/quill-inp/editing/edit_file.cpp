@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "lossless_edit/surgical_edit.hpp"
+#include "quill-inp/editing/addition_doubts.hpp"
+#include "quill-inp/editing/ambiguity_notes.hpp"
 #include "quill-inp/editing/change_report.hpp"
 #include "quill-inp/editing/wording.hpp"
 #include "quill-inp/session/input_source.hpp"
@@ -28,7 +30,7 @@ void report_notes(Session& session, const ReadInput& input, const std::vector<Ed
 
 /// Returns what changed or removed header lines say besides their commands. The other lines that
 /// change hold nothing more than what they were read as.
-std::vector<LineLoss> list_line_losses(const ReadText& read, const SurgicalEdit& edit) {
+std::vector<LineLoss> list_header_losses(const ReadText& read, const SurgicalEdit& edit) {
   std::vector<LineLoss> losses;
   for (const lossless_edit::LineChange& change : edit.changes) {
     if (!change.old_line || read.lines[*change.old_line - 1].role != LineRole::Command) continue;
@@ -37,22 +39,31 @@ std::vector<LineLoss> list_line_losses(const ReadText& read, const SurgicalEdit&
   return losses;
 }
 
+/// The folder that paths in an input are relative to.
+std::string folder_of(const ReadInput& input) { return input.origin ? input.origin->folder : "."; }
+
 }  // namespace
 
 ExitCode edit_file(Session& session, const std::string& argument, const Edit& edit,
                    const Delivery& delivery, const LossPolicy& policy) {
   const ReadInput input = read_input(session, argument);
+  if (!accept_as_input(session, input, policy)) return ExitCode::Trouble;
   report_warnings(session.reporter(), input.name, input.read.result);
   TrackedDocument document(input.read.result.input);
   EditReport report = edit(document);
   report_notes(session, input, report.notes);
+  for (const Ambiguity& ambiguity : report.ambiguities) note_ambiguity(session, input, ambiguity);
   for (const MissingAnswer& missing : report.missing)
     session.reporter().note({input.name}, words(missing));
   if (!report.missing.empty()) return ExitCode::No;
 
+  const auto doubts =
+      find_addition_doubts(input.read.result.input, document.document(), folder_of(input));
+  if (!accept_additions(session, input.name, doubts, policy)) return ExitCode::Trouble;
+
   SurgicalEdit edited = lossless_edit::render(input.read, document, policy.max_change);
   note_number_changes(session, input.name, edited.proof.comparison.number_changes);
-  const Losses losses{std::move(report.losses), list_line_losses(input.read, edited),
+  const Losses losses{std::move(report.losses), list_header_losses(input.read, edited),
                       std::move(edited.quoting_problems), edited.proof, document.document()};
   if (!accept_losses(session, input.name, losses, policy)) return ExitCode::Trouble;
   // If memory ran out after the file was written, the error would look as if it was not written. So

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "quill-inp/editing/losses.hpp"
+#include "quill-inp/keys/ambiguity.hpp"
 #include "quill-inp/keys/answer.hpp"
 
 namespace kelp::input::quill::tool {
@@ -25,11 +26,12 @@ struct EditNote {
 };
 
 /// What to report about an edit of a document: what was lost without being asked for, what the edit
-/// needs and the document does not have, and notes.
+/// needs and the document does not have, notes, and keys that fit several parts of the document.
 struct EditReport {
   std::vector<SettingLoss> losses = {};
   std::vector<MissingAnswer> missing = {};
   std::vector<EditNote> notes = {};
+  std::vector<Ambiguity> ambiguities = {};
 };
 
 }  // namespace kelp::input::quill::tool

@@ -4,10 +4,12 @@
 #include <vector>
 
 #include "kelp/core/text.hpp"
+#include "lossless_edit/input_doubt.hpp"
 #include "lossless_edit/wording.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/editing/wording.hpp"
 #include "quill-inp/process/trouble.hpp"
+#include "quill-inp/text/counted.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -36,11 +38,15 @@ Place place_of(const std::string& name, const LossWords& loss, LossLines lines) 
 void report_accepted(Reporter& reporter, const std::string& name, const Losses& losses,
                      LossLines lines) {
   for (const LossWords& loss : words(losses, most_losses_told))
-    reporter.warning(place_of(name, loss, lines), "lost: " + loss.text);
+    reporter.warning(place_of(name, loss, lines), "accepted loss: " + loss.text);
   if (losses.count() <= most_losses_told) return;
   const std::size_t others = losses.count() - most_losses_told;
-  reporter.warning({name}, "lost: " + std::to_string(others) + " more difference" +
-                               (others == 1 ? "" : "s") + " of this kind");
+  reporter.warning({name},
+                   "accepted loss: " + counted(others, "more difference") + " of this kind");
+}
+
+std::string refusal(const std::string& reason) {
+  return "refused: " + reason + "; use --allow-loss to write it anyway";
 }
 
 }  // namespace
@@ -57,6 +63,29 @@ LossPolicy read_loss_policy(const CLI::App& verb) {
   return policy;
 }
 
+bool accept_as_input(Session& session, const ReadInput& input, const LossPolicy& policy) {
+  const auto doubt = lossless_edit::find_input_doubt(input.read);
+  if (!doubt) return true;
+  const Place place{input.name, doubt->line};
+  if (policy.allows_loss) {
+    session.reporter().warning(place, lossless_edit::words(*doubt));
+  } else {
+    session.reporter().error(place, refusal(lossless_edit::words(*doubt)));
+  }
+  return policy.allows_loss;
+}
+
+bool accept_additions(Session& session, const std::string& name,
+                      const std::vector<AdditionDoubt>& doubts, const LossPolicy& policy) {
+  if (doubts.empty()) return true;
+  if (!policy.allows_loss) {
+    session.reporter().error({name}, refusal(words(doubts.front())));
+    return false;
+  }
+  for (const AdditionDoubt& doubt : doubts) session.reporter().warning({name}, words(doubt));
+  return true;
+}
+
 bool accept_losses(Session& session, const std::string& name, const Losses& losses,
                    const LossPolicy& policy, LossLines lines) {
   if (losses.count() == 0) return true;
@@ -65,8 +94,7 @@ bool accept_losses(Session& session, const std::string& name, const Losses& loss
     return true;
   }
   const LossWords first = words(losses, 1).front();
-  session.reporter().error(place_of(name, first, lines),
-                           "refused: " + first.text + "; use --allow-loss to write it anyway");
+  session.reporter().error(place_of(name, first, lines), refusal(first.text));
   return false;
 }
 

@@ -2,9 +2,12 @@
 #define KELP_INPUT_QUILL_TOOL_EDITING_LOSS_POLICY_HPP
 
 #include <string>
+#include <vector>
 
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/editing/addition_doubts.hpp"
 #include "quill-inp/editing/losses.hpp"
+#include "quill-inp/session/input_source.hpp"
 #include "quill-inp/session/session.hpp"
 
 namespace kelp::input::quill::tool {
@@ -19,6 +22,15 @@ struct LossPolicy {
 /// change that is not a number of 0 or more.
 void add_loss_options(CLI::App& verb);
 LossPolicy read_loss_policy(const CLI::App& verb);
+
+/// Returns whether a text may be written anew: when it looks like an input, or when the policy
+/// allows losses, with a warning. Otherwise reports an error.
+bool accept_as_input(Session& session, const ReadInput& input, const LossPolicy& policy);
+
+/// Returns whether such additions may be written: when there are no doubts about them, or when the
+/// policy allows losses, with warnings. Otherwise reports the first doubt as an error.
+bool accept_additions(Session& session, const std::string& name,
+                      const std::vector<AdditionDoubt>& doubts, const LossPolicy& policy);
 
 /// Whether messages about losses have line numbers: only if the user can see the text they count.
 enum class LossLines { Shown, Hidden };

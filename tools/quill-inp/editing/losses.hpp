@@ -25,18 +25,26 @@ struct SettingLoss {
 /// A line of the old text that says something that the document does not hold.
 struct LineLoss {
   enum class Kind {
-    WholeLine,   // all that the line says
-    HeaderText,  // what a header line says besides its command
+    WholeLine,    // all that the line says
+    HeaderText,   // what a header line says besides its command
+    Indentation,  // the blanks before raw text
+    BlankLines,   // blank lines between lines of raw text
   };
 
   Kind kind = Kind::WholeLine;
   std::size_t number = 0;  // of the line, counted from 1
   std::string_view content = {};
+  std::size_t last = 0;  // the number of the last line, of several blank ones
 };
 
 /// Returns what is lost, if anything, when line number `index`, counted from 0, is written again
 /// from the document. The loss keeps a view of the text.
 std::optional<LineLoss> find_line_loss(const lossless_edit::ReadText& read, std::size_t index);
+
+/// Returns what is lost when all lines are written again from the document: what each of them
+/// loses, and the blank lines between lines of raw text, of which nobody but its author knows what
+/// they mean. Other blank lines are layout. Blank lines in a row are one loss.
+std::vector<LineLoss> list_line_losses(const lossless_edit::ReadText& read);
 
 /// All that a new text would lose.
 struct Losses {

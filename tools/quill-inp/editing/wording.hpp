@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "quill-inp/editing/addition_doubts.hpp"
 #include "quill-inp/editing/edit_report.hpp"
 #include "quill-inp/editing/losses.hpp"
 
@@ -24,6 +25,15 @@ struct LossWords {
 std::vector<LossWords> words(const Losses& losses, std::size_t most);
 
 std::string words(const EditNote& note);
+
+/// Returns why something that was added can hardly be meant: "'B 5 9' names atom 9, but there are
+/// only 3 atoms".
+std::string words(const AdditionDoubt& doubt);
+
+/// Returns what else a key fits: the commands on the lines with these numbers, of which there is
+/// one or more, and the other parameters of the same command.
+std::string other_commands_words(const Ambiguity& ambiguity, const std::vector<std::size_t>& lines);
+std::string other_parameters_words(const Ambiguity& ambiguity);
 
 }  // namespace kelp::input::quill::tool
 

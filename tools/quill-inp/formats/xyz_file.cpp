@@ -7,6 +7,7 @@
 #include "kelp/chem/elements.hpp"
 #include "kelp/core/text.hpp"
 #include "quill-inp/process/trouble.hpp"
+#include "quill-inp/text/counted.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -16,13 +17,6 @@ namespace {
 
 [[noreturn]] void throw_at(std::size_t line, const std::string& message) {
   throw Trouble(message, line);
-}
-
-std::size_t read_count(const std::vector<std::string>& lines) {
-  int count = 0;
-  if (lines.empty() || !text::try_parse_int(text::trim(lines.front()), count) || count < 1)
-    throw_at(1, "an XYZ file begins with the number of its atoms, 1 or more");
-  return static_cast<std::size_t>(count);
 }
 
 bool is_letter(char c) { return ('A' <= c && c <= 'Z') || ('a' <= c && c <= 'z'); }
@@ -41,14 +35,23 @@ AtomRecord read_atom(const std::string& line, std::size_t number) {
 
 }  // namespace
 
+std::optional<std::size_t> find_xyz_count(std::string_view content) {
+  const std::string first_line = text::trim(content.substr(0, content.find('\n')));
+  int count = 0;
+  if (!text::try_parse_int(first_line, count) || count < 1) return std::nullopt;
+  return static_cast<std::size_t>(count);
+}
+
 std::vector<AtomRecord> read_xyz_atoms(std::string_view content) {
   const std::vector<std::string> lines = text::split_lines(content);
-  const std::size_t count = read_count(lines);
+  const std::optional<std::size_t> stated = find_xyz_count(content);
+  if (!stated) throw_at(1, "an XYZ file begins with the number of its atoms, 1 or more");
+  const std::size_t count = *stated;
   const std::size_t end = xyz_lines_before_atoms + count;
   if (lines.size() < end) {
     const std::size_t found =
         std::max(lines.size(), xyz_lines_before_atoms) - xyz_lines_before_atoms;
-    throw Trouble("has " + std::to_string(found) + " atoms instead of " + std::to_string(count));
+    throw Trouble("has " + counted(found, "atom") + " instead of " + std::to_string(count));
   }
   std::vector<AtomRecord> atoms;
   atoms.reserve(count);

@@ -2,6 +2,7 @@
 #define KELP_INPUT_QUILL_TOOL_FORMATS_XYZ_FILE_HPP
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -11,6 +12,10 @@ namespace kelp::input::quill::tool {
 
 /// The number of lines in an XYZ file before its atoms.
 inline constexpr std::size_t xyz_lines_before_atoms = 2;
+
+/// Returns the number of atoms that the first line of an XYZ file states, or nothing if it does not
+/// state one of 1 or more.
+std::optional<std::size_t> find_xyz_count(std::string_view content);
 
 /// Returns the atoms of an XYZ file: a line with their number, a line of text, and a line for each
 /// atom with a symbol and three coordinates. Other columns are ignored. Symbols are returned in the

@@ -1,4 +1,3 @@
-#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,19 +22,10 @@ constexpr const char* example =
 
 constexpr Option files{"FILE", "", "The inputs"};
 
-/// Returns what the lines of the text say and the document does not hold. The canonical text is
-/// made only from the document.
-std::vector<LineLoss> list_line_losses(const lossless_edit::ReadText& read) {
-  std::vector<LineLoss> losses;
-  for (std::size_t i = 0; i < read.lines.size(); ++i) {
-    if (const auto loss = find_line_loss(read, i)) losses.push_back(*loss);
-  }
-  return losses;
-}
-
 ExitCode format(Session& session, const std::string& argument, const Delivery& delivery,
                 const LossPolicy& policy) {
   const ReadInput input = read_input(session, argument);
+  if (!accept_as_input(session, input, policy)) return ExitCode::Trouble;
   const QuillInput& document = input.read.result.input;
   report_warnings(session.reporter(), input.name, input.read.result);
 

@@ -4,6 +4,8 @@
 
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
+#include "quill-inp/editing/ambiguity_notes.hpp"
+#include "quill-inp/keys/ambiguity.hpp"
 #include "quill-inp/keys/answer.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/verbs/verb.hpp"
@@ -34,6 +36,10 @@ ExitCode get_from_file(Session& session, const std::string& argument,
   const ReadInput input = read_input(session, argument);
   const QuillInput& document = input.read.result.input;
   report_warnings(session.reporter(), input.name, input.read.result);
+
+  std::vector<Ambiguity> ambiguities;
+  for (const Key& key : parsed) add_ambiguities(document, key, ambiguities);
+  for (const Ambiguity& ambiguity : ambiguities) note_ambiguity(session, input, ambiguity);
 
   std::string answers;
   ExitCode code = ExitCode::Done;

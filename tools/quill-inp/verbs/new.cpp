@@ -8,6 +8,7 @@
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/geometry_options.hpp"
 #include "quill-inp/command_line/post_options.hpp"
+#include "quill-inp/editing/addition_doubts.hpp"
 #include "quill-inp/editing/print_document.hpp"
 #include "quill-inp/keys/key.hpp"
 #include "quill-inp/process/trouble.hpp"
@@ -87,7 +88,10 @@ QuillInput build(Session& session, const CLI::App& app) {
 ExitCode make_new(Session& session, const CLI::App& app) {
   const LossPolicy policy = read_loss_policy(app);
   return for_file(session, name_of_result, [&] {
-    return print_document(session, name_of_result, build(session, app), policy);
+    const QuillInput document = build(session, app);
+    const auto doubts = find_addition_doubts(QuillInput(), document, ".");
+    if (!accept_additions(session, name_of_result, doubts, policy)) return ExitCode::Trouble;
+    return print_document(session, name_of_result, document, policy);
   });
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/temporary_folder.hpp"
 #include "tools/quill-inp/support/call.hpp"
 #include "tools/quill-inp/support/files.hpp"
 
@@ -98,14 +99,87 @@ const Call calls[] = {
      path},
     {"LossThatIsAllowed",
      {"add", "--allow-loss", "-", "--raw", " B 1 2"},
-     ended(
-         0, "XYZ a\n\n B 1 2\n",
-         "<stdin>:3: warning: lost: line 3 would be read differently: post-processing line 1 is a "
-         "bond constraint instead of raw text\n"
-         "<stdin>: warning: lost: the list of atom numbers of post-processing line 1 is 1 2 "
-         "instead of "
-         "absent\n"),
+     ended(0, "XYZ a\n\n B 1 2\n",
+           "<stdin>:3: warning: accepted loss: line 3 would be read differently: post-processing "
+           "line 1 is a "
+           "bond constraint instead of raw text\n"
+           "<stdin>: warning: accepted loss: the list of atom numbers of post-processing line 1 is "
+           "1 2 "
+           "instead of "
+           "absent\n"),
      path},
+
+    {"AnAtomThatIsNotThere",
+     {"add", "water.qin", "--bond", "1,4"},
+     refused("'B 1 4' names atom 4, but there are only 3 atoms")},
+    {"TheLastAtom",
+     {"add", "water.qin", "--bond", "1,3"},
+     ended(0, water + std::string("\nB 1 3\n"), "")},
+    {"AnAtomBesideTheOnlyOne",
+     {"add", "-", "--bond", "5,9"},
+     ended(2, "",
+           "<stdin>: error: refused: 'B 5 9' names atom 5, but there is only 1 atom; use "
+           "--allow-loss to write it anyway\n"),
+     "0 1\nHe 0 0 0\n"},
+    {"TheSameAtomTwice",
+     {"add", "water.qin", "--bond", "1,1"},
+     refused("'B 1 1' names atom 1 more than once")},
+    {"TheSameAtomAtBothEnds",
+     {"add", "water.qin", "--raw", "x", "--angle", "1,2,1"},
+     refused("'A 1 2 1' names atom 1 more than once")},
+    {"AtomZero",
+     {"add", "water.qin", "--bond", "0,1"},
+     refused("'B 0 1' names atom 0, but atom numbers count from 1")},
+    {"ANegativeAtom",
+     {"add", "water.qin", "--atom=-1"},
+     refused("'C -1' names atom -1, but atom numbers count from 1")},
+    {"AScanOfAnAtomThatIsNotThere",
+     {"add", "water.qin", "--scan", "1,4:1.5:10"},
+     refused("'S 1 4 1.5 10' names atom 4, but there are only 3 atoms")},
+    {"AScanToNoNumber",
+     {"add", "water.qin", "--scan", "1,2:nan:10"},
+     refused("'S 1 2 nan 10' has a value that is infinite or not a number")},
+    {"EveryDoubtIsToldWhenItIsAllowed",
+     {"add", "--allow-loss", "water.qin", "--bond", "0,0", "--bond", "4,2"},
+     ended(0, water + std::string("\nB 0 0\nB 4 2\n"),
+           "water.qin: warning: 'B 0 0' names atom 0, but atom numbers count from 1\n"
+           "water.qin: warning: 'B 0 0' names atom 0 more than once\n"
+           "water.qin: warning: 'B 4 2' names atom 4, but there are only 3 atoms\n")},
+    {"LinesThatWereThereAreNotJudged",
+     {"add", "-", "--atom", "1"},
+     ended(0, "0 1\nHe 0 0 0\nB 1 9\nC 1\n", ""),
+     "0 1\nHe 0 0 0\nB 1 9\n"},
+    {"AtomsInAFileThatIsThere",
+     {"add", "-", "--bond", "3,4"},
+     ended(2, "",
+           "<stdin>: error: refused: 'B 3 4' names atom 4, but there are only 3 atoms; use "
+           "--allow-loss to write it anyway\n"),
+     "XYZ water.xyz\n"},
+    {"AtomsInATrajectoryThatIsThere",
+     {"add", "-", "--bond", "2,3"},
+     ended(2, "",
+           "<stdin>: error: refused: 'B 2 3' names atom 3, but there are only 2 atoms; use "
+           "--allow-loss to write it anyway\n"),
+     "XYZTRAJ odd.xyz\n"},
+    {"AtomsInTheLargestOfSeveralFiles",
+     {"add", "-", "--bond", "2,3"},
+     ended(0, "XYZ odd.xyz\nXYZ water.xyz\n\nB 2 3\n", ""),
+     "XYZ odd.xyz\nXYZ water.xyz\n"},
+    {"AtomsInAFileThatIsMissing",
+     {"add", "-", "--bond", "3,400"},
+     ended(0, "XYZ water.xyz\nXYZ none.xyz\n\nB 3 400\n", ""),
+     "XYZ water.xyz\nXYZ none.xyz\n"},
+    {"AtomsInAFileOfAnotherForm",
+     {"add", "-", "--bond", "3,400"},
+     ended(0, "XYZ water.qin\n\nB 3 400\n", ""),
+     "XYZ water.qin\n"},
+    {"AtomsInAFolder",
+     {"add", "-", "--bond", "3,400"},
+     ended(0, "XYZ .\n\nB 3 400\n", ""),
+     "XYZ .\n"},
+    {"NoCoordinates",
+     {"add", "-q", "bare.qin", "--bond", "3,400"},
+     ended(0, "#sp\n\nB 3 400\n", "")},
 
     {"NothingToAdd", {"add", "water.qin"}, usage_error("nothing to add")},
     {"BadBond",
@@ -124,6 +198,19 @@ TEST_P(Add, AppendsLines) { expect_outcome(GetParam()); }
 
 INSTANTIATE_TEST_SUITE_P(Table, Add, testing::ValuesIn(calls),
                          [](const auto& row) { return std::string(row.param.name); });
+
+TEST(ReferencedAtoms, AreCountedRelativeToTheInput) {
+  const TemporaryFolder folder;
+  run_shell(folder.path(), "mkdir job; printf '1\\n\\nHe 0 0 0\\n' > job/he.xyz");
+  run_shell(folder.path(), "echo XYZ he.xyz > job/a.qin; echo XYZ $PWD/job/he.xyz > absolute.qin");
+  for (const char* input : {"job/a.qin", "absolute.qin"}) {
+    EXPECT_EQ(run_in(folder.path(), {"add", "-i", input, "--atom", "2"}),
+              ended(2, "",
+                    std::string(input) +
+                        ": error: refused: 'C 2' names atom 2, but there is only 1 atom; use "
+                        "--allow-loss to write it anyway\n"));
+  }
+}
 
 }  // namespace
 }  // namespace kelp::input::quill::tool

@@ -34,8 +34,8 @@ Call digits_that_go(std::string_view name, int count, const std::string& rest) {
     input += "He 0 0 0.5000001\n";
     text += "He       0.000000      0.000000      0.500000\n";
     if (atom > 20) continue;
-    told += atom == 1 ? "<stdin>:2: warning: lost: line 2 would be read differently: "
-                      : "<stdin>: warning: lost: ";
+    told += atom == 1 ? "<stdin>:2: warning: accepted loss: line 2 would be read differently: "
+                      : "<stdin>: warning: accepted loss: ";
     told += "z of atom " + std::to_string(atom) + " is 0.5 instead of 0.5000001\n";
   }
   return {name, {"fmt", "--allow-loss", "--max-change=0", "-"}, ended(0, text, told + rest), input};
@@ -126,6 +126,36 @@ const Call calls[] = {
      {"fmt", "-q", "-"},
      refused_at("<stdin>", 2, "would be left out: 'B 1 x'"),
      "XYZ a\n B 1 x \n"},
+    {"RefusesToLoseTheBlanksBeforeRawText",
+     {"fmt", "-q", "-"},
+     refused_at("<stdin>", 3, "would lose the blanks at its beginning: '\\tdo it'"),
+     "XYZ a\nif so\n\tdo it\n"},
+    {"RefusesToLoseABlankLineBetweenRawText",
+     {"fmt", "-q", "-"},
+     ended(2, "",
+           "<stdin>:3: error: refused: line 3, which is blank and between lines of raw text, would "
+           "be left out; use --allow-loss to write it anyway\n"),
+     "XYZ a\nif so\n\ndo it\n"},
+    {"RefusesToLoseBlankLinesBetweenRawText",
+     {"fmt", "-q", "-"},
+     ended(
+         2, "",
+         "<stdin>:4: error: refused: lines 4 to 5, which are blank and between lines of raw text, "
+         "would be left out; use --allow-loss to write it anyway\n"),
+     "XYZ a\n\nif so\n\n \ndo it\n"},
+    {"LaysOutBlankLinesBetweenOtherLines",
+     {"fmt", "-"},
+     ended(0, "#a\n\nXYZ a\n\nif so\nC 1\ndo it\n", ""),
+     "\n#a\nXYZ a\n\n\nif so\n\n  C 1\n\ndo it \n\n"},
+    {"LosesBlanksIfItMay",
+     {"fmt", "--allow-loss", "-"},
+     ended(0, "XYZ a\n\nif so\ndo it\n",
+           "<stdin>:3: warning: accepted loss: line 3, which is blank and between lines of raw "
+           "text, would be "
+           "left out\n"
+           "<stdin>:4: warning: accepted loss: line 4 would lose the blanks at its beginning: '  "
+           "do it'\n"),
+     "XYZ a\nif so\n\n  do it\n"},
     {"RefusesToDropAReferenceWithoutPath",
      {"fmt", "-q", "-"},
      refused_at("<stdin>", 2, "would be left out: 'XYZ'"),
@@ -156,27 +186,30 @@ const Call calls[] = {
      ended(0, "#a\n\n1 2\n",
            "<stdin>:2: warning: ignored unrecognized QUILL post-processing line\n"
            "<stdin>: warning: No QUILL coordinate section found\n"
-           "<stdin>:2: warning: lost: line 2 would be left out: 'B 1 x'\n"
-           "<stdin>:3: warning: lost: line 3 would be read as charge and multiplicity, not as raw "
+           "<stdin>:2: warning: accepted loss: line 2 would be left out: 'B 1 x'\n"
+           "<stdin>:3: warning: accepted loss: line 3 would be read as charge and multiplicity, "
+           "not as raw "
            "text; put another post-processing line before it to avoid that\n"
-           "<stdin>: warning: lost: the charge and multiplicity line is present instead of absent\n"
-           "<stdin>: warning: lost: the charge is 1 instead of 0\n"
-           "<stdin>: warning: lost: the multiplicity is 2 instead of 1\n"
-           "<stdin>: warning: lost: the number of post-processing lines is 0 instead of 1\n"),
+           "<stdin>: warning: accepted loss: the charge and multiplicity line is present instead "
+           "of absent\n"
+           "<stdin>: warning: accepted loss: the charge is 1 instead of 0\n"
+           "<stdin>: warning: accepted loss: the multiplicity is 2 instead of 1\n"
+           "<stdin>: warning: accepted loss: the number of post-processing lines is 0 instead of "
+           "1\n"),
      "#a\nB 1 x\n1 2\n"},
     {"DropsWhatItMay",
      {"fmt", "--allow-loss", "-"},
-     ended(
-         0, "#a(b)\n\n0 1\n",
-         "<stdin>:1: warning: ignored trailing text after QUILL header command\n"
-         "<stdin>:3: warning: ignored unrecognized QUILL post-processing line\n"
-         "<stdin>:1: warning: lost: line 1 says more than its command, and the rest would be lost: "
-         "'#a(b) c'\n"
-         "<stdin>:3: warning: lost: line 3 would be left out: 'B 1 x'\n"),
+     ended(0, "#a(b)\n\n0 1\n",
+           "<stdin>:1: warning: ignored trailing text after QUILL header command\n"
+           "<stdin>:3: warning: ignored unrecognized QUILL post-processing line\n"
+           "<stdin>:1: warning: accepted loss: line 1 says more than its command, and the rest "
+           "would be lost: "
+           "'#a(b) c'\n"
+           "<stdin>:3: warning: accepted loss: line 3 would be left out: 'B 1 x'\n"),
      "#a(b) c\n0 1\nB 1 x\n"},
     digits_that_go("TellsTwentyLosses", 20, ""),
     digits_that_go("CountsTheLossesAfterTwenty", 21,
-                   "<stdin>: warning: lost: 1 more difference of this kind\n"),
+                   "<stdin>: warning: accepted loss: 1 more difference of this kind\n"),
     {"GoesOnWithTheOtherFiles",
      {"fmt", "-q", "two_opts.qin", "none.qin", "water.qin"},
      ended(2, water,

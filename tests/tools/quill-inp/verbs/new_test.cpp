@@ -50,6 +50,11 @@ const Call calls[] = {
     {"MultiplicityAlone", {"new", "--multiplicity", "3"}, ended(0, "0 3\n", "")},
     {"Files", {"new", "--xyz", "a", "b c", "--charge=0"}, ended(0, "0 1\nXYZ a\nXYZ b c\n", "")},
     {"Trajectory", {"new", "--trajectory", "t"}, ended(0, "XYZTRAJ t\n", "")},
+    {"ABondOfAtomsThatAreNotThere",
+     {"new", "--atoms", "water.xyz", "--bond", "5,9"},
+     ended(2, "",
+           "<new>: error: refused: 'B 5 9' names atom 5, but there are only 3 atoms; use "
+           "--allow-loss to write it anyway\n")},
     {"AtomsOfUnknownElements",
      {"new", "--atoms", "odd.xyz"},
      ended(0,

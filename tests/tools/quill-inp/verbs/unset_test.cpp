@@ -90,11 +90,11 @@ const Call calls[] = {
      "#a(p=1) # remark\n0 1\n"},
     {"TextAfterACommandThatMayBeRemoved",
      {"unset", "--allow-loss", "-", "a"},
-     ended(
-         0, "0 1\n",
-         "<stdin>:1: warning: ignored trailing text after QUILL header command\n"
-         "<stdin>:1: warning: lost: line 1 says more than its command, and the rest would be lost: "
-         "'#a(p=1) # remark'\n"),
+     ended(0, "0 1\n",
+           "<stdin>:1: warning: ignored trailing text after QUILL header command\n"
+           "<stdin>:1: warning: accepted loss: line 1 says more than its command, and the rest "
+           "would be lost: "
+           "'#a(p=1) # remark'\n"),
      "#a(p=1) # remark\n0 1\n"},
     {"ACommandWithoutItsClosingParenthesis",
      {"unset", "-q", "-", "a"},
