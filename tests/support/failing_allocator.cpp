@@ -13,12 +13,18 @@ struct Counts {
   std::uint64_t failing;
   std::int64_t live;
   bool is_window_open;
+  Shortage shortage;
 };
 
 // Zero before the first allocation of any initialiser.
 Counts counts;
 
-bool must_fail() noexcept { return counts.is_window_open && ++counts.asked_for == counts.failing; }
+bool must_fail() noexcept {
+  if (!counts.is_window_open) return false;
+  ++counts.asked_for;
+  const bool lasts = counts.shortage == Shortage::Lasting && counts.failing != 0;
+  return lasts ? counts.asked_for >= counts.failing : counts.asked_for == counts.failing;
+}
 
 // The blocks come from malloc, so that the sanitizers watch them as any others.
 
@@ -42,9 +48,10 @@ void release(void* block) noexcept {
 
 }  // namespace
 
-AllocationWindow::AllocationWindow(std::uint64_t failing) noexcept {
+AllocationWindow::AllocationWindow(std::uint64_t failing, Shortage shortage) noexcept {
   counts.asked_for = 0;
   counts.failing = failing;
+  counts.shortage = shortage;
   counts.is_window_open = true;
 }
 

@@ -9,12 +9,17 @@
 
 namespace kelp::input::quill {
 
-/// From construction to destruction, counts the allocations and lets one of them throw
+/// How long memory is short: for one allocation, or for it and all that follow.
+enum class Shortage { Short, Lasting };
+
+/// From construction to destruction, counts the allocations and lets some of them throw
 /// std::bad_alloc. There is one window at a time.
 class AllocationWindow {
  public:
-  /// Lets allocation number `failing` fail, counted from 1; with 0, none.
-  explicit AllocationWindow(std::uint64_t failing = 0) noexcept;
+  /// Lets allocation number `failing` fail, counted from 1, and all after it if the shortage lasts;
+  /// with 0, none.
+  explicit AllocationWindow(std::uint64_t failing = 0,
+                            Shortage shortage = Shortage::Short) noexcept;
   ~AllocationWindow();
   AllocationWindow(const AllocationWindow&) = delete;
   AllocationWindow& operator=(const AllocationWindow&) = delete;

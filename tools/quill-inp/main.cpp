@@ -1,3 +1,5 @@
+#include <iostream>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -6,6 +8,10 @@
 
 int main(int argc, char** argv) {
   namespace tool = kelp::input::quill::tool;
-  const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
-  return tool::run(arguments, tool::take_standard_streams());
+  try {
+    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+    return tool::run(arguments, tool::take_standard_streams());
+  } catch (const std::bad_alloc&) {
+    return tool::report_out_of_memory(std::cerr);
+  }
 }

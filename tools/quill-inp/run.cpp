@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 #include <memory>
+#include <new>
 #include <optional>
 
 #include <CLI/App.hpp>
@@ -169,9 +170,9 @@ ExitCode run_program(const std::vector<std::string>& arguments, const StandardSt
   return ExitCode::Trouble;
 }
 
-}  // namespace
-
-int run(const std::vector<std::string>& arguments, const StandardStreams& streams) {
+/// Runs the program and reports what ended it. Throws std::bad_alloc when there is not even the
+/// memory for a message.
+ExitCode run_and_report(const std::vector<std::string>& arguments, const StandardStreams& streams) {
   Output output(streams.out, streams.out_file);
   Reporter reporter(streams.err, false, false);
   ExitCode code = ExitCode::Trouble;
@@ -184,7 +185,22 @@ int run(const std::vector<std::string>& arguments, const StandardStreams& stream
     reporter.error({program_name}, *failure);
     code = ExitCode::Trouble;
   }
-  return static_cast<int>(code);
+  return code;
+}
+
+}  // namespace
+
+int run(const std::vector<std::string>& arguments, const StandardStreams& streams) {
+  try {
+    return static_cast<int>(run_and_report(arguments, streams));
+  } catch (const std::bad_alloc&) {
+    return report_out_of_memory(streams.err);
+  }
+}
+
+int report_out_of_memory(std::ostream& err) {
+  err << program_name << ": error: out of memory\n" << std::flush;
+  return static_cast<int>(ExitCode::Trouble);
 }
 
 }  // namespace kelp::input::quill::tool

@@ -1,6 +1,7 @@
 #ifndef KELP_INPUT_QUILL_TOOL_RUN_HPP
 #define KELP_INPUT_QUILL_TOOL_RUN_HPP
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,9 @@ namespace kelp::input::quill::tool {
 /// everything else to standard error. Data that could not be written is trouble, too. Nothing is
 /// thrown.
 int run(const std::vector<std::string>& arguments, const StandardStreams& streams);
+
+/// Says that memory ran out, for which no memory is needed, and returns the exit code for that.
+int report_out_of_memory(std::ostream& err);
 
 }  // namespace kelp::input::quill::tool
 

@@ -9,6 +9,7 @@
 #include "quill-inp/text/utf8.hpp"
 #include "support/comparison.hpp"
 #include "tools/properties/made_edits.hpp"
+#include "tools/quill-inp/support/json_of.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -37,12 +38,12 @@ void make_kinds_known(QuillInput& document) {
 }
 
 void check_writing_and_reading(const QuillInput& document) {
-  const std::string text = document_to_json(document);
+  const std::string text = json_of(document);
   require(is_utf8(text), "JSON is UTF-8", text);
   const std::optional<QuillInput> read = read_document(text);
   require(read.has_value(), "what is written as JSON is read", text);
   require(*read == document, "JSON keeps the whole document", text);
-  require(document_to_json(*read) == text, "JSON is written again as the same bytes", text);
+  require(json_of(*read) == text, "JSON is written again as the same bytes", text);
 }
 
 }  // namespace

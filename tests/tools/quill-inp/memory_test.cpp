@@ -1,4 +1,5 @@
-// Calls that run out of memory, at every single allocation that is made for a file.
+// Calls that run out of memory, at every single allocation that is made for a file: for this
+// allocation alone, and for good.
 
 #include <gtest/gtest.h>
 
@@ -10,6 +11,7 @@
 #include <ostream>
 #include <streambuf>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -63,17 +65,18 @@ struct MeteredCall {
   std::uint64_t allocations = 0;
 };
 
-/// Runs the program in this process, with one of its allocations failing, or with 0 none.
-MeteredCall run_failing(const std::vector<std::string>& arguments, const std::string& input,
-                        std::uint64_t failing) {
+/// Runs the program in this process, with one of its allocations failing, and perhaps all that
+/// follow; with 0, none.
+MeteredCall run_failing(const std::vector<std::string>& arguments, std::string input,
+                        std::uint64_t failing, Shortage shortage = Shortage::Short) {
   Captured out_text;
   Captured err_text;
   std::ostream out(&out_text);
   std::ostream err(&err_text);
   MeteredCall call;
   {
-    const AllocationWindow window(failing);
-    FirstFile in_text(window, input);
+    const AllocationWindow window(failing, shortage);
+    FirstFile in_text(window, std::move(input));
     std::istream in(&in_text);
     call.code = run(arguments, {in, out, err});
     call.allocations_before = in_text.allocations_before();
@@ -135,6 +138,101 @@ TEST(OutOfMemory, LeavesTheOldTextAloneOrTheNewTextBesideItsBackup) {
     failures += failed ? 1 : 0;
   }
   EXPECT_GT(failures, 10);
+}
+
+struct VerbRow {
+  std::string_view name;
+  std::vector<std::string> arguments;
+  std::string input;
+};
+
+class LastingShortage : public testing::TestWithParam<VerbRow> {};
+
+/// Every kind of line, and one that is dropped.
+const std::string every_line =
+    "#opt(maxiter=50, tight)\n#model=m1\n\n0 1\nO 0 0 0.117\nH 0 0.757 -0.469\nQ 0 0 0\n"
+    "B 1 2\nS 1 2 1.5 10\nPOST charges.txt\nB 1 x\nPRINT\xFF\n";
+
+const std::string every_member =
+    R"({"commands": [{"name": "opt", "kind": "parameter_list",
+        "parameters": [{"name": "maxiter", "value": "50"}, {"name": {"bytes": "ff"}}]}],
+        "geometry": {"kind": "atoms", "charge": 0, "atoms": [
+        {"symbol": "a symbol of some length", "x": 0, "y": 1.5, "z": "inf"}]},
+        "post_commands": [{"kind": "scan", "atom_indices": [1, 2], "scan_value": 1,
+        "scan_steps": 2}, {"kind": "raw", "raw_text": "a text that is not quite short"}]})";
+
+const VerbRow verb_rows[] = {
+    {"Show", {"show", "-"}, every_line},
+    {"ShowAsJson", {"show", "--json", "-"}, every_line},
+    {"ShowLines", {"show", "--lines", "-"}, every_line},
+    {"Fmt", {"fmt", "--allow-loss", "-"}, every_line},
+    {"FmtWithADiff", {"fmt", "--allow-loss", "--diff", "-"}, every_line},
+    {"FmtThatIsRefused", {"fmt", "-"}, every_line},
+    {"Get", {"get", "-", "opt", "@atoms", "@charge"}, every_line},
+    {"GetOfNothing", {"get", "-", "opt.maxitr"}, every_line},
+    {"Set", {"set", "-", "opt.maxiter=100", "freq=a b", "@charge=1"}, every_line},
+    {"SetOfAtoms", {"set", "--atoms", "-", "a.qin"}, "1\n\nHe 0 0 1\n"},
+    {"Unset", {"unset", "-", "opt.tight", "model"}, every_line},
+    {"Add", {"add", "-", "--bond", "1,2", "--raw", "a text that is not quite short"}, every_line},
+    {"New", {"new", "--task", "opt", "--atoms", "-"}, "1\n\nHe 0 0 1\n"},
+    {"Json", {"json", "-"}, every_line},
+    {"FromJson", {"from-json", "--allow-loss", "-"}, every_member},
+};
+
+bool is_begin_of(const std::string& begin, const std::string& whole) {
+  return whole.compare(0, begin.size(), begin) == 0;
+}
+
+/// Lets memory end at one allocation after another, from number `first` on, and expects that the
+/// program either does all that it does otherwise or says that memory ran out.
+void expect_end_with_message(const VerbRow& row, bool from_the_start) {
+  const MeteredCall undisturbed = run_failing(row.arguments, row.input, 0);
+  const std::uint64_t first = from_the_start ? 0 : undisturbed.allocations_before;
+  ASSERT_GT(undisturbed.allocations, first + 10);
+  for (std::uint64_t i = first + 1; i <= undisturbed.allocations; ++i) {
+    const MeteredCall call = run_failing(row.arguments, row.input, i, Shortage::Lasting);
+    ASSERT_EQ(call.code, 2) << i;
+    ASSERT_TRUE(is_begin_of(call.out, undisturbed.out)) << i << '\n' << call.out;
+    const std::string message = "quill-inp: error: out of memory\n";
+    ASSERT_GE(call.err.size(), message.size()) << i << '\n' << call.err;
+    const std::size_t told = call.err.size() - message.size();
+    ASSERT_EQ(call.err.substr(told), message) << i;
+    ASSERT_TRUE(is_begin_of(call.err.substr(0, told), undisturbed.err)) << i << '\n' << call.err;
+  }
+}
+
+TEST_P(LastingShortage, EndsTheProgramWithItsMessage) {
+  const TemporaryFolder folder;
+  VerbRow row = GetParam();
+  for (std::string& argument : row.arguments) {
+    if (argument == "a.qin") argument = folder.write("a.qin", every_line);
+  }
+  expect_end_with_message(row, false);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, LastingShortage, testing::ValuesIn(verb_rows),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(LastingShortage, FromTheStartEndsTheProgramWithItsMessage) {
+  expect_end_with_message({"", {"json", "-"}, "0 1\n"}, true);
+}
+
+TEST(LastingShortage, LeavesNoFileBehindButTheOldOne) {
+  const std::string old_text = "0 1\nHe 0 0 0\n";
+  const std::string input = "1\n\nHe 0 0 1\n";
+  const TemporaryFolder folder;
+  const std::string path = folder.write("a.qin", old_text);
+  const std::vector<std::string> arguments = {"set", "-q", "-i", "--backup", path, "--atoms", "-"};
+  const MeteredCall undisturbed = run_failing(arguments, input, 0);
+  for (std::uint64_t i = undisturbed.allocations_before + 1; i <= undisturbed.allocations; ++i) {
+    folder.write("a.qin", old_text);
+    std::filesystem::remove(path + ".bak");
+    const MeteredCall call = run_failing(arguments, input, i, Shortage::Lasting);
+    EXPECT_EQ(call.code, 2) << i;
+    EXPECT_EQ(call.err, "quill-inp: error: out of memory\n") << i;
+    EXPECT_EQ(content_of(path), old_text) << i;
+    EXPECT_EQ(names_in(folder.path()), Names{"a.qin"}) << i;
+  }
 }
 
 }  // namespace

@@ -1,14 +1,13 @@
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
+#include "quill-inp/formats/document_form.hpp"
 #include "quill-inp/formats/document_json.hpp"
-#include "quill-inp/formats/document_names.hpp"
+#include "quill-inp/formats/json_reading.hpp"
 #include "quill-inp/formats/json_text.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/text/suggestion.hpp"
@@ -17,165 +16,164 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// A JSON value and the path to it from the outermost object, for messages.
-struct JsonPlace {
-  const Json& value;
-  std::string path;
-};
+/// Before the first entry of a list, so that counting up gives the first one.
+constexpr std::size_t before_first = std::numeric_limits<std::size_t>::max();
 
-std::string where(const JsonPlace& place) {
-  return place.path.empty() ? "the outermost value" : place.path;
-}
-
-[[noreturn]] void throw_expected(const JsonPlace& place, const std::string& expected) {
-  throw Trouble(where(place) + ": expected " + expected);
-}
-
-JsonPlace member(const JsonPlace& place, const std::string& name) {
-  return {place.value[name], place.path + "/" + name};
-}
-
-JsonPlace entry(const JsonPlace& place, std::size_t index) {
-  return {place.value[index], place.path + "/" + std::to_string(index)};
-}
-
-/// Throws unless the value is an object with no other members than these.
-void require_object(const JsonPlace& place, const std::vector<std::string>& names) {
-  if (!place.value.is_object()) throw_expected(place, "an object");
-  for (const auto& item : place.value.items()) {
-    bool is_known = false;
-    for (const std::string& name : names) is_known = is_known || name == item.key();
-    if (!is_known) {
-      throw Trouble(where(place) + ": unknown member '" + item.key() + "'" +
-                    suggestion(item.key(), names));
+/// Puts the pieces of a JSON text into a document, each when it comes.
+class DocumentReader : public JsonListener {
+ public:
+  void begin_object() override {
+    const ValueForm& form = next_form();
+    if (form.kind == ValueForm::Kind::Text) {
+      is_in_bytes_ = true;
+      return;
     }
+    require_kind(form, ValueForm::Kind::Object);
+    if (form.begin != nullptr) form.begin(document_);
+    levels_.push_back({&form, before_first, 0});
   }
-}
 
-JsonPlace required(const JsonPlace& place, const std::string& name) {
-  if (!place.value.contains(name)) throw_expected(place, "a member '" + name + "'");
-  return member(place, name);
-}
-
-std::string read_string(const JsonPlace& place) {
-  return string_from_json(place.value, where(place));
-}
-
-double read_number(const JsonPlace& place) { return number_from_json(place.value, where(place)); }
-
-std::int32_t read_integer(const JsonPlace& place) {
-  using Limits = std::numeric_limits<std::int32_t>;
-  const double number = place.value.is_number() ? place.value.get<double>() : std::nan("");
-  // A double holds every integer of this size exactly, and 2.0 is an integer in JSON.
-  const bool is_integer =
-      std::trunc(number) == number && Limits::min() <= number && number <= Limits::max();
-  if (!is_integer) throw_expected(place, "a 32-bit integer");
-  return static_cast<std::int32_t>(number);
-}
-
-bool read_truth(const JsonPlace& place) {
-  if (!place.value.is_boolean()) throw_expected(place, "true or false");
-  return place.value.get<bool>();
-}
-
-template <typename Names>
-auto read_kind(const JsonPlace& place, const Names& names) {
-  std::vector<std::string> known;
-  for (const auto& row : names) {
-    if (place.value.is_string() && place.value.get_ref<const std::string&>() == row.name)
-      return row.kind;
-    known.emplace_back(row.name);
+  void begin_member(const std::string& name) override {
+    if (is_in_bytes_) {
+      // The bytes are the only member: any before them, or another, is of something else.
+      if (name != bytes_member || has_bytes_) throw_expected(text_form());
+      return;
+    }
+    Level& level = levels_.back();
+    const std::size_t member = find_member(name);
+    const std::uint32_t bit = std::uint32_t{1} << member;
+    if ((level.given & bit) != 0) throw Trouble("two members '" + name + "' in one JSON object");
+    level.given |= bit;
+    level.at = member;
   }
-  std::string expected = "one of";
-  for (const std::string& name : known)
-    expected += (name == known.front() ? " '" : ", '") + name + "'";
-  throw_expected(place, expected);
-}
 
-template <typename Entry>
-std::vector<Entry> read_list(const JsonPlace& place, Entry (*read_entry)(const JsonPlace&)) {
-  if (!place.value.is_array()) throw_expected(place, "a list");
-  std::vector<Entry> entries;
-  entries.reserve(place.value.size());
-  for (std::size_t i = 0; i < place.value.size(); ++i)
-    entries.push_back(read_entry(entry(place, i)));
-  return entries;
-}
+  void end_object() override {
+    if (is_in_bytes_) {
+      end_bytes();
+      return;
+    }
+    const Level level = levels_.back();
+    for (std::size_t i = 0; i < level.form->member_count; ++i) {
+      const MemberForm& member = level.form->members[i];
+      if (member.is_required && (level.given >> i & 1U) == 0)
+        throw Trouble(place_of(levels_.size() - 1) + ": expected a member '" +
+                      std::string(member.name) + "'");
+    }
+    if (level.form->end != nullptr) level.form->end(document_, level.given);
+    levels_.pop_back();
+  }
 
-/// Reads a member into `target`, which is unchanged when there is no such member.
-template <typename Target, typename Value>
-void read_optional(const JsonPlace& place, const std::string& name, Target& target,
-                   Value (*read)(const JsonPlace&)) {
-  if (place.value.contains(name)) target = read(member(place, name));
-}
+  void begin_list() override {
+    const ValueForm& form = next_form();
+    require_kind(form, ValueForm::Kind::List);
+    levels_.push_back({&form, before_first, 0});
+  }
 
-template <typename Entry>
-void read_optional_list(const JsonPlace& place, const std::string& name, std::vector<Entry>& target,
-                        Entry (*read_entry)(const JsonPlace&)) {
-  if (place.value.contains(name)) target = read_list(member(place, name), read_entry);
-}
+  void end_list() override { levels_.pop_back(); }
 
-CommandParameter read_parameter(const JsonPlace& place) {
-  require_object(place, {"name", "value"});
-  CommandParameter parameter(read_string(required(place, "name")));
-  read_optional(place, "value", parameter.value, read_string);
-  return parameter;
-}
+  void take(JsonScalar scalar) override {
+    if (is_in_bytes_) {
+      take_bytes(scalar);
+      return;
+    }
+    const ValueForm& form = next_form();
+    if (form.store == nullptr || !form.store(document_, scalar)) throw_expected(form);
+  }
 
-HeaderCommand read_command(const JsonPlace& place) {
-  require_object(place, {"name", "kind", "value", "parameters"});
-  HeaderCommand command(read_string(required(place, "name")));
-  command.kind = read_kind(required(place, "kind"), command_kind_names);
-  read_optional(place, "value", command.value, read_string);
-  read_optional_list(place, "parameters", command.parameters, read_parameter);
-  return command;
-}
+  QuillInput take_document() { return std::move(document_); }
 
-AtomRecord read_atom(const JsonPlace& place) {
-  require_object(place, {"symbol", "x", "y", "z"});
-  return {read_string(required(place, "symbol")), read_number(required(place, "x")),
-          read_number(required(place, "y")), read_number(required(place, "z"))};
-}
+ private:
+  /// A list or an object that has not ended yet, and the entry or member of it that was begun last.
+  struct Level {
+    const ValueForm* form;
+    std::size_t at;
+    std::uint32_t given;  // the members of an object, a bit for each
+  };
 
-GeometryBlock read_geometry(const JsonPlace& place) {
-  require_object(place, {"kind", "charge", "multiplicity", "has_charge_and_multiplicity", "atoms",
-                         "xyz_files"});
-  GeometryBlock geometry;
-  geometry.kind = read_kind(required(place, "kind"), geometry_kind_names);
-  read_optional(place, "charge", geometry.charge, read_integer);
-  read_optional(place, "multiplicity", geometry.multiplicity, read_integer);
-  geometry.has_charge_and_multiplicity =
-      place.value.contains("charge") || place.value.contains("multiplicity");
-  read_optional(place, "has_charge_and_multiplicity", geometry.has_charge_and_multiplicity,
-                read_truth);
-  read_optional_list(place, "atoms", geometry.atoms, read_atom);
-  read_optional_list(place, "xyz_files", geometry.xyz_files, read_string);
-  return geometry;
-}
+  /// Returns the form of the value that begins now.
+  const ValueForm& next_form() {
+    if (is_in_bytes_) throw_expected(text_form());
+    if (levels_.empty()) return document_form();
+    Level& level = levels_.back();
+    if (level.form->kind == ValueForm::Kind::Object) return *level.form->members[level.at].value;
+    ++level.at;
+    return *level.form->entry;
+  }
 
-PostCommand read_post_command(const JsonPlace& place) {
-  require_object(place,
-                 {"kind", "atom_indices", "scan_value", "scan_steps", "post_file", "raw_text"});
-  PostCommand command(read_kind(required(place, "kind"), post_line_shapes));
-  read_optional_list(place, "atom_indices", command.atom_indices, read_integer);
-  read_optional(place, "scan_value", command.scan_value, read_number);
-  read_optional(place, "scan_steps", command.scan_steps, read_integer);
-  read_optional(place, "post_file", command.post_file, read_string);
-  read_optional(place, "raw_text", command.raw_text, read_string);
-  return command;
-}
+  /// Returns the form of the text whose bytes are being read.
+  const ValueForm& text_form() const {
+    const Level& level = levels_.back();
+    return level.form->kind == ValueForm::Kind::Object ? *level.form->members[level.at].value
+                                                       : *level.form->entry;
+  }
+
+  void take_bytes(JsonScalar& scalar) {
+    if (scalar.kind != JsonScalar::Kind::Text) throw_expected(text_form());
+    auto bytes = bytes_from_hexadecimal(scalar.text);
+    if (!bytes)
+      throw Trouble(place_of(levels_.size()) +
+                    ": expected pairs of hexadecimal digits in lower case");
+    bytes_ = {JsonScalar::Kind::Text, false, 0.0, std::move(*bytes)};
+    has_bytes_ = true;
+  }
+
+  void end_bytes() {
+    if (!has_bytes_) throw_expected(text_form());
+    is_in_bytes_ = false;
+    has_bytes_ = false;
+    text_form().store(document_, bytes_);
+  }
+
+  std::size_t find_member(const std::string& name) const {
+    const ValueForm& form = *levels_.back().form;
+    for (std::size_t i = 0; i < form.member_count; ++i) {
+      if (form.members[i].name == name) return i;
+    }
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < form.member_count; ++i) names.emplace_back(form.members[i].name);
+    throw Trouble(place_of(levels_.size() - 1) + ": unknown member '" + name + "'" +
+                  suggestion(name, names));
+  }
+
+  void require_kind(const ValueForm& form, ValueForm::Kind kind) const {
+    if (form.kind != kind) throw_expected(form);
+  }
+
+  [[noreturn]] void throw_expected(const ValueForm& form) const {
+    throw Trouble(place_of(levels_.size()) + ": expected " + form.expected());
+  }
+
+  /// Returns the path of the value inside so many levels, for messages: "/commands/0/name".
+  std::string place_of(std::size_t depth) const {
+    std::string path;
+    for (std::size_t i = 0; i < depth; ++i) {
+      const Level& level = levels_[i];
+      const bool is_object = level.form->kind == ValueForm::Kind::Object;
+      path += '/';
+      path +=
+          is_object ? std::string(level.form->members[level.at].name) : std::to_string(level.at);
+    }
+    return path.empty() ? "the outermost value" : path;
+  }
+
+  QuillInput document_;
+  std::vector<Level> levels_;
+  bool is_in_bytes_ = false;
+  bool has_bytes_ = false;
+  JsonScalar bytes_;
+};
 
 }  // namespace
 
 QuillInput document_from_json(std::string_view text) {
-  const Json json = parse_json(text);
-  const JsonPlace document{json, ""};
-  require_object(document, {"commands", "geometry", "post_commands"});
-  QuillInput input;
-  read_optional_list(document, "commands", input.commands, read_command);
-  read_optional(document, "geometry", input.geometry, read_geometry);
-  read_optional_list(document, "post_commands", input.post_commands, read_post_command);
-  return input;
+  DocumentReader reader;
+  read_json(text, reader);
+  QuillInput document = reader.take_document();
+  // A list that grew entry by entry has room for up to twice as many.
+  document.commands.shrink_to_fit();
+  document.geometry.atoms.shrink_to_fit();
+  document.post_commands.shrink_to_fit();
+  return document;
 }
 
 }  // namespace kelp::input::quill::tool

@@ -5,25 +5,29 @@
 // the form. Members have the names of the library; members with the value that they have in a new
 // document are left out.
 
-#include <string>
 #include <string_view>
 
 #include "kelp/input/quill/document.hpp"
-#include "quill-inp/formats/json_text.hpp"
+#include "quill-inp/formats/json_writer.hpp"
 
 namespace kelp::input::quill::tool {
 
-/// Returns the document as a JSON text of several lines. Every kind must be in its enumeration.
-std::string document_to_json(const QuillInput& input);
+/// Writes the document as a JSON text of several lines: the members of the outermost objects and
+/// the parts of the document each begin a line. Every kind must be in its enumeration.
+void write_document_json(const QuillInput& input, const JsonWriter::Sink& sink);
 
-/// Returns the document that a JSON text describes. Throws Trouble, with the place in the text, for
-/// a text that is not JSON or does not have this form. Unknown members are refused, since something
-/// could be lost if they were ignored.
+/// Returns the document that a JSON text describes. Throws Trouble, with the line and the place in
+/// the text, for a text that is not JSON or does not have this form. Unknown members are refused,
+/// and two members with the same name in one object, since something could be lost otherwise.
 QuillInput document_from_json(std::string_view text);
 
-/// Return a command or a post-processing line in the form that it has in the JSON of a document.
-OrderedJson to_json(const HeaderCommand& command);
-OrderedJson to_json(const PostCommand& command);
+/// Whether a post-processing line is written with the text that it was read from.
+enum class RawText { Written, LeftOut };
+
+/// Write a command or a post-processing line, on one line, in the form that it has in the JSON of a
+/// document.
+void write(JsonWriter& json, const HeaderCommand& command);
+void write(JsonWriter& json, const PostCommand& command, RawText raw_text);
 
 }  // namespace kelp::input::quill::tool
 

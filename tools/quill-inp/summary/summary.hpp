@@ -4,6 +4,7 @@
 #include <string>
 
 #include "kelp/input/quill/reader.hpp"
+#include "quill-inp/formats/json_writer.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -13,8 +14,9 @@ namespace kelp::input::quill::tool {
 /// each warning. Bytes that a terminal would obey are escaped.
 std::string summary_text(const std::string& name, const ParseResult& result);
 
-/// Returns the same as data: a JSON object on one line.
-std::string summary_json(const std::string& name, const ParseResult& result);
+/// Writes the same as data: a JSON object on one line.
+void write_summary_json(const std::string& name, const ParseResult& result,
+                        const JsonWriter::Sink& sink);
 
 }  // namespace kelp::input::quill::tool
 

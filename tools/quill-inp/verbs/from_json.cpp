@@ -1,4 +1,5 @@
 #include <string>
+#include <utility>
 
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
@@ -17,8 +18,10 @@ ExitCode from_json(Session& session, const CLI::App& app) {
   const std::string argument = *value_of(app, file);
   const LossPolicy policy = read_loss_policy(app);
   return for_file(session, argument, [&] {
-    const InputSource source = read_source(session, argument);
-    return print_document(session, source.name, document_from_json(source.content), policy);
+    InputSource source = read_source(session, argument);
+    // The text, which may be large, is given back before the next one is made.
+    const QuillInput document = document_from_json(std::exchange(source.content, std::string()));
+    return print_document(session, source.name, document, policy);
   });
 }
 

@@ -1,4 +1,5 @@
 #include <string>
+#include <string_view>
 
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
@@ -15,7 +16,8 @@ constexpr Option file{"FILE", "", "The input"};
 ExitCode print_json(Session& session, const std::string& argument) {
   const ReadInput input = read_input(session, argument);
   report_warnings(session.reporter(), input.name, input.read.result);
-  session.output().write(document_to_json(input.read.result.input));
+  write_document_json(input.read.result.input,
+                      [&](std::string_view piece) { session.output().write(piece); });
   return ExitCode::Done;
 }
 

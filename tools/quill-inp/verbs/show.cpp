@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "lossless_edit/wording.hpp"
@@ -73,7 +74,8 @@ class Show {
     const ReadInput input = read_input(session_, argument);
     const ParseResult& result = input.read.result;
     if (form_ == Form::Json) {
-      session_.output().write(summary_json(input.name, result));
+      write_summary_json(input.name, result,
+                         [&](std::string_view piece) { session_.output().write(piece); });
       return ExitCode::Done;
     }
     session_.output().write_shown(separator_);

@@ -12,14 +12,16 @@
 #include <nlohmann/json.hpp>
 
 #include "kelp/input/quill/reader.hpp"
-#include "quill-inp/formats/json_text.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "support/comparison.hpp"
 #include "support/printing.hpp"
 #include "tools/quill-inp/formats/json_schema.hpp"
+#include "tools/quill-inp/support/json_of.hpp"
 
 namespace kelp::input::quill::tool {
 namespace {
+
+using Json = nlohmann::json;
 
 Json published_schema() {
   std::ifstream file(QUILL_INP_SCHEMA);
@@ -93,11 +95,11 @@ const DocumentRow document_rows[] = {
 };
 
 TEST_P(DocumentJson, ComesBackWhole) {
-  EXPECT_EQ(document_from_json(document_to_json(GetParam().document)), GetParam().document);
+  EXPECT_EQ(document_from_json(json_of(GetParam().document)), GetParam().document);
 }
 
 TEST_P(DocumentJson, FollowsThePublishedSchema) {
-  EXPECT_TRUE(is_valid(Json::parse(document_to_json(GetParam().document)), published_schema()));
+  EXPECT_TRUE(is_valid(Json::parse(json_of(GetParam().document)), published_schema()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, DocumentJson, testing::ValuesIn(document_rows),
@@ -108,7 +110,7 @@ TEST(DocumentJson, NamesTheMembersOfTheLibrary) {
                                "#opt(maxiter=50, tight)\n#model=m1\n#freq\n0 1\nHe 0 0.5 -1\n"
                                "B 1 2\nS 1 2 1.5 10\nPOST a\nPRINT\n")
                                .input;
-  EXPECT_EQ(document_to_json(input),
+  EXPECT_EQ(json_of(input),
             "{\n"
             "  \"commands\": [\n"
             "    {\"name\": \"opt\", \"kind\": \"parameter_list\", \"parameters\": [{\"name\": "
@@ -145,6 +147,24 @@ TEST(DocumentJson, MayLeaveOutWhatIsNew) {
   doublet.geometry.multiplicity = 2;
   doublet.geometry.has_charge_and_multiplicity = true;
   EXPECT_EQ(document_from_json(R"({"geometry": {"kind": "none", "multiplicity": 2.0}})"), doublet);
+}
+
+TEST(DocumentJson, MaySayThatChargeAndMultiplicityHaveNoLineBeforeOrAfterThem) {
+  QuillInput charged;
+  charged.geometry.charge = 2;
+  for (const char* json :
+       {R"({"geometry": {"kind": "none", "charge": 2, "has_charge_and_multiplicity": false}})",
+        R"({"geometry": {"has_charge_and_multiplicity": false, "charge": 2, "kind": "none"}})"})
+    EXPECT_EQ(document_from_json(json), charged) << json;
+}
+
+TEST(DocumentJson, IsReadInAnyOrderOfItsMembers) {
+  EXPECT_EQ(
+      document_from_json(R"({"post_commands": [{"raw_text": "a", "kind": "raw"}],
+                                   "commands": [{"value": {"bytes": "ff"}, "kind": "assignment",
+                                                 "name": "b"}]})"),
+      QuillInput({HeaderCommand("b", HeaderCommandKind::Assignment, "\xFF")}, {},
+                 {PostCommand(PostCommandKind::Raw, {}, std::nullopt, std::nullopt, "", "a")}));
 }
 
 struct BadRow {
@@ -204,6 +224,40 @@ const BadRow bad_rows[] = {
      "/post_commands/0: unknown member 'text'"},
     {"AtomNumberThatIsNone", R"({"post_commands": [{"kind": "raw", "atom_indices": [1, null]}]})",
      "/post_commands/0/atom_indices/1: expected a 32-bit integer"},
+    {"NameThatIsNull", R"({"commands": [{"name": null, "kind": "flag"}]})",
+     R"(/commands/0/name: expected a string or {"bytes": "..."})"},
+    {"NameThatIsAnEmptyObject", R"({"commands": [{"name": {}, "kind": "flag"}]})",
+     R"(/commands/0/name: expected a string or {"bytes": "..."})"},
+    {"NameThatIsAnotherMember", R"({"commands": [{"name": {"byte": "00"}, "kind": "flag"}]})",
+     R"(/commands/0/name: expected a string or {"bytes": "..."})"},
+    {"NameThatIsAMemberBeforeTheBytes",
+     R"({"commands": [{"name": {"x": 1, "bytes": "00"}, "kind": "flag"}]})",
+     R"(/commands/0/name: expected a string or {"bytes": "..."})"},
+    {"NameThatIsAMemberAfterTheBytes",
+     R"({"commands": [{"name": {"bytes": "00", "x": 1}, "kind": "flag"}]})",
+     R"(/commands/0/name: expected a string or {"bytes": "..."})"},
+    {"NameThatIsBytesThatAreNotAString",
+     R"({"commands": [{"name": {"bytes": 0}, "kind": "flag"}]})",
+     R"(/commands/0/name: expected a string or {"bytes": "..."})"},
+    {"NameThatIsBytesThatAreAList",
+     R"({"commands": [{"name": {"bytes": ["00"]}, "kind": "flag"}]})",
+     R"(/commands/0/name: expected a string or {"bytes": "..."})"},
+    {"NameThatIsBytesThatAreAnObject",
+     R"({"commands": [{"name": {"bytes": {"bytes": "00"}}, "kind": "flag"}]})",
+     R"(/commands/0/name: expected a string or {"bytes": "..."})"},
+    {"NameThatIsAList", R"({"commands": [{"name": ["a"], "kind": "flag"}]})",
+     R"(/commands/0/name: expected a string or {"bytes": "..."})"},
+    {"NameThatIsHalfAByte", R"({"commands": [{"name": {"bytes": "00f"}, "kind": "flag"}]})",
+     "/commands/0/name: expected pairs of hexadecimal digits in lower case"},
+    {"PathThatIsNotAString",
+     R"({"geometry": {"kind": "xyz_file", "xyz_files": ["a", {"bytes": 1}]}})",
+     R"(/geometry/xyz_files/1: expected a string or {"bytes": "..."})"},
+    {"AtomThatIsAList", R"({"geometry": {"kind": "atoms", "atoms": [["H", 0, 0, 0]]}})",
+     "/geometry/atoms/0: expected an object"},
+    {"OneValue", "1", "the outermost value: expected an object"},
+    {"CoordinateThatIsTrue",
+     R"({"geometry": {"kind": "atoms", "atoms": [{"symbol": "H", "x": true, "y": 0, "z": 0}]}})",
+     R"(/geometry/atoms/0/x: expected a number, "inf", "-inf", "nan" or "-nan")"},
 };
 
 TEST_P(BadDocumentJson, IsRefusedWithThePlace) {
@@ -217,6 +271,29 @@ TEST_P(BadDocumentJson, IsRefusedWithThePlace) {
 
 TEST_P(BadDocumentJson, IsNotOfThePublishedSchema) {
   EXPECT_FALSE(is_valid(Json::parse(GetParam().json), published_schema()));
+}
+
+/// Returns what is wrong with a text, after the line number.
+std::string complaint(std::string_view json) {
+  try {
+    document_from_json(json);
+  } catch (const Trouble& trouble) {
+    return std::to_string(trouble.line().value_or(0)) + ": " + trouble.what();
+  }
+  return {};
+}
+
+TEST(DocumentJson, WithTwoMembersOfOneNameInAnObjectIsRefused) {
+  EXPECT_EQ(complaint(R"({"commands": [{"name": "a",
+                                         "name": "a", "kind": "flag"}]})"),
+            "2: two members 'name' in one JSON object");
+  EXPECT_EQ(complaint("{\"commands\": [],\n\"commands\": []}"),
+            "2: two members 'commands' in one JSON object");
+  EXPECT_EQ(complaint(R"({"commands": [{"name": {"bytes": "00", "bytes": "00"}}]})"),
+            R"(1: /commands/0/name: expected a string or {"bytes": "..."})");
+  EXPECT_EQ(complaint(R"({"commands": [{"name": "a", "kind": "flag"},
+                                        {"name": "a", "kind": "flag"}]})"),
+            "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, BadDocumentJson, testing::ValuesIn(bad_rows),

@@ -1,0 +1,107 @@
+// What the verbs do with large inputs and large JSON texts.
+
+#include <cstddef>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "scale/tasks.hpp"
+#include "tools/scale/in_memory_call.hpp"
+
+namespace kelp::input::quill {
+
+namespace {
+
+std::string repeated(std::string_view piece, std::size_t count) {
+  std::string text;
+  for (std::size_t i = 0; i < count; ++i) text += piece;
+  return text;
+}
+
+std::string atoms(std::size_t n) {
+  return "#opt\n#model = m1\n\n0 1\n" +
+         repeated("C      -0.729000     -2.609047      2.312980\n", n);
+}
+
+std::string xyz_atoms(std::size_t n) {
+  return std::to_string(n) + "\n\n" + repeated("C -0.729000 -2.609047 2.312980\n", n);
+}
+
+std::string commands(std::size_t n) { return repeated("#opt(maxiter=50, tight)\n", n) + "0 1\n"; }
+
+std::string post_lines(std::size_t n) { return "0 1\n" + repeated("S 1 2 1.5 10\n", n); }
+
+/// A list as JSON has it, in an object that begins with `begin`.
+std::string json_list(std::string_view begin, std::string_view entry, std::size_t n,
+                      std::string_view end) {
+  std::string text(begin);
+  for (std::size_t i = 0; i < n; ++i) {
+    text += i == 0 ? "\n" : ",\n";
+    text += entry;
+  }
+  text += end;
+  return text;
+}
+
+std::string json_atoms(std::size_t n) {
+  return json_list(R"({"geometry": {"kind": "atoms", "charge": 0, "atoms": [)",
+                   R"({"symbol": "C", "x": -0.729, "y": -2.609047, "z": 2.31298})", n, "]}}");
+}
+
+std::string json_parameters(std::size_t n) {
+  return json_list(R"({"commands": [{"name": "a", "kind": "parameter_list", "parameters": [)",
+                   R"({"name": "b", "value": "c"})", n, R"(]}], "geometry": {"kind": "none"}})");
+}
+
+struct Verb {
+  std::string_view name;
+  std::vector<std::string> arguments;
+  std::string (*input)(std::size_t size);
+  std::size_t size;
+};
+
+constexpr std::size_t thousand = 1000;
+
+const Verb verbs[] = {
+    {"ShowOfAtoms", {"show", "-"}, atoms, 2 * thousand},
+    {"ShowOfPostLinesAsJson", {"show", "--json", "-"}, post_lines, 2 * thousand},
+    {"ShowOfCommandsAsJson", {"show", "--json", "-"}, commands, thousand},
+    {"ShowOfLines", {"show", "--lines", "-"}, atoms, 2 * thousand},
+    {"FmtOfAtoms", {"fmt", "-"}, atoms, 2 * thousand},
+    {"FmtOfCommands", {"fmt", "-"}, commands, thousand},
+    {"GetOfAtoms", {"get", "-", "@atoms"}, atoms, 2 * thousand},
+    {"SetInAtoms", {"set", "-", "opt.maxiter=50", "@charge=1"}, atoms, 2 * thousand},
+    {"UnsetOfEveryCommand", {"unset", "-", "opt"}, commands, thousand},
+    {"AddToAtoms", {"add", "-", "--bond", "1,2"}, atoms, 2 * thousand},
+    {"NewOfAtoms", {"new", "--charge", "0", "--atoms", "-"}, xyz_atoms, 2 * thousand},
+    {"JsonOfAtoms", {"json", "-"}, atoms, 2 * thousand},
+    {"JsonOfCommands", {"json", "-"}, commands, thousand},
+    {"FromJsonOfAtoms", {"from-json", "-"}, json_atoms, 2 * thousand},
+    {"FromJsonOfParameters", {"from-json", "-"}, json_parameters, thousand},
+};
+
+Task task_of(const Verb& verb) {
+  return {std::string(verb.name), verb.size, [&verb](std::size_t size) {
+            return [&verb, input = verb.input(size)] {
+              return tool::call_in_memory(verb.arguments, input).code == 0;
+            };
+          }};
+}
+
+std::vector<Task> all_tasks() {
+  std::vector<Task> all;
+  for (const Verb& verb : verbs) all.push_back(task_of(verb));
+  return all;
+}
+
+}  // namespace
+
+void PrintTo(const Task& task, std::ostream* out) { *out << task.name; }
+
+const std::vector<Task>& tasks() {
+  static const std::vector<Task> all = all_tasks();
+  return all;
+}
+
+}  // namespace kelp::input::quill
