@@ -1,0 +1,79 @@
+#include <gtest/gtest.h>
+
+#include "tools/lint/marked_text.hpp"
+#include "tools/lint/page_text.hpp"
+namespace kelp::input::quill::lint {
+
+namespace {
+
+const MarkedRow rows[] = {
+    {"ExistingFiles",
+     "#opt\n"
+     "0 1\n"
+     "XYZ water.xyz\n"
+     "XYZ other.xyz\n"
+     "C 9\n"},
+    {"AnAtomNumberBeyondThoseOfTheFile",
+     "#opt\n"
+     "0 1\n"
+     "XYZ water.xyz\n"
+     "C 2\n"
+     "C 3\n"
+     "  ^ QL305 there is no atom '3': there are 2 atoms\n"},
+    {"AMissingFile",
+     "#opt\n"
+     "0 1\n"
+     "XYZ water.xyz\n"
+     "XYZ no_such_file.xyz\n"
+     "    ^^^^^^^^^^^^^^^^ QL402 there is no file 'no_such_file.xyz'\n"},
+    {"AFolder",
+     "#opt\n"
+     "0 1\n"
+     "XYZ structures\n"
+     "    ^^^^^^^^^^ QL403 the file 'structures' cannot be read: is a folder\n"},
+    {"AFileWithoutAFrame",
+     "#opt\n"
+     "XYZTRAJ   notes.txt  \n"
+     "          ^^^^^^^^^ QL404 the file 'notes.txt' does not begin with a frame of the XYZ "
+     "format\n"
+     "C 3\n"},
+    {"QuotedPaths",
+     "#opt\n"
+     "0 1\n"
+     "XYZ \"my water.xyz\"\n"
+     "    ^^^^^^^^^^^^^^ QL401 the quotes are part of the path \"my water.xyz\"\n"
+     "XYZ 'other.xyz'\n"
+     "    ^^^^^^^^^^^ QL401 the quotes are part of the path 'other.xyz'\n"
+     "XYZ \"a' \n"
+     "POST \"charges.dat\"\n"
+     "     ^^^^^^^^^^^^^ QL401 the quotes are part of the path \"charges.dat\"\n"},
+    {"AnotherReferenceAfterATrajectory",
+     "#irc\n"
+     "XYZTRAJ path.xyz\n"
+     "XYZTRAJ other.xyz\n"
+     "^^^^^^^^^^^^^^^^^ QL405 an input has one trajectory, so the second XYZTRAJ line is kept as "
+     "raw text\n"
+     "xyz third.xyz\n"
+     "^^^^^^^^^^^^^ QL405 an input has one trajectory, so the second XYZ line is kept as raw "
+     "text\n"},
+    {"AnotherReferenceAfterATrajectoryWithoutAPath",
+     "#irc\n"
+     "XYZTRAJ\n"
+     "^^^^^^^ QL114 the XYZTRAJ reference has no file path\n"
+     "XYZ other.xyz\n"
+     "^^^^^^^^^^^^^ QL405 an input has one trajectory, so the second XYZ line is kept as raw "
+     "text\n"},
+};
+
+class ReferenceRules : public testing::TestWithParam<MarkedRow> {};
+
+TEST_P(ReferenceRules, FindExactlyThis) {
+  EXPECT_EQ(marked_anew(GetParam().marked, options_of_pages()), GetParam().marked);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, ReferenceRules, testing::ValuesIn(rows),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+
+}  // namespace kelp::input::quill::lint

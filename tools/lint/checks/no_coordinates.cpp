@@ -1,0 +1,14 @@
+#include "lint/checks/checks.hpp"
+
+namespace kelp::input::quill::lint {
+
+// The line that kept the coordinates from beginning says more than this.
+Findings check_no_coordinates(const Source& source) {
+  const GeometryBlock& geometry = source.input().geometry;
+  const bool has_section =
+      geometry.kind != GeometryKind::None || geometry.has_charge_and_multiplicity;
+  if (has_section || source.broken_line()) return {};
+  return {Finding()};
+}
+
+}  // namespace kelp::input::quill::lint

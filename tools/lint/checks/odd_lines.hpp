@@ -1,0 +1,15 @@
+#ifndef KELP_INPUT_QUILL_LINT_CHECKS_ODD_LINES_HPP
+#define KELP_INPUT_QUILL_LINT_CHECKS_ODD_LINES_HPP
+
+#include "lint/odd_characters.hpp"
+#include "lint/source.hpp"
+
+namespace kelp::input::quill::lint {
+
+/// Returns a finding for each line with characters of this kind, at the first of them. It has a
+/// safe mend where a keyword is one as soon as all odd characters of the line are ASCII.
+Findings find_odd_lines(const Source& source, OddKind kind);
+
+}  // namespace kelp::input::quill::lint
+
+#endif  // KELP_INPUT_QUILL_LINT_CHECKS_ODD_LINES_HPP

@@ -1,0 +1,36 @@
+#include <utility>
+
+#include "lint/checks/checks.hpp"
+#include "lint/header_line.hpp"
+#include "lint/line_repair.hpp"
+#include "lint/tokens.hpp"
+
+namespace kelp::input::quill::lint {
+
+namespace {
+
+void check_value(const Source& source, std::string_view value, Findings& findings) {
+  const Range range = source.range_of(value);
+  std::vector<ByteEdit> edits = ascii_edits(value, range.offset);
+  if (edits.empty()) return;
+  const std::string repaired = with_edits(value, edits, range.offset);
+  if (!is_number(trimmed_view(repaired))) return;
+  findings.push_back({range, {text_fact("value", value)}, {}, Mend{std::move(edits), true}});
+}
+
+}  // namespace
+
+Findings check_odd_number(const Source& source) {
+  Findings findings;
+  if (source.odd_characters().empty()) return findings;
+  for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
+    const HeaderPieces pieces = pieces_of(source, i);
+    check_value(source, pieces.value, findings);
+    for (const ParameterPieces& entry : entries_of(pieces)) {
+      if (entry.value) check_value(source, *entry.value, findings);
+    }
+  }
+  return findings;
+}
+
+}  // namespace kelp::input::quill::lint

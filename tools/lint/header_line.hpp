@@ -1,0 +1,40 @@
+#ifndef KELP_INPUT_QUILL_LINT_HEADER_LINE_HPP
+#define KELP_INPUT_QUILL_LINT_HEADER_LINE_HPP
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lint/source.hpp"
+#include "reader/header_pieces.hpp"
+
+// The pieces of header lines without the blanks around them, for rules that point at one.
+
+namespace kelp::input::quill::lint {
+
+/// Returns the pieces of the line of command number `index`, without blanks around them.
+HeaderPieces pieces_of(const Source& source, std::size_t index);
+
+/// Returns the entries of a parameter list, trimmed, empty ones included. A list that is blank has
+/// none.
+std::vector<ParameterPieces> entries_of(const HeaderPieces& pieces);
+
+/// Returns the whole line of a command, for a finding without a better place.
+Range range_of_command(const Source& source, std::size_t index);
+
+/// Returns the names that mean something in every input, and those that the options add.
+std::vector<std::string> known_names(const Options& options);
+
+/// Returns whether a name, in any letter case, is one of these.
+bool is_known(std::string_view name, const Options& options);
+
+/// Returns the first word of a command's name.
+std::string_view first_word(std::string_view name);
+
+/// Returns the known name that was probably meant by a name that is not known, or nothing.
+std::optional<std::string> meant_name(std::string_view name, const Options& options);
+
+}  // namespace kelp::input::quill::lint
+
+#endif  // KELP_INPUT_QUILL_LINT_HEADER_LINE_HPP

@@ -1,0 +1,43 @@
+#ifndef KELP_INPUT_QUILL_LINT_LINT_HPP
+#define KELP_INPUT_QUILL_LINT_LINT_HPP
+
+// Finds what the reader silently made of a text that its author probably did not mean.
+//
+//   const lossless_edit::ReadText read = lossless_edit::read_text(text);
+//   for (const Finding& finding : find_all(read, Options()))
+//     std::cerr << place_of(finding.range.offset, read.lines).line << ": "
+//               << words_of(finding).message << '\n';
+//
+// A text is read once, by the library; what a line became is what the reader said. The functions
+// have no state, and any number of threads may call them at once.
+
+#include <cstddef>
+#include <vector>
+
+#include "lint/finding.hpp"
+#include "lint/rule.hpp"
+#include "lint/source.hpp"
+#include "lossless_edit/read_text.hpp"
+
+namespace kelp::input::quill::lint {
+
+/// Returns the findings for a text, in the order of their places; those that another one explains
+/// are left out. The time is linear in the length of the text.
+Findings find_all(const lossless_edit::ReadText& read, const Options& options);
+
+/// Returns the findings of every rule, those that another one explains included.
+Findings find_unexplained(const lossless_edit::ReadText& read, const Options& options);
+
+/// A place for people. Lines and columns count from 1, and columns count bytes.
+struct TextPlace {
+  std::size_t line = 1;
+  std::size_t column = 1;
+};
+
+/// Returns the place of a byte of a text with these lines, or of its end. The end of a text without
+/// lines is the first column of line 1. Logarithmic in the number of lines.
+TextPlace place_of(std::size_t offset, const std::vector<LineRecord>& lines);
+
+}  // namespace kelp::input::quill::lint
+
+#endif  // KELP_INPUT_QUILL_LINT_LINT_HPP

@@ -1,0 +1,32 @@
+#ifndef KELP_INPUT_QUILL_LINT_MENDING_HPP
+#define KELP_INPUT_QUILL_LINT_MENDING_HPP
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "lint/finding.hpp"
+#include "lint/source.hpp"
+
+namespace kelp::input::quill::lint {
+
+/// A text after its mends, and how many findings were mended.
+struct MendedText {
+  std::string text = {};
+  std::size_t count = 0;
+};
+
+/// Returns the edits of all safe mends of these findings, in order. Of mends that overlap, or that
+/// insert in the same place, the first one is taken whole and the others wait for another round.
+/// `count` becomes the number of mends that were taken.
+std::vector<ByteEdit> safe_edits(const Findings& findings, std::size_t& count);
+
+/// Mends a text, reads it again and mends what is then found, until nothing is left to mend.
+/// Findings for which `is_wanted` is false are left alone.
+MendedText mend(std::string text, const Options& options,
+                const std::function<bool(const Finding&)>& is_wanted);
+
+}  // namespace kelp::input::quill::lint
+
+#endif  // KELP_INPUT_QUILL_LINT_MENDING_HPP

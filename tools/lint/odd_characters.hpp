@@ -1,0 +1,30 @@
+#ifndef KELP_INPUT_QUILL_LINT_ODD_CHARACTERS_HPP
+#define KELP_INPUT_QUILL_LINT_ODD_CHARACTERS_HPP
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace kelp::input::quill::lint {
+
+/// Characters beyond ASCII that look like a character with a meaning in an input, or like nothing.
+enum class OddKind {
+  Blank,      // the no-break space and its like, which the reader takes for a letter
+  Invisible,  // without a width, byte order marks and marks of direction among them
+  Minus,      // the minus sign, and dashes that word processors put in its place
+  Quote,      // typographic double and single quotes
+};
+
+struct OddCharacter {
+  OddKind kind = OddKind::Blank;
+  std::size_t offset = 0;  // in the text that was searched
+  std::size_t length = 0;
+  char32_t code_point = 0;
+};
+
+/// Returns these characters of a text, in their order. Bytes that are not UTF-8 are passed over.
+std::vector<OddCharacter> find_odd_characters(std::string_view text);
+
+}  // namespace kelp::input::quill::lint
+
+#endif  // KELP_INPUT_QUILL_LINT_ODD_CHARACTERS_HPP

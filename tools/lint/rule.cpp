@@ -1,0 +1,39 @@
+#include "lint/rule.hpp"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "kelp/core/text.hpp"
+
+namespace kelp::input::quill::lint {
+
+namespace {
+
+constexpr std::string_view severity_names[] = {"info", "warning", "error"};
+constexpr std::string_view group_names[] = {
+    "file", "header", "geometry", "references", "post-processing", "writing", "chemistry"};
+
+}  // namespace
+
+std::string_view name_of(Severity severity) {
+  return severity_names[static_cast<std::size_t>(severity)];
+}
+
+std::string_view name_of(Group group) { return group_names[static_cast<std::size_t>(group)]; }
+
+const std::vector<Group>& all_groups() {
+  static const std::vector<Group> groups = {
+      Group::File,           Group::Header,  Group::Geometry, Group::References,
+      Group::PostProcessing, Group::Writing, Group::Chemistry};
+  return groups;
+}
+
+const Rule* find_rule(std::string_view code) {
+  const std::string wanted = core::text::to_upper_copy(code);
+  const std::vector<Rule>& rules = all_rules();
+  const auto rule =
+      std::find_if(rules.begin(), rules.end(), [&](const Rule& row) { return row.code == wanted; });
+  return rule == rules.end() ? nullptr : &*rule;
+}
+
+}  // namespace kelp::input::quill::lint

@@ -1,0 +1,63 @@
+#ifndef KELP_INPUT_QUILL_LINT_RULE_HPP
+#define KELP_INPUT_QUILL_LINT_RULE_HPP
+
+#include <string_view>
+#include <vector>
+
+#include "lint/finding.hpp"
+
+namespace kelp::input::quill::lint {
+
+class Source;
+
+/// How bad a finding is. An error means that the reader made something else of the text than its
+/// author can have meant; a warning, that this is likely; an info, that it is worth a look.
+enum class Severity { Info, Warning, Error };
+
+/// What a rule looks at. Each group can be selected or ignored as one.
+enum class Group { File, Header, Geometry, References, PostProcessing, Writing, Chemistry };
+
+/// What else a finding explains. Findings that are explained are left out of a report.
+enum class Explains {
+  Itself,  // nothing else
+  Line,    // every finding on its line
+  Text,    // every finding in the text
+};
+
+/// How far the lines that a mend changes reach.
+enum class MendReach {
+  Line,  // the reader makes something else of this line alone
+  Rest,  // and of lines after it, which the unmended line had put into another section
+};
+
+/// One kind of finding. `message` and `advice` are templates for words_of(): "{name}" stands for a
+/// fact, "{name|one|several}" chooses by a count, and "[...]" is left out when a fact in it is
+/// absent.
+struct Rule {
+  std::string_view code;
+  Severity severity;
+  Group group;
+  std::string_view title;
+  std::string_view message;
+  std::string_view advice;
+  Findings (*check)(const Source&);
+  Explains explains = Explains::Itself;
+  MendReach reach = MendReach::Line;
+  std::string_view since = "0.1.0";
+};
+
+std::string_view name_of(Severity severity);
+std::string_view name_of(Group group);
+
+/// All groups, in the order of the enumeration.
+const std::vector<Group>& all_groups();
+
+/// The one table of rules, in the order of the codes. A code is never given to another rule.
+const std::vector<Rule>& all_rules();
+
+/// Returns the rule of a code, in any letter case, or a null pointer.
+const Rule* find_rule(std::string_view code);
+
+}  // namespace kelp::input::quill::lint
+
+#endif  // KELP_INPUT_QUILL_LINT_RULE_HPP

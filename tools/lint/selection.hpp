@@ -1,0 +1,32 @@
+#ifndef KELP_INPUT_QUILL_LINT_SELECTION_HPP
+#define KELP_INPUT_QUILL_LINT_SELECTION_HPP
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lint/finding.hpp"
+
+namespace kelp::input::quill::lint {
+
+/// Which rules count. Names are those of codes or of groups, in any letter case.
+struct Selection {
+  std::vector<std::string> selected = {};  // none stands for all
+  std::vector<std::string> ignored = {};   // wins over `selected`
+};
+
+/// Returns whether a rule counts.
+bool is_selected(std::string_view code, const Selection& selection);
+
+/// Returns whether a name is that of a rule or a group.
+bool is_rule_or_group(std::string_view name);
+
+/// Returns the codes of all rules and the names of all groups.
+std::vector<std::string> rule_and_group_names();
+
+/// Removes the findings of rules that do not count.
+void keep_selected(Findings& findings, const Selection& selection);
+
+}  // namespace kelp::input::quill::lint
+
+#endif  // KELP_INPUT_QUILL_LINT_SELECTION_HPP
