@@ -14,6 +14,9 @@ if(KELP_QUILL_INP_BUNDLED_SISTERS)
 endif()
 kelp_quill_inp_install_library(kelp_quill_inp "${PROJECT_DESCRIPTION}"
   kelp_core_text kelp_chem_elements)
+kelp_quill_inp_install_library(kelp_quill_lossless
+  "Edits QUILL input files and keeps what the edit does not concern"
+  kelp_quill_inp kelp_core_text)
 
 if(KELP_QUILL_INP_BUILD_TOOLS)
   include(cmake/install_tool.cmake)

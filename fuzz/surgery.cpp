@@ -4,9 +4,9 @@
 #include <cstdint>
 
 #include "fuzz/target.hpp"
-#include "tools/properties/surgery.hpp"
+#include "lossless/properties/surgery.hpp"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  kelp::input::quill::lossless_edit::check_surgery(kelp::input::quill::as_text(data, size));
+  kelp::input::quill::lossless::check_surgery(kelp::input::quill::as_text(data, size));
   return 0;
 }

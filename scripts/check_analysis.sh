@@ -20,7 +20,7 @@ need_packages "${tool_packages[@]}" cppcheck
 cppcheck --quiet --error-exitcode=1 -j "$(nproc)" --std=c++17 --language=c++ \
   --enable=warning,style,performance,portability \
   --suppressions-list=scripts/support/cppcheck_suppressions.txt \
-  -I include -I src/support -I src -I tools src sisters examples tools
+  -I include -I src/support -I src -I lossless -I tools src sisters lossless examples tools
 echo "cppcheck has no findings"
 if [ "${1:-}" = cppcheck ]; then exit 0; fi
 
@@ -38,7 +38,7 @@ mkdir -p build/analyzer
 if ! {
   cmake --preset analyzer &&
     list_objects_of_tool | xargs cmake --build --preset analyzer --target kelp_core_text \
-      kelp_chem_elements kelp_quill_inp examples/all tools/lossless_edit/all
+      kelp_chem_elements kelp_quill_inp kelp_quill_lossless examples/all
 } >"$log" 2>&1; then
   grep -E 'error:|warning:' "$log" >&2 || tail -n 30 "$log" >&2
   echo "The whole output is in $log." >&2

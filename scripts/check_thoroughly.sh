@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 step() { printf '\n=== %s (after %d s)\n' "$*" "$SECONDS"; }
 
 step "clang-tidy over everything"
-./check_tidy.sh src sisters tools bench examples tests fuzz
+./check_tidy.sh src sisters lossless tools bench examples tests fuzz
 
 step "g++'s analyzer"
 ./check_analysis.sh

@@ -12,7 +12,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 need_packages "${test_packages[@]}" libbenchmark-dev clang clang-tidy
 
-if [ $# -eq 0 ]; then set -- src sisters tools bench examples; fi
+if [ $# -eq 0 ]; then set -- src sisters lossless tools bench examples; fi
 cmake --preset clang -B build/tidy -DKELP_QUILL_INP_BUILD_BENCHMARKS=ON \
   -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
 find "$@" -name '*.cpp' ! -name '*_test.cpp' -print0 |

@@ -22,10 +22,12 @@ make_project() {
   file src/low/low.hpp '#include "kelp/a.hpp"'
   file sisters/one/own.hpp '// nothing'
   file sisters/one/own.cpp '#include "own.hpp"'
+  file lossless/edit/text.cpp '#include "edit/text.hpp"'
+  file lossless/edit/text.hpp '#include "kelp/a.hpp"'
   file tools/quill-inp/main.cpp '#include "quill-inp/verbs/verb.hpp"'
   file tools/quill-inp/verbs/verb.hpp '#include "kelp/a.hpp"'
   printf '%s\n' '# A table.' 'src/top: src/low' 'src/low: include' \
-    'tools/quill-inp: tools/quill-inp/verbs' 'tools/quill-inp/verbs: include' 'include:' \
+    'tools/quill-inp: tools/quill-inp/verbs' 'tools/quill-inp/verbs: include' 'lossless: include' 'include:' \
     'sisters:' >"$scratch/table"
 }
 
@@ -94,7 +96,7 @@ file tools/quill-inp/run.cpp '#include "quill-inp/1/a.hpp"'
 is_refused 'tools/quill-inp: a chain of 10 folders'
 
 rm -rf "$scratch/project"
-mkdir -p "$scratch/project/include" "$scratch/project/src" "$scratch/project/sisters" "$scratch/project/tools"
+mkdir -p "$scratch/project/include" "$scratch/project/src" "$scratch/project/sisters" "$scratch/project/lossless" "$scratch/project/tools"
 is_refused 'there are no sources'
 
 if [ "$failures" -ne 0 ]; then

@@ -140,12 +140,12 @@ bool resembles_coordinates(std::string_view line, Kind kind) {
   return resembles_atom_line(line) || (kind == Kind::Charge && resembles_reference(line));
 }
 
-std::size_t count_lost(const lossless_edit::ReadText& read, const BrokenLine& broken) {
+std::size_t count_lost(const lossless::ReadText& read, const BrokenLine& broken) {
   std::size_t lost = 0;
   for (std::size_t i = broken.line + 1; i < read.lines.size(); ++i) {
     const LineRecord& line = read.lines[i];
     if (is_text_alone(line, read.result.input) &&
-        resembles_coordinates(lossless_edit::content_of(line, read.text), broken.kind))
+        resembles_coordinates(lossless::content_of(line, read.text), broken.kind))
       ++lost;
   }
   return lost;
@@ -167,14 +167,13 @@ bool resembles_atom_line(std::string_view line) {
   return kind_of_atom(content, tokens_of(content)).has_value();
 }
 
-std::optional<BrokenLine> find_broken_line(const lossless_edit::ReadText& read) {
+std::optional<BrokenLine> find_broken_line(const lossless::ReadText& read) {
   const GeometryBlock& geometry = read.result.input.geometry;
   if (geometry.kind != GeometryKind::None && geometry.kind != GeometryKind::Atoms)
     return std::nullopt;
   const auto line = first_post_line(read.lines);
   if (!line || !is_text_alone(read.lines[*line], read.result.input)) return std::nullopt;
-  const std::string_view content =
-      trimmed_view(lossless_edit::content_of(read.lines[*line], read.text));
+  const std::string_view content = trimmed_view(lossless::content_of(read.lines[*line], read.text));
   const Tokens tokens = tokens_of(content);
 
   BrokenLine broken;

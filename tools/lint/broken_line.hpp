@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "lossless_edit/read_text.hpp"
+#include "kelp/input/quill/lossless/read_text.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -26,7 +26,7 @@ struct BrokenLine {
 };
 
 /// Looks at the first line that the reader took for post-processing.
-std::optional<BrokenLine> find_broken_line(const lossless_edit::ReadText& read);
+std::optional<BrokenLine> find_broken_line(const lossless::ReadText& read);
 
 /// Returns whether a line looks like one of an atom, whether or not the reader takes it for one. A
 /// constraint does not.

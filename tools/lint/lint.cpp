@@ -60,7 +60,7 @@ void leave_out_explained(Findings& findings, const std::vector<LineRecord>& line
 
 }  // namespace
 
-Findings find_unexplained(const lossless_edit::ReadText& read, const Options& options) {
+Findings find_unexplained(const lossless::ReadText& read, const Options& options) {
   const Source source(read, options);
   Findings all;
   for (const Rule& rule : all_rules()) {
@@ -73,7 +73,7 @@ Findings find_unexplained(const lossless_edit::ReadText& read, const Options& op
   return all;
 }
 
-Findings find_all(const lossless_edit::ReadText& read, const Options& options) {
+Findings find_all(const lossless::ReadText& read, const Options& options) {
   Findings findings = find_unexplained(read, options);
   if (!keep_only_explanation(findings)) leave_out_explained(findings, read.lines);
   return findings;

@@ -3,7 +3,7 @@
 
 // Finds what the reader silently made of a text that its author probably did not mean.
 //
-//   const lossless_edit::ReadText read = lossless_edit::read_text(text);
+//   const lossless::ReadText read = lossless::read_text(text);
 //   for (const Finding& finding : find_all(read, Options()))
 //     std::cerr << place_of(finding.range.offset, read.lines).line << ": "
 //               << words_of(finding).message << '\n';
@@ -14,19 +14,19 @@
 #include <cstddef>
 #include <vector>
 
+#include "kelp/input/quill/lossless/read_text.hpp"
 #include "lint/finding.hpp"
 #include "lint/rule.hpp"
 #include "lint/source.hpp"
-#include "lossless_edit/read_text.hpp"
 
 namespace kelp::input::quill::lint {
 
 /// Returns the findings for a text, in the order of their places; those that another one explains
 /// are left out. The time is linear in the length of the text.
-Findings find_all(const lossless_edit::ReadText& read, const Options& options);
+Findings find_all(const lossless::ReadText& read, const Options& options);
 
 /// Returns the findings of every rule, those that another one explains included.
-Findings find_unexplained(const lossless_edit::ReadText& read, const Options& options);
+Findings find_unexplained(const lossless::ReadText& read, const Options& options);
 
 /// A place for people. Lines and columns count from 1, and columns count bytes.
 struct TextPlace {

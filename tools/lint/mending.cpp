@@ -50,7 +50,7 @@ MendedText mend(std::string text, const Options& options,
                 const std::function<bool(const Finding&)>& is_wanted) {
   MendedText mended{std::move(text)};
   for (;;) {
-    const lossless_edit::ReadText read = lossless_edit::read_text(mended.text);
+    const lossless::ReadText read = lossless::read_text(mended.text);
     Findings findings = find_all(read, options);
     findings.erase(std::remove_if(findings.begin(), findings.end(),
                                   [&](const Finding& finding) { return !is_wanted(finding); }),

@@ -3,9 +3,9 @@
 #include <cmath>
 #include <string>
 
+#include "editing/expected_lines.hpp"
 #include "kelp/input/quill/writer.hpp"
 #include "lint/tokens.hpp"
-#include "lossless_edit/expected_lines.hpp"
 #include "reader/coordinate_lines.hpp"
 #include "reader/post_line.hpp"
 
@@ -33,7 +33,7 @@ bool is_narrow(double coordinate) { return std::fabs(coordinate) < least_width; 
 void add_atom_changes(const AtomRecord& atom, std::size_t line,
                       std::vector<RoundedNumber>& changes) {
   AtomRecord again;
-  if (!parse_atom_line(lossless_edit::atom_line(atom), again)) return;
+  if (!parse_atom_line(lossless::atom_line(atom), again)) return;
   const double before[coordinates] = {atom.x, atom.y, atom.z};
   const double after[coordinates] = {again.x, again.y, again.z};
   for (std::size_t axis = 0; axis < coordinates; ++axis) {
@@ -66,7 +66,7 @@ std::vector<RoundedNumber> rounded_numbers(const Source& source) {
 
 bool reads_back(const AtomRecord& atom) {
   if (is_narrow(atom.x) && is_narrow(atom.y) && is_narrow(atom.z)) return true;
-  return !find_token_unlike_an_atom(lossless_edit::atom_line(atom));
+  return !find_token_unlike_an_atom(lossless::atom_line(atom));
 }
 
 Range range_of(const Source& source, const RoundedNumber& number) {

@@ -18,7 +18,7 @@ Reference read_reference(const Options& options, const std::string& path) {
 
 }  // namespace
 
-Source::Source(const lossless_edit::ReadText& read, const Options& options)
+Source::Source(const lossless::ReadText& read, const Options& options)
     : read_(read), options_(options) {
   sort_lines();
   odd_characters_ = find_odd_characters(text());
@@ -47,7 +47,7 @@ void Source::sort_lines() {
 }
 
 std::string_view Source::content(std::size_t line) const {
-  return lossless_edit::content_of(lines()[line], text());
+  return lossless::content_of(lines()[line], text());
 }
 
 std::string_view Source::trimmed(std::size_t line) const { return trimmed_view(content(line)); }

@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
+#include "kelp/input/quill/lossless/read_text.hpp"
 #include "lint/broken_line.hpp"
 #include "lint/finding.hpp"
 #include "lint/odd_characters.hpp"
-#include "lossless_edit/read_text.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -44,9 +44,9 @@ struct Reference {
 /// need of that. Keeps references to both arguments of its constructor.
 class Source {
  public:
-  Source(const lossless_edit::ReadText& read, const Options& options);
+  Source(const lossless::ReadText& read, const Options& options);
 
-  const lossless_edit::ReadText& read() const { return read_; }
+  const lossless::ReadText& read() const { return read_; }
   const Options& options() const { return options_; }
   std::string_view text() const { return read_.text; }
   const QuillInput& input() const { return read_.result.input; }
@@ -86,7 +86,7 @@ class Source {
  private:
   void sort_lines();
 
-  const lossless_edit::ReadText& read_;
+  const lossless::ReadText& read_;
   const Options& options_;
   std::vector<std::size_t> command_lines_;
   std::vector<std::size_t> atom_lines_;

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <optional>
 
+#include "kelp/input/quill/lossless/wording.hpp"
 #include "lint/rule.hpp"
-#include "lossless_edit/wording.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -13,7 +13,7 @@ namespace {
 
 struct ValueText {
   std::string operator()(std::int64_t number) const { return std::to_string(number); }
-  std::string operator()(double number) const { return lossless_edit::rounded_text(number); }
+  std::string operator()(double number) const { return lossless::rounded_text(number); }
   std::string operator()(const std::string& text) const { return text; }
 };
 

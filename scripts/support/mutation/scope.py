@@ -39,9 +39,20 @@ LIBRARIES = Scope(
     executable="",
     lowest_share=0.96)
 
+LOSSLESS = Scope(
+    name="lossless",
+    mutated=("lossless",),
+    left_out=(),
+    enumerations=("include", "lossless"),
+    sources=("lossless",),
+    tests=("tests/lossless",),
+    libraries=("kelp_quill_lossless",),
+    executable="",
+    lowest_share=0.9)
+
 TOOLS = Scope(
     name="tools",
-    mutated=("tools/lossless_edit", "tools/quill-inp/editing", "tools/quill-inp/files",
+    mutated=("tools/quill-inp/editing", "tools/quill-inp/files",
              "tools/quill-inp/formats", "tools/quill-inp/keys"),
     left_out=(),
     enumerations=("include", "tools"),
@@ -51,4 +62,4 @@ TOOLS = Scope(
     executable="tools/quill-inp/quill-inp",
     lowest_share=0.9)
 
-SCOPES = (LIBRARIES, TOOLS)
+SCOPES = (LIBRARIES, LOSSLESS, TOOLS)

@@ -156,7 +156,7 @@ const BytesRow bytes_rows[] = {
 class FileBytes : public testing::TestWithParam<BytesRow> {};
 
 TEST_P(FileBytes, DrawExactlyThis) {
-  const lossless_edit::ReadText read = lossless_edit::read_text(GetParam().bytes);
+  const lossless::ReadText read = lossless::read_text(GetParam().bytes);
   std::string words;
   for (const Finding& finding : find_all(read, Options()))
     words += std::string(finding.code) + " " + std::to_string(finding.range.offset) + "+" +

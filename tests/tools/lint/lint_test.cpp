@@ -52,26 +52,26 @@ TEST(Findings, AreInTheOrderOfTheirPlaces) {
 }
 
 TEST(Findings, ThatAnotherOneExplainsAreLeftOut) {
-  const lossless_edit::ReadText read =
-      lossless_edit::read_text("#opt\n0 1\nH 0 0 0\nH 0 0 0.741\nB 1 \xC2\xA0x\n");
+  const lossless::ReadText read =
+      lossless::read_text("#opt\n0 1\nH 0 0 0\nH 0 0 0.741\nB 1 \xC2\xA0x\n");
   EXPECT_THAT(codes_of(find_unexplained(read, Options())), testing::ElementsAre("QL004", "QL301"));
   EXPECT_THAT(codes_of(find_all(read, Options())), testing::ElementsAre("QL301"));
 }
 
 TEST(Findings, AboutWhatIsMissingAreNotExplainedByTheFirstLine) {
-  const lossless_edit::ReadText read = lossless_edit::read_text("#opt(x='1)\n");
+  const lossless::ReadText read = lossless::read_text("#opt(x='1)\n");
   EXPECT_THAT(codes_of(find_all(read, Options())), testing::ElementsAre("QL113", "QL214"));
 }
 
 TEST(Findings, OfAWholeTextLeaveOutAllOthers) {
-  const lossless_edit::ReadText read =
-      lossless_edit::read_text("\xEF\xBB\xBF#opt\n#model\r\n0 1\nHe 0 0 0\nC 0\n");
+  const lossless::ReadText read =
+      lossless::read_text("\xEF\xBB\xBF#opt\n#model\r\n0 1\nHe 0 0 0\nC 0\n");
   EXPECT_THAT(codes_of(find_all(read, Options())), testing::ElementsAre("QL001"));
 }
 
 TEST(Findings, NameTheOtherPlace) {
   const std::string text = "#opt(a, b, a)\n0 1\nHe 0 0 0\n";
-  const lossless_edit::ReadText read = lossless_edit::read_text(text);
+  const lossless::ReadText read = lossless::read_text(text);
   const Findings findings = find_all(read, Options());
   ASSERT_EQ(findings.size(), 1U);
   ASSERT_EQ(findings[0].related.size(), 1U);
@@ -82,7 +82,7 @@ TEST(Findings, NameTheOtherPlace) {
 
 /// The place of the one related line of the one finding with the code.
 std::string related_of(const std::string& text, std::string_view code) {
-  const lossless_edit::ReadText read = lossless_edit::read_text(text);
+  const lossless::ReadText read = lossless::read_text(text);
   for (const Finding& finding : find_all(read, Options())) {
     if (finding.code != code || finding.related.size() != 1) continue;
     const RelatedPlace& place = finding.related.front();
@@ -102,8 +102,8 @@ TEST(Findings, NameTheLineBecauseOfWhichAnotherOneIsText) {
 }
 
 TEST(KnownNames, AreThoseOfTheProjectAndOfOtherInputs) {
-  const lossless_edit::ReadText read =
-      lossless_edit::read_text("#opt\n#solvnt = water\n#grids = fine\n0 1\nHe 0 0 0\n");
+  const lossless::ReadText read =
+      lossless::read_text("#opt\n#solvnt = water\n#grids = fine\n0 1\nHe 0 0 0\n");
   Options options;
   EXPECT_THAT(codes_of(find_all(read, options)), testing::IsEmpty());
   options.known_commands = {"solvent"};
@@ -117,7 +117,7 @@ TEST(KnownNames, AreThoseOfTheProjectAndOfOtherInputs) {
 }
 
 TEST(LargestChange, DecidesWhichRuleSpeaks) {
-  const lossless_edit::ReadText read = lossless_edit::read_text("#opt\n0 1\nHe 0 0 0.1234564\n");
+  const lossless::ReadText read = lossless::read_text("#opt\n0 1\nHe 0 0 0.1234564\n");
   Options options;
   EXPECT_THAT(codes_of(find_all(read, options)), testing::ElementsAre("QL504"));
   options.max_change = 1e-7;

@@ -65,7 +65,7 @@ std::string with_marks(std::string_view text, const Findings& findings) {
 
 std::string marked_anew(std::string_view marked, const Options& options) {
   const std::string text = without_marks(marked);
-  return with_marks(text, find_all(lossless_edit::read_text(text), options));
+  return with_marks(text, find_all(lossless::read_text(text), options));
 }
 
 }  // namespace kelp::input::quill::lint

@@ -20,7 +20,7 @@ namespace {
 
 /// The text with marks for what is above info in it.
 std::string with_alarms(const std::string& text, const Options& options) {
-  const lossless_edit::ReadText read = lossless_edit::read_text(text);
+  const lossless::ReadText read = lossless::read_text(text);
   Findings findings = find_all(read, options);
   findings.erase(std::remove_if(findings.begin(), findings.end(),
                                 [](const Finding& finding) {

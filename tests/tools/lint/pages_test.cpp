@@ -31,7 +31,7 @@ std::vector<std::string> codes_of(const Findings& findings) {
 }
 
 Findings findings_of(const std::string& text) {
-  const lossless_edit::ReadText read = lossless_edit::read_text(text);
+  const lossless::ReadText read = lossless::read_text(text);
   return find_all(read, options_of_pages());
 }
 

@@ -3,12 +3,12 @@
 #include <optional>
 #include <string>
 
+#include "lossless/properties/made_edits.hpp"
 #include "properties/violation.hpp"
 #include "quill-inp/formats/document_json.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/text/utf8.hpp"
 #include "support/comparison.hpp"
-#include "tools/properties/made_edits.hpp"
 #include "tools/quill-inp/support/json_of.hpp"
 
 namespace kelp::input::quill::tool {

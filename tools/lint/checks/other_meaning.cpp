@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <limits>
 
+#include "kelp/input/quill/lossless/proof.hpp"
+#include "kelp/input/quill/lossless/quoting.hpp"
 #include "lint/checks/checks.hpp"
-#include "lossless_edit/proof.hpp"
-#include "lossless_edit/quoting.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -25,9 +25,9 @@ std::size_t find_vanishing_line(const Source& source) {
 
 /// Returns the line of the text whose part another one is taken for, if there is one.
 std::optional<std::size_t> line_of(const Source& source,
-                                   const std::optional<lossless_edit::Part>& part) {
+                                   const std::optional<lossless::Part>& part) {
   if (!part) return std::nullopt;
-  return lossless_edit::find_line(source.lines(), part->role, part->index);
+  return lossless::find_line(source.lines(), part->role, part->index);
 }
 
 }  // namespace
@@ -36,9 +36,9 @@ std::optional<std::size_t> line_of(const Source& source,
 Findings check_other_meaning(const Source& source) {
   const std::size_t vanishing = find_vanishing_line(source);
   if (vanishing == source.lines().size() || source.broken_line()) return {};
-  const lossless_edit::QuotedDocument quoted = lossless_edit::quote(source.input());
-  const lossless_edit::Proof proof = lossless_edit::prove(
-      quoted.document.to_string(), source.input(), std::numeric_limits<double>::infinity());
+  const lossless::QuotedDocument quoted = lossless::quote(source.input());
+  const lossless::Proof proof = lossless::prove(quoted.document.to_string(), source.input(),
+                                                std::numeric_limits<double>::infinity());
   if (proof.holds() || !proof.explanation) return {};
   const auto line = line_of(source, proof.explanation->wanted);
   if (!line || *line <= vanishing) return {};

@@ -15,7 +15,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-using lossless_edit::TrackedDocument;
+using lossless::TrackedDocument;
 
 constexpr Option atoms_option{"--atoms", "FILE.xyz",
                               "Copy the atoms of an XYZ file into the input"};

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "lossless_edit/tracked_document.hpp"
+#include "kelp/input/quill/lossless/tracked_document.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/session/session.hpp"
 
@@ -13,7 +13,7 @@ namespace kelp::input::quill::tool {
 void add_geometry_options(CLI::App& verb);
 
 /// A function that sets the geometry of a document.
-using GeometryChange = std::function<void(lossless_edit::TrackedDocument&)>;
+using GeometryChange = std::function<void(lossless::TrackedDocument&)>;
 
 /// Returns the change that these options ask for, empty if none of them was given. Reads the atoms
 /// of the file that --atoms names. Throws UsageError for two of the options and for a path that

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <optional>
 
+#include "kelp/input/quill/lossless/equality.hpp"
 #include "kelp/input/quill/writer.hpp"
-#include "lossless_edit/equality.hpp"
 #include "quill-inp/editing/referenced_atoms.hpp"
 
 namespace kelp::input::quill::tool {
@@ -56,7 +56,7 @@ bool is_finite(const AtomRecord& atom) {
 void judge_atoms(const std::vector<AtomRecord>& before, const std::vector<AtomRecord>& after,
                  std::vector<AdditionDoubt>& doubts) {
   for (std::size_t i = 0; i < after.size(); ++i) {
-    const bool was_there = i < before.size() && lossless_edit::is_equal(before[i], after[i]);
+    const bool was_there = i < before.size() && lossless::is_equal(before[i], after[i]);
     if (!is_finite(after[i]) && !was_there) {
       doubts.push_back({Kind::CoordinateNotFinite, {}, static_cast<std::int64_t>(i) + 1});
     }

@@ -10,8 +10,8 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-std::size_t line_of(const lossless_edit::ReadText& read, std::size_t command) {
-  return 1 + lossless_edit::find_line(read.lines, LineRole::Command, command).value();
+std::size_t line_of(const lossless::ReadText& read, std::size_t command) {
+  return 1 + lossless::find_line(read.lines, LineRole::Command, command).value();
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-using lossless_edit::TrackedDocument;
+using lossless::TrackedDocument;
 
 /// Makes one setting after another and collects what to report about them.
 class Settings {

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "lossless_edit/tracked_document.hpp"
+#include "kelp/input/quill/lossless/tracked_document.hpp"
 #include "quill-inp/editing/edit_report.hpp"
 #include "quill-inp/keys/key.hpp"
 
@@ -15,7 +15,7 @@ namespace kelp::input::quill::tool {
 /// created, and new names that are similar to an existing one. Throws UsageError for keys that
 /// cannot be set.
 EditReport apply_settings(const std::vector<Setting>& settings,
-                          lossless_edit::TrackedDocument& document);
+                          lossless::TrackedDocument& document);
 
 }  // namespace kelp::input::quill::tool
 

@@ -8,7 +8,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-using lossless_edit::LineChange;
+using lossless::LineChange;
 
 enum class ChangeKind { Added, Changed, Removed };
 
@@ -43,18 +43,16 @@ std::size_t end_of_run(const std::vector<LineChange>& changes, std::size_t begin
   return end;
 }
 
-std::string_view content_of_change(const lossless_edit::ReadText& read,
-                                   const lossless_edit::SurgicalEdit& edit,
-                                   const LineChange& change) {
-  return change.new_line
-             ? lossless_edit::content_of(edit.proof.lines[*change.new_line - 1], edit.text)
-             : lossless_edit::content_of(read.lines[*change.old_line - 1], read.text);
+std::string_view content_of_change(const lossless::ReadText& read,
+                                   const lossless::SurgicalEdit& edit, const LineChange& change) {
+  return change.new_line ? lossless::content_of(edit.proof.lines[*change.new_line - 1], edit.text)
+                         : lossless::content_of(read.lines[*change.old_line - 1], read.text);
 }
 
 }  // namespace
 
 std::vector<ChangeNote> describe_changes(const ReadInput& input,
-                                         const lossless_edit::SurgicalEdit& edit) {
+                                         const lossless::SurgicalEdit& edit) {
   std::vector<ChangeNote> notes;
   for (std::size_t begin = 0; begin < edit.changes.size();) {
     const std::size_t end = end_of_run(edit.changes, begin);

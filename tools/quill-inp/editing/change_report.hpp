@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "lossless_edit/surgical_edit.hpp"
+#include "kelp/input/quill/lossless/surgical_edit.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/session/reporter.hpp"
 
@@ -20,7 +20,7 @@ struct ChangeNote {
 /// text, and several lines of the same kind in a row as one range. Removed lines have their old
 /// numbers, all others their new ones.
 std::vector<ChangeNote> describe_changes(const ReadInput& input,
-                                         const lossless_edit::SurgicalEdit& edit);
+                                         const lossless::SurgicalEdit& edit);
 
 }  // namespace kelp::input::quill::tool
 

@@ -3,7 +3,7 @@
 #include <utility>
 #include <vector>
 
-#include "lossless_edit/surgical_edit.hpp"
+#include "kelp/input/quill/lossless/surgical_edit.hpp"
 #include "quill-inp/editing/addition_doubts.hpp"
 #include "quill-inp/editing/ambiguity_notes.hpp"
 #include "quill-inp/editing/change_report.hpp"
@@ -14,16 +14,16 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-using lossless_edit::ReadText;
-using lossless_edit::SurgicalEdit;
-using lossless_edit::TrackedDocument;
+using lossless::ReadText;
+using lossless::SurgicalEdit;
+using lossless::TrackedDocument;
 
 void report_notes(Session& session, const ReadInput& input, const std::vector<EditNote>& notes) {
   for (const EditNote& note : notes) {
     Place place{input.name};
     if (note.command)
       place.line =
-          1 + lossless_edit::find_line(input.read.lines, LineRole::Command, note.command).value();
+          1 + lossless::find_line(input.read.lines, LineRole::Command, note.command).value();
     session.reporter().note(place, words(note));
   }
 }
@@ -32,7 +32,7 @@ void report_notes(Session& session, const ReadInput& input, const std::vector<Ed
 /// change hold nothing more than what they were read as.
 std::vector<LineLoss> list_header_losses(const ReadText& read, const SurgicalEdit& edit) {
   std::vector<LineLoss> losses;
-  for (const lossless_edit::LineChange& change : edit.changes) {
+  for (const lossless::LineChange& change : edit.changes) {
     if (!change.old_line || read.lines[*change.old_line - 1].role != LineRole::Command) continue;
     if (const auto loss = find_line_loss(read, *change.old_line - 1)) losses.push_back(*loss);
   }
@@ -61,7 +61,7 @@ ExitCode edit_file(Session& session, const std::string& argument, const Edit& ed
       find_addition_doubts(input.read.result.input, document.document(), folder_of(input));
   if (!accept_additions(session, input.name, doubts, policy)) return ExitCode::Trouble;
 
-  SurgicalEdit edited = lossless_edit::render(input.read, document, policy.max_change);
+  SurgicalEdit edited = lossless::render(input.read, document, policy.max_change);
   note_number_changes(session, input.name, edited.proof.comparison.number_changes);
   const Losses losses{std::move(report.losses), list_header_losses(input.read, edited),
                       std::move(edited.quoting_problems), edited.proof, document.document()};

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "lossless_edit/tracked_document.hpp"
+#include "kelp/input/quill/lossless/tracked_document.hpp"
 #include "quill-inp/editing/delivery.hpp"
 #include "quill-inp/editing/edit_report.hpp"
 #include "quill-inp/editing/loss_policy.hpp"
@@ -13,7 +13,7 @@
 namespace kelp::input::quill::tool {
 
 /// Changes a document and returns what to report about that. May throw UsageError.
-using Edit = std::function<EditReport(lossless_edit::TrackedDocument&)>;
+using Edit = std::function<EditReport(lossless::TrackedDocument&)>;
 
 /// Reads an input, edits its document and delivers the whole new text or nothing. The answer is
 /// "no" when something is missing. Throws Trouble and UsageError.

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "kelp/core/text.hpp"
-#include "lossless_edit/input_doubt.hpp"
-#include "lossless_edit/wording.hpp"
+#include "kelp/input/quill/lossless/input_doubt.hpp"
+#include "kelp/input/quill/lossless/wording.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/editing/wording.hpp"
 #include "quill-inp/process/trouble.hpp"
@@ -64,13 +64,13 @@ LossPolicy read_loss_policy(const CLI::App& verb) {
 }
 
 bool accept_as_input(Session& session, const ReadInput& input, const LossPolicy& policy) {
-  const auto doubt = lossless_edit::find_input_doubt(input.read);
+  const auto doubt = lossless::find_input_doubt(input.read);
   if (!doubt) return true;
   const Place place{input.name, doubt->line};
   if (policy.allows_loss) {
-    session.reporter().warning(place, lossless_edit::words(*doubt));
+    session.reporter().warning(place, lossless::words(*doubt));
   } else {
-    session.reporter().error(place, refusal(lossless_edit::words(*doubt)));
+    session.reporter().error(place, refusal(lossless::words(*doubt)));
   }
   return policy.allows_loss;
 }
@@ -99,12 +99,12 @@ bool accept_losses(Session& session, const std::string& name, const Losses& loss
 }
 
 void note_number_changes(Session& session, const std::string& name,
-                         const lossless_edit::NumberChanges& changes) {
+                         const lossless::NumberChanges& changes) {
   if (changes.count == 0) return;
   const bool is_one = changes.count == 1;
   session.reporter().note({name}, std::to_string(changes.count) +
                                       (is_one ? " number changes" : " numbers change") +
-                                      ", by up to " + lossless_edit::rounded_text(changes.largest));
+                                      ", by up to " + lossless::rounded_text(changes.largest));
 }
 
 }  // namespace kelp::input::quill::tool

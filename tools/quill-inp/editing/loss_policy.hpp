@@ -43,7 +43,7 @@ bool accept_losses(Session& session, const std::string& name, const Losses& loss
 
 /// Notes how many numbers change with the new text and by how much, if any do.
 void note_number_changes(Session& session, const std::string& name,
-                         const lossless_edit::NumberChanges& changes);
+                         const lossless::NumberChanges& changes);
 
 }  // namespace kelp::input::quill::tool
 

@@ -6,7 +6,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-bool is_raw_text(const lossless_edit::ReadText& read, std::size_t index) {
+bool is_raw_text(const lossless::ReadText& read, std::size_t index) {
   const LineRecord& line = read.lines[index];
   return line.role == LineRole::PostCommand &&
          read.result.input.post_commands[line.index.value()].kind == PostCommandKind::Raw;
@@ -14,9 +14,9 @@ bool is_raw_text(const lossless_edit::ReadText& read, std::size_t index) {
 
 }  // namespace
 
-std::optional<LineLoss> find_line_loss(const lossless_edit::ReadText& read, std::size_t index) {
+std::optional<LineLoss> find_line_loss(const lossless::ReadText& read, std::size_t index) {
   const LineRecord& line = read.lines[index];
-  const std::string_view whole = lossless_edit::content_of(line, read.text);
+  const std::string_view whole = lossless::content_of(line, read.text);
   const std::string_view content = trimmed_view(whole);
   const bool has_no_path = line.role == LineRole::XyzReference && !line.index;
   if (line.role == LineRole::Dropped || has_no_path)
@@ -28,7 +28,7 @@ std::optional<LineLoss> find_line_loss(const lossless_edit::ReadText& read, std:
   return std::nullopt;
 }
 
-std::vector<LineLoss> list_line_losses(const lossless_edit::ReadText& read) {
+std::vector<LineLoss> list_line_losses(const lossless::ReadText& read) {
   std::vector<LineLoss> losses;
   std::size_t begin = 0;  // of the blank lines before the current line
   for (std::size_t i = 0; i < read.lines.size(); ++i) {

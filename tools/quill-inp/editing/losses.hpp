@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "lossless_edit/proof.hpp"
-#include "lossless_edit/quoting.hpp"
-#include "lossless_edit/read_text.hpp"
+#include "kelp/input/quill/lossless/proof.hpp"
+#include "kelp/input/quill/lossless/quoting.hpp"
+#include "kelp/input/quill/lossless/read_text.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -39,19 +39,19 @@ struct LineLoss {
 
 /// Returns what is lost, if anything, when line number `index`, counted from 0, is written again
 /// from the document. The loss keeps a view of the text.
-std::optional<LineLoss> find_line_loss(const lossless_edit::ReadText& read, std::size_t index);
+std::optional<LineLoss> find_line_loss(const lossless::ReadText& read, std::size_t index);
 
 /// Returns what is lost when all lines are written again from the document: what each of them
 /// loses, and the blank lines between lines of raw text, of which nobody but its author knows what
 /// they mean. Other blank lines are layout. Blank lines in a row are one loss.
-std::vector<LineLoss> list_line_losses(const lossless_edit::ReadText& read);
+std::vector<LineLoss> list_line_losses(const lossless::ReadText& read);
 
 /// All that a new text would lose.
 struct Losses {
   std::vector<SettingLoss> settings = {};
   std::vector<LineLoss> lines = {};
-  std::vector<lossless_edit::QuotingProblem> quoting = {};
-  const lossless_edit::Proof& proof;
+  std::vector<lossless::QuotingProblem> quoting = {};
+  const lossless::Proof& proof;
   const QuillInput& wanted;  // the document that the proof is about
 
   std::size_t count() const;

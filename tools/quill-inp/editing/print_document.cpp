@@ -1,7 +1,7 @@
 #include "quill-inp/editing/print_document.hpp"
 
-#include "lossless_edit/proof.hpp"
-#include "lossless_edit/quoting.hpp"
+#include "kelp/input/quill/lossless/proof.hpp"
+#include "kelp/input/quill/lossless/quoting.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -14,9 +14,9 @@ constexpr const char* name_of_output = "<stdout>";
 
 ExitCode print_document(Session& session, const std::string& name, const QuillInput& document,
                         const LossPolicy& policy) {
-  lossless_edit::QuotedDocument quoted = lossless_edit::quote(document);
+  lossless::QuotedDocument quoted = lossless::quote(document);
   const std::string text = quoted.document.to_string();
-  const lossless_edit::Proof proof = lossless_edit::prove(text, document, policy.max_change);
+  const lossless::Proof proof = lossless::prove(text, document, policy.max_change);
   note_number_changes(session, name, proof.comparison.number_changes);
   const Losses losses{{}, {}, std::move(quoted.problems), proof, document};
   // Their lines are those of a text that is not printed, and `name` is not the name of that text.

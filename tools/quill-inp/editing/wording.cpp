@@ -1,6 +1,6 @@
 #include "quill-inp/editing/wording.hpp"
 
-#include "lossless_edit/wording.hpp"
+#include "kelp/input/quill/lossless/wording.hpp"
 #include "quill-inp/text/counted.hpp"
 #include "quill-inp/text/suggestion.hpp"
 
@@ -8,7 +8,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-using lossless_edit::in_apostrophes;
+using lossless::in_apostrophes;
 
 std::string words(const SettingLoss& loss) {
   switch (loss.kind) {
@@ -54,15 +54,15 @@ std::vector<LossWords> words(const Losses& losses, std::size_t most) {
   for (const LineLoss& loss : losses.lines) {
     if (has_room()) all.push_back({words(loss), loss.number});
   }
-  for (const lossless_edit::QuotingProblem& problem : losses.quoting) {
-    if (has_room()) all.push_back({lossless_edit::words(problem)});
+  for (const lossless::QuotingProblem& problem : losses.quoting) {
+    if (has_room()) all.push_back({lossless::words(problem)});
   }
-  const lossless_edit::Proof& proof = losses.proof;
+  const lossless::Proof& proof = losses.proof;
   if (!proof.explanation) return all;
-  if (has_room()) all.push_back({lossless_edit::words(proof, losses.wanted), proof.line()});
-  const std::vector<lossless_edit::Difference>& differences = proof.comparison.differences;
+  if (has_room()) all.push_back({lossless::words(proof, losses.wanted), proof.line()});
+  const std::vector<lossless::Difference>& differences = proof.comparison.differences;
   for (std::size_t i = 0; i < differences.size() && has_room(); ++i) {
-    if (proof.explanation->difference != i) all.push_back({lossless_edit::words(differences[i])});
+    if (proof.explanation->difference != i) all.push_back({lossless::words(differences[i])});
   }
   return all;
 }

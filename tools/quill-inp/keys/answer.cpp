@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <vector>
 
+#include "kelp/input/quill/lossless/quoting.hpp"
+#include "kelp/input/quill/lossless/wording.hpp"
 #include "kelp/input/quill/writer.hpp"
-#include "lossless_edit/quoting.hpp"
-#include "lossless_edit/wording.hpp"
 #include "quill-inp/formats/document_names.hpp"
 #include "quill-inp/text/suggestion.hpp"
 
@@ -23,7 +23,7 @@ std::string command_answer(const HeaderCommand& command) {
   if (command.kind == HeaderCommandKind::Assignment) return command.value.value_or("");
   if (command.kind == HeaderCommandKind::Flag) return no_value;
   const HeaderCommand nameless("", command.kind, std::nullopt,
-                               lossless_edit::quote(command).command.parameters);
+                               lossless::quote(command).command.parameters);
   return to_string(nameless).substr(1);
 }
 
@@ -46,9 +46,8 @@ std::optional<std::string> atom_lines(const std::vector<AtomRecord>& atoms) {
   std::vector<std::string> lines;
   lines.reserve(atoms.size());
   for (const AtomRecord& atom : atoms) {
-    lines.push_back(atom.symbol + " " + lossless_edit::shortest_text(atom.x) + " " +
-                    lossless_edit::shortest_text(atom.y) + " " +
-                    lossless_edit::shortest_text(atom.z));
+    lines.push_back(atom.symbol + " " + lossless::shortest_text(atom.x) + " " +
+                    lossless::shortest_text(atom.y) + " " + lossless::shortest_text(atom.z));
   }
   return lines.empty() ? std::nullopt : std::optional(joined_lines(lines));
 }

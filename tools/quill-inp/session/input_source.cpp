@@ -137,7 +137,7 @@ InputSource read_source(Session& session, const std::string& argument) {
 
 ReadInput read_input(Session& session, const std::string& argument) {
   InputSource source = read_source(session, argument);
-  return {std::move(source.name), lossless_edit::read_text(std::move(source.content)),
+  return {std::move(source.name), lossless::read_text(std::move(source.content)),
           std::move(source.origin)};
 }
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "lossless_edit/read_text.hpp"
+#include "kelp/input/quill/lossless/read_text.hpp"
 #include "quill-inp/files/file_origin.hpp"
 #include "quill-inp/session/session.hpp"
 
@@ -21,7 +21,7 @@ struct InputSource {
 /// The same for an input, with what the reader made of its text.
 struct ReadInput {
   std::string name = {};
-  lossless_edit::ReadText read = {};
+  lossless::ReadText read = {};
   std::optional<FileOrigin> origin = std::nullopt;
 };
 

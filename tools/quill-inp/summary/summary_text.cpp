@@ -1,9 +1,9 @@
 #include <cstddef>
 #include <string_view>
 
+#include "kelp/input/quill/lossless/quoting.hpp"
+#include "kelp/input/quill/lossless/wording.hpp"
 #include "kelp/input/quill/writer.hpp"
-#include "lossless_edit/quoting.hpp"
-#include "lossless_edit/wording.hpp"
 #include "model/post_line_shapes.hpp"
 #include "quill-inp/summary/command_roles.hpp"
 #include "quill-inp/summary/composition.hpp"
@@ -37,7 +37,7 @@ class Rows {
 
 /// Returns a command as it would be in a file, with quotes where they are needed.
 std::string header_line(const HeaderCommand& command) {
-  return to_string(lossless_edit::quote(command).command);
+  return to_string(lossless::quote(command).command);
 }
 
 void add_commands(Rows& rows, const QuillInput& input) {
@@ -79,12 +79,12 @@ std::string_view scanned(std::size_t atoms) {
 }
 
 std::string describe_atoms(std::string_view subject, const std::vector<std::int32_t>& numbers) {
-  return std::string(subject) + " " + lossless_edit::joined(numbers);
+  return std::string(subject) + " " + lossless::joined(numbers);
 }
 
 std::string describe_scan(const PostCommand& scan) {
   std::string text = describe_atoms(scanned(scan.atom_indices.size()), scan.atom_indices);
-  if (scan.scan_value) text += ", value " + lossless_edit::shortest_text(*scan.scan_value);
+  if (scan.scan_value) text += ", value " + lossless::shortest_text(*scan.scan_value);
   if (scan.scan_steps)
     text += ", " + std::to_string(*scan.scan_steps) + (*scan.scan_steps == 1 ? " step" : " steps");
   return text;

@@ -21,7 +21,7 @@ constexpr Option file{"FILE", "", "The input"};
 ExitCode add_to_file(Session& session, const CLI::App& app, const std::string& argument) {
   const std::vector<PostCommand> commands = read_post_commands(app);
   if (commands.empty()) throw UsageError("nothing to add");
-  const auto edit = [&](lossless_edit::TrackedDocument& document) {
+  const auto edit = [&](lossless::TrackedDocument& document) {
     for (const PostCommand& command : commands) document.add_post_command(command);
     return EditReport();
   };

@@ -2,8 +2,8 @@
 #include <utility>
 #include <vector>
 
-#include "lossless_edit/proof.hpp"
-#include "lossless_edit/quoting.hpp"
+#include "kelp/input/quill/lossless/proof.hpp"
+#include "kelp/input/quill/lossless/quoting.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/editing/delivery.hpp"
@@ -29,9 +29,9 @@ ExitCode format(Session& session, const std::string& argument, const Delivery& d
   const QuillInput& document = input.read.result.input;
   report_warnings(session.reporter(), input.name, input.read.result);
 
-  lossless_edit::QuotedDocument quoted = lossless_edit::quote(document);
+  lossless::QuotedDocument quoted = lossless::quote(document);
   const std::string text = quoted.document.to_string();
-  const lossless_edit::Proof proof = lossless_edit::prove(text, document, policy.max_change);
+  const lossless::Proof proof = lossless::prove(text, document, policy.max_change);
   note_number_changes(session, input.name, proof.comparison.number_changes);
   const Losses losses{
       {}, list_line_losses(input.read), std::move(quoted.problems), proof, document};

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "lossless_edit/tracked_document.hpp"
+#include "kelp/input/quill/lossless/tracked_document.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/geometry_options.hpp"
@@ -71,7 +71,7 @@ std::optional<std::int32_t> read_integer(const CLI::App& app, const Option& opti
 }
 
 QuillInput build(Session& session, const CLI::App& app) {
-  lossless_edit::TrackedDocument document{QuillInput()};
+  lossless::TrackedDocument document{QuillInput()};
   for (const HeaderCommand& command : read_tasks(app)) document.add_command(command);
   if (const auto value = value_of(app, model)) document.set_model(*value);
   if (const auto value = value_of(app, device)) document.set_device(*value);

@@ -31,7 +31,7 @@ ExitCode set_in_file(Session& session, const CLI::App& app, const std::string& a
   const LossPolicy policy = read_loss_policy(app);
   const GeometryChange change_geometry = read_geometry_change(session, app);
   if (settings.empty() && !change_geometry) throw UsageError("nothing to set");
-  const auto edit = [&](lossless_edit::TrackedDocument& document) {
+  const auto edit = [&](lossless::TrackedDocument& document) {
     EditReport report = apply_settings(settings, document);
     if (change_geometry) change_geometry(document);
     return report;

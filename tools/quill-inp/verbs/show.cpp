@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "lossless_edit/wording.hpp"
+#include "kelp/input/quill/lossless/wording.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/process/trouble.hpp"
@@ -35,25 +35,24 @@ std::string padded_right(const std::string& text, std::size_t width) {
 }
 
 /// Returns what the reader made of each line, and how long the longest of these texts is.
-std::vector<std::string> describe_all(const lossless_edit::ReadText& read, std::size_t& width) {
+std::vector<std::string> describe_all(const lossless::ReadText& read, std::size_t& width) {
   std::vector<std::string> descriptions;
   descriptions.reserve(read.lines.size());
   for (const LineRecord& line : read.lines) {
-    descriptions.push_back(lossless_edit::describe({line.role, line.index}, read.result.input));
+    descriptions.push_back(lossless::describe({line.role, line.index}, read.result.input));
     width = std::max(width, descriptions.back().size());
   }
   return descriptions;
 }
 
 /// Returns every line: its number, what the reader made of it, and the line itself.
-std::string lines_text(const lossless_edit::ReadText& read) {
+std::string lines_text(const lossless::ReadText& read) {
   const std::size_t number_width = std::to_string(read.lines.size()).size();
   std::size_t width = 0;
   const std::vector<std::string> descriptions = describe_all(read, width);
   std::string text;
   for (std::size_t i = 0; i < read.lines.size(); ++i) {
-    const std::string content =
-        shown_on_one_line(lossless_edit::content_of(read.lines[i], read.text));
+    const std::string content = shown_on_one_line(lossless::content_of(read.lines[i], read.text));
     text += padded_left(std::to_string(i + 1), number_width) + "  ";
     text +=
         content.empty() ? descriptions[i] : padded_right(descriptions[i], width) + "  " + content;

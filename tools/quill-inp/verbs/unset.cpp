@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "kelp/core/text.hpp"
-#include "lossless_edit/tracked_document.hpp"
+#include "kelp/input/quill/lossless/tracked_document.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/editing/edit_file.hpp"
@@ -33,7 +33,7 @@ constexpr const char* example =
 constexpr Option file{"FILE", "", "The input"};
 constexpr Option keys{"KEY", "", "What to remove; either all of it is removed or nothing"};
 
-using lossless_edit::TrackedDocument;
+using lossless::TrackedDocument;
 
 /// A key in the form in which names are compared.
 struct Removal {

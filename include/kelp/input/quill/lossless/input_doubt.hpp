@@ -1,0 +1,35 @@
+#ifndef KELP_INPUT_QUILL_LOSSLESS_INPUT_DOUBT_HPP
+#define KELP_INPUT_QUILL_LOSSLESS_INPUT_DOUBT_HPP
+
+#include <cstddef>
+#include <optional>
+
+#include "kelp/input/quill/lossless/export.hpp"
+#include "kelp/input/quill/lossless/read_text.hpp"
+
+namespace kelp::input::quill::lossless {
+
+/// Why a text is probably not a QUILL input. The reader takes any text, and most of a program or a
+/// picture would be raw text to it. Whoever writes such a text anew should ask before.
+struct InputDoubt {
+  enum class Kind {
+    ByteOrderMark,      // of UTF-8, which the reader takes for text, so that the first line is raw
+    Utf16,              // with a byte order mark
+    Utf16LittleEndian,  // without one
+    Utf16BigEndian,     // likewise
+    NulByte,
+    Script,      // the first line names the program that runs the text
+    NoSections,  // there is text, but no header line and no coordinate section
+  };
+
+  Kind kind = Kind::NoSections;
+  std::optional<std::size_t> line = std::nullopt;  // counted from 1, if the doubt is about one
+};
+
+/// Returns the first reason for which a text does not look like a QUILL input, or nothing if it
+/// does. A text of blank lines only is an input that says nothing.
+KELP_QUILL_LOSSLESS_EXPORT std::optional<InputDoubt> find_input_doubt(const ReadText& read);
+
+}  // namespace kelp::input::quill::lossless
+
+#endif  // KELP_INPUT_QUILL_LOSSLESS_INPUT_DOUBT_HPP

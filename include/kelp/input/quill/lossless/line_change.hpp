@@ -1,0 +1,18 @@
+#ifndef KELP_INPUT_QUILL_LOSSLESS_LINE_CHANGE_HPP
+#define KELP_INPUT_QUILL_LOSSLESS_LINE_CHANGE_HPP
+
+#include <cstddef>
+#include <optional>
+
+namespace kelp::input::quill::lossless {
+
+/// One line that is not as before. A changed line has both numbers, an added line only the new one,
+/// and a removed line only the old one. Numbers count from 1 in their own text.
+struct LineChange {
+  std::optional<std::size_t> old_line = std::nullopt;
+  std::optional<std::size_t> new_line = std::nullopt;
+};
+
+}  // namespace kelp::input::quill::lossless
+
+#endif  // KELP_INPUT_QUILL_LOSSLESS_LINE_CHANGE_HPP

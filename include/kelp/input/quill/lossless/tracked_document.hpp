@@ -1,0 +1,53 @@
+#ifndef KELP_INPUT_QUILL_LOSSLESS_TRACKED_DOCUMENT_HPP
+#define KELP_INPUT_QUILL_LOSSLESS_TRACKED_DOCUMENT_HPP
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "kelp/input/quill/editor.hpp"
+#include "kelp/input/quill/lossless/export.hpp"
+
+namespace kelp::input::quill::lossless {
+
+/// A document that is being edited. It knows where every command came from, so that the right one
+/// of two equal commands loses its line. The operations are those of InputEditor, with its rules
+/// for what is found and what is created.
+class TrackedDocument : private InputEditor {
+ public:
+  KELP_QUILL_LOSSLESS_EXPORT explicit TrackedDocument(QuillInput input);
+
+  using InputEditor::add_command;
+  using InputEditor::add_post_command;
+  using InputEditor::clear_charge_and_multiplicity;
+  using InputEditor::remove_parameter;
+  using InputEditor::set_assignment;
+  using InputEditor::set_charge_and_multiplicity;
+  using InputEditor::set_device;
+  using InputEditor::set_flag;
+  using InputEditor::set_geometry;
+  using InputEditor::set_model;
+  using InputEditor::set_parameter;
+  using InputEditor::set_task;
+  using InputEditor::set_xyz_files;
+  using InputEditor::set_xyz_trajectory;
+
+  KELP_QUILL_LOSSLESS_EXPORT bool remove_command(
+      std::string_view name, std::optional<std::uint64_t> occurrence = std::nullopt);
+
+  const QuillInput& document() const { return InputEditor::document(); }
+
+  /// Returns, for each command of the document, its index in the document before all edits; nothing
+  /// for one that was added.
+  KELP_QUILL_LOSSLESS_EXPORT std::vector<std::optional<std::size_t>> origins() const;
+
+ private:
+  /// Shorter than the list of commands if some were added: commands are only added at the end.
+  std::vector<std::optional<std::size_t>> origins_;
+};
+
+}  // namespace kelp::input::quill::lossless
+
+#endif  // KELP_INPUT_QUILL_LOSSLESS_TRACKED_DOCUMENT_HPP

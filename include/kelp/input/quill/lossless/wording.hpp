@@ -1,0 +1,60 @@
+#ifndef KELP_INPUT_QUILL_LOSSLESS_WORDING_HPP
+#define KELP_INPUT_QUILL_LOSSLESS_WORDING_HPP
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kelp/input/quill/lines.hpp"
+#include "kelp/input/quill/lossless/comparison.hpp"
+#include "kelp/input/quill/lossless/export.hpp"
+#include "kelp/input/quill/lossless/input_doubt.hpp"
+#include "kelp/input/quill/lossless/proof.hpp"
+#include "kelp/input/quill/lossless/quoting.hpp"
+
+// The words for people: for the parts of a document, for what differs and for what cannot be
+// written. All other files pass facts on; only the words here are for reading. They hold bytes of
+// documents unchanged, and have to be escaped before they are shown on a terminal.
+
+namespace kelp::input::quill::lossless {
+
+/// Returns what a part is, without an article and with numbers counted from 1: "command 2", "charge
+/// and multiplicity", "atom 37", "XYZ reference 1", "XYZ reference without a path", "trajectory
+/// reference", "bond constraint", "raw text", "dropped", "blank".
+KELP_QUILL_LOSSLESS_EXPORT std::string describe(const Part& part, const QuillInput& input);
+
+/// Returns a kind of post-processing line without an article: "angle constraint", "scan", "raw
+/// text"; "post-processing line of unknown kind" for a value outside the enumeration.
+KELP_QUILL_LOSSLESS_EXPORT std::string_view noun_of(PostCommandKind kind);
+
+/// Returns what differs: "the charge is 1 instead of 0".
+KELP_QUILL_LOSSLESS_EXPORT std::string words(const Difference& difference);
+
+/// Returns why a proof does not hold, without a full stop: "line 14 would be read as an atom of
+/// element A, not as an angle constraint; put another post-processing line before it to avoid
+/// that". `wanted` is the document that was to be proved.
+KELP_QUILL_LOSSLESS_EXPORT std::string words(const Proof& proof, const QuillInput& wanted);
+
+/// Returns why a text does not look like an input, and the cure if there is one, as a predicate:
+/// "does not look like a QUILL input: it has no header line and no coordinates".
+KELP_QUILL_LOSSLESS_EXPORT std::string words(const InputDoubt& doubt);
+
+/// Returns why a piece of a header command cannot be written.
+KELP_QUILL_LOSSLESS_EXPORT std::string words(const QuotingProblem& problem);
+
+/// Returns the text between apostrophes.
+KELP_QUILL_LOSSLESS_EXPORT std::string in_apostrophes(std::string_view text);
+
+/// Returns the shortest decimal text that reads back as exactly this number.
+KELP_QUILL_LOSSLESS_EXPORT std::string shortest_text(double number);
+
+/// Returns the number with two significant digits.
+KELP_QUILL_LOSSLESS_EXPORT std::string rounded_text(double number);
+
+/// Returns the numbers with single blanks between them.
+KELP_QUILL_LOSSLESS_EXPORT std::string joined(const std::vector<std::int32_t>& numbers);
+
+}  // namespace kelp::input::quill::lossless
+
+#endif  // KELP_INPUT_QUILL_LOSSLESS_WORDING_HPP
