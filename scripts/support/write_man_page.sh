@@ -26,7 +26,7 @@ without_group() { sed "/^$1:\$/,/^\$/d"; }
   done
   printf '\n*%s*\n\n' 'options of every verb'
   "$program" show --help | sed -n '/^General:$/,/^$/{/^General:$/!p;}'
-} | sed 's/^  -\([a-z]\),--/  -\1, --/' >"$scratch/help"
+} | sed 's/^  -\([a-z0-9]\),--/  -\1, --/' >"$scratch/help"
 "$program" --version >"$scratch/version"
 
 # help2man asks a program for both.

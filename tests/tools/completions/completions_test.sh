@@ -32,8 +32,8 @@ expect() {
 }
 
 # long_options: of those that a help on standard input lists.
-long_options() { sed -nE 's/^  (-[a-z],)?(--[a-z-]+).*/\2/p'; }
-short_options() { sed -nE 's/^  (-[a-z]),--.*/\1/p'; }
+long_options() { sed -nE 's/^  (-[a-z0-9],)?(--[a-z-]+).*/\2/p'; }
+short_options() { sed -nE 's/^  (-[a-z0-9]),--.*/\1/p'; }
 # only_long: "--color=" and "--color" are one option.
 only_long() { sed -nE 's/^(--[a-z-]+)=?-?$/\1/p'; }
 
@@ -48,7 +48,7 @@ for shell in bash zsh fish; do
     expect "$shell: options of $verb" "$(long_options <help)" \
       "$($offers quill-inp "$verb" -- | only_long)"
     expect "$shell: short options of $verb" "$(short_options <help)" \
-      "$($offers quill-inp "$verb" - | grep -xE -e '-[a-z]')"
+      "$($offers quill-inp "$verb" - | grep -xE -e '-[a-z0-9]')"
   done
   expect "$shell: files" water.qin "$($offers quill-inp show wat)"
 done

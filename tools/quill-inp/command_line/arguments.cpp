@@ -16,6 +16,9 @@ namespace {
 
 constexpr char mark = '\0';
 
+// Marks, for the help, an argument that must be there, but not always as an argument.
+constexpr const char* several_files = "...";
+
 /// Whether the argument is an option with its value, even if that is empty: "--raw=".
 bool has_attached_value(std::string_view argument) {
   return argument.substr(0, 2) == "--" && argument.find('=') != std::string_view::npos;
@@ -92,6 +95,14 @@ std::string unmarked(std::string argument) {
 }
 
 void add_argument(CLI::App& app, const Option& option) { add(app, option).required(); }
+
+void add_files(CLI::App& app, const Option& option) {
+  take_all(add(app, option)).option_text(several_files);
+}
+
+void add_first_file(CLI::App& app, const Option& option) {
+  add(app, option).option_text(several_files);
+}
 
 void add_arguments(CLI::App& app, const Option& option) { take_all(add(app, option)).required(); }
 

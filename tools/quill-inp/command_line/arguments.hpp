@@ -39,8 +39,12 @@ std::vector<std::string> marked_arguments(const std::vector<std::string>& argume
 /// Returns an argument without its mark.
 std::string unmarked(std::string argument);
 
-/// Add one required argument, one or more required arguments, and any number of arguments.
+/// Add one required argument, one or more required arguments, and any number of arguments. An
+/// argument that is missing can be given in another way for add_files() and add_first_file(): the
+/// first takes any number of arguments, the second one, before those that are added after it.
 void add_argument(CLI::App& app, const Option& option);
+void add_files(CLI::App& app, const Option& option);
+void add_first_file(CLI::App& app, const Option& option);
 void add_arguments(CLI::App& app, const Option& option);
 void add_optional_arguments(CLI::App& app, const Option& option);
 

@@ -61,9 +61,9 @@ std::string HelpFormatter::make_option_opts(const CLI::Option* option) const {
 }
 
 std::string HelpFormatter::make_option_usage(const CLI::Option* option) const {
-  const std::string usage =
-      make_option_name(option, true) + std::string(takes_several(option) ? "..." : "");
-  return option->get_required() ? usage : "[" + usage + "]";
+  const std::string& mark = option->get_option_text();
+  const std::string usage = make_option_name(option, true) + (takes_several(option) ? "..." : mark);
+  return option->get_required() || !mark.empty() ? usage : "[" + usage + "]";
 }
 
 }  // namespace kelp::input::quill::tool

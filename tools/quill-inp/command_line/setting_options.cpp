@@ -5,45 +5,53 @@
 #include <system_error>
 
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/file_options.hpp"
 #include "quill-inp/process/trouble.hpp"
 
 namespace kelp::input::quill::tool {
 
 namespace {
 
+constexpr Option file{"FILE", "", "The inputs"};
 constexpr Option settings_argument{"KEY=VALUE", "",
                                    "What to set; either all of it is set or nothing"};
 constexpr Option flag{"--flag", "KEY", "Set a command or parameter without a value"};
 
-std::string explain_bare_word(const std::string& word) {
-  std::string text =
-      "expected KEY=VALUE, not '" + word + "'; use --flag KEY for a setting without a value";
+/// A file that is not there is more probably a setting whose "=" was forgotten.
+const std::string& require_file(const std::string& word) {
   std::error_code ignored;
-  if (std::filesystem::exists(word, ignored))
-    text += "; there is a file with that name, but 'set' takes only one FILE";
-  return text;
+  if (word == "-" || std::filesystem::exists(word, ignored)) return word;
+  throw UsageError("expected KEY=VALUE or a file, not '" + word +
+                   "'; use --flag KEY for a setting without a value");
 }
 
-Setting read_setting(const OptionUse& use) {
-  const bool is_flag = use.name == name_of(flag);
-  if (is_flag && has_value(use.value))
-    throw UsageError("--flag takes a KEY without a value, not '" + use.value + "'");
-  if (!is_flag && !has_value(use.value)) throw UsageError(explain_bare_word(use.value));
-  return parse_setting(use.value);
+Setting read_flag(const std::string& key) {
+  if (has_value(key)) throw UsageError("--flag takes a KEY without a value, not '" + key + "'");
+  return parse_setting(key);
 }
 
 }  // namespace
 
 void add_setting_options(CLI::App& verb) {
+  add_first_file(verb, file);
   add_optional_arguments(verb, settings_argument);
   add_repeated(verb, flag);
 }
 
-std::vector<Setting> read_settings(const CLI::App& verb) {
-  std::vector<Setting> settings;
-  for (const OptionUse& use : uses_in_order(verb, {settings_argument, flag}))
-    settings.push_back(read_setting(use));
-  return settings;
+FilesAndSettings read_files_and_settings(const CLI::App& verb) {
+  const bool needs_file = !has_other_files(verb);
+  FilesAndSettings result;
+  for (const OptionUse& use : uses_in_order(verb, {file, settings_argument, flag})) {
+    const bool is_first = use.name == name_of(file);
+    if (use.name == name_of(flag)) {
+      result.settings.push_back(read_flag(use.value));
+    } else if (has_value(use.value) && !(is_first && needs_file)) {
+      result.settings.push_back(parse_setting(use.value));
+    } else {
+      result.files.push_back(is_first ? use.value : require_file(use.value));
+    }
+  }
+  return result;
 }
 
 }  // namespace kelp::input::quill::tool

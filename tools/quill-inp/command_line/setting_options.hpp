@@ -1,6 +1,7 @@
 #ifndef KELP_INPUT_QUILL_TOOL_COMMAND_LINE_SETTING_OPTIONS_HPP
 #define KELP_INPUT_QUILL_TOOL_COMMAND_LINE_SETTING_OPTIONS_HPP
 
+#include <string>
 #include <vector>
 
 #include "quill-inp/command_line/arguments.hpp"
@@ -8,13 +9,20 @@
 
 namespace kelp::input::quill::tool {
 
-/// Adds the arguments KEY=VALUE and the option --flag to a verb, after its argument FILE.
+/// Adds the arguments FILE and KEY=VALUE and the option --flag to a verb.
 void add_setting_options(CLI::App& verb);
 
-/// Returns the settings in the order of the command line. Throws UsageError for bad ones, and for a
-/// word without "=", which may be a second file name or a setting with a forgotten "=". Neither
-/// should be written into the input.
-std::vector<Setting> read_settings(const CLI::App& verb);
+/// What the words of such a verb are.
+struct FilesAndSettings {
+  std::vector<std::string> files = {};
+  std::vector<Setting> settings = {};
+};
+
+/// Returns the files, and the settings in the order of the command line. The first word is a file,
+/// unless other options name files and it is a setting. Of the others, a word with a "=" is a
+/// setting, and a word without one is a file, which must be there: it may be a setting whose "="
+/// was forgotten. Throws UsageError for such a word, and for bad settings.
+FilesAndSettings read_files_and_settings(const CLI::App& verb);
 
 }  // namespace kelp::input::quill::tool
 

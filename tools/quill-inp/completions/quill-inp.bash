@@ -1,22 +1,24 @@
 # Completion of quill-inp for bash.
 
 _quill_inp_options() {
+  local files='--recursive -r --glob --files-from --null -0 --jobs -j'
   local write='--in-place -i --diff --backup --break-hard-links'
   local loss='--allow-loss --max-change'
   local geometry='--atoms --xyz --trajectory'
   local lines='--bond --angle --dihedral --atom --scan --post --raw'
   local general='--help -h --quiet -q --color --max-size --stdin-filename'
   case ${1:-} in
-    show) echo "--json --lines $general" ;;
-    fmt) echo "$write --check $loss $general" ;;
-    set) echo "--flag $geometry $write $loss $general" ;;
-    unset) echo "$write $loss $general" ;;
-    add) echo "$lines $write $loss $general" ;;
+    show) echo "--json --lines $files $general" ;;
+    fmt) echo "$write --check $loss $files $general" ;;
+    set) echo "--flag $geometry $write $loss $files $general" ;;
+    unset) echo "--key -k $write $loss $files $general" ;;
+    add) echo "$lines $write $loss $files $general" ;;
     new)
       echo "--task --param --model --device --charge --multiplicity $geometry $lines $loss $general"
       ;;
     from-json) echo "$loss $general" ;;
-    get | json) echo "$general" ;;
+    get) echo "--key -k --with-filename --no-filename $files $general" ;;
+    json) echo "$files $general" ;;
     *) echo '--help -h --version' ;;
   esac
 }
@@ -61,10 +63,11 @@ _quill_inp() {
 
   case $before in
     --color) _quill_inp_offer 'auto always never' "$word" ;;
-    --atoms | --xyz | --trajectory | --post) _quill_inp_files "$word" ;;
+    --atoms | --xyz | --trajectory | --post | --files-from) _quill_inp_files "$word" ;;
     --task) _quill_inp_offer 'sp opt ts freq irc scan' "$word" ;;
+    --key | -k) _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word" ;;
     --flag | --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
-      --atom | --scan | --raw | --max-change | --max-size | --stdin-filename) ;;
+      --atom | --scan | --raw | --glob | --jobs | -j | --max-change | --max-size | --stdin-filename) ;;
     *)
       case $word in
         -*) _quill_inp_offer "$(_quill_inp_options "$verb")" "$word" ;;

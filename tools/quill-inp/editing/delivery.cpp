@@ -78,6 +78,7 @@ ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_
   for (const std::string& note :
        replace_content(*input.origin, input.read.text, new_text, delivery.replace))
     session.reporter().note({input.name}, note);
+  if (new_text != input.read.text) session.note_change();
   return ExitCode::Done;
 }
 

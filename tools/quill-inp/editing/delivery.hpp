@@ -29,7 +29,8 @@ void add_delivery_options(CLI::App& verb, CheckOption check = CheckOption::Absen
 Delivery read_delivery(const CLI::App& verb, CheckOption check = CheckOption::Absent);
 
 /// Delivers the new text of a file: prints it, writes it in place of the old one, or prints whether
-/// and how it differs. The answer is "no" if it differs. Throws Trouble when that fails.
+/// and how it differs. The answer is "no" if it differs. The session notes a file that was changed.
+/// Throws Trouble when that fails.
 ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_text,
                  const Delivery& delivery);
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "kelp/input/quill/lossless/surgical_edit.hpp"
+#include "quill-inp/command_line/file_options.hpp"
 #include "quill-inp/editing/addition_doubts.hpp"
 #include "quill-inp/editing/ambiguity_notes.hpp"
 #include "quill-inp/editing/change_report.hpp"
@@ -43,6 +44,27 @@ std::vector<LineLoss> list_header_losses(const ReadText& read, const SurgicalEdi
 std::string folder_of(const ReadInput& input) { return input.origin ? input.origin->folder : "."; }
 
 }  // namespace
+
+void add_edit_options(CLI::App& verb) {
+  add_delivery_options(verb);
+  add_loss_options(verb);
+  add_file_options(verb);
+}
+
+EditOptions read_edit_options(const CLI::App& verb, const std::vector<std::string>& arguments) {
+  EditOptions options{read_file_choice(verb, arguments), read_batch_options(verb),
+                      read_delivery(verb), read_loss_policy(verb)};
+  options.batch.tells_counts = options.delivery.in_place;
+  return options;
+}
+
+ExitCode edit_files(Session& session, const EditOptions& options, const Edit& edit) {
+  const ChosenFiles files = choose_files(session, options.files);
+  return for_each_file(session, files, options.batch,
+                       [&](Session& one, const std::string& argument) {
+                         return edit_file(one, argument, edit, options.delivery, options.policy);
+                       });
+}
 
 ExitCode edit_file(Session& session, const std::string& argument, const Edit& edit,
                    const Delivery& delivery, const LossPolicy& policy) {

@@ -3,8 +3,11 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "kelp/input/quill/lossless/tracked_document.hpp"
+#include "quill-inp/batch/each_file.hpp"
+#include "quill-inp/batch/file_choice.hpp"
 #include "quill-inp/editing/delivery.hpp"
 #include "quill-inp/editing/edit_report.hpp"
 #include "quill-inp/editing/loss_policy.hpp"
@@ -14,6 +17,22 @@ namespace kelp::input::quill::tool {
 
 /// Changes a document and returns what to report about that. May throw UsageError.
 using Edit = std::function<EditReport(lossless::TrackedDocument&)>;
+
+/// Which files to edit, where the new texts go, and what they may lose.
+struct EditOptions {
+  FileChoice files = {};
+  BatchOptions batch = {};
+  Delivery delivery = {};
+  LossPolicy policy = {};
+};
+
+/// Add the options of a verb that edits files, and read them. The arguments name files, too.
+/// Reading throws UsageError.
+void add_edit_options(CLI::App& verb);
+EditOptions read_edit_options(const CLI::App& verb, const std::vector<std::string>& arguments);
+
+/// Makes the same edit in every file. It may be called for several files at once.
+ExitCode edit_files(Session& session, const EditOptions& options, const Edit& edit);
 
 /// Reads an input, edits its document and delivers the whole new text or nothing. The answer is
 /// "no" when something is missing. Throws Trouble and UsageError.

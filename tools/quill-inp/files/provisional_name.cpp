@@ -22,6 +22,8 @@ struct sigaction former_actions[signal_count] = {};
 
 extern "C" void remove_listed_names(int signal) {
   const int error = errno;
+  // The other threads would go on to make files, and to change the list.
+  hold_for_good();
   for (const ListedName* name = first_listed; name != nullptr; name = name->next)
     unlinkat(name->folder, name->text.c_str(), 0);
   for (std::size_t i = 0; i < signal_count; ++i) {

@@ -1,6 +1,22 @@
 #include "quill-inp/process/held_signals.hpp"
 
+#include <sched.h>
+
+#include <atomic>
+
 namespace kelp::input::quill::tool {
+
+namespace {
+
+// A mutex cannot be taken in a signal handler; this can.
+std::atomic_flag is_taken = ATOMIC_FLAG_INIT;
+thread_local int objects_of_thread = 0;
+
+void take() {
+  while (is_taken.test_and_set(std::memory_order_acquire)) sched_yield();
+}
+
+}  // namespace
 
 sigset_t ending_signal_set() {
   sigset_t set;
@@ -12,8 +28,14 @@ sigset_t ending_signal_set() {
 HeldSignals::HeldSignals() {
   const sigset_t set = ending_signal_set();
   pthread_sigmask(SIG_BLOCK, &set, &former_);
+  if (objects_of_thread++ == 0) take();
 }
 
-HeldSignals::~HeldSignals() { pthread_sigmask(SIG_SETMASK, &former_, nullptr); }
+HeldSignals::~HeldSignals() {
+  if (--objects_of_thread == 0) is_taken.clear(std::memory_order_release);
+  pthread_sigmask(SIG_SETMASK, &former_, nullptr);
+}
+
+void hold_for_good() { take(); }
 
 }  // namespace kelp::input::quill::tool

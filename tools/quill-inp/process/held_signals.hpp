@@ -12,7 +12,8 @@ inline constexpr int ending_signals[] = {SIGINT, SIGTERM, SIGHUP};
 sigset_t ending_signal_set();
 
 /// Holds these signals back as long as the object lives, so that no signal comes between steps that
-/// belong together. Objects may be nested.
+/// belong together. Objects may be nested. Of several threads only one has such an object at a
+/// time; the others wait for it, as a signal handler does in hold_for_good().
 class HeldSignals {
  public:
   HeldSignals();
@@ -23,6 +24,11 @@ class HeldSignals {
  private:
   sigset_t former_ = {};
 };
+
+/// For the handler of one of these signals: waits until no thread has such an object, and lets none
+/// make one any more. The handler may run in any thread, since a thread with such an object does
+/// not get the signal.
+void hold_for_good();
 
 }  // namespace kelp::input::quill::tool
 

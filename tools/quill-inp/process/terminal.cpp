@@ -17,7 +17,7 @@ constexpr NamedColorMode color_modes[] = {
     {"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}};
 
 std::string_view environment_variable(const char* name) {
-  // The program has one thread, and nothing in it changes the environment.
+  // No thread of the program changes the environment.
   const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe)
   return value == nullptr ? std::string_view() : std::string_view(value);
 }
@@ -39,10 +39,13 @@ std::vector<std::string> color_mode_names() {
 
 bool is_terminal(std::optional<int> file) { return file && isatty(*file) == 1; }
 
+bool can_erase_lines(std::optional<int> file) {
+  return is_terminal(file) && environment_variable("TERM") != "dumb";
+}
+
 bool wants_color(ColorMode mode, std::optional<int> file) {
   if (mode != ColorMode::Auto) return mode == ColorMode::Always;
-  return is_terminal(file) && environment_variable("NO_COLOR").empty() &&
-         environment_variable("TERM") != "dumb";
+  return can_erase_lines(file) && environment_variable("NO_COLOR").empty();
 }
 
 }  // namespace kelp::input::quill::tool

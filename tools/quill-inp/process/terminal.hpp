@@ -24,6 +24,9 @@ std::vector<std::string> color_mode_names();
 /// Returns whether an open file is a terminal; false without a file.
 bool is_terminal(std::optional<int> file);
 
+/// Returns whether an open file is a terminal on which a line can be written over again.
+bool can_erase_lines(std::optional<int> file);
+
 /// Returns whether to colour the text for an open file, or for none. In the mode Auto, text is
 /// coloured only for a terminal that is not "dumb", and only if NO_COLOR is not set or empty.
 bool wants_color(ColorMode mode, std::optional<int> file);

@@ -37,6 +37,11 @@ void Output::write_shown(std::string_view text) {
   remember_failure();
 }
 
+void Output::begin_part() {
+  has_begun_part_ = true;
+  if (has_written_) write_shown("\n");
+}
+
 void Output::write_diff(std::string_view diff, ColorMode mode) {
   if (wants_color(mode, file_)) {
     write_shown(colored_diff(shown_as_lines(diff)));

@@ -19,12 +19,20 @@ class Output {
   /// `file` is the descriptor that the stream is connected to, if it is connected to one.
   Output(std::ostream& stream, std::optional<int> file) : stream_(stream), file_(file) {}
 
+  /// The descriptor, if there is one.
+  std::optional<int> file() const { return file_; }
+
   /// Writes data byte for byte, but escapes bytes that a terminal would obey if it is a terminal.
   void write(std::string_view data);
 
   /// Writes text for people. Except for colours, it must not hold anything that a terminal would
   /// obey.
   void write_shown(std::string_view text);
+
+  /// Begins a text that an empty line parts from the text before it. For the first one, no line is
+  /// written, but has_begun_part() tells that there may be a text before it, in another Output.
+  void begin_part();
+  bool has_begun_part() const { return has_begun_part_; }
 
   /// Writes a diff, in colour if `mode` asks for that.
   void write_diff(std::string_view diff, ColorMode mode);
@@ -42,6 +50,7 @@ class Output {
   std::ostream& stream_;
   std::optional<int> file_;
   bool has_written_ = false;
+  bool has_begun_part_ = false;
   int error_ = 0;  // of the first write that failed
 };
 

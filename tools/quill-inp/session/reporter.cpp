@@ -31,7 +31,11 @@ void Reporter::write(const Place& place, std::string_view severity, std::string_
   text += ' ';
   text += shown_on_one_line(message);
   text += '\n';
-  stream_.write(text.data(), static_cast<std::streamsize>(text.size()));
+  write(text);
+}
+
+void Reporter::write(std::string_view messages) {
+  stream_.write(messages.data(), static_cast<std::streamsize>(messages.size()));
   stream_.flush();
 }
 

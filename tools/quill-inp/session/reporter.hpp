@@ -24,6 +24,12 @@ class Reporter {
   /// A quiet reporter writes no warnings and notes.
   Reporter(std::ostream& stream, bool is_quiet, bool is_colored);
 
+  /// The stream that messages go to.
+  std::ostream& stream() { return stream_; }
+
+  /// Writes messages that another reporter of the same form has made.
+  void write(std::string_view messages);
+
   void error(const Place& place, std::string_view message);
   void warning(const Place& place, std::string_view message);
   void note(const Place& place, std::string_view message);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <istream>
 #include <optional>
+#include <ostream>
 #include <string>
 
 #include "quill-inp/process/standard_streams.hpp"
@@ -46,15 +47,38 @@ class Session {
   /// Returns standard input. Throws Trouble the second time, since there is nothing left to read.
   Input take_standard_input();
 
+  /// Whether standard input was taken already.
+  bool has_taken_standard_input() const { return has_taken_input_; }
+
+  /// Takes standard input from a session, for a file that is not the first to ask for it.
+  void forbid_standard_input() { has_taken_input_ = true; }
+
+  /// Note that the file that is processed was changed, say whether it was, and forget that.
+  void note_change() { has_changed_ = true; }
+  bool has_noted_change() const { return has_changed_; }
+  void forget_change() { has_changed_ = false; }
+
+  /// Returns a session for one file of this call, which shares nothing with this one that changes:
+  /// it writes messages to `messages` and data to `out`, in the form in which this one would.
+  Session for_one_file(std::ostream& messages, Output& out) const;
+
+  /// Whether somebody sees messages as they are written: on a terminal that can erase a line, and
+  /// not with --quiet.
+  bool is_watched() const;
+
   /// Reports trouble with the file that `argument` names, with the line if it is about one.
   void report(const std::string& argument, const Trouble& trouble);
 
  private:
+  Session(const Session& whole, std::ostream& messages, Output& out);
+
   Input in_;
+  std::optional<int> messages_file_;
   Output& out_;
   CommonOptions options_;
   Reporter reporter_;
   bool has_taken_input_ = false;
+  bool has_changed_ = false;
 };
 
 }  // namespace kelp::input::quill::tool

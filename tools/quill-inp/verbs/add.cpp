@@ -1,4 +1,3 @@
-#include <string>
 #include <vector>
 
 #include "quill-inp/command_line/arguments.hpp"
@@ -16,21 +15,16 @@ constexpr const char* example =
     "Example:\n"
     "  quill-inp add -i peroxide.qin --bond 2,3 --scan 1,2,3,4:180:12";
 
-constexpr Option file{"FILE", "", "The input"};
+constexpr Option files{"FILE", "", "The inputs"};
 
-ExitCode add_to_file(Session& session, const CLI::App& app, const std::string& argument) {
+ExitCode add(Session& session, const CLI::App& app) {
   const std::vector<PostCommand> commands = read_post_commands(app);
   if (commands.empty()) throw UsageError("nothing to add");
   const auto edit = [&](lossless::TrackedDocument& document) {
     for (const PostCommand& command : commands) document.add_post_command(command);
     return EditReport();
   };
-  return edit_file(session, argument, edit, read_delivery(app), read_loss_policy(app));
-}
-
-ExitCode add(Session& session, const CLI::App& app) {
-  const std::string argument = *value_of(app, file);
-  return for_file(session, argument, [&] { return add_to_file(session, app, argument); });
+  return edit_files(session, read_edit_options(app, values_of(app, files)), edit);
 }
 
 }  // namespace
@@ -38,10 +32,9 @@ ExitCode add(Session& session, const CLI::App& app) {
 Verb add_add(CLI::App& program) {
   CLI::App* app =
       add_verb(program, "add", "Add constraints, scans and other lines at the end", example);
-  add_argument(*app, file);
+  add_files(*app, files);
   add_post_options(*app);
-  add_delivery_options(*app);
-  add_loss_options(*app);
+  add_edit_options(*app);
   add_common_options(*app);
   return {app, add};
 }

@@ -6,6 +6,7 @@
 #include "kelp/input/quill/lossless/quoting.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
+#include "quill-inp/command_line/file_options.hpp"
 #include "quill-inp/editing/delivery.hpp"
 #include "quill-inp/editing/loss_policy.hpp"
 #include "quill-inp/session/input_source.hpp"
@@ -36,14 +37,19 @@ ExitCode format(Session& session, const std::string& argument, const Delivery& d
   const Losses losses{
       {}, list_line_losses(input.read), std::move(quoted.problems), proof, document};
   if (!accept_losses(session, input.name, losses, policy)) return ExitCode::Trouble;
-  return deliver(session, input, text, delivery);
+  const ExitCode code = deliver(session, input, text, delivery);
+  if (session.has_noted_change()) session.reporter().note({input.name}, "changed");
+  return code;
 }
 
 ExitCode fmt(Session& session, const CLI::App& app) {
   const Delivery delivery = read_delivery(app, CheckOption::Present);
   const LossPolicy policy = read_loss_policy(app);
-  return for_each_file(session, values_of(app, files), [&](const std::string& argument) {
-    return format(session, argument, delivery, policy);
+  BatchOptions options = read_batch_options(app);
+  options.tells_counts = delivery.in_place;
+  const ChosenFiles chosen = choose_files(session, read_file_choice(app, values_of(app, files)));
+  return for_each_file(session, chosen, options, [&](Session& one, const std::string& argument) {
+    return format(one, argument, delivery, policy);
   });
 }
 
@@ -51,9 +57,10 @@ ExitCode fmt(Session& session, const CLI::App& app) {
 
 Verb add_fmt(CLI::App& program) {
   CLI::App* app = add_verb(program, "fmt", "Format inputs in the canonical layout", example);
-  add_arguments(*app, files);
+  add_files(*app, files);
   add_delivery_options(*app, CheckOption::Present);
   add_loss_options(*app);
+  add_file_options(*app);
   add_common_options(*app);
   return {app, fmt};
 }

@@ -3,6 +3,7 @@
 
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
+#include "quill-inp/command_line/file_options.hpp"
 #include "quill-inp/formats/document_json.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/verbs/verb.hpp"
@@ -11,7 +12,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-constexpr Option file{"FILE", "", "The input"};
+constexpr Option files{"FILE", "", "The inputs"};
 
 ExitCode print_json(Session& session, const std::string& argument) {
   const ReadInput input = read_input(session, argument);
@@ -22,16 +23,16 @@ ExitCode print_json(Session& session, const std::string& argument) {
 }
 
 ExitCode json(Session& session, const CLI::App& app) {
-  const std::string argument = *value_of(app, file);
-  return for_file(session, argument, [&] { return print_json(session, argument); });
+  return for_chosen_files(session, app, values_of(app, files), print_json);
 }
 
 }  // namespace
 
 Verb add_json(CLI::App& program) {
-  CLI::App* app = add_verb(program, "json", "Print an input as JSON, without loss",
+  CLI::App* app = add_verb(program, "json", "Print inputs as JSON, without loss",
                            "Example:\n  quill-inp json water.qin | jq .geometry.atoms");
-  add_argument(*app, file);
+  add_files(*app, files);
+  add_file_options(*app);
   add_common_options(*app);
   return {app, json};
 }

@@ -1,5 +1,4 @@
 #include <string>
-#include <vector>
 
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
@@ -20,39 +19,36 @@ constexpr const char* example =
     "\n"
     "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N].PARAMETER, @charge or @multiplicity, where\n"
     "N counts from 0; for --flag it is COMMAND or COMMAND.PARAMETER. Settings are made in the\n"
-    "order in which they are given. Put them before --xyz, which takes all words after it as\n"
-    "paths. Only the lines that have to change are changed.";
+    "order in which they are given. A word without '=' is a further file. Put all words before\n"
+    "--xyz, which takes the words after it as paths. Only the lines that have to change are\n"
+    "changed.";
 
-constexpr Option file{"FILE", "", "The input"};
-
-ExitCode set_in_file(Session& session, const CLI::App& app, const std::string& argument) {
-  const std::vector<Setting> settings = read_settings(app);
-  const Delivery delivery = read_delivery(app);
-  const LossPolicy policy = read_loss_policy(app);
+/// Reads the geometry, which may be in a file of its own, and makes the edits.
+ExitCode set_in_files(Session& session, const CLI::App& app, const FilesAndSettings& words) {
+  const EditOptions options = read_edit_options(app, words.files);
   const GeometryChange change_geometry = read_geometry_change(session, app);
-  if (settings.empty() && !change_geometry) throw UsageError("nothing to set");
+  if (words.settings.empty() && !change_geometry) throw UsageError("nothing to set");
   const auto edit = [&](lossless::TrackedDocument& document) {
-    EditReport report = apply_settings(settings, document);
+    EditReport report = apply_settings(words.settings, document);
     if (change_geometry) change_geometry(document);
     return report;
   };
-  return edit_file(session, argument, edit, delivery, policy);
+  return edit_files(session, options, edit);
 }
 
 ExitCode set(Session& session, const CLI::App& app) {
-  const std::string argument = *value_of(app, file);
-  return for_file(session, argument, [&] { return set_in_file(session, app, argument); });
+  const FilesAndSettings words = read_files_and_settings(app);
+  const std::string name = words.files.size() == 1 ? words.files.front() : "quill-inp";
+  return for_file(session, name, [&] { return set_in_files(session, app, words); });
 }
 
 }  // namespace
 
 Verb add_set(CLI::App& program) {
   CLI::App* app = add_verb(program, "set", "Set values, parameters and the geometry", example);
-  add_argument(*app, file);
   add_setting_options(*app);
   add_geometry_options(*app);
-  add_delivery_options(*app);
-  add_loss_options(*app);
+  add_edit_options(*app);
   add_common_options(*app);
   return {app, set};
 }

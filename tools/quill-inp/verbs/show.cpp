@@ -7,6 +7,7 @@
 #include "kelp/input/quill/lossless/wording.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
+#include "quill-inp/command_line/file_options.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/summary/summary.hpp"
@@ -64,35 +65,23 @@ std::string lines_text(const lossless::ReadText& read) {
 /// In what form to show an input.
 enum class Form { Text, Json, Lines };
 
-/// Shows one file after another, with an empty line between texts.
-class Show {
- public:
-  Show(Session& session, Form form) : session_(session), form_(form) {}
-
-  ExitCode operator()(const std::string& argument) {
-    const ReadInput input = read_input(session_, argument);
-    const ParseResult& result = input.read.result;
-    if (form_ == Form::Json) {
-      write_summary_json(input.name, result,
-                         [&](std::string_view piece) { session_.output().write(piece); });
-      return ExitCode::Done;
-    }
-    session_.output().write_shown(separator_);
-    separator_ = "\n";
-    if (form_ == Form::Text) {
-      session_.output().write_shown(summary_text(input.name, result));
-    } else {
-      session_.output().write_shown(shown_on_one_line(input.name) + "\n" + lines_text(input.read));
-      report_warnings(session_.reporter(), input.name, result);
-    }
+ExitCode show_one(Session& session, const std::string& argument, Form form) {
+  const ReadInput input = read_input(session, argument);
+  const ParseResult& result = input.read.result;
+  if (form == Form::Json) {
+    write_summary_json(input.name, result,
+                       [&](std::string_view piece) { session.output().write(piece); });
     return ExitCode::Done;
   }
-
- private:
-  Session& session_;
-  Form form_;
-  const char* separator_ = "";
-};
+  session.output().begin_part();
+  if (form == Form::Text) {
+    session.output().write_shown(summary_text(input.name, result));
+  } else {
+    session.output().write_shown(shown_on_one_line(input.name) + "\n" + lines_text(input.read));
+    report_warnings(session.reporter(), input.name, result);
+  }
+  return ExitCode::Done;
+}
 
 ExitCode show(Session& session, const CLI::App& app) {
   if (is_given(app, as_json) && is_given(app, as_lines))
@@ -100,17 +89,19 @@ ExitCode show(Session& session, const CLI::App& app) {
   const Form form = is_given(app, as_json)    ? Form::Json
                     : is_given(app, as_lines) ? Form::Lines
                                               : Form::Text;
-  Show show_each(session, form);
-  return for_each_file(session, values_of(app, files), show_each);
+  return for_chosen_files(
+      session, app, values_of(app, files),
+      [&](Session& one, const std::string& argument) { return show_one(one, argument, form); });
 }
 
 }  // namespace
 
 Verb add_show(CLI::App& program) {
   CLI::App* app = add_verb(program, "show", "Summarise inputs", example);
-  add_arguments(*app, files);
+  add_files(*app, files);
   add_flag(*app, as_json);
   add_flag(*app, as_lines);
+  add_file_options(*app);
   add_common_options(*app);
   return {app, show};
 }

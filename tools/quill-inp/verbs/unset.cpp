@@ -11,6 +11,7 @@
 #include "kelp/input/quill/lossless/tracked_document.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
+#include "quill-inp/command_line/key_options.hpp"
 #include "quill-inp/editing/edit_file.hpp"
 #include "quill-inp/keys/answer.hpp"
 #include "quill-inp/process/trouble.hpp"
@@ -23,6 +24,7 @@ namespace {
 constexpr const char* example =
     "Example:\n"
     "  quill-inp unset -i water.qin opt.tight device\n"
+    "  quill-inp unset -i -k device *.qin\n"
     "\n"
     "KEY has the same form as for 'get'. COMMAND removes every command with that name,\n"
     "COMMAND[N] only one of them, COMMAND.PARAMETER a parameter of the first one. Where a\n"
@@ -30,8 +32,7 @@ constexpr const char* example =
     "or @multiplicity removes the line with both numbers. When a key has no match, nothing is\n"
     "removed and the exit code is 1.";
 
-constexpr Option file{"FILE", "", "The input"};
-constexpr Option keys{"KEY", "", "What to remove; either all of it is removed or nothing"};
+constexpr const char* help_of_keys = "What to remove; either all of it is removed or nothing";
 
 using lossless::TrackedDocument;
 
@@ -167,23 +168,18 @@ EditReport remove_keys(const Request& request, TrackedDocument& document) {
 }
 
 ExitCode unset(Session& session, const CLI::App& app) {
-  const std::string argument = *value_of(app, file);
-  const Request request = parse_request(values_of(app, keys));
-  const Delivery delivery = read_delivery(app);
-  const LossPolicy policy = read_loss_policy(app);
+  const FilesAndKeys words = read_files_and_keys(app);
+  const Request request = parse_request(words.keys);
   const auto edit = [&](TrackedDocument& document) { return remove_keys(request, document); };
-  return for_file(session, argument,
-                  [&] { return edit_file(session, argument, edit, delivery, policy); });
+  return edit_files(session, read_edit_options(app, words.files), edit);
 }
 
 }  // namespace
 
 Verb add_unset(CLI::App& program) {
   CLI::App* app = add_verb(program, "unset", "Remove commands and parameters", example);
-  add_argument(*app, file);
-  add_arguments(*app, keys);
-  add_delivery_options(*app);
-  add_loss_options(*app);
+  add_key_options(*app, help_of_keys);
+  add_edit_options(*app);
   add_common_options(*app);
   return {app, unset};
 }

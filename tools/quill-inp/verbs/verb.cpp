@@ -1,26 +1,10 @@
 #include "quill-inp/verbs/verb.hpp"
 
-#include <exception>
-
 #include <CLI/App.hpp>
 
-#include "quill-inp/command_line/arguments.hpp"
-#include "quill-inp/session/input_source.hpp"
+#include "quill-inp/command_line/file_options.hpp"
 
 namespace kelp::input::quill::tool {
-
-namespace {
-
-/// Carries `action` out for every file and returns the worst code.
-ExitCode process_all(Session& session, const std::vector<std::string>& arguments,
-                     const std::function<ExitCode(const std::string&)>& action) {
-  ExitCode worst = ExitCode::Done;
-  for (const std::string& argument : arguments)
-    worst = worse_of(worst, for_file(session, argument, [&] { return action(argument); }));
-  return worst;
-}
-
-}  // namespace
 
 CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string& description,
                    const std::string& example) {
@@ -31,31 +15,11 @@ CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string
   return app;
 }
 
-ExitCode for_file(Session& session, const std::string& argument,
-                  const std::function<ExitCode()>& action) {
-  try {
-    return action();
-  } catch (const UsageError&) {
-    throw;
-  } catch (const ReportedTrouble&) {
-    return ExitCode::Trouble;
-  } catch (const Trouble& trouble) {
-    session.report(argument, trouble);
-    return ExitCode::Trouble;
-  } catch (const std::exception& error) {
-    session.reporter().error({session.shown_name(argument)}, explain(error));
-    return ExitCode::Trouble;
-  }
-}
-
-ExitCode for_each_file(Session& session, const std::vector<std::string>& arguments,
-                       const std::function<ExitCode(const std::string&)>& action) {
-  // The texts of the other files would be written into this input, too.
-  const ExitCode code = process_all(session, arguments, [&](const std::string& argument) {
-    require_apart_from_output(session, argument);
-    return ExitCode::Done;
-  });
-  return code == ExitCode::Done ? process_all(session, arguments, action) : code;
+ExitCode for_chosen_files(Session& session, const CLI::App& app,
+                          const std::vector<std::string>& arguments, const FileAction& action) {
+  const BatchOptions options = read_batch_options(app);
+  const ChosenFiles files = choose_files(session, read_file_choice(app, arguments));
+  return for_each_file(session, files, options, action);
 }
 
 }  // namespace kelp::input::quill::tool

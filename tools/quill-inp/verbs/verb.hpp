@@ -4,10 +4,10 @@
 // What the verbs of the program have in common. Each verb has its own file, which adds the verb to
 // the program and carries it out.
 
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "quill-inp/batch/each_file.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/process/exit_code.hpp"
 #include "quill-inp/process/trouble.hpp"
@@ -36,16 +36,10 @@ Verb add_from_json(CLI::App& program);
 CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string& description,
                    const std::string& example);
 
-/// Carries `action` out for a file and returns its exit code. If it throws, that is reported with
-/// the file's name, and the code is ExitCode::Trouble. There are two exceptions: a ReportedTrouble
-/// was reported already, and a UsageError, which is not about a file, is thrown on.
-ExitCode for_file(Session& session, const std::string& argument,
-                  const std::function<ExitCode()>& action);
-
-/// Carries `action` out for every file, even if it fails for files before it, and returns the worst
-/// code. If standard output goes into one of the files, that is reported and no file is processed.
-ExitCode for_each_file(Session& session, const std::vector<std::string>& arguments,
-                       const std::function<ExitCode(const std::string&)>& action);
+/// Carries `action` out for every file that the arguments and options of a verb choose, see
+/// for_each_file().
+ExitCode for_chosen_files(Session& session, const CLI::App& app,
+                          const std::vector<std::string>& arguments, const FileAction& action);
 
 }  // namespace kelp::input::quill::tool
 

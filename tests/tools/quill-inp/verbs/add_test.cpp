@@ -190,8 +190,8 @@ const Call calls[] = {
      {"add", "water.qin", "--bnd", "1,2"},
      usage_error("unknown option '--bnd'; did you mean '--bond'?")},
     {"ASecondFile",
-     {"add", "water.qin", "bare.qin", "--bond", "1,2"},
-     usage_error("unexpected argument 'bare.qin'")},
+     {"add", "-q", "bare.qin", "--bond", "1,2", "bare.qin"},
+     ended(0, "#sp\n\nB 1 2\n#sp\n\nB 1 2\n", "")},
 };
 
 TEST_P(Add, AppendsLines) { expect_outcome(GetParam()); }

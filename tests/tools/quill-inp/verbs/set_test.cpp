@@ -238,22 +238,28 @@ const Call calls[] = {
     {"FlagWithoutKey", {"set", "water.qin", "--flag"}, usage_error("--flag needs a value")},
     {"AForgottenEqualsSign",
      {"set", "-i", "water.qin", "opt.maxiter", "100"},
-     usage_error(
-         "expected KEY=VALUE, not 'opt.maxiter'; use --flag KEY for a setting without a value")},
+     usage_error("expected KEY=VALUE or a file, not 'opt.maxiter'; use --flag KEY for a setting "
+                 "without a value")},
     {"AForgottenEqualsSignAfterASetting",
      {"set", "water.qin", "model=m2", "100"},
-     usage_error("expected KEY=VALUE, not '100'; use --flag KEY for a setting without a value")},
+     usage_error(
+         "expected KEY=VALUE or a file, not '100'; use --flag KEY for a setting without a value")},
     {"ASecondFile",
-     {"set", "-i", "bare.qin", "water.qin", "model=m2"},
-     usage_error("expected KEY=VALUE, not 'water.qin'; use --flag KEY for a setting without a "
-                 "value; there is a file with that name, but 'set' takes only one FILE")},
-    {"ASecondFileWhoseNameIsNotAKey",
-     {"set", "bare.qin", "./water.qin", "model=m2"},
-     usage_error("expected KEY=VALUE, not './water.qin'; use --flag KEY for a setting without a "
-                 "value; there is a file with that name, but 'set' takes only one FILE")},
+     {"set", "-q", "bare.qin", "./water.qin", "model=m2"},
+     ended(0, "#sp\n#model = m2\n" + changed_water(), "")},
+    {"ASecondFileThatIsNotThere",
+     {"set", "-i", "water.qin", "none.qin", "model=m2"},
+     usage_error("expected KEY=VALUE or a file, not 'none.qin'; use --flag KEY for a setting "
+                 "without a value")},
+    {"NoFile", {"set"}, usage_error("FILE is required")},
+    {"AListAndNoSetting", {"set", "--files-from=-"}, usage_error("nothing to set")},
+    {"AFlagBetweenFiles",
+     {"set", "-q", "bare.qin", "--flag", "freq", "bare.qin"},
+     ended(0, "#sp\n#freq\n#sp\n#freq\n", "")},
     {"AnEmptyWord",
      {"set", "water.qin", ""},
-     usage_error("expected KEY=VALUE, not ''; use --flag KEY for a setting without a value")},
+     usage_error(
+         "expected KEY=VALUE or a file, not ''; use --flag KEY for a setting without a value")},
     {"ASettingAfterPaths",
      {"set", "-i", "water.qin", "--xyz", "a.xyz", "model=m2"},
      usage_error(not_a_path("--xyz"))},

@@ -16,9 +16,18 @@ const std::string hint = "quill-inp: note: see 'quill-inp unset --help'\n";
 
 const std::string four = "#a(p=1, q)\n#b\n#A(p=2)\n#a = 3\n0 1\n";
 
+std::string twice(const std::string& text) { return text + text; }
+
 class Unset : public testing::TestWithParam<Call> {};
 
 const Call calls[] = {
+    {"TheSameOfSeveralFiles",
+     {"unset", "-k", "model", "water.qin", "water.qin", "-k", "opt.tight"},
+     ended(0,
+           twice("#opt(maxiter=50)\n\n0 1\nO        0.000000      0.000000      0.117176\n"
+                 "H        0.000000      0.756950     -0.468706\n"
+                 "H        0.000000     -0.756950     -0.468706\n"),
+           "")},
     {"Parameter",
      {"unset", "water.qin", "opt.maxiter"},
      ended(0, "#opt(tight)\n#model = m1\n\n0 1\n" + atoms, "")},

@@ -1,0 +1,176 @@
+#include "quill-inp/batch/each_file.hpp"
+
+#include <chrono>
+#include <cstddef>
+#include <memory>
+#include <new>
+#include <optional>
+#include <utility>
+
+#include "quill-inp/batch/ordered_work.hpp"
+#include "quill-inp/batch/progress_line.hpp"
+#include "quill-inp/batch/tally.hpp"
+#include "quill-inp/batch/transcript.hpp"
+#include "quill-inp/process/terminal.hpp"
+#include "quill-inp/process/trouble.hpp"
+#include "quill-inp/session/input_source.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+/// What one file of many has to itself. All that is written for it waits here for its turn.
+struct FileRun {
+  Transcript transcript = {};
+  Output output;
+  Session session;
+  ExitCode code = ExitCode::Done;
+
+  explicit FileRun(Session& whole)
+      : output(transcript.out(), whole.output().file()),
+        session(whole.for_one_file(transcript.err(), output)) {}
+};
+
+/// Writes what was written for a file.
+void replay(Session& session, const FileRun& run) {
+  if (run.output.has_begun_part()) session.output().begin_part();
+  for (const Transcript::Piece& piece : run.transcript.pieces()) {
+    if (piece.is_output) {
+      session.output().write_shown(piece.text);
+    } else {
+      session.reporter().write(piece.text);
+    }
+  }
+}
+
+/// The files of one call, one after another or side by side.
+class Batch {
+ public:
+  Batch(Session& session, const std::vector<std::string>& files, const BatchOptions& options,
+        const FileAction& action)
+      : session_(session),
+        files_(files),
+        options_(options),
+        action_(action),
+        progress_(session.reporter().stream(), files.size(), std::chrono::steady_clock::now()),
+        shows_progress_(files.size() > 1 && session.is_watched()) {}
+
+  ExitCode run() {
+    // A progress line has to go before anything is written, so the file cannot write on its own.
+    if (files_.size() > 1 && (options_.threads > 1 || shows_progress_)) {
+      run_side_by_side();
+    } else {
+      for (const std::string& file : files_) run_alone(file);
+    }
+    progress_.clear();
+    if (files_.size() > 1 && (options_.tells_counts || progress_.was_shown()))
+      session_.reporter().note({"quill-inp"}, words(tally_));
+    return worst_;
+  }
+
+ private:
+  void run_alone(const std::string& file) {
+    session_.forget_change();
+    const ExitCode code = for_file(session_, file, [&] { return action_(session_, file); });
+    count(code, session_.has_noted_change());
+  }
+
+  void run_side_by_side() {
+    find_reader_of_standard_input();
+    runs_.resize(window_of(options_.threads));
+    OrderedWork pieces;
+    pieces.count = files_.size();
+    pieces.work = [&](std::size_t number) { work(number); };
+    pieces.deliver = [&](std::size_t number) { deliver(number); };
+    pieces.pass_time = [&] { show_progress(); };
+    do_in_order(pieces, options_.threads);
+  }
+
+  /// Standard input can be read once, and the first file that asks for it gets it.
+  void find_reader_of_standard_input() {
+    for (std::size_t i = 0; i < files_.size() && !reader_; ++i) {
+      if (files_[i] == "-") reader_ = i;
+    }
+  }
+
+  /// Keeps no run if there is not even the memory to tell that there is none left.
+  void work(std::size_t number) {
+    const std::string& file = files_[number];
+    try {
+      auto run = std::make_unique<FileRun>(session_);
+      if (number != reader_) run->session.forbid_standard_input();
+      run->code = for_file(run->session, file, [&] { return action_(run->session, file); });
+      runs_[number % runs_.size()] = std::move(run);
+    } catch (const std::bad_alloc&) {
+    }
+  }
+
+  void deliver(std::size_t number) {
+    const std::unique_ptr<FileRun> run = std::move(runs_[number % runs_.size()]);
+    if (!run || !run->transcript.pieces().empty()) progress_.clear();
+    if (run) {
+      replay(session_, *run);
+      count(run->code, run->session.has_noted_change());
+    } else {
+      session_.report(files_[number], Trouble(explain(std::bad_alloc())));
+      count(ExitCode::Trouble, false);
+    }
+    show_progress();
+  }
+
+  void count(ExitCode code, bool was_changed) {
+    tally_.add(code, was_changed);
+    worst_ = worse_of(worst_, code);
+  }
+
+  void show_progress() {
+    if (shows_progress_) progress_.show(tally_.files, std::chrono::steady_clock::now());
+  }
+
+  Session& session_;
+  const std::vector<std::string>& files_;
+  const BatchOptions& options_;
+  const FileAction& action_;
+  std::vector<std::unique_ptr<FileRun>> runs_ = {};  // by their numbers within the window
+  ProgressLine progress_;
+  bool shows_progress_;
+  std::optional<std::size_t> reader_ = std::nullopt;
+  Tally tally_ = {};
+  ExitCode worst_ = ExitCode::Done;
+};
+
+}  // namespace
+
+ExitCode for_file(Session& session, const std::string& argument,
+                  const std::function<ExitCode()>& action) {
+  try {
+    return action();
+  } catch (const UsageError&) {
+    throw;
+  } catch (const ReportedTrouble&) {
+    return ExitCode::Trouble;
+  } catch (const Trouble& trouble) {
+    session.report(argument, trouble);
+    return ExitCode::Trouble;
+  } catch (const std::exception& error) {
+    session.reporter().error({session.shown_name(argument)}, explain(error));
+    return ExitCode::Trouble;
+  }
+}
+
+ExitCode for_each_file(Session& session, const ChosenFiles& files, const BatchOptions& options,
+                       const FileAction& action) {
+  // The texts of the other files would be written into this input, too.
+  ExitCode code = ExitCode::Done;
+  for (const std::string& file : files.files) {
+    const auto require_apart = [&] {
+      require_apart_from_output(session, file);
+      return ExitCode::Done;
+    };
+    code = worse_of(code, for_file(session, file, require_apart));
+  }
+  if (code != ExitCode::Done) return code;
+  return worse_of(files.code, Batch(session, files.files, options, action).run());
+}
+
+}  // namespace kelp::input::quill::tool
