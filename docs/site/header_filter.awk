@@ -1,10 +1,14 @@
 # Prepares a header for the reference, without moving a line:
 #
 # - Copying, moving and destroying do what they always do and need no entries.
+# - Overloads that are deleted, since they only refuse what is not a text, need none either.
 # - A comment counts for all declarations below it up to the next empty line, overloads for the
 #   most part; Doxygen gives it to the first one only, so it is repeated for the others.
 
 /= default;$/ || /~[A-Za-z]+\(\);$/ || /\(const [A-Za-z]+& other\);$/ { print ""; next }
+
+/^ *template </ && !is_comment { is_deleted = 1 }
+is_deleted { print ""; is_deleted = !/;$/; next }
 
 /^ *\/\/\/( |$)/ {
   text = $0
@@ -17,7 +21,7 @@
 
 /^ *$/ { comment = "" }
 
-/^ *(KELP_QUILL_INP_EXPORT|const|[A-Za-z:]+) / && !is_comment && comment != "" && is_complete {
+/^ *(\[\[nodiscard\]\]|KELP_QUILL_INP_EXPORT|const|[A-Za-z:]+) / && !is_comment && comment != "" && is_complete {
   print "/** " comment " */ " $0
   is_complete = /[;}]$/
   next

@@ -86,7 +86,7 @@ TEST(ParseFile, ReadsAFileThroughALink) {
 TEST(ParseFile, LeavesTheFileAsItIs) {
   const TemporaryFolder folder;
   const std::string path = folder.write("job.qin", "#opt\n");
-  parse_file(path);
+  EXPECT_TRUE(parse_file(path).ok);
   EXPECT_EQ(parse_file(path), read_as({{flag("opt")}}, {no_section}));
   EXPECT_EQ(std::filesystem::file_size(path), 5U);
 }
@@ -99,9 +99,9 @@ TEST(ParseFile, LeavesNoFileOpen) {
   const TemporaryFolder folder;
   const std::string path = folder.write("job.qin", "#opt\n");
   const std::ptrdiff_t before = count_open_files();
-  parse_file(path);
-  parse_file(folder.path());
-  parse_file(folder.path("missing"));
+  EXPECT_TRUE(parse_file(path).ok);
+  EXPECT_FALSE(parse_file(folder.path()).ok);
+  EXPECT_FALSE(parse_file(folder.path("missing")).ok);
   EXPECT_EQ(count_open_files(), before);
 }
 

@@ -25,6 +25,7 @@
 
 #include "kelp/input/quill/document.hpp"
 #include "kelp/input/quill/export.hpp"
+#include "kelp/input/quill/text_argument.hpp"
 
 namespace kelp::core {
 struct Atom;
@@ -40,11 +41,11 @@ class InputBuilder {
 
   /// Returns the document, valid as long as the builder exists; for an rvalue, moves it out of the
   /// builder.
-  const QuillInput& document() const& noexcept { return document_; }
-  QuillInput document() && { return std::move(document_); }
+  [[nodiscard]] const QuillInput& document() const& noexcept { return document_; }
+  [[nodiscard]] QuillInput document() && { return std::move(document_); }
 
   /// Returns the document's canonical text, as QuillInput::to_string().
-  KELP_QUILL_INP_EXPORT std::string to_string() const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT std::string to_string() const;
 
   /// Writes the canonical text into a file, as QuillInput::write_file().
   KELP_QUILL_INP_EXPORT void write_file(const std::string& path) const;
@@ -109,6 +110,29 @@ class InputBuilder {
 
   /// Appends a post-processing file; earlier ones stay.
   KELP_QUILL_INP_EXPORT InputBuilder& set_post_file(std::string path);
+
+  // Null pointers and numbers are not texts; text_argument.hpp says more.
+  template <typename Path, typename = RefusedAsText<Path>>
+  void write_file(Path) const = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void set_task(Name, std::vector<CommandParameter> = {}) = delete;
+  template <typename Command, typename Key, typename Value,
+            typename = RefusedAsText<Command, Key, Value>>
+  void set_task_parameter(Command, Key, Value) = delete;
+  template <typename Value, typename = RefusedAsText<Value>>
+  void set_model(Value) = delete;
+  template <typename Value, typename = RefusedAsText<Value>>
+  void set_device(Value) = delete;
+  template <typename Name, typename Value, typename = RefusedAsText<Name, Value>>
+  void set_assignment(Name, Value) = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void set_flag(Name) = delete;
+  template <typename Path, typename = RefusedAsText<Path>>
+  void set_xyz_file(Path) = delete;
+  template <typename Path, typename = RefusedAsText<Path>>
+  void set_xyz_trajectory(Path) = delete;
+  template <typename Path, typename = RefusedAsText<Path>>
+  void set_post_file(Path) = delete;
 
  private:
   template <typename Operation>

@@ -24,6 +24,7 @@
 #include <vector>
 
 #include "kelp/input/quill/export.hpp"
+#include "kelp/input/quill/text_argument.hpp"
 
 namespace kelp::input::quill {
 
@@ -75,6 +76,10 @@ struct CommandParameter {
   CommandParameter& operator=(const CommandParameter&) = default;
   CommandParameter& operator=(CommandParameter&&) noexcept = default;
   KELP_QUILL_INP_EXPORT ~CommandParameter();
+
+  // Null pointers and numbers are not texts; text_argument.hpp says more.
+  template <typename Name, typename Value = std::string, typename = RefusedAsText<Name, Value>>
+  explicit CommandParameter(Name, Value = {}) = delete;
 };
 
 /// One header line. Only what `kind` selects is written.
@@ -109,6 +114,11 @@ struct HeaderCommand {
   HeaderCommand& operator=(const HeaderCommand&) = default;
   HeaderCommand& operator=(HeaderCommand&&) noexcept = default;
   KELP_QUILL_INP_EXPORT ~HeaderCommand();
+
+  // Null pointers and numbers are not texts; text_argument.hpp says more.
+  template <typename Name, typename Value = std::string, typename = RefusedAsText<Name, Value>>
+  explicit HeaderCommand(Name, HeaderCommandKind = {}, Value = {},
+                         std::vector<CommandParameter> = {}) = delete;
 };
 
 /// One inline atom. The coordinates are Cartesian, in the unit of the file they come from; the
@@ -181,6 +191,11 @@ struct PostCommand {
   PostCommand& operator=(const PostCommand&) = default;
   PostCommand& operator=(PostCommand&&) noexcept = default;
   KELP_QUILL_INP_EXPORT ~PostCommand();
+
+  // Null pointers and numbers are not texts; text_argument.hpp says more.
+  template <typename Path, typename Line = std::string, typename = RefusedAsText<Path, Line>>
+  explicit PostCommand(PostCommandKind, std::vector<std::int32_t>, std::optional<double>,
+                       std::optional<std::int32_t>, Path, Line = {}) = delete;
 };
 
 /// A whole input. Every vector has the order of the lines in the file.
@@ -211,20 +226,20 @@ struct QuillInput {
   /// Returns the command that is number `occurrence`, counted from 0, among the commands whose name
   /// matches `name` (see normalize_command_name()), or a null pointer when there are fewer.
   /// The pointer is valid until a command is inserted or removed. Linear in the number of commands.
-  KELP_QUILL_INP_EXPORT const HeaderCommand* find_command(std::string_view name,
-                                                          std::uint64_t occurrence = 0) const;
-  KELP_QUILL_INP_EXPORT HeaderCommand* find_command(std::string_view name,
-                                                    std::uint64_t occurrence = 0);
+  [[nodiscard]] KELP_QUILL_INP_EXPORT const HeaderCommand* find_command(
+      std::string_view name, std::uint64_t occurrence = 0) const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT HeaderCommand* find_command(std::string_view name,
+                                                                  std::uint64_t occurrence = 0);
 
   /// Returns whether at least one command's name matches `name`.
-  KELP_QUILL_INP_EXPORT bool has_command(std::string_view name) const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT bool has_command(std::string_view name) const;
 
   /// Returns whether the document says what to compute: whether it has a command named `sp`, `opt`,
   /// `ts`, `freq`, `irc` or `scan`, of any kind.
-  KELP_QUILL_INP_EXPORT bool has_task_command() const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT bool has_task_command() const;
 
   /// Returns the stored name of every command, in document order, repeated names included.
-  KELP_QUILL_INP_EXPORT std::vector<std::string> command_names() const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT std::vector<std::string> command_names() const;
 
   /// Returns the first command whose name matches `name`, unchanged; if there is none, appends a
   /// flag that stores `name` exactly as given and returns that. The reference is valid until a
@@ -241,23 +256,37 @@ struct QuillInput {
   /// one empty line between sections that are present; an empty document gives the empty text.
   /// Stored strings are written byte for byte: nothing is quoted or escaped. The text depends on
   /// the document alone, not on any locale.
-  KELP_QUILL_INP_EXPORT std::string to_string() const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT std::string to_string() const;
 
   /// Creates or truncates the file at `path` and writes the canonical text into it. Throws
   /// std::runtime_error, "Failed to open QUILL input for writing: " followed by `path`, when the
   /// file cannot be opened. Later errors, such as a full disk, are not reported: a caller that must
   /// know about them writes the result of to_string() itself.
   KELP_QUILL_INP_EXPORT void write_file(const std::string& path) const;
+
+  // Null pointers and numbers are not texts; text_argument.hpp says more.
+  template <typename Name, typename = RefusedAsText<Name>>
+  void find_command(Name, std::uint64_t = 0) = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void find_command(Name, std::uint64_t = 0) const = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void has_command(Name) const = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void upsert_command(Name) = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void remove_command(Name, std::optional<std::uint64_t> = std::nullopt) = delete;
+  template <typename Path, typename = RefusedAsText<Path>>
+  void write_file(Path) const = delete;
 };
 
 /// Returns the form in which command names are compared: trimmed, without one leading "#", trimmed
 /// again, and in lower case (ASCII letters only). " # Opt " gives "opt", "##opt" gives "#opt".
-KELP_QUILL_INP_EXPORT std::string normalize_command_name(std::string_view name);
+[[nodiscard]] KELP_QUILL_INP_EXPORT std::string normalize_command_name(std::string_view name);
 
 /// Returns the position of the first parameter of `command` whose name equals `name` when both are
 /// trimmed and in lower case, or nothing. No "#" is removed, and the command's kind does not
 /// matter. Linear in the number of parameters.
-KELP_QUILL_INP_EXPORT std::optional<std::uint64_t> find_parameter_index(
+[[nodiscard]] KELP_QUILL_INP_EXPORT std::optional<std::uint64_t> find_parameter_index(
     const HeaderCommand& command, std::string_view name);
 
 }  // namespace kelp::input::quill

@@ -31,6 +31,7 @@
 
 #include "kelp/input/quill/document.hpp"
 #include "kelp/input/quill/export.hpp"
+#include "kelp/input/quill/text_argument.hpp"
 
 namespace kelp::core {
 struct Atom;
@@ -47,36 +48,37 @@ class InputEditor {
 
   /// Returns the document, valid as long as the editor exists; for an rvalue, moves it out of the
   /// editor.
-  const QuillInput& document() const& noexcept { return document_; }
-  QuillInput document() && { return std::move(document_); }
+  [[nodiscard]] const QuillInput& document() const& noexcept { return document_; }
+  [[nodiscard]] QuillInput document() && { return std::move(document_); }
 
   /// Returns the document's canonical text, as QuillInput::to_string().
-  KELP_QUILL_INP_EXPORT std::string to_string() const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT std::string to_string() const;
 
   /// Writes the canonical text into a file, as QuillInput::write_file().
   KELP_QUILL_INP_EXPORT void write_file(const std::string& path) const;
 
   /// Returns what QuillInput::has_command() returns.
-  KELP_QUILL_INP_EXPORT bool has_command(std::string_view name) const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT bool has_command(std::string_view name) const;
 
   /// Returns what QuillInput::has_task_command() returns.
-  KELP_QUILL_INP_EXPORT bool has_task_command() const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT bool has_task_command() const;
 
   /// Returns what QuillInput::command_names() returns.
-  KELP_QUILL_INP_EXPORT std::vector<std::string> command_names() const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT std::vector<std::string> command_names() const;
 
   /// Returns the value of the first command named `name` if that is an assignment with a value, or
   /// nothing if it is not. Later commands with this name are ignored.
-  KELP_QUILL_INP_EXPORT std::optional<std::string> get_assignment(std::string_view name) const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT std::optional<std::string> get_assignment(
+      std::string_view name) const;
 
   /// Return get_assignment("model") and get_assignment("device").
-  KELP_QUILL_INP_EXPORT std::optional<std::string> model() const;
-  KELP_QUILL_INP_EXPORT std::optional<std::string> device() const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT std::optional<std::string> model() const;
+  [[nodiscard]] KELP_QUILL_INP_EXPORT std::optional<std::string> device() const;
 
   /// Returns the value of the first parameter named `parameter_name` of command number
   /// `occurrence`, counted from 0, among those named `command_name`, of any kind. Returns nothing
   /// when the command or the parameter is missing or the parameter has no value.
-  KELP_QUILL_INP_EXPORT std::optional<std::string> get_parameter(
+  [[nodiscard]] KELP_QUILL_INP_EXPORT std::optional<std::string> get_parameter(
       std::string_view command_name, std::string_view parameter_name,
       std::uint64_t occurrence = 0) const;
 
@@ -169,6 +171,39 @@ class InputEditor {
 
   /// Appends a post-processing file; earlier ones stay.
   KELP_QUILL_INP_EXPORT void set_post_file(std::string_view path);
+
+  // Null pointers and numbers are not texts; text_argument.hpp says more.
+  template <typename Path, typename = RefusedAsText<Path>>
+  void write_file(Path) const = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void has_command(Name) const = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void get_assignment(Name) const = delete;
+  template <typename Command, typename Parameter, typename = RefusedAsText<Command, Parameter>>
+  void get_parameter(Command, Parameter, std::uint64_t = 0) const = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void set_flag(Name) = delete;
+  template <typename Name, typename Value, typename = RefusedAsText<Name, Value>>
+  void set_assignment(Name, Value) = delete;
+  template <typename Value, typename = RefusedAsText<Value>>
+  void set_model(Value) = delete;
+  template <typename Value, typename = RefusedAsText<Value>>
+  void set_device(Value) = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void set_task(Name, std::vector<CommandParameter> = {}) = delete;
+  template <typename Command, typename Parameter, typename Value,
+            typename = RefusedAsText<Command, Parameter, Value>>
+  void set_parameter(Command, Parameter, Value, std::uint64_t = 0) = delete;
+  template <typename Command, typename Parameter, typename = RefusedAsText<Command, Parameter>>
+  void remove_parameter(Command, Parameter, std::uint64_t = 0) = delete;
+  template <typename Name, typename = RefusedAsText<Name>>
+  void remove_command(Name, std::optional<std::uint64_t> = std::nullopt) = delete;
+  template <typename Path, typename = RefusedAsText<Path>>
+  void set_xyz_file(Path) = delete;
+  template <typename Path, typename = RefusedAsText<Path>>
+  void set_xyz_trajectory(Path) = delete;
+  template <typename Path, typename = RefusedAsText<Path>>
+  void set_post_file(Path) = delete;
 
  private:
   QuillInput document_;

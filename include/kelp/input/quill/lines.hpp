@@ -65,7 +65,7 @@ struct ParsedLines {
 /// Reads a whole input as parse_string() does and keeps a record of every line. Nothing is thrown
 /// for any content. The result keeps no reference to `text`. One pass; the cost is linear in the
 /// length of the text, and a record takes 48 bytes on a usual 64-bit machine.
-KELP_QUILL_INP_EXPORT ParsedLines parse_lines(std::string_view text);
+[[nodiscard]] KELP_QUILL_INP_EXPORT ParsedLines parse_lines(std::string_view text);
 
 }  // namespace kelp::input::quill
 

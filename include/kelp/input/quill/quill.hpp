@@ -15,6 +15,7 @@
 #include "kelp/input/quill/editor.hpp"
 #include "kelp/input/quill/lines.hpp"
 #include "kelp/input/quill/reader.hpp"
+#include "kelp/input/quill/text_argument.hpp"
 #include "kelp/input/quill/writer.hpp"
 
 #endif  // KELP_INPUT_QUILL_QUILL_HPP

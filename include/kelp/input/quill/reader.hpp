@@ -57,12 +57,12 @@ struct ParseResult {
 /// Reads a whole input. `ok` is always true, and nothing is thrown for any content, NUL bytes and
 /// bytes above 0x7F included. Lines end in "\n" or "\r\n". The result keeps no reference to `text`.
 /// One pass; the cost is linear in the length of the text.
-KELP_QUILL_INP_EXPORT ParseResult parse_string(std::string_view text);
+[[nodiscard]] KELP_QUILL_INP_EXPORT ParseResult parse_string(std::string_view text);
 
 /// Reads the whole file at `path` and returns parse_string() of its content. When the file cannot
 /// be opened or read (a directory, for example), `input` is an empty document, `ok` is false,
 /// `error` is "Failed to open QUILL input file: " followed by `path`, and there are no warnings.
-KELP_QUILL_INP_EXPORT ParseResult parse_file(const std::string& path);
+[[nodiscard]] KELP_QUILL_INP_EXPORT ParseResult parse_file(const std::string& path);
 
 }  // namespace kelp::input::quill
 

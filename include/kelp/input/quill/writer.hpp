@@ -20,16 +20,16 @@
 namespace kelp::input::quill {
 
 /// Returns one header line without a line end, "#" included.
-KELP_QUILL_INP_EXPORT std::string to_string(const HeaderCommand& command);
+[[nodiscard]] KELP_QUILL_INP_EXPORT std::string to_string(const HeaderCommand& command);
 
 /// Returns one post-processing line without a line end. A scan's value has up to six significant
 /// digits, as printf("%g") writes it. All stored atom numbers are written, however many there are.
-KELP_QUILL_INP_EXPORT std::string to_string(const PostCommand& command);
+[[nodiscard]] KELP_QUILL_INP_EXPORT std::string to_string(const PostCommand& command);
 
 /// Returns the coordinate section, every line ending in "\n". Coordinates have six decimals, as
 /// printf("%.6f") writes them, right-justified in 14 columns; a longer number is not cut, and no
 /// blank separates it from the number before it.
-KELP_QUILL_INP_EXPORT std::string to_string(const GeometryBlock& geometry);
+[[nodiscard]] KELP_QUILL_INP_EXPORT std::string to_string(const GeometryBlock& geometry);
 
 }  // namespace kelp::input::quill
 
