@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds the documentation site in build/docs: the reference from the headers and the pages of
-# docs/. Doxygen's warnings are errors, and so are links that lead nowhere.
+# docs/. Doxygen's warnings are errors, and so are descriptions that two functions share and links that
+# lead nowhere.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
@@ -40,6 +41,9 @@ navigation >"$site/navigation"
 sed -e "/@NAVIGATION@/{r $site/navigation" -e 'd;}' docs/site/header.html >"$site/header.html"
 PROJECT_NUMBER=$(sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p' CMakeLists.txt) SITE_BUILD=$site \
   doxygen docs/site/Doxyfile
+scripts/support/descriptions_test.sh
+python3 scripts/support/descriptions.py "$site/xml"
+rm -r "$site/xml"
 rm "$site"/{navigation,header.html,tabs.css,doxygen.svg} "$site"/*.{png,js}
 
 # The navigation marks the current page.

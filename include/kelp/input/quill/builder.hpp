@@ -50,65 +50,87 @@ class InputBuilder {
   /// Writes the canonical text into a file, as QuillInput::write_file().
   KELP_QUILL_INP_EXPORT void write_file(const std::string& path) const;
 
-  /// Gives the first command named `name` these parameters; without any, makes it a flag.
+  /// Makes the first command named `name` the parameter list `#name(parameter, parameter=value)`,
+  /// or the flag `#name` without any parameter.
   KELP_QUILL_INP_EXPORT InputBuilder& set_task(std::string name,
                                                std::vector<CommandParameter> parameters = {});
 
-  /// Sets one parameter of the first command named `command`, and makes that a parameter list. The
-  /// first parameter named `key` gets the value and keeps its spelling; if there is none, one is
-  /// appended.
+  /// Sets one parameter of the first command named `command`, and makes that a parameter list:
+  /// `#command(key=value)`, among the parameters that it has. The first parameter named `key` gets
+  /// the value and keeps its spelling; if there is none, one is appended.
   KELP_QUILL_INP_EXPORT InputBuilder& set_task_parameter(std::string command, std::string key,
                                                          std::string value);
 
-  /// Assign `value` to "model" and to "device", as set_assignment() does.
+  /// Makes the first command named "model" the line `#model = value`.
   KELP_QUILL_INP_EXPORT InputBuilder& set_model(std::string value);
+
+  /// Makes the first command named "device" the line `#device = value`.
   KELP_QUILL_INP_EXPORT InputBuilder& set_device(std::string value);
 
-  /// Makes the first command named `name` an assignment of `value`, without parameters.
+  /// Makes the first command named `name` the line `#name = value`, without parameters.
   KELP_QUILL_INP_EXPORT InputBuilder& set_assignment(std::string name, std::string value);
 
-  /// Makes the first command named `name` a flag without value and parameters.
+  /// Makes the first command named `name` the line `#name`, without value and parameters.
   KELP_QUILL_INP_EXPORT InputBuilder& set_flag(std::string name);
 
-  /// Appends a command as it is. Makes no copy of the document.
+  /// Appends a command as it is, even if there are others with its name. Makes no copy of the
+  /// document.
   KELP_QUILL_INP_EXPORT InputBuilder& add_command(HeaderCommand&& command);
   KELP_QUILL_INP_EXPORT InputBuilder& add_command(const HeaderCommand& command);
 
-  /// Set the charge and multiplicity line, or remove it, which sets the numbers to 0 and 1. All
-  /// numbers are allowed. These make no copy of the document.
+  /// Sets the line `charge multiplicity`; the geometry's atoms or files stay. All numbers are
+  /// allowed. Makes no copy of the document.
   KELP_QUILL_INP_EXPORT InputBuilder& set_charge_and_multiplicity(int charge, int multiplicity);
+
+  /// Removes the line of charge and multiplicity, and sets the charge to 0 and the multiplicity
+  /// to 1. Makes no copy of the document.
   KELP_QUILL_INP_EXPORT InputBuilder& clear_charge_and_multiplicity();
 
-  /// Appends a copy of one atom to the inline atoms. A geometry of another kind is first replaced
-  /// by an empty list of atoms.
+  /// Appends a copy of one atom to the inline atoms, the line `symbol x y z`. A geometry of another
+  /// kind is first replaced by an empty list of atoms.
   KELP_QUILL_INP_EXPORT InputBuilder& add_atom(const AtomRecord& atom);
   KELP_QUILL_INP_EXPORT InputBuilder& add_atom(const kelp::core::Atom& atom);
 
-  /// Replaces the geometry by a copy of these atoms, in order; symbols are not normalised. The
-  /// charge and multiplicity line stays.
+  /// Replaces the geometry by a copy of these atoms, in order, one line `symbol x y z` each;
+  /// symbols are not normalised. The charge and multiplicity line stays.
   KELP_QUILL_INP_EXPORT InputBuilder& set_geometry(const std::vector<AtomRecord>& atoms);
   KELP_QUILL_INP_EXPORT InputBuilder& set_geometry(const kelp::core::Geometry& geometry);
 
-  /// Replace the geometry by references to any number of XYZ files, to one, and to a trajectory.
+  /// Replaces the geometry by references to any number of XYZ files, one line `XYZ path` each, in
+  /// order.
   KELP_QUILL_INP_EXPORT InputBuilder& set_xyz_files(std::vector<std::string> files);
+
+  /// Replaces the geometry by a reference to one XYZ file, the line `XYZ path`.
   KELP_QUILL_INP_EXPORT InputBuilder& set_xyz_file(std::string path);
+
+  /// Replaces the geometry by a reference to a trajectory, the line `XYZTRAJ path`.
   KELP_QUILL_INP_EXPORT InputBuilder& set_xyz_trajectory(std::string path);
 
-  /// Appends a post-processing line as it is. Makes no copy of the document.
+  /// Appends a post-processing line as it is, even if there is an equal one. Makes no copy of the
+  /// document.
   KELP_QUILL_INP_EXPORT InputBuilder& add_post_command(PostCommand&& command);
   KELP_QUILL_INP_EXPORT InputBuilder& add_post_command(const PostCommand& command);
 
-  /// Append a constraint on one to four atoms, numbered as in the file and not checked.
+  /// Appends the line `C a`, which fixes the position of atom `a`. Atoms are numbered as in the
+  /// file; neither these numbers nor those of the next functions are checked.
   KELP_QUILL_INP_EXPORT InputBuilder& add_atom_constraint(int a);
+
+  /// Appends the line `B a b`, which fixes the distance between atoms `a` and `b`.
   KELP_QUILL_INP_EXPORT InputBuilder& add_bond_constraint(int a, int b);
+
+  /// Appends the line `A a b c`, which fixes the angle between atoms `a` and `c` at its vertex `b`.
   KELP_QUILL_INP_EXPORT InputBuilder& add_angle_constraint(int a, int b, int c);
+
+  /// Appends the line `D a b c d`, which fixes the dihedral angle about the bond of atoms `b` and
+  /// `c`.
   KELP_QUILL_INP_EXPORT InputBuilder& add_dihedral_constraint(int a, int b, int c, int d);
 
-  /// Appends a scan of a bond, an angle or a dihedral, given by two, three or four atoms; the count
-  /// is not checked.
+  /// Appends the line `S`, the atoms, `value` and `steps`: `S a b value steps` scans a bond, with
+  /// three atoms an angle, with four a dihedral. The count of atoms is not checked. The value is
+  /// written with up to six significant digits.
   KELP_QUILL_INP_EXPORT InputBuilder& add_scan(std::vector<int> atoms, double value, int steps);
 
-  /// Appends a post-processing file; earlier ones stay.
+  /// Appends the line `POST path`; earlier ones stay.
   KELP_QUILL_INP_EXPORT InputBuilder& set_post_file(std::string path);
 
   // Null pointers and numbers are not texts; text_argument.hpp says more.

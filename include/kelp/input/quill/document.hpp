@@ -211,7 +211,7 @@ struct QuillInput {
 
   QuillInput() = default;
 
-  /// Takes all members, in their order; those left out are empty.
+  /// Takes the three parts, in the order of the file; those left out are empty.
   QuillInput(std::vector<HeaderCommand> header, GeometryBlock coordinates = {},
              std::vector<PostCommand> post_processing = {})
       : commands(std::move(header)),

@@ -71,8 +71,10 @@ class InputEditor {
   [[nodiscard]] KELP_QUILL_INP_EXPORT std::optional<std::string> get_assignment(
       std::string_view name) const;
 
-  /// Return get_assignment("model") and get_assignment("device").
+  /// Returns get_assignment("model"): `m1` when the line is `#model = m1`.
   [[nodiscard]] KELP_QUILL_INP_EXPORT std::optional<std::string> model() const;
+
+  /// Returns get_assignment("device"): `gpu0` when the line is `#device = gpu0`.
   [[nodiscard]] KELP_QUILL_INP_EXPORT std::optional<std::string> device() const;
 
   /// Returns the value of the first parameter named `parameter_name` of command number
@@ -82,24 +84,28 @@ class InputEditor {
       std::string_view command_name, std::string_view parameter_name,
       std::uint64_t occurrence = 0) const;
 
-  /// Makes the first command named `name` a flag without value and parameters.
+  /// Makes the first command named `name` a flag without value and parameters: `#name`.
   KELP_QUILL_INP_EXPORT void set_flag(std::string_view name);
 
-  /// Makes the first command named `name` an assignment of `value`, without parameters. An empty
-  /// value is stored as a value.
+  /// Makes the first command named `name` an assignment of `value`, without parameters:
+  /// `#name = value`. An empty value is stored as a value.
   KELP_QUILL_INP_EXPORT void set_assignment(std::string_view name, std::string_view value);
 
-  /// Assign `value` to "model" and to "device", as set_assignment() does.
+  /// Makes the first command named "model" the line `#model = value`, as set_assignment() does.
   KELP_QUILL_INP_EXPORT void set_model(std::string_view value);
+
+  /// Makes the first command named "device" the line `#device = value`, as set_assignment() does.
   KELP_QUILL_INP_EXPORT void set_device(std::string_view value);
 
   /// Gives the first command named `name` exactly these parameters and no value: a parameter list,
-  /// or a flag when there are none. Tasks with other names stay.
+  /// `#name(parameter, parameter=value)`, or the flag `#name` without any. Tasks with other names
+  /// stay.
   KELP_QUILL_INP_EXPORT void set_task(std::string_view name,
                                       std::vector<CommandParameter> parameters = {});
 
   /// Sets a parameter of command number `occurrence`, counted from 0, among those named
-  /// `command_name`, and makes that command a parameter list without a value. The first parameter
+  /// `command_name`, and makes that command a parameter list without a value:
+  /// `#command_name(parameter_name=value)`, among the parameters that it has. The first parameter
   /// with this name gets the value and keeps its spelling; if there is none, one is appended.
   ///
   /// When there are fewer commands with this name, the parameter is appended to the first of them,
@@ -125,29 +131,38 @@ class InputEditor {
   KELP_QUILL_INP_EXPORT void add_command(HeaderCommand&& command);
   KELP_QUILL_INP_EXPORT void add_command(const HeaderCommand& command);
 
-  /// Sets both numbers, which are not checked, and adds their line. The geometry's kind and content
-  /// stay.
+  /// Sets both numbers, which are not checked, and adds their line, `charge multiplicity`. The
+  /// geometry's kind and content stay.
   KELP_QUILL_INP_EXPORT void set_charge_and_multiplicity(int charge, int multiplicity);
 
-  /// Removes the line and sets the charge to 0 and the multiplicity to 1.
+  /// Removes the line of charge and multiplicity, and sets the charge to 0 and the multiplicity
+  /// to 1.
   KELP_QUILL_INP_EXPORT void clear_charge_and_multiplicity();
 
-  /// Replaces the geometry by a copy of these atoms, in order; symbols are not normalised. Charge,
-  /// multiplicity and post-processing lines stay, in this and in all functions that change the
-  /// geometry. When memory runs out, the kind may have been set already.
+  /// Replaces the geometry by a copy of these atoms, in order, one line `symbol x y z` each;
+  /// symbols are not normalised. Charge, multiplicity and post-processing lines stay, in this and
+  /// in all functions that change the geometry. When memory runs out, the kind may have been set
+  /// already.
   KELP_QUILL_INP_EXPORT void set_geometry(const std::vector<AtomRecord>& atoms);
   KELP_QUILL_INP_EXPORT void set_geometry(const kelp::core::Geometry& geometry);
 
-  /// Replace the geometry by references to any number of XYZ files, to one, and to a trajectory.
-  /// When memory runs out, the kind may have been set and the atoms removed already. The same is
-  /// true after set_xyz_trajectory() has thrown because its path has a null pointer as its data.
-  /// Since the atoms are removed first, that path must not be a view of an atom's symbol.
+  /// Replaces the geometry by references to any number of XYZ files, one line `XYZ path` each, in
+  /// order. When memory runs out, the kind may have been set and the atoms removed already.
   KELP_QUILL_INP_EXPORT void set_xyz_files(const std::vector<std::string>& files);
+
+  /// Replaces the geometry by a reference to one XYZ file, the line `XYZ path`. When memory runs
+  /// out, the document is left as by set_xyz_files().
   KELP_QUILL_INP_EXPORT void set_xyz_file(std::string_view path);
+
+  /// Replaces the geometry by a reference to a trajectory, the line `XYZTRAJ path`. When memory
+  /// runs out, or the path has a null pointer as its data, the kind may have been set and the atoms
+  /// removed already. Since the atoms are removed first, the path must not be a view of an atom's
+  /// symbol.
   KELP_QUILL_INP_EXPORT void set_xyz_trajectory(std::string_view path);
 
-  /// Appends a copy of one atom to the inline atoms. A geometry of another kind is first replaced
-  /// by an empty list of atoms, which removes all references to files. Amortised constant time.
+  /// Appends a copy of one atom to the inline atoms, the line `symbol x y z`. A geometry of another
+  /// kind is first replaced by an empty list of atoms, which removes all references to files.
+  /// Amortised constant time.
   KELP_QUILL_INP_EXPORT void add_atom(const AtomRecord& atom);
   KELP_QUILL_INP_EXPORT void add_atom(const kelp::core::Atom& atom);
 
@@ -158,18 +173,27 @@ class InputEditor {
   /// Removes every post-processing line.
   KELP_QUILL_INP_EXPORT void clear_post_commands();
 
-  /// Append a constraint on one to four atoms, numbered as in the file and not checked. Here and in
-  /// the two functions below, an equal line is added again.
+  /// Appends the line `C a`, which fixes the position of atom `a`. Atoms are numbered as in the
+  /// file; in this and in all functions that append a constraint or a scan, numbers are not
+  /// checked, and a line that is there already is appended again.
   KELP_QUILL_INP_EXPORT void add_atom_constraint(int a);
+
+  /// Appends the line `B a b`, which fixes the distance between atoms `a` and `b`.
   KELP_QUILL_INP_EXPORT void add_bond_constraint(int a, int b);
+
+  /// Appends the line `A a b c`, which fixes the angle between atoms `a` and `c` at its vertex `b`.
   KELP_QUILL_INP_EXPORT void add_angle_constraint(int a, int b, int c);
+
+  /// Appends the line `D a b c d`, which fixes the dihedral angle about the bond of atoms `b` and
+  /// `c`.
   KELP_QUILL_INP_EXPORT void add_dihedral_constraint(int a, int b, int c, int d);
 
-  /// Appends a scan with its value and number of steps. Two atoms give a bond, three an angle, four
-  /// a dihedral; the count is not checked.
+  /// Appends the line `S`, the atoms, `value` and `steps`: `S a b value steps` scans a bond, with
+  /// three atoms an angle, with four a dihedral. The count of atoms is not checked. The value is
+  /// written with up to six significant digits.
   KELP_QUILL_INP_EXPORT void add_scan(const std::vector<int>& atoms, double value, int steps);
 
-  /// Appends a post-processing file; earlier ones stay.
+  /// Appends the line `POST path`; earlier ones stay.
   KELP_QUILL_INP_EXPORT void set_post_file(std::string_view path);
 
   // Null pointers and numbers are not texts; text_argument.hpp says more.

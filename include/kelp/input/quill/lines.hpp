@@ -57,8 +57,8 @@ struct ParsedLines {
   ParseResult result;  ///< exactly what parse_string() returns for the text
 
   /// One record for each line, in order: `lines[n - 1]` is the line that warnings call "Line n".
-  /// Together the records cover every byte of the text. An empty text has none, and after a line
-  /// end at the end of the text there is no further line.
+  /// Together the records cover every byte of the text. An empty text has none, and a line end at
+  /// the end of the text begins no other line.
   std::vector<LineRecord> lines;
 };
 

@@ -35,7 +35,8 @@ struct ParseResult {
   std::string error;
 
   /// One complete message per problem, in the order of the lines: "Line 3: empty QUILL header
-  /// command", with lines counted from 1.
+  /// command", with lines counted from 1. One is about no line and comes last: "No QUILL coordinate
+  /// section found".
   std::vector<std::string> warnings;
 
   ParseResult() = default;

@@ -1,0 +1,66 @@
+#!/usr/bin/env bash
+# Tries descriptions.py on headers with and without the mistakes that it is to find.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+# try EXPECTED: compares what is said about the header on standard input.
+try() {
+  rm -rf "$scratch/xml"
+  cat >"$scratch/sample.hpp"
+  (
+    echo "INPUT = $scratch/sample.hpp"
+    echo "OUTPUT_DIRECTORY = $scratch"
+    printf '%s = NO\n' GENERATE_HTML GENERATE_LATEX WARNINGS
+    printf '%s = YES\n' QUIET GENERATE_XML EXTRACT_ALL
+    echo 'FILTER_PATTERNS = *.hpp="awk -f docs/site/header_filter.awk"'
+  ) | doxygen - >"$scratch/log" 2>&1
+  python3 scripts/support/descriptions.py "$scratch/xml" >"$scratch/said" 2>&1 || true
+  diff -u <(echo "$1") "$scratch/said"
+}
+
+try "2 functions have descriptions of their own" <<'HEADER'
+/// @file
+
+/// Sets the charge.
+void set_charge(int charge);
+void set_charge(long charge);
+HEADER
+
+try "2 functions have descriptions of their own" <<'HEADER'
+/// @file
+
+/// Sets the charge.
+[[nodiscard]] bool set_charge(int charge);
+
+/// Sets the multiplicity.
+void set_multiplicity(int multiplicity);
+template <typename Text>
+void set_charge(Text) = delete;
+HEADER
+
+try "void set_charge and void set_multiplicity are both described as: Set both numbers." <<'HEADER'
+/// @file
+
+/// Set both numbers.
+void set_charge(int charge);
+void set_multiplicity(int multiplicity);
+HEADER
+
+try "void set_multiplicity has no description" <<'HEADER'
+/// @file
+
+/// Sets the charge.
+void set_charge(int charge);
+
+void set_multiplicity(int multiplicity);
+HEADER
+
+try "no functions are described in $scratch/xml" <<'HEADER'
+/// @file
+
+/// Nothing.
+HEADER
+echo "missing and shared descriptions are found"
