@@ -5,6 +5,10 @@
 
 namespace kelp::input::quill {
 
+#ifdef _GLIBCXX_DEBUG
+const bool is_compiled_with_glibcxx_debug = true;
+#endif
+
 CommandParameter::~CommandParameter() = default;
 
 HeaderCommand::~HeaderCommand() = default;

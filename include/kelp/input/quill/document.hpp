@@ -28,6 +28,13 @@
 
 namespace kelp::input::quill {
 
+#ifdef _GLIBCXX_DEBUG
+// This macro changes the layout of vectors, and so of the types below. Only a library that was
+// compiled with it defines this name: with any other, the program does not link.
+KELP_QUILL_INP_EXPORT extern const bool is_compiled_with_glibcxx_debug;
+[[gnu::used]] static const bool* const needs_glibcxx_debug = &is_compiled_with_glibcxx_debug;
+#endif
+
 /// The form of a header line. The values never change.
 enum class HeaderCommandKind : std::int32_t {
   Flag = 0,           ///< `#name`
