@@ -3,8 +3,10 @@
 //
 //   extract_code PAGE.md PROGRAM.cpp
 //
-// Include lines and using directives are gathered at the top. Each block becomes a function, or, if
-// it defines main, a namespace whose main is called. Compiler messages name the page and its lines.
+// Include lines and using directives of the page are gathered at the top; nothing else is included
+// before its code, so that code which needs a header that the page does not show does not compile.
+// Each block becomes a function, or, if it defines main, a namespace whose main is called. Compiler
+// messages name the page and its lines.
 //
 // A block of "text", or of no language, right after a C++ block is what that block prints.
 //
@@ -107,7 +109,6 @@ void write_call(std::ostream& out, const Block& block, const std::string& name) 
 }
 
 void write_program(std::ostream& out, const std::vector<Block>& blocks, const std::string& page) {
-  out << "#undef NDEBUG\n#include <cassert>\n#include <iostream>\n#include <sstream>\n";
   for (const Block& block : blocks) {
     for (const std::string& line : block.lines) {
       if (belongs_on_top(line)) out << line << "\n";
@@ -120,7 +121,9 @@ void write_program(std::ostream& out, const std::vector<Block>& blocks, const st
     write_block(out, blocks[i], page, name);
     write_call(calls, blocks[i], name);
   }
-  out << "#undef main\nint main() {\n" << calls.str() << "}\n";
+  out << "#undef main\n#include <cassert>\n#include <iostream>\n#include <sstream>\n"
+      << "int main() {\n"
+      << calls.str() << "}\n";
 }
 
 }  // namespace
@@ -138,8 +141,10 @@ int main(int argc, char** argv) {
     return 1;
   }
   std::ofstream program(argv[2]);
+  program << "#undef NDEBUG\n";
   if (is_header) {
-    program << "#include \"kelp/input/quill/quill.hpp\"\n"
+    program << "#include <cassert>\n#include <iostream>\n"
+            << "#include \"kelp/input/quill/quill.hpp\"\n"
             << "using namespace kelp::input::quill;\n";
   }
   write_program(program, blocks, argv[1]);

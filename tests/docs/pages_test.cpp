@@ -8,7 +8,7 @@
 //   qin, diagnostics, written
 //                    read and written (format_page_test.cpp)
 //   console          carried out in a shell, with what it prints (tests/tools/quill_inp)
-//   cmake, sh        built and run (first_program.sh, tests/package, and the scripts of CI)
+//   cmake, meson, sh built and run (first_program.sh, tests/package, and the scripts of CI)
 //   abnf             compared with the reader on many lines (grammar_test.cpp)
 
 #include <gmock/gmock.h>
@@ -37,7 +37,7 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/embedding.md", {"cpp"}},
     {"docs/format.md", {"abnf", "cpp", "diagnostics", "qin", "written"}},
     {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
-    {"docs/packaging.md", {"cmake", "cpp", "sh"}},
+    {"docs/packaging.md", {"cmake", "cpp", "meson", "sh"}},
     {"docs/performance.md", {"text"}},
     {"docs/quill-inp.md", {"console"}},
 };
