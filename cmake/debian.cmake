@@ -40,6 +40,11 @@ install(FILES "${debian_files}/runtime.lintian-overrides"
   COMPONENT runtime)
 install_compressed("${PROJECT_SOURCE_DIR}/CHANGELOG.md"
   "${CMAKE_INSTALL_DATADIR}/doc/${development_package}" changelog development)
+file(READ "${PROJECT_SOURCE_DIR}/README.md" readme)
+string(REPLACE "(CHANGELOG.md)" "(changelog.gz)" readme "${readme}")
+file(WRITE "${PROJECT_BINARY_DIR}/package/README.md" "${readme}")
+install(FILES "${PROJECT_BINARY_DIR}/package/README.md"
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
 if(EXISTS "${PROJECT_SOURCE_DIR}/docs/man/quill-inp.1")
   install_compressed("${PROJECT_SOURCE_DIR}/docs/man/quill-inp.1"
     "${CMAKE_INSTALL_MANDIR}/man1" quill-inp.1 tool)
@@ -82,8 +87,8 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(quill_input "A QUILL input is the plain-text job description of a
 computational-chemistry engine. The library reads, edits, builds and writes
-them. No text is refused, no line is lost silently, and every diagnostic names
-its line.")
+them. No text is refused, no line is lost silently, and every diagnostic about a
+line names it.")
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
@@ -104,8 +109,8 @@ set(CPACK_DEBIAN_TOOL_PACKAGE_NAME ${tool_package})
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_TOOL_DESCRIPTION "read, check, edit and make QUILL inputs on the command line
 A QUILL input is the plain-text job description of a computational-chemistry
-engine. The program shows, checks, formats, compares and edits such files, and
-turns them into JSON and back. An edit changes the lines it means and leaves
+engine. The program shows, checks, formats and edits such files, makes new ones,
+and turns them into JSON and back. An edit changes the lines it means and leaves
 every other byte alone.")
 
 include(CPack)

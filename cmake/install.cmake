@@ -22,10 +22,15 @@ if(KELP_QUILL_INP_BUILD_TOOLS)
   include(cmake/install_tool.cmake)
 endif()
 
-install(FILES README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
-# In Debian's packages it has another name.
+# What README.md links to is installed beside it.
+install(FILES CONTRIBUTING.md SECURITY.md
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
+install(DIRECTORY editors
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
+# In Debian's packages, debian.cmake installs these two: the changelog has another name there.
 if(NOT KELP_QUILL_INP_DEBIAN_PACKAGES)
-  install(FILES CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
+  install(FILES README.md CHANGELOG.md
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
 endif()
 install(DIRECTORY docs
   DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation

@@ -37,6 +37,10 @@ remove() {
 trap remove EXIT
 dpkg --install build/debian/*.deb >/dev/null
 
+# Some systems leave documentation out, so it is looked at outside.
+dpkg-deb --extract build/debian/libkelp-quill-inp-dev_*.deb "$scratch/unpacked"
+sh tests/package/links_of_pages.sh "$scratch/unpacked/usr/share/doc/libkelp-quill-inp-dev"
+
 quill-inp set examples/inputs/water_optimisation.qin opt.maxiter=100 >"$scratch/water.qin"
 diff <(sed 's/maxiter=50/maxiter=100/' examples/inputs/water_optimisation.qin) "$scratch/water.qin"
 

@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
 
-need_packages "${build_packages[@]}" clang pkg-config
+need_packages "${tool_packages[@]}" clang meson pkg-config
 
 build=build/package
 rm -rf "$build"

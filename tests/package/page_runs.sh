@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Does what docs/packaging.md says, block by block, in a copy of the tree: shell blocks are run, C++
-# and CMake blocks become my_program/main.cpp and my_program/CMakeLists.txt. Also fails when the page
+# Does what docs/packaging.md says, block by block, in a copy of the tree: shell blocks are run; C++,
+# CMake and Meson blocks become main.cpp, CMakeLists.txt and meson.build in my_program. Also fails when the page
 # does not list an option.
 #
 #   page_runs.sh TREE SCRATCH_FOLDER
@@ -29,6 +29,7 @@ awk '
   /^```$/ && inside { if (inside != "sh") print "END_OF_BLOCK"; inside = ""; next }
   /^```cpp$/ { print "cat >my_program/main.cpp <<\"END_OF_BLOCK\""; inside = "cpp"; next }
   /^```cmake$/ { print "cat >my_program/CMakeLists.txt <<\"END_OF_BLOCK\""; inside = "cmake"; next }
+  /^```meson$/ { print "cat >my_program/meson.build <<\"END_OF_BLOCK\""; inside = "meson"; next }
   /^```sh$/ { inside = "sh"; next }
   inside { print }
 ' "$page" >"$scratch/commands"
@@ -38,8 +39,8 @@ HOME=$scratch/home bash -euxo pipefail "$scratch/commands" >"$scratch/output" 2>
   tail -n 30 "$scratch/output" "$scratch/errors" >&2
   exit 1
 }
-# The program is run three times, with the library found in three ways.
-if [ "$(grep -c '^#model = m1$' "$scratch/output")" -ne 3 ]; then
+# The program is run five times, with the library found in five ways.
+if [ "$(grep -c '^#model = m1$' "$scratch/output")" -ne 5 ]; then
   cat "$scratch/output" >&2
   exit 1
 fi
