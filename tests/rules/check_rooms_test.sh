@@ -47,6 +47,13 @@ is_refused() {
   esac
 }
 
+# is_refused_with PATH LINE WORDS: the project is, when this file is added or put in place of another.
+is_refused_with() {
+  make_project
+  file "$1" "$2"
+  is_refused "$3"
+}
+
 make_project
 sh "$check" "$scratch/project" "$scratch/table" >/dev/null || failures=$((failures + 1))
 
@@ -54,21 +61,12 @@ file src/low/back.cpp '#include "top/top.hpp"'
 file src/top/top.hpp '// nothing'
 is_refused 'src/low/back.cpp:1: src/low may not include src/top'
 
-make_project
-file src/top/other.cpp '#include "kelp/a.hpp"'
-is_refused 'src/top/other.cpp:1: src/top may not include include'
-
-make_project
-file src/top/other.cpp '#include "low/missing.hpp"'
-is_refused 'src/top/other.cpp:1: there is no "low/missing.hpp"'
-
-make_project
-file src/new/new.cpp '// nothing'
-is_refused 'src/new/new.cpp: is in no folder of the table'
-
-make_project
-file src/top/top.cpp '// nothing'
-is_refused 'src/top: no file includes one of src/low'
+is_refused_with src/top/other.cpp '#include "kelp/a.hpp"' \
+  'src/top/other.cpp:1: src/top may not include include'
+is_refused_with src/top/other.cpp '#include "low/missing.hpp"' \
+  'src/top/other.cpp:1: there is no "low/missing.hpp"'
+is_refused_with src/new/new.cpp '// nothing' 'src/new/new.cpp: is in no folder of the table'
+is_refused_with src/top/top.cpp '// nothing' 'src/top: no file includes one of src/low'
 
 make_project
 printf 'src/late: src/top\n' >>"$scratch/table"
