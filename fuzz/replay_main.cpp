@@ -1,6 +1,6 @@
 // Replaces libFuzzer where it is not available: runs the target once on every file that is named on
 // the command line, and on every file in every named folder. Fails when one of them has a finding,
-// and when there is no file where one is named.
+// when a named file cannot be opened, and when a named folder has no files.
 
 #include <exception>
 #include <filesystem>

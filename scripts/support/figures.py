@@ -23,7 +23,7 @@ def merged(old, new):
 def replaced(page, name, text, has_rows):
     blocks = [block for block in BLOCK.finditer(page) if block[1] == name]
     if len(blocks) != 1 or not text.strip():
-        raise SystemExit(f"there is no text, or not one block {name} to hold it")
+        raise SystemExit(f"the text for block {name} is empty, or the page does not have one such block")
     start, end = blocks[0].span(2)
     return page[:start] + (merged(blocks[0][2], text) if has_rows else text) + page[end:]
 

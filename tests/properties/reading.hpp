@@ -20,7 +20,7 @@ void check_outcome(std::string_view text, const ParseResult& result);
 void check_that_no_line_is_lost(std::string_view text, const ParseResult& result);
 
 /// Every warning but the last names a line of the text, in the order of the lines; the last one may
-/// say instead that there is no coordinate section, and does so exactly if it is missing.
+/// say instead that the coordinate section is missing, and does so exactly if it is.
 void check_warnings(std::string_view text, const ParseResult& result);
 
 /// The geometry holds what its kind says and nothing else; symbols are spelled as elements are.
