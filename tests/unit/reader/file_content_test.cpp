@@ -58,7 +58,8 @@ TEST(FileContent, TakesTheRoomOfTheFileAndNoMore) {
   const std::string content = bytes_of_size(3 * chunk + 5);
   const std::optional<std::string> read = read_file_content(folder.write("bytes", content));
   ASSERT_TRUE(read.has_value());
-  EXPECT_EQ(read->capacity(), content.size());
+  constexpr std::size_t rounding = 16;  // by which some standard libraries allocate
+  EXPECT_LT(read->capacity(), content.size() + rounding);
 }
 
 TEST(FileContent, DoesNotDependOnTheSizeThatTheFileSystemTells) {
