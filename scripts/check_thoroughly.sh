@@ -18,6 +18,9 @@ step "the tests with the standard library's checks, with a char that has no sign
 ./unsigned_char.sh
 ./valgrind.sh
 
+step "the tests with another standard library"
+./libcxx.sh
+
 step "what is shipped: hardening, Debian packages, the same bytes from two folders"
 ./check_hardening.sh
 ./check_debian.sh

@@ -7,18 +7,13 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
+. scripts/support/googletest.sh
 . scripts/support/packages.sh
 
-need_packages "${test_packages[@]}" googletest
+need_packages "${test_packages[@]}"
 
-googletest=build/debug-library-googletest
-build_googletest() {
-  cmake -S /usr/src/googletest -B "$googletest" -G Ninja \
-    -DCMAKE_CXX_FLAGS="-D_GLIBCXX_DEBUG -D_GLIBCXX_DEBUG_PEDANTIC" \
-    -DCMAKE_INSTALL_PREFIX="$PWD/$googletest/installed" &&
-    cmake --build "$googletest" --target install
-}
-quietly "$googletest/build.log" build_googletest
+build_googletest build/debug-library-googletest \
+  -DCMAKE_CXX_FLAGS="-D_GLIBCXX_DEBUG -D_GLIBCXX_DEBUG_PEDANTIC"
 
 folder=${1:+tests/$1}
 cmake --preset debug-library

@@ -1,19 +1,15 @@
 #include "kelp/input/quill/lossless/wording.hpp"
 
-#include <charconv>
-#include <cstddef>
 #include <optional>
 #include <variant>
 
 #include "editing/expected_lines.hpp"
 #include "model/post_line_shapes.hpp"
+#include "writer/floating_point_text.hpp"
 
 namespace kelp::input::quill::lossless {
 
 namespace {
-
-constexpr std::size_t longest_number =
-    32;  // the shortest text of a double has at most 24 characters
 
 constexpr std::string_view absent = "absent";
 constexpr std::string_view unknown_kind = "of unknown kind";
@@ -291,14 +287,14 @@ std::string in_apostrophes(std::string_view text) {
 }
 
 std::string shortest_text(double number) {
-  char text[longest_number];
-  return {text, std::to_chars(text, text + sizeof text, number).ptr};
+  char text[longest_shortest];
+  return {text, write_shortest(text, number)};
 }
 
 std::string rounded_text(double number) {
-  char text[longest_number];
-  const auto format = std::chars_format::general;
-  return {text, std::to_chars(text, text + sizeof text, number, format, 2).ptr};
+  constexpr int digits = 2;
+  char text[longest_general(digits)];
+  return {text, write_general(text, number, digits)};
 }
 
 std::string joined(const std::vector<std::int32_t>& numbers) {

@@ -3,16 +3,16 @@
 #include <charconv>
 #include <cstddef>
 #include <limits>
-#include <system_error>
 
 #include "decimal.hpp"
+#include "floating_point.hpp"
 
 namespace kelp::core::text {
 
 namespace {
 
-/// A number written for from_chars: a point, the significant digits and an exponent. Its size does
-/// not depend on the length of the number.
+/// A number written for parse_floating_point: a point, the significant digits and an exponent. Its
+/// size does not depend on the length of the number.
 class CanonicalText {
  public:
   void append(std::string_view digits) {
@@ -22,17 +22,14 @@ class CanonicalText {
     if (digits.find_first_not_of('0', kept.size()) != std::string_view::npos) has_more_ = true;
   }
 
-  /// The double nearest to the number with this exponent, or nothing when the number is too large
-  /// for a finite double or too small for one that is not zero.
+  /// The double nearest to the number with this exponent. Nothing when the number is too large for
+  /// a finite double; zero or nothing when it is too small for any other double.
   std::optional<double> read_with_exponent(std::int64_t exponent) {
     char* end = digits_end();
     if (has_more_) *end++ = '1';
     *end++ = 'e';
     end = std::to_chars(end, text_.data() + text_.size(), exponent).ptr;
-    double value = 0.0;
-    const std::errc error = std::from_chars(text_.data(), end, value).ec;
-    if (error != std::errc()) return std::nullopt;
-    return value;
+    return parse_floating_point({text_.data(), static_cast<std::size_t>(end - text_.data())});
   }
 
  private:

@@ -1,32 +1,19 @@
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 #include <optional>
-#include <system_error>
 
 #include "ascii.hpp"
 #include "decimal.hpp"
 #include "fixed_point.hpp"
+#include "floating_point.hpp"
 #include "kelp/core/text.hpp"
 
 namespace kelp::core::text {
 
 namespace {
-
-/// The value of a number in the notation of C, or nothing when it is out of range.
-std::optional<double> parse_floating_point(std::string_view text) {
-  // from_chars would also read a sign here, "inf" and "nan", and the characters that may follow
-  // "nan".
-  if (text.empty() || (!is_digit(text.front()) && text.front() != '.')) return std::nullopt;
-  const char* const last = text.data() + text.size();
-  double value = 0.0;
-  const auto [end, error] = std::from_chars(text.data(), last, value);
-  if (error != std::errc() || end != last) return std::nullopt;
-  return value;
-}
 
 bool equals_ignoring_case(std::string_view text, std::string_view lower) {
   return std::equal(text.begin(), text.end(), lower.begin(), lower.end(),

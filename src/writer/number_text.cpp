@@ -6,7 +6,8 @@
 #include <cstring>
 #include <limits>
 #include <optional>
-#include <string_view>
+
+#include "writer/floating_point_text.hpp"
 
 namespace kelp::input::quill {
 
@@ -14,10 +15,6 @@ namespace {
 
 constexpr int coordinate_decimals = 6;
 constexpr std::uint64_t millionths_per_unit = 1'000'000;
-
-// The largest double has a digit and max_exponent10 more before the point.
-constexpr std::size_t longest_coordinate =
-    std::numeric_limits<double>::max_exponent10 + std::string_view("-1.000000").size();
 
 #if defined(__SIZEOF_INT128__) && !defined(KELP_QUILL_INP_PORTABLE_NUMBERS)
 __extension__ using Uint128 = unsigned __int128;
@@ -91,10 +88,8 @@ void store_characters(char* out, std::uint64_t characters) {
 }
 
 void append_any_coordinate(std::string& out, double coordinate) {
-  char text[longest_coordinate];
-  const char* const end = std::to_chars(text, text + sizeof text, coordinate,
-                                        std::chars_format::fixed, coordinate_decimals)
-                              .ptr;
+  char text[longest_fixed(coordinate_decimals)];
+  const char* const end = write_fixed(text, coordinate, coordinate_decimals);
   const auto length = static_cast<std::size_t>(end - text);
   if (length < coordinate_width) out.append(coordinate_width - length, ' ');
   out.append(text, length);
@@ -160,7 +155,7 @@ void append_coordinate(std::string& out, double coordinate) {
 }
 
 char* write_scan_value(char* field, double value) {
-  return std::to_chars(field, field + longest_scan_value, value, std::chars_format::general, 6).ptr;
+  return write_general(field, value, scan_value_digits);
 }
 
 }  // namespace kelp::input::quill

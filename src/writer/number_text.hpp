@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "writer/floating_point_text.hpp"
+
 // The three spellings of numbers in a QUILL input. The locale has no influence on them.
 
 namespace kelp::input::quill {
@@ -13,9 +15,11 @@ namespace kelp::input::quill {
 /// The width of a coordinate's field. Longer numbers are not cut.
 inline constexpr std::size_t coordinate_width = 14;
 
+inline constexpr int scan_value_digits = 6;
+
 /// The most characters that write_integer() and write_scan_value() write.
 inline constexpr std::size_t longest_integer = std::string_view("-2147483648").size();
-inline constexpr std::size_t longest_scan_value = std::string_view("-1.23457e-308").size();
+inline constexpr std::size_t longest_scan_value = longest_general(scan_value_digits);
 
 /// Writes plain decimal digits at `field`, after a "-" for negative numbers, and returns the end of
 /// the text.

@@ -1,9 +1,9 @@
 #include "number_samples.hpp"
 
-#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <random>
@@ -32,9 +32,7 @@ double fraction(Random& random) { return std::ldexp(static_cast<double>(random()
 
 double power_of_ten(int exponent) {
   const std::string text = "1e" + std::to_string(exponent);
-  double number = 0.0;
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return number;
+  return std::strtod(text.c_str(), nullptr);
 }
 
 double with_random_sign(Random& random, double number) {

@@ -7,13 +7,14 @@
 #include "quill-inp/formats/json_text.hpp"
 #include "quill-inp/text/hexadecimal.hpp"
 #include "quill-inp/text/utf8.hpp"
+#include "writer/floating_point_text.hpp"
 
 namespace kelp::input::quill::tool {
 
 namespace {
 
 constexpr std::size_t most_waiting = std::size_t{64} * 1024;
-constexpr std::size_t longest_number = 32;  // a number has at most 24 characters, and ".0"
+constexpr std::size_t longest_integer = std::string_view("-9223372036854775808").size();
 
 /// Returns how a character is escaped after the backslash, or NUL for one that has no short form.
 constexpr char short_escape(char c) {
@@ -81,9 +82,9 @@ void JsonWriter::number(double number) {
     return;
   }
   const bool is_scientific = has_exponent(number);
-  char digits[longest_number];
-  const auto format = is_scientific ? std::chars_format::scientific : std::chars_format::fixed;
-  char* const end = std::to_chars(digits, digits + sizeof digits, number, format).ptr;
+  char digits[longest_shortest_fixed];
+  const char* const end = is_scientific ? write_shortest_scientific(digits, number)
+                                        : write_shortest_fixed(digits, number);
   const std::string_view written(digits, static_cast<std::size_t>(end - digits));
   value(written);
   // Without a point, readers that tell integers from other numbers would see an integer.
@@ -91,7 +92,7 @@ void JsonWriter::number(double number) {
 }
 
 void JsonWriter::integer(std::int64_t number) {
-  char digits[longest_number];
+  char digits[longest_integer];
   char* const end = std::to_chars(digits, digits + sizeof digits, number).ptr;
   value({digits, static_cast<std::size_t>(end - digits)});
 }
