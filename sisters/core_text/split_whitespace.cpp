@@ -46,7 +46,7 @@ class WordCounter {
     const std::uint64_t spaces = space_flags(load_word(bytes));
     const std::uint64_t starts = ~spaces & ((spaces << 8) | space_before_) & top_bits;
     // The top byte of this product is the sum of the bytes, each of them 0 or 1.
-    count_ += ((starts >> 7) * in_every_byte(1)) >> 56;
+    count_ += static_cast<unsigned>(((starts >> 7) * in_every_byte(1)) >> 56);
     space_before_ = spaces >> 56;
   }
 

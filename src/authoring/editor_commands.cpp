@@ -1,4 +1,5 @@
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 
 #include "authoring/charge_and_multiplicity.hpp"
@@ -8,6 +9,16 @@
 // document changes, since it may point into the document.
 
 namespace kelp::input::quill {
+
+namespace {
+
+/// The place in a list of what an index of 64 bits names; there are machines whose lists have less.
+template <typename List>
+auto& at_index(List& list, std::uint64_t index) {
+  return *(list.begin() + static_cast<std::ptrdiff_t>(index));
+}
+
+}  // namespace
 
 InputEditor::InputEditor(QuillInput input) : document_(std::move(input)) {}
 
@@ -38,7 +49,7 @@ std::optional<std::string> InputEditor::get_parameter(std::string_view command_n
   if (command == nullptr) return std::nullopt;
   const auto index = find_parameter_index(*command, parameter_name);
   if (!index) return std::nullopt;
-  return command->parameters[*index].value;
+  return at_index(command->parameters, *index).value;
 }
 
 void InputEditor::set_flag(std::string_view name) {
@@ -79,7 +90,7 @@ void InputEditor::set_parameter(std::string_view command_name, std::string_view 
     command = &document_.upsert_command(std::string(command_name));
   }
   if (index) {
-    command->parameters[*index].value = std::move(parameter.value);
+    at_index(command->parameters, *index).value = std::move(parameter.value);
   } else {
     command->parameters.push_back(std::move(parameter));
   }

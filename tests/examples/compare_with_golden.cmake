@@ -1,5 +1,6 @@
-# Runs PROGRAM with ARGUMENTS in FOLDER and compares what it prints and writes, and its exit status,
-# with the files of the folder GOLDEN: stdout, stderr, status, and output if it writes a file.
+# Runs PROGRAM with ARGUMENTS in FOLDER, by EMULATOR if there is one, and compares what it prints and
+# writes, and its exit status, with the files of the folder GOLDEN: stdout, stderr, status, and output
+# if it writes a file.
 # A golden file that is missing is a failure. With KELP_QUILL_INP_REFRESH_GOLDEN in the environment
 # the golden files are replaced instead, to be reviewed as a difference before they are committed.
 
@@ -7,7 +8,7 @@ file(REMOVE_RECURSE "${SCRATCH}")
 file(MAKE_DIRECTORY "${SCRATCH}")
 string(REPLACE "@OUTPUT@" "${SCRATCH}/output" ARGUMENTS "${ARGUMENTS}")
 execute_process(
-  COMMAND "${PROGRAM}" ${ARGUMENTS}
+  COMMAND ${EMULATOR} "${PROGRAM}" ${ARGUMENTS}
   WORKING_DIRECTORY "${FOLDER}"
   OUTPUT_FILE "${SCRATCH}/stdout"
   ERROR_FILE "${SCRATCH}/stderr"

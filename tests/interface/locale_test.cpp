@@ -4,8 +4,10 @@
 
 #include <cctype>
 #include <clocale>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <ios>
@@ -140,6 +142,14 @@ std::locale comma_locale() { return std::locale(std::locale::classic(), new Comm
 
 std::locale shifted_locale() { return std::locale(std::locale::classic(), new ShiftedFiles); }
 
+/// Compiled locales have the byte order of the machine that they are for.
+const char* byte_order_option() {
+  const std::uint16_t one = 1;
+  unsigned char first_byte = 0;
+  std::memcpy(&first_byte, &one, 1);
+  return first_byte == 1 ? "--little-endian" : "--big-endian";
+}
+
 /// Makes a locale the current one of the C library, for as long as the object lives. The locale is
 /// compiled for the test, so that the test does not depend on those that are installed.
 class CurrentCLocale {
@@ -148,8 +158,8 @@ class CurrentCLocale {
   CurrentCLocale(const std::string& source, const std::string& encoding)
       : before_(std::setlocale(LC_ALL, nullptr)) {
     const std::string name = "compiled." + encoding;
-    const std::string command = "localedef --no-archive -i '" + source + "' -f " + encoding + " '" +
-                                folder_.path(name) + "'";
+    const std::string command = "localedef --no-archive "s + byte_order_option() + " -i '" +
+                                source + "' -f " + encoding + " '" + folder_.path(name) + "'";
     if (std::system(command.c_str()) != 0)
       throw std::runtime_error(
           "cannot compile a locale; is the package installed that brings localedef and "
