@@ -2,7 +2,7 @@
 
 _quill_inp_options() {
   local files='--recursive -r --glob --files-from --null -0 --jobs -j'
-  local write='--in-place -i --diff --backup --break-hard-links'
+  local write='--in-place -i --diff --backup --break-hard-links --lock-timeout'
   local loss='--allow-loss --max-change'
   local geometry='--atoms --xyz --trajectory'
   local lines='--bond --angle --dihedral --atom --scan --post --raw'
@@ -67,7 +67,7 @@ _quill_inp() {
     --task) _quill_inp_offer 'sp opt ts freq irc scan' "$word" ;;
     --key | -k) _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word" ;;
     --flag | --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
-      --atom | --scan | --raw | --glob | --jobs | -j | --max-change | --max-size | --stdin-filename) ;;
+      --atom | --scan | --raw | --glob | --jobs | -j | --max-change | --lock-timeout | --max-size | --stdin-filename) ;;
     *)
       case $word in
         -*) _quill_inp_offer "$(_quill_inp_options "$verb")" "$word" ;;

@@ -46,6 +46,7 @@ complete -c quill-inp -n $writing -s i -l in-place -d 'Write to the file'
 complete -c quill-inp -n $writing -l diff -d 'Only print the changes'
 complete -c quill-inp -n $writing -l backup -d 'Keep a copy of the old text'
 complete -c quill-inp -n $writing -l break-hard-links -d 'Also write a file that has several hard links'
+complete -c quill-inp -n $writing -l lock-timeout -x -d 'Wait so long for other runs'
 complete -c quill-inp -n $losing -l allow-loss -d 'Write the text even if something is lost'
 complete -c quill-inp -n $losing -l max-change -x -d 'Accept rounding by up to this number'
 

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "kelp/core/text.hpp"
+
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/text/unified_diff.hpp"
@@ -19,6 +21,9 @@ constexpr Option backup{"--backup", "SUFFIX",
 constexpr Option break_hard_links{"--break-hard-links", "",
                                   "With -i, also write a file that has several hard links"};
 
+constexpr Option lock_timeout{"--lock-timeout", "SECONDS",
+                              "With -i, wait so long for other runs (default 60)"};
+
 constexpr const char* default_suffix = ".bak";
 
 std::string require_suffix(const std::string& suffix) {
@@ -26,6 +31,16 @@ std::string require_suffix(const std::string& suffix) {
     throw UsageError("--backup takes a suffix for the name of the file, such as '.bak', not '" +
                      suffix + "'");
   return suffix;
+}
+
+/// A year: longer than anybody waits, and small enough to be added to any time.
+constexpr int most_seconds = 365 * 24 * 60 * 60;
+
+std::chrono::seconds parse_patience(const std::string& text) {
+  int seconds = 0;
+  if (!core::text::try_parse_int(text, seconds) || seconds < 0 || seconds > most_seconds)
+    throw UsageError("--lock-timeout takes a number of seconds, such as '60', not '" + text + "'");
+  return std::chrono::seconds(seconds);
 }
 
 ExitCode tell_difference(Session& session, const ReadInput& input, std::string_view new_text,
@@ -46,6 +61,7 @@ void add_delivery_options(CLI::App& verb, CheckOption check) {
   add_flag(verb, diff);
   add_attached_value(verb, backup);
   add_flag(verb, break_hard_links);
+  add_value(verb, lock_timeout);
 }
 
 Delivery read_delivery(const CLI::App& verb, CheckOption check) {
@@ -56,6 +72,8 @@ Delivery read_delivery(const CLI::App& verb, CheckOption check) {
   if (const auto suffix = attached_value_of(verb, backup, default_suffix))
     delivery.replace.backup_suffix = require_suffix(*suffix);
   delivery.replace.breaks_hard_links = is_given(verb, break_hard_links);
+  const auto seconds = value_of(verb, lock_timeout);
+  if (seconds) delivery.patience = parse_patience(*seconds);
 
   if (delivery.in_place && (delivery.as_diff || delivery.as_check))
     throw UsageError("--check and --diff write no file and cannot be used with --in-place");
@@ -63,7 +81,14 @@ Delivery read_delivery(const CLI::App& verb, CheckOption check) {
     throw UsageError("--backup needs --in-place");
   if (!delivery.in_place && delivery.replace.breaks_hard_links)
     throw UsageError("--break-hard-links needs --in-place");
+  if (!delivery.in_place && seconds) throw UsageError("--lock-timeout needs --in-place");
   return delivery;
+}
+
+ReadInput read_for_delivery(Session& session, const std::string& argument,
+                            const Delivery& delivery) {
+  return delivery.in_place ? read_for_replacing(session, argument, delivery.patience)
+                           : read_input(session, argument);
 }
 
 ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_text,
@@ -74,9 +99,8 @@ ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_
     session.output().write(new_text);
     return ExitCode::Done;
   }
-  if (!input.origin) throw Trouble("standard input cannot be changed in place");
   for (const std::string& note :
-       replace_content(*input.origin, input.read.text, new_text, delivery.replace))
+       replace_content(input.origin.value(), input.read.text, new_text, delivery.replace))
     session.reporter().note({input.name}, note);
   if (new_text != input.read.text) session.note_change();
   return ExitCode::Done;

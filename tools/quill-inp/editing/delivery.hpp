@@ -1,6 +1,8 @@
 #ifndef KELP_INPUT_QUILL_TOOL_EDITING_DELIVERY_HPP
 #define KELP_INPUT_QUILL_TOOL_EDITING_DELIVERY_HPP
 
+#include <chrono>
+#include <string>
 #include <string_view>
 
 #include "quill-inp/command_line/arguments.hpp"
@@ -17,16 +19,22 @@ struct Delivery {
   bool as_diff = false;
   bool as_check = false;  // only whether there is anything to change
   ReplaceOptions replace = {};
+  std::chrono::seconds patience = std::chrono::seconds(60);  // with other runs, when in place
 };
 
 /// Whether a verb has --check.
 enum class CheckOption { Absent, Present };
 
-/// Adds --in-place, --diff, --backup and --break-hard-links to a verb, and --check if wanted.
+/// Adds --in-place, --diff, --backup, --break-hard-links and --lock-timeout to a verb, and --check
+/// if wanted.
 void add_delivery_options(CLI::App& verb, CheckOption check = CheckOption::Absent);
 
 /// Reads these options. Throws UsageError for options that cannot be used together.
 Delivery read_delivery(const CLI::App& verb, CheckOption check = CheckOption::Absent);
+
+/// Reads the input whose new text is to be delivered. Throws Trouble when that fails.
+ReadInput read_for_delivery(Session& session, const std::string& argument,
+                            const Delivery& delivery);
 
 /// Delivers the new text of a file: prints it, writes it in place of the old one, or prints whether
 /// and how it differs. The answer is "no" if it differs. The session notes a file that was changed.

@@ -41,7 +41,10 @@ std::vector<LineLoss> list_header_losses(const ReadText& read, const SurgicalEdi
 }
 
 /// The folder that paths in an input are relative to.
-std::string folder_of(const ReadInput& input) { return input.origin ? input.origin->folder : "."; }
+std::string folder_of(const std::string& argument) {
+  const std::size_t slash = argument.rfind('/');
+  return slash == std::string::npos ? "." : argument.substr(0, slash + 1);
+}
 
 }  // namespace
 
@@ -68,7 +71,7 @@ ExitCode edit_files(Session& session, const EditOptions& options, const Edit& ed
 
 ExitCode edit_file(Session& session, const std::string& argument, const Edit& edit,
                    const Delivery& delivery, const LossPolicy& policy) {
-  const ReadInput input = read_input(session, argument);
+  const ReadInput input = read_for_delivery(session, argument, delivery);
   if (!accept_as_input(session, input, policy)) return ExitCode::Trouble;
   report_warnings(session.reporter(), input.name, input.read.result);
   TrackedDocument document(input.read.result.input);
@@ -80,7 +83,7 @@ ExitCode edit_file(Session& session, const std::string& argument, const Edit& ed
   if (!report.missing.empty()) return ExitCode::No;
 
   const auto doubts =
-      find_addition_doubts(input.read.result.input, document.document(), folder_of(input));
+      find_addition_doubts(input.read.result.input, document.document(), folder_of(argument));
   if (!accept_additions(session, input.name, doubts, policy)) return ExitCode::Trouble;
 
   SurgicalEdit edited = lossless::render(input.read, document, policy.max_change);

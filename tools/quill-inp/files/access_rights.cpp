@@ -15,7 +15,8 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-constexpr mode_t permission_bits = 07777;
+constexpr mode_t permission_bits = 0777;
+constexpr mode_t special_bits = 07000;
 constexpr const char* temporary_file_failure = "the temporary file cannot be examined";
 
 /// Whether the new file has the same owner, group and access list as the old one.
@@ -77,6 +78,21 @@ std::vector<std::string> copy_access_rights(int from, const struct stat& state, 
   // before this.
   if (fchmod(to, mode) != 0) throw_system_trouble("the permission bits cannot be set", errno);
   return describe_losses(kept);
+}
+
+std::vector<std::string> restore_special_bits(const struct stat& wanted, int to) {
+  if ((wanted.st_mode & special_bits) == 0) return {};
+  const struct stat given = state_of(to, temporary_file_failure);
+  const mode_t bits = narrowed_mode(wanted.st_mode & special_bits, given.st_uid == wanted.st_uid,
+                                    given.st_gid == wanted.st_gid);
+  // The system may take a bit away without an error.
+  static_cast<void>(fchmod(to, (given.st_mode & permission_bits) | bits) == 0);
+  const mode_t lost = wanted.st_mode & ~state_of(to, temporary_file_failure).st_mode;
+  std::vector<std::string> losses;
+  if ((lost & S_ISUID) != 0) losses.emplace_back("the setuid bit could not be kept");
+  if ((lost & S_ISGID) != 0) losses.emplace_back("the setgid bit could not be kept");
+  if ((lost & S_ISVTX) != 0) losses.emplace_back("the sticky bit could not be kept");
+  return losses;
 }
 
 mode_t narrowed_mode(mode_t mode, bool keeps_owner, bool keeps_group) {

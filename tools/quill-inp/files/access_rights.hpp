@@ -14,6 +14,11 @@ namespace kelp::input::quill::tool {
 /// sentence each. Throws Trouble when not even reduced permission bits can be set.
 std::vector<std::string> copy_access_rights(int from, const struct stat& state, int to);
 
+/// Gives the new file the setuid, setgid and sticky bits of a file with the state `wanted`, as far
+/// as its owner and group are the same and the system allows it. It has to hold its content
+/// already: writing takes these bits away. Returns what was left out, in the same way.
+std::vector<std::string> restore_special_bits(const struct stat& wanted, int to);
+
 /// Returns the permission bits for a file whose owner or group could not be kept. Without the old
 /// group, the group and all others get only rights that both had. Without the old owner, the group
 /// and all others get only rights that the owner had, too. The set-user-ID bit is kept only with

@@ -1,5 +1,14 @@
 #include "quill-inp/files/file_origin.hpp"
 
+#include <fcntl.h>
+
+#include <cerrno>
+#include <utility>
+
+#include "quill-inp/files/file_lock.hpp"
+#include "quill-inp/files/file_place.hpp"
+#include "quill-inp/process/trouble.hpp"
+
 namespace kelp::input::quill::tool {
 
 namespace {
@@ -8,7 +17,42 @@ bool is_same_time(const struct timespec& left, const struct timespec& right) {
   return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
 }
 
+/// Returns whether the open file with this state still has its name.
+bool has_its_name(const FilePlace& place, const struct stat& state) {
+  struct stat named {};
+  if (fstatat(place.folder.number(), place.name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0)
+    return named.st_dev == state.st_dev && named.st_ino == state.st_ino;
+  if (errno != ENOENT) throw_system_trouble("cannot be examined", errno);
+  return false;
+}
+
+/// Not blocking, so that a pipe without a writer is refused at once. If a link has taken the place
+/// of the file, it is not followed.
+FileDescriptor open_in_place(const FilePlace& place, const std::string& path) {
+  FileDescriptor file(
+      open_in(place.folder.number(), place.name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW));
+  if (file.number() < 0) throw_cannot_open(path, errno);
+  return file;
+}
+
 }  // namespace
+
+FileOrigin open_for_replacing(const std::string& path, std::chrono::milliseconds patience) {
+  FilePlace place = find_place(path);
+  const auto deadline = std::chrono::steady_clock::now() + patience;
+  // Whoever held the lock has put another file in the place of this one, which is then the one to
+  // read.
+  for (;;) {
+    FileDescriptor file = open_in_place(place, path);
+    struct stat state = state_of(file.number());
+    if (S_ISREG(state.st_mode)) {
+      wait_for_lock(file.number(), deadline, patience);
+      state = state_of(file.number());
+    }
+    if (!S_ISREG(state.st_mode) || has_its_name(place, state))
+      return {std::move(place.folder), std::move(file), std::move(place.name), state};
+  }
+}
 
 bool is_same_state(const struct stat& left, const struct stat& right) {
   return left.st_dev == right.st_dev && left.st_ino == right.st_ino &&

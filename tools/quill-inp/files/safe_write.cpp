@@ -3,10 +3,13 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <utility>
 
 #include "quill-inp/files/access_rights.hpp"
+#include "quill-inp/files/attributes.hpp"
 #include "quill-inp/files/provisional_name.hpp"
 #include "quill-inp/files/temporary_file.hpp"
 #include "quill-inp/process/file_descriptor.hpp"
@@ -17,14 +20,6 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// The file that is to be replaced, by its name in its open folder, so that renaming a folder in
-/// its path cannot put another file in its place.
-struct Target {
-  FileDescriptor folder;
-  FileDescriptor file;
-  const FileOrigin& origin;
-};
-
 [[noreturn]] void throw_changed() {
   throw Trouble("was changed by somebody else after it was read; nothing was written");
 }
@@ -33,39 +28,30 @@ struct Target {
 /// not that of the file any more. All others say nothing about the file.
 [[noreturn]] void throw_lost(int error) {
   if (error == ENOENT || error == ENOTDIR || error == ELOOP) throw_changed();
-  throw_system_trouble("cannot be opened again, nothing was written", error);
+  throw_system_trouble("cannot be examined again, nothing was written", error);
 }
 
-void require_unchanged(const Target& target) {
+void require_unchanged(const FileOrigin& target) {
   struct stat state {};
-  if (fstatat(target.folder.number(), target.origin.name.c_str(), &state, AT_SYMLINK_NOFOLLOW) != 0)
+  if (fstatat(target.folder.number(), target.name.c_str(), &state, AT_SYMLINK_NOFOLLOW) != 0)
     throw_lost(errno);
-  if (!is_same_state(state, target.origin.state)) throw_changed();
+  if (!is_same_state(state, target.state)) throw_changed();
 }
 
-void require_writable(const Target& target) {
+void require_writable(const FileOrigin& target) {
   // Replacing the file needs only the right to write to its folder. But a file without write
   // permission is not supposed to be changed.
-  if (faccessat(target.folder.number(), target.origin.name.c_str(), W_OK, AT_EACCESS) != 0)
+  if (faccessat(target.folder.number(), target.name.c_str(), W_OK, AT_EACCESS) != 0)
     throw_system_trouble("cannot be written", errno);
 }
 
-void require_one_name(const Target& target, const ReplaceOptions& options) {
-  const auto names = target.origin.state.st_nlink;
+void require_one_name(const FileOrigin& target, const ReplaceOptions& options) {
+  const auto names = target.state.st_nlink;
   if (names > 1 && !options.breaks_hard_links) {
     throw Trouble("has " + std::to_string(names) +
                   " names (hard links), and only this one would get the new text; "
                   "use --break-hard-links to accept that");
   }
-}
-
-Target open_target(const FileOrigin& origin) {
-  FileDescriptor folder(open_in(AT_FDCWD, origin.folder, O_RDONLY | O_DIRECTORY));
-  if (folder.number() < 0) throw_system_trouble("the folder of the file cannot be opened", errno);
-  FileDescriptor file(open_in(folder.number(), origin.name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW));
-  if (file.number() < 0) throw_lost(errno);
-  if (!is_same_state(state_of(file.number()), origin.state)) throw_changed();
-  return {std::move(folder), std::move(file), origin};
 }
 
 void flush_to_disk(int file) {
@@ -75,7 +61,8 @@ void flush_to_disk(int file) {
 }
 
 /// Reads the file back by its name, since others will find it by its name, too.
-void require_content(const Target& target, const TemporaryFile& temporary, std::string_view text) {
+void require_content(const FileOrigin& target, const TemporaryFile& temporary,
+                     std::string_view text) {
   const FileDescriptor file(
       open_in(target.folder.number(), temporary.name(), O_RDONLY | O_NOFOLLOW));
   if (file.number() < 0) throw_system_trouble("the temporary file cannot be read back", errno);
@@ -83,14 +70,23 @@ void require_content(const Target& target, const TemporaryFile& temporary, std::
     throw Trouble("the temporary file does not hold what was written to it");
 }
 
-/// Puts the text into the temporary file, with the access rights of the target, and checks that it
-/// is there. Returns which of the rights could not be kept.
-std::vector<std::string> fill(TemporaryFile& temporary, const Target& target,
+void append(std::vector<std::string>& all, std::vector<std::string>&& more) {
+  std::move(more.begin(), more.end(), std::back_inserter(all));
+}
+
+/// Puts the text into the temporary file, with the access rights and attributes of the target, and
+/// checks that it is there. Returns which of them could not be kept.
+std::vector<std::string> fill(TemporaryFile& temporary, const FileOrigin& target,
                               std::string_view text) {
   const int file = temporary.file().number();
-  std::vector<std::string> losses =
-      copy_access_rights(target.file.number(), target.origin.state, file);
+  const int old_file = target.file.number();
+  std::vector<std::string> losses = copy_access_rights(old_file, target.state, file);
+  // Some of these have an effect on how the content is stored.
+  append(losses, copy_inode_flags(old_file, file));
   write_everything(file, text);
+  // The system takes these away from a file that is written to.
+  append(losses, restore_special_bits(target.state, file));
+  append(losses, copy_attributes(old_file, file));
   flush_to_disk(file);
   if (const int error = temporary.file().close(); error != 0)
     throw_system_trouble("the temporary file cannot be closed", error);
@@ -103,8 +99,8 @@ struct Backup {
   TemporaryFile file;
   std::string name;
 
-  Backup(const Target& target, std::string_view old_text, const std::string& suffix)
-      : file(target.folder.number()), name(target.origin.name + suffix) {
+  Backup(const FileOrigin& target, std::string_view old_text, const std::string& suffix)
+      : file(target.folder.number()), name(target.name + suffix) {
     fill(file, target, old_text);
   }
 };
@@ -120,7 +116,7 @@ void place(Backup& backup) {
 /// Puts the file in the place of the target and gives the backup, if there is one, its name. Either
 /// both is done or nothing, so that a failed call can be repeated. The backup gets its name first,
 /// so that the old text has a name at every moment.
-void place(TemporaryFile& file, std::optional<Backup>& backup, const Target& target) {
+void place(TemporaryFile& file, std::optional<Backup>& backup, const FileOrigin& target) {
   const HeldSignals held;
   std::optional<ProvisionalName> backup_name;
   if (backup) {
@@ -128,12 +124,12 @@ void place(TemporaryFile& file, std::optional<Backup>& backup, const Target& tar
     backup_name.emplace(target.folder.number(), std::move(backup->name));
   }
   require_unchanged(target);
-  file.take_place_of(target.origin.name);
+  file.take_place_of(target.name);
   if (backup_name) backup_name->keep();
 }
 
 /// The new name is on disk only when the folder is. Some file systems cannot flush folders.
-void flush_folder(const Target& target) {
+void flush_folder(const FileOrigin& target) {
   while (fsync(target.folder.number()) != 0) {
     if (errno == EINVAL || errno == ENOTSUP) return;
     if (errno != EINTR)
@@ -146,15 +142,15 @@ void flush_folder(const Target& target) {
 std::vector<std::string> replace_content(const FileOrigin& origin, std::string_view old_text,
                                          std::string_view new_text, const ReplaceOptions& options) {
   if (old_text == new_text) return {};
-  const Target target = open_target(origin);
-  require_one_name(target, options);
-  require_writable(target);
+  require_unchanged(origin);
+  require_one_name(origin, options);
+  require_writable(origin);
   std::optional<Backup> backup;
-  if (options.backup_suffix) backup.emplace(target, old_text, *options.backup_suffix);
-  TemporaryFile temporary(target.folder.number());
-  std::vector<std::string> losses = fill(temporary, target, new_text);
-  place(temporary, backup, target);
-  flush_folder(target);
+  if (options.backup_suffix) backup.emplace(origin, old_text, *options.backup_suffix);
+  TemporaryFile temporary(origin.folder.number());
+  std::vector<std::string> losses = fill(temporary, origin, new_text);
+  place(temporary, backup, origin);
+  flush_folder(origin);
   return losses;
 }
 

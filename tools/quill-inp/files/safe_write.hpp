@@ -26,11 +26,11 @@ struct ReplaceOptions {
 
 /// Replaces the content of the file that `old_text` was read from. If the new text is the same,
 /// nothing is done. The new text is written to a temporary file in the same folder, which gets the
-/// owner, group and permission bits of the old file as far as possible. It is flushed to disk, read
+/// access rights and attributes of the old file as far as possible. It is flushed to disk, read
 /// back, and renamed if the old file is still the one that was read.
 ///
-/// Returns which access rights of the file could not be kept. Throws Trouble on any failure; the
-/// file then holds the old text, or, if the message says so, the new one.
+/// Returns which access rights and attributes of the file could not be kept. Throws Trouble on any
+/// failure; the file then holds the old text, or, if the message says so, the new one.
 std::vector<std::string> replace_content(const FileOrigin& origin, std::string_view old_text,
                                          std::string_view new_text, const ReplaceOptions& options);
 

@@ -4,11 +4,9 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
-#include <memory>
 #include <utility>
 
+#include "quill-inp/files/file_place.hpp"
 #include "quill-inp/process/file_descriptor.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/text/counted.hpp"
@@ -16,49 +14,6 @@
 namespace kelp::input::quill::tool {
 
 namespace {
-
-bool is_symbolic_link(const std::string& path) {
-  struct stat state {};
-  return lstat(path.c_str(), &state) == 0 && S_ISLNK(state.st_mode);
-}
-
-std::string_view kind_of_file(mode_t mode) {
-  if (S_ISDIR(mode)) return "a folder";
-  if (S_ISFIFO(mode)) return "a pipe";
-  if (S_ISSOCK(mode)) return "a socket";
-  return "a device";
-}
-
-[[noreturn]] void throw_not_regular(mode_t mode) {
-  throw Trouble("is " + std::string(kind_of_file(mode)) +
-                ", not a regular file; use '-' to read standard input");
-}
-
-struct Free {
-  void operator()(char* pointer) const { std::free(pointer); }
-};
-
-/// Returns the absolute path with all symbolic links resolved.
-std::string resolve_links(const std::string& path) {
-  if (path.find('\0') != std::string::npos) throw Trouble("a file name cannot hold a NUL byte");
-  const std::unique_ptr<char, Free> resolved(realpath(path.c_str(), nullptr));
-  if (resolved) return resolved.get();
-  const int error = errno;
-  // Under /dev/fd there are links to open files without a name. A shell passes pipes in this way.
-  struct stat state {};
-  if (stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode)) throw_not_regular(state.st_mode);
-  if (error == ENOENT && is_symbolic_link(path))
-    throw Trouble("is a symbolic link to a file that does not exist");
-  throw_system_trouble("cannot be opened", error);
-}
-
-FileOrigin split_path(const std::string& resolved) {
-  const std::size_t slash = resolved.rfind('/');
-  FileOrigin origin;
-  origin.folder = slash == 0 ? "/" : resolved.substr(0, slash);
-  origin.name = resolved.substr(slash + 1);
-  return origin;
-}
 
 [[noreturn]] void throw_too_large(std::uint64_t limit) {
   throw Trouble("is larger than " + counted(limit, "byte") + ", see --max-size");
@@ -83,21 +38,22 @@ std::string read_at_most(int file, std::uint64_t limit) {
   return content;
 }
 
-void read_file(InputSource& source, Session& session, const std::string& path) {
+/// Reads an open file that a path led to. `state` is its state before.
+std::string read_regular_file(Session& session, int file, const struct stat& state) {
   const std::uint64_t limit = session.options().max_size;
-  const std::string resolved = resolve_links(path);
-  FileOrigin origin = split_path(resolved);
-  // Not blocking, so that a pipe without a writer is refused at once. If a link has taken the place
-  // of the resolved file, it is not followed.
-  const FileDescriptor file(open_in(AT_FDCWD, resolved, O_RDONLY | O_NONBLOCK | O_NOFOLLOW));
-  if (file.number() < 0) throw_system_trouble("cannot be opened", errno);
-  origin.state = state_of(file.number());
-  require_regular(origin.state, limit);
-  require_apart_from_output(session, origin.state);
-  source.content = read_at_most(file.number(), limit);
-  if (!is_same_state(origin.state, state_of(file.number())))
-    throw Trouble("changed while it was read");
-  source.origin = std::move(origin);
+  require_regular(state, limit);
+  require_apart_from_output(session, state);
+  std::string content = read_at_most(file, limit);
+  if (!is_same_state(state, state_of(file))) throw Trouble("changed while it was read");
+  return content;
+}
+
+std::string read_file(Session& session, const std::string& path) {
+  if (path.find('\0') != std::string::npos) throw Trouble("a file name cannot hold a NUL byte");
+  // Not blocking, so that a pipe without a writer is refused at once.
+  const FileDescriptor file(open_in(AT_FDCWD, path, O_RDONLY | O_NONBLOCK));
+  if (file.number() < 0) throw_cannot_open(path, errno);
+  return read_regular_file(session, file.number(), state_of(file.number()));
 }
 
 /// Reads a stream that is not connected to a file.
@@ -125,20 +81,21 @@ std::string read_standard_input(Session& session) {
 }  // namespace
 
 InputSource read_source(Session& session, const std::string& argument) {
-  InputSource source;
-  source.name = session.shown_name(argument);
-  if (argument == "-") {
-    source.content = read_standard_input(session);
-  } else {
-    read_file(source, session, argument);
-  }
-  return source;
+  return {session.shown_name(argument),
+          argument == "-" ? read_standard_input(session) : read_file(session, argument)};
 }
 
 ReadInput read_input(Session& session, const std::string& argument) {
   InputSource source = read_source(session, argument);
-  return {std::move(source.name), lossless::read_text(std::move(source.content)),
-          std::move(source.origin)};
+  return {std::move(source.name), lossless::read_text(std::move(source.content))};
+}
+
+ReadInput read_for_replacing(Session& session, const std::string& argument,
+                             std::chrono::milliseconds patience) {
+  if (argument == "-") throw Trouble("standard input cannot be changed in place");
+  FileOrigin origin = open_for_replacing(argument, patience);
+  std::string content = read_regular_file(session, origin.file.number(), origin.state);
+  return {session.shown_name(argument), lossless::read_text(std::move(content)), std::move(origin)};
 }
 
 void require_apart_from_output(Session& session, const std::string& argument) {

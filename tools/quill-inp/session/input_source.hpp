@@ -1,6 +1,7 @@
 #ifndef KELP_INPUT_QUILL_TOOL_SESSION_INPUT_SOURCE_HPP
 #define KELP_INPUT_QUILL_TOOL_SESSION_INPUT_SOURCE_HPP
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -10,15 +11,14 @@
 
 namespace kelp::input::quill::tool {
 
-/// The content of a file or of standard input, and where it comes from: the name to show for it,
-/// and the file, unless it was standard input.
+/// The content of a file or of standard input, and the name to show for it.
 struct InputSource {
   std::string name = {};
   std::string content = {};
-  std::optional<FileOrigin> origin = std::nullopt;
 };
 
-/// The same for an input, with what the reader made of its text.
+/// The same for an input, with what the reader made of its text, and with the file if it is to be
+/// replaced.
 struct ReadInput {
   std::string name = {};
   lossless::ReadText read = {};
@@ -32,6 +32,11 @@ InputSource read_source(Session& session, const std::string& argument);
 
 /// Reads such a file as a QUILL input. Throws as read_source() does.
 ReadInput read_input(Session& session, const std::string& argument);
+
+/// Reads such a file to replace it. Waits at most `patience` for other runs of this program that
+/// replace it. Throws as read_source() does, for standard input, and when the waiting is over.
+ReadInput read_for_replacing(Session& session, const std::string& argument,
+                             std::chrono::milliseconds patience);
 
 /// Throws Trouble when `argument` names the file that standard output goes into: the shell may have
 /// emptied it, and the program would read its own output. Does nothing if the file does not exist.

@@ -25,7 +25,7 @@ constexpr Option files{"FILE", "", "The inputs"};
 
 ExitCode format(Session& session, const std::string& argument, const Delivery& delivery,
                 const LossPolicy& policy) {
-  const ReadInput input = read_input(session, argument);
+  const ReadInput input = read_for_delivery(session, argument, delivery);
   if (!accept_as_input(session, input, policy)) return ExitCode::Trouble;
   const QuillInput& document = input.read.result.input;
   report_warnings(session.reporter(), input.name, input.read.result);

@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -7,6 +8,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -267,6 +269,33 @@ TEST(InPlace, TakesNamesAsLongAsTheyCanBe) {
             name + ": error: the backup '" + name + ".bak' cannot be made: File name too long\n");
   EXPECT_EQ(content_of(path), changed_water());
   EXPECT_EQ(names_in(folder.path()), Names{name});
+}
+
+/// Makes folders in one another, whose whole path no system call takes, and makes the last of them
+/// the current folder.
+void enter_deep_folder(const std::string& top) {
+  const std::string name(200, 'a');
+  ASSERT_EQ(chdir(top.c_str()), 0);
+  for (int depth = 0; depth < 25; ++depth) {
+    ASSERT_EQ(mkdir(name.c_str(), 0755), 0);
+    ASSERT_EQ(chdir(name.c_str()), 0);
+  }
+}
+
+TEST(InPlace, WorksInAFolderWithTheLongestPath) {
+  const int here = open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  const TemporaryFolder folder;
+  enter_deep_folder(folder.path());
+  std::ofstream("a.qin") << water;
+  ASSERT_EQ(symlink("a.qin", "link.qin"), 0);
+  EXPECT_EQ(run_in(".", {"set", "-q", "-i", "--backup", "link.qin", "model=m2"}), ended(0, "", ""));
+  EXPECT_EQ(run_in(".", {"get", "a.qin", "model"}), ended(0, "m2\n", ""));
+  EXPECT_EQ(run_in(".", {"add", "-i", "a.qin", "--bond", "1,4"}).code, 2);
+  EXPECT_EQ(content_of("a.qin"), changed_water());
+  EXPECT_EQ(content_of("a.qin.bak"), water);
+  EXPECT_EQ(names_in("."), (Names{"a.qin", "a.qin.bak", "link.qin"}));
+  ASSERT_EQ(fchdir(here), 0);
+  close(here);
 }
 
 TEST(InPlace, FailsWholeWhereFilesMayNotGrow) {

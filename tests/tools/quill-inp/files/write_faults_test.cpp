@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -129,10 +130,11 @@ TEST(Write, TakesItsStepsInOrder) {
     if (counts) steps.push_back(call);
   }
   const std::vector<std::string> expected = {
-      "openat",                // the file
-      "close",                 //
-      "openat",                // its folder
-      "openat",                // the file in the folder
+      "openat",                // the folder
+      "openat",                // the file in it
+      "flock",                 // no other run changes it
+      "fstatat",               // is it still the file of that name
+      "fstatat",               // and after it was read, still the same
       "faccessat",             // may it be written
       "openat",                // the temporary file
       "fchmod",                // the mode
@@ -237,6 +239,13 @@ TEST(SignalAtTheSecondFile, EndsTheProgramAsAtTheFirst) {
   EXPECT_EQ(write.others(), (std::vector<std::string>{"b.qin", "c.qin"}));
 }
 
+/// The number of the call that examines the name of the file when the file was read.
+std::size_t after_reading(const std::vector<std::string>& calls) {
+  const auto locked = std::find(calls.begin(), calls.end(), "fstatat");
+  return static_cast<std::size_t>(std::find(locked + 1, calls.end(), "fstatat") - calls.begin()) +
+         1;
+}
+
 /// A write without and with --backup.
 class AnyWrite : public testing::TestWithParam<bool> {};
 
@@ -307,7 +316,8 @@ TEST_P(AnyWrite, GoesOnAfterAnInterruption) {
   const std::vector<std::string> calls = calls_of_a_write(GetParam());
   for (std::size_t call = 1; call <= calls.size(); ++call) {
     const std::string& name = calls[call - 1];
-    if (name != "openat" && name != "read" && name != "write" && name != "fsync" && name != "close")
+    if (name != "openat" && name != "read" && name != "write" && name != "fsync" &&
+        name != "close" && name != "flock")
       continue;
     FaultyWrite write(GetParam());
     EXPECT_EQ(write.run_with_fault(call, "errno " + std::to_string(EINTR)), ended(0, "", ""))
@@ -377,11 +387,14 @@ TEST_P(ChangeMeanwhile, IsNotOverwritten) {
   const auto& [row, keeps_backup] = GetParam();
   const std::vector<std::string> calls = calls_of_a_write(keeps_backup);
   // When the file was read, while the new text is on its way, and at the last look.
-  for (const char* name : {"close", "fsync", "fstatat"}) {
+  const std::size_t moments[] = {after_reading(calls), position(calls, "fsync") + 1,
+                                 last_call(calls, "fstatat")};
+  for (const std::size_t moment : moments) {
+    const std::string& name = calls[moment - 1];
     FaultyWrite write(keeps_backup);
     const struct timespec long_ago[2] = {{1, 0}, {1, 0}};
     ASSERT_EQ(utimensat(AT_FDCWD, write.path().c_str(), long_ago, 0), 0);
-    EXPECT_EQ(write.run_with_fault(position(calls, name) + 1, "run " + row.command),
+    EXPECT_EQ(write.run_with_fault(moment, "run " + row.command),
               ended(2, "",
                     "a.qin: error: was changed by somebody else after it was read; nothing was "
                     "written\n"))
@@ -440,8 +453,8 @@ TEST(TooFewDescriptors, AreNotBlamedOnSomebodyElse) {
 TEST(ChangeWhileReading, IsNoticed) {
   const std::vector<std::string> calls = calls_of_a_write();
   FaultyWrite write;
-  // The file is examined once more before it is closed.
-  EXPECT_EQ(write.run_with_fault(position(calls, "close"), "run echo other >> a.qin"),
+  // The file is examined when it was read, right before its name is examined again.
+  EXPECT_EQ(write.run_with_fault(after_reading(calls) - 1, "run echo other >> a.qin"),
             ended(2, "", "a.qin: error: changed while it was read\n"));
   EXPECT_EQ(write.content(), water + std::string("other\n"));
 }
@@ -463,6 +476,35 @@ TEST(FolderThatCannotBeFlushed, IsNotAnErrorWhereTheFileSystemCannotDoThat) {
   FaultyWrite write;
   EXPECT_EQ(write.run_with_fault(last_call(calls, "fsync"), "errno " + std::to_string(EINVAL)),
             ended(0, "", ""));
+  EXPECT_EQ(write.content(), changed_water());
+}
+
+TEST(FileSystemWithoutLocks, IsWrittenToAsBefore) {
+  const std::size_t lock = position(calls_of_a_write(), "flock") + 1;
+  for (const int error : {ENOLCK, ENOTSUP, EBADF, EINVAL, ENOSYS}) {
+    FaultyWrite write;
+    EXPECT_EQ(write.run_with_fault(lock, "errno " + std::to_string(error)), ended(0, "", ""))
+        << error;
+    EXPECT_EQ(write.content(), changed_water());
+  }
+}
+
+TEST(ExtendedAttribute, ThatCannotBeKeptIsNamed) {
+  const std::string value = "by hand";
+  FaultyWrite write;
+  write.request().arguments = {"set", "-i", "a.qin", "model=m2"};
+  const std::string note = "a.qin:2: note: changed: #model = m2\n";
+  const auto attach = [&](const FaultyWrite& target) {
+    ASSERT_EQ(setxattr(target.path().c_str(), "user.a", value.data(), value.size(), 0), 0)
+        << "let TMPDIR name a folder that can hold extended attributes";
+  };
+  FaultyWrite undisturbed;
+  attach(undisturbed);
+  const std::size_t call = position(undisturbed.list_calls(), "fsetxattr") + 1;
+  attach(write);
+  EXPECT_EQ(
+      write.run_with_fault(call, "errno " + std::to_string(ENOSPC)),
+      ended(0, "", "a.qin: note: the extended attribute 'user.a' could not be kept\n" + note));
   EXPECT_EQ(write.content(), changed_water());
 }
 

@@ -12,6 +12,7 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/xattr.h>
@@ -161,6 +162,17 @@ int faccessat(int folder, const char* name, int mode, int flags) noexcept {
 ssize_t fgetxattr(int file, const char* name, void* value, size_t size) noexcept {
   if (fails("fgetxattr")) return -1;
   return find_next<ssize_t(int, const char*, void*, size_t)>("fgetxattr")(file, name, value, size);
+}
+
+int fsetxattr(int file, const char* name, const void* value, size_t size, int flags) noexcept {
+  if (fails("fsetxattr")) return -1;
+  return find_next<int(int, const char*, const void*, size_t, int)>("fsetxattr")(file, name, value,
+                                                                                 size, flags);
+}
+
+int flock(int file, int operation) noexcept {
+  if (fails("flock")) return -1;
+  return find_next<int(int, int)>("flock")(file, operation);
 }
 
 int fremovexattr(int file, const char* name) noexcept {

@@ -67,8 +67,8 @@ Channel make_channel(Connection connection, bool is_input) {
 
 /// Takes away the rights that make the superuser exempt from permission bits.
 void drop_privileges() {
-  for (const int capability :
-       {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH, CAP_CHOWN, CAP_FOWNER, CAP_LINUX_IMMUTABLE})
+  for (const int capability : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH, CAP_CHOWN, CAP_FOWNER,
+                               CAP_FSETID, CAP_SETFCAP, CAP_LINUX_IMMUTABLE})
     prctl(PR_CAPBSET_DROP, capability, 0, 0, 0);
 }
 

@@ -1,0 +1,137 @@
+// Several runs of the program, or threads of one, on the same file: they follow one another, and
+// none writes over what another has written.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <thread>
+
+#include "quill-inp/files/file_origin.hpp"
+#include "quill-inp/process/file_descriptor.hpp"
+#include "quill-inp/process/trouble.hpp"
+#include "support/temporary_folder.hpp"
+#include "tools/quill-inp/support/files.hpp"
+#include "tools/quill-inp/support/program.hpp"
+
+namespace kelp::input::quill::tool {
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds long_enough(60000);
+constexpr milliseconds a_moment(50);
+
+/// Another program that holds the lock of a file.
+class Holder {
+ public:
+  explicit Holder(const std::string& path) : file_(open_in(AT_FDCWD, path, O_RDONLY)) {
+    EXPECT_EQ(flock(file_.number(), LOCK_EX), 0);
+  }
+
+  void release() { file_.close(); }
+
+ private:
+  FileDescriptor file_;
+};
+
+const char* const three_writers =
+    "for name in a b c; do\n"
+    "  ( for i in 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20; do\n"
+    "      quill-inp set -q -i job.qin opt.$name$i=$i || echo failed\n"
+    "    done ) &\n"
+    "done\n"
+    "wait\n";
+
+TEST(ThreeWritersOfOneFile, LoseNothing) {
+  use_memory_for_temporary_files();
+  const TemporaryFolder folder;
+  folder.write("job.qin", "#opt(tight)\n\n0 1\n");
+  EXPECT_EQ(run_shell(folder.path(), three_writers).out, "");
+  std::string keys;
+  std::string values;
+  for (const char* name : {"a", "b", "c"}) {
+    for (int i = 1; i <= 20; ++i) {
+      keys += std::string(" opt.") + name + std::to_string(i);
+      values += std::to_string(i) + "\n";
+    }
+  }
+  EXPECT_EQ(run_shell(folder.path(), "quill-inp get job.qin" + keys).out, values);
+  EXPECT_EQ(names_in(folder.path()), std::vector<std::string>{"job.qin"});
+}
+
+TEST(FileLock, IsWaitedForOnlySoLong) {
+  const TemporaryFolder folder;
+  const Holder holder(folder.write("a.qin", water));
+  const auto change = [&](const std::string& seconds) {
+    return run_in(folder.path(), {"set", "-q", "-i", "--lock-timeout", seconds, "a.qin", "a=b"});
+  };
+  EXPECT_EQ(change("0"), ended(2, "",
+                               "a.qin: error: another run of quill-inp is changing it; waited 0 "
+                               "seconds, see --lock-timeout\n"));
+  EXPECT_EQ(change("1"), ended(2, "",
+                               "a.qin: error: another run of quill-inp is changing it; waited 1 "
+                               "second, see --lock-timeout\n"));
+  EXPECT_EQ(content_of(folder.path("a.qin")), water);
+}
+
+TEST(FileLock, IsNotNeededForReading) {
+  const TemporaryFolder folder;
+  const Holder holder(folder.write("a.qin", water));
+  EXPECT_EQ(run_in(folder.path(), {"get", "a.qin", "model"}), ended(0, "m1\n", ""));
+  EXPECT_EQ(run_in(folder.path(), {"set", "a.qin", "model=m2"}), ended(0, changed_water(), ""));
+}
+
+TEST(FileLock, IsTakenAgainForTheFileThatHasTheNameThen) {
+  const TemporaryFolder folder;
+  Holder holder(folder.write("a.qin", water));
+  const std::string other = folder.write("b.qin", "#model = other\n0 1\n");
+  std::thread replacing([&] {
+    std::this_thread::sleep_for(a_moment);
+    EXPECT_EQ(std::rename(other.c_str(), folder.path("a.qin").c_str()), 0);
+    holder.release();
+  });
+  EXPECT_EQ(run_in(folder.path(), {"set", "-q", "-i", "a.qin", "device=gpu"}), ended(0, "", ""));
+  replacing.join();
+  EXPECT_EQ(content_of(folder.path("a.qin")), "#model = other\n#device = gpu\n0 1\n");
+}
+
+TEST(FileLock, HoldsBetweenThreads) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("a.qin", water);
+  std::atomic<bool> is_open{false};
+  auto first = std::make_unique<FileOrigin>(open_for_replacing(path, long_enough));
+  std::thread second([&] {
+    const FileOrigin origin = open_for_replacing(path, long_enough);
+    is_open = true;
+  });
+  std::this_thread::sleep_for(a_moment);
+  EXPECT_FALSE(is_open);
+  first.reset();
+  second.join();
+  EXPECT_TRUE(is_open);
+}
+
+TEST(FileLock, IsOneForAllNamesOfAFile) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("a.qin", water);
+  ASSERT_EQ(symlink("a.qin", folder.path("link").c_str()), 0);
+  ASSERT_EQ(link(path.c_str(), folder.path("hard").c_str()), 0);
+  const FileOrigin origin = open_for_replacing(path, milliseconds(0));
+  for (const char* name : {"link", "hard"})
+    EXPECT_THROW(open_for_replacing(folder.path(name), milliseconds(0)), Trouble) << name;
+}
+
+TEST(FileLock, IsHeldByNobodyAfterwards) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("a.qin", water);
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(open_for_replacing(path, milliseconds(0)).name, "a.qin");
+}
+
+}  // namespace
+}  // namespace kelp::input::quill::tool
