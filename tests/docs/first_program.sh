@@ -23,7 +23,7 @@ rm -rf "$scratch"
 mkdir -p "$scratch/my_program" "$scratch/home"
 if [ "$what" = and-the-tool ]; then
   mkdir "$scratch/libkelp_quill_inp"
-  (cd "$tree" && cp -r CMakeLists.txt CMakePresets.json *.md cmake docs editors examples include \
+  (cd "$tree" && cp -r CMakeLists.txt CMakePresets.json *.md cmake docs editors examples include lossless \
     sisters src tools "$scratch/libkelp_quill_inp")
 else
   ln -s "$tree" "$scratch/libkelp_quill_inp"

@@ -13,8 +13,8 @@ page=$tree/docs/packaging.md
 rm -rf "$scratch"
 mkdir -p "$scratch/home" "$scratch/tree/my_program"
 cd "$tree"
-cp -r CMakeLists.txt CMakePresets.json README.md CHANGELOG.md cmake docs examples include lossless \
-  sisters src "$scratch/tree"
+cp -r CMakeLists.txt CMakePresets.json *.md cmake docs editors examples include lossless sisters src \
+  "$scratch/tree"
 ln -s .. "$scratch/tree/my_program/libkelp_quill_inp"
 
 grep -oE '^(option\(|set\()KELP_QUILL_INP_[A-Z_]+ "' cmake/options.cmake |
