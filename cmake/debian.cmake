@@ -95,7 +95,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "reader and writer of QUILL inputs, shared libraries
 ${quill_input}
 
-This package has the library and the two small ones that it uses.")
+This package has the library, the two small ones that it uses, and one for
+programs that edit the files of their users.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${development_package})
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)

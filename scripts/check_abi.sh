@@ -30,7 +30,7 @@ describe() {
 }
 
 status=0
-for library in src/libkelp_quill_inp.so sisters/core_text/libkelp_core_text.so \
+for library in src/libkelp_quill_inp.so lossless/libkelp_quill_lossless.so sisters/core_text/libkelp_core_text.so \
   sisters/chem_elements/libkelp_chem_elements.so; do
   name=$(basename "$library" .so)
   describe "$build/$library" "$build/$name.abi"

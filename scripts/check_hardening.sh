@@ -65,8 +65,8 @@ check_installed_file() {
 }
 
 libraries=$(dirname "$(find "$installed" -name libkelp_quill_inp.so)")
-for library in kelp_core_text kelp_chem_elements kelp_quill_inp; do
-  check_file "$(find "$build/src" "$build/sisters" -name "lib$library.so")" library
+for library in kelp_core_text kelp_chem_elements kelp_quill_inp kelp_quill_lossless; do
+  check_file "$(find "$build/src" "$build/lossless" "$build/sisters" -name "lib$library.so")" library
   check_installed_file "$libraries/lib$library.so" library
 done
 check_file "$build/tools/quill-inp/quill-inp" program

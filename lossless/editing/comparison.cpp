@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "editing/number_distance.hpp"
 #include "kelp/input/quill/lossless/equality.hpp"
 
 namespace kelp::input::quill::lossless {

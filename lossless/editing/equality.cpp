@@ -1,8 +1,8 @@
 #include "kelp/input/quill/lossless/equality.hpp"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
+
+#include "editing/number_distance.hpp"
 
 namespace kelp::input::quill::lossless {
 
@@ -35,16 +35,6 @@ bool is_equal(const PostCommand& left, const PostCommand& right) {
          is_equal_value(left.scan_value, right.scan_value) && left.scan_steps == right.scan_steps &&
          left.post_file == right.post_file &&
          (left.kind != PostCommandKind::Raw || left.raw_text == right.raw_text);
-}
-
-bool is_equal_number(double left, double right) {
-  if (std::signbit(left) != std::signbit(right)) return false;
-  return left == right || (std::isnan(left) && std::isnan(right));
-}
-
-double distance(double left, double right) {
-  if (!std::isfinite(left) || !std::isfinite(right)) return std::numeric_limits<double>::infinity();
-  return std::fabs(left - right);
 }
 
 }  // namespace kelp::input::quill::lossless

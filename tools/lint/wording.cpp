@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "kelp/input/quill/lossless/wording.hpp"
+#include "editing/phrases.hpp"
 #include "lint/rule.hpp"
 
 namespace kelp::input::quill::lint {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "editing/phrases.hpp"
 #include "kelp/core/text.hpp"
 #include "kelp/input/quill/lossless/input_doubt.hpp"
 #include "kelp/input/quill/lossless/wording.hpp"

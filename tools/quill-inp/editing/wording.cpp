@@ -1,5 +1,6 @@
 #include "quill-inp/editing/wording.hpp"
 
+#include "editing/phrases.hpp"
 #include "kelp/input/quill/lossless/wording.hpp"
 #include "quill-inp/text/counted.hpp"
 #include "quill-inp/text/suggestion.hpp"

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "editing/phrases.hpp"
 #include "kelp/input/quill/lossless/quoting.hpp"
 #include "kelp/input/quill/lossless/wording.hpp"
 #include "kelp/input/quill/writer.hpp"

@@ -1,8 +1,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "editing/phrases.hpp"
 #include "kelp/input/quill/lossless/quoting.hpp"
-#include "kelp/input/quill/lossless/wording.hpp"
 #include "kelp/input/quill/writer.hpp"
 #include "model/post_line_shapes.hpp"
 #include "quill-inp/summary/command_roles.hpp"

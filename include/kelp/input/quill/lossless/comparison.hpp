@@ -1,11 +1,12 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_COMPARISON_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_COMPARISON_HPP
 
-// Compares the document that is wanted with the one that a text is read as.
-//
-//   const Comparison comparison = compare(wanted, parse_string(text).input, 1e-6);
-//   for (const Difference& difference : comparison.differences)
-//     std::cerr << words(difference) << '\n';
+/// @file
+/// Compares the document that is wanted with the one that a text is read as.
+///
+///     const Comparison comparison = compare(wanted, parse_string(text).input, 1e-6);
+///     for (const Difference& difference : comparison.differences)
+///       std::cerr << words(difference) << '\n';
 
 #include <cstddef>
 #include <cstdint>
@@ -30,11 +31,11 @@ struct Part {
 /// A member of a document that can differ between two documents.
 enum class Member {
   CommandCount,
-  Name,   // of a command or parameter
-  Kind,   // of a command or post-processing line
-  Value,  // of a command or parameter
+  Name,   ///< of a command or parameter
+  Kind,   ///< of a command or post-processing line
+  Value,  ///< of a command or parameter
   ParameterCount,
-  ChargeLine,  // whether there is one
+  ChargeLine,  ///< whether there is one
   Charge,
   Multiplicity,
   GeometryKind,
@@ -44,7 +45,7 @@ enum class Member {
   Y,
   Z,
   PathCount,
-  Path,  // of a reference or post file
+  Path,  ///< of a reference or post file
   PostLineCount,
   AtomNumbers,
   ScanValue,

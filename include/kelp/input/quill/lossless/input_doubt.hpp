@@ -13,17 +13,17 @@ namespace kelp::input::quill::lossless {
 /// picture would be raw text to it. Whoever writes such a text anew should ask before.
 struct InputDoubt {
   enum class Kind {
-    ByteOrderMark,      // of UTF-8, which the reader takes for text, so that the first line is raw
-    Utf16,              // with a byte order mark
-    Utf16LittleEndian,  // without one
-    Utf16BigEndian,     // likewise
+    ByteOrderMark,  ///< of UTF-8, which the reader takes for text, so that the first line is raw
+    Utf16,          ///< with a byte order mark
+    Utf16LittleEndian,  ///< without one
+    Utf16BigEndian,     ///< likewise
     NulByte,
-    Script,      // the first line names the program that runs the text
-    NoSections,  // there is text, but no header line and no coordinate section
+    Script,      ///< the first line names the program that runs the text
+    NoSections,  ///< there is text, but no header line and no coordinate section
   };
 
   Kind kind = Kind::NoSections;
-  std::optional<std::size_t> line = std::nullopt;  // counted from 1, if the doubt is about one
+  std::optional<std::size_t> line = std::nullopt;  ///< counted from 1, if the doubt is about one
 };
 
 /// Returns the first reason for which a text does not look like a QUILL input, or nothing if it

@@ -1,14 +1,16 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_PROOF_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_PROOF_HPP
 
-// The proof that a text says what is wanted. It is made before the text is written anywhere.
-//
-//   const Proof proof = prove(text, wanted, 1e-6);
-//   if (!proof.holds()) return refuse(words(proof, wanted));
-//
-// The text is read by the library's own reader and compared, member by member, with the document
-// that is wanted. In the QUILL format, the reader can understand a text differently than its writer
-// wanted. The explanation names the line where that happens and, if possible, how to avoid it.
+/// @file
+/// The proof that a text says what is wanted. It is made before the text is written anywhere.
+///
+///     const Proof proof = prove(text, wanted, 1e-6);
+///     if (!proof.holds()) return refuse(words(proof, wanted));
+///
+/// The text is read by the library's own reader and compared, member by member, with the document
+/// that is wanted. In the QUILL format, the reader can understand a text differently than its
+/// writer wanted. The explanation names the line where that happens and, if possible, how to avoid
+/// it.
 
 #include <cstddef>
 #include <optional>
@@ -24,18 +26,18 @@ namespace kelp::input::quill::lossless {
 /// The first thing that is not as wanted.
 struct Explanation {
   enum class Kind {
-    OtherPart,     // `line` would be read as `found` and not as `wanted`, or as nothing wanted
-    OtherContent,  // `line` is read as the part it should be, with the difference `difference`
-    MissingLine,   // no line is read as `wanted`
-    Difference,    // no line is to blame for the difference `difference`
+    OtherPart,     ///< `line` would be read as `found` and not as `wanted`, or as nothing wanted
+    OtherContent,  ///< `line` is read as the part it should be, with the difference `difference`
+    MissingLine,   ///< no line is read as `wanted`
+    Difference,    ///< no line is to blame for the difference `difference`
   };
 
   Kind kind = Kind::Difference;
-  std::optional<std::size_t> line = std::nullopt;  // counted from 1
+  std::optional<std::size_t> line = std::nullopt;  ///< counted from 1
   Part found = {};
   std::optional<Part> wanted = std::nullopt;
-  bool is_avoidable = false;  // by another post-processing line before it
-  std::optional<std::size_t> difference = std::nullopt;  // into Comparison::differences
+  bool is_avoidable = false;  ///< by another post-processing line before it
+  std::optional<std::size_t> difference = std::nullopt;  ///< into Comparison::differences
 };
 
 /// The result of reading a text again. There is an explanation exactly when the proof does not

@@ -1,15 +1,16 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_QUOTING_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_QUOTING_HPP
 
-// Quotes the values of header commands so that they are read back unchanged.
-//
-//   to_string(quote(command).command);     // a header line that reads back as `command`
-//   quote(document).document.to_string();  // the canonical text, with quotes where they are needed
-//
-// The library's writer quotes nothing, but its reader removes quotes, trims values, and splits
-// lists at commas. A value that would change in this way is put between quotes: those that do not
-// occur in it, and double quotes if neither do. Whether it is then read back unchanged is decided
-// by asking the reader, never by rules written here.
+/// @file
+/// Quotes the values of header commands so that they are read back unchanged.
+///
+///     to_string(quote(command).command);     // a header line that reads back as `command`
+///     quote(document).document.to_string();  // the canonical text, with quotes where needed
+///
+/// The library's writer quotes nothing, but its reader removes quotes, trims values, and splits
+/// lists at commas. A value that would change in this way is put between quotes: those that do not
+/// occur in it, and double quotes if neither do. Whether it is then read back unchanged is decided
+/// by asking the reader, never by rules written here.
 
 #include <string>
 #include <vector>
@@ -23,18 +24,18 @@ namespace kelp::input::quill::lossless {
 struct QuotingProblem {
   enum class Piece { Command, CommandName, CommandValue, ParameterName, ParameterValue };
   enum class Reason {
-    LineBreak,        // in the name or value; a header command is one line
-    ReadDifferently,  // the name would be read differently
-    NoQuotesHelp,     // the value would be read differently, with either kind of quotes, too
-    NoValue,          // an assignment without one
-    UnknownKind,      // a kind outside its enumeration
-    UnusedMembers,    // a value or parameters that the kind does not write
+    LineBreak,        ///< in the name or value; a header command is one line
+    ReadDifferently,  ///< the name would be read differently
+    NoQuotesHelp,     ///< the value would be read differently, with either kind of quotes, too
+    NoValue,          ///< an assignment without one
+    UnknownKind,      ///< a kind outside its enumeration
+    UnusedMembers,    ///< a value or parameters that the kind does not write
   };
 
   Piece piece = Piece::Command;
   Reason reason = Reason::ReadDifferently;
-  std::string name = {};   // of the command or parameter
-  std::string value = {};  // where the piece is a value
+  std::string name = {};   ///< of the command or parameter
+  std::string value = {};  ///< where the piece is a value
   HeaderCommandKind kind = HeaderCommandKind::Flag;
   /// Whether the parameter could be written if it were the last one: a parameter with an unclosed
   /// quote takes in the parameters after it.

@@ -1,25 +1,26 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_SURGICAL_EDIT_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_SURGICAL_EDIT_HPP
 
-// Changes only those lines of a text that have to change.
-//
-//   const ReadText read = read_text(text);
-//   TrackedDocument document(read.result.input);
-//   document.set_parameter("opt", "maxiter", "100");
-//   document.set_model("m2");
-//   const SurgicalEdit edit = render(read, document);
-//   if (edit.proof.holds()) write(edit.text);
-//
-// All other lines stay the same byte for byte: layout, digits, blank lines, lines that the reader
-// drops and line ends. A last line without a line end stays without one. A changed header line is
-// the library's to_string() of the command, with quotes around values that need them. A new line
-// gets the line end of the line before it, or of the first line if there is none before it.
-//
-// A new header line comes after the last header line, or in the place of one that was removed
-// there; charge and multiplicity come before the coordinates, and post-processing lines after the
-// last line that is not blank. An empty line separates a new section from its neighbours. When the
-// coordinates change, atoms and references that are the same at either end of the list, or in the
-// same place, keep their lines.
+/// @file
+/// Changes only those lines of a text that have to change.
+///
+///     const ReadText read = read_text(text);
+///     TrackedDocument document(read.result.input);
+///     document.set_parameter("opt", "maxiter", "100");
+///     document.set_model("m2");
+///     const SurgicalEdit edit = render(read, document);
+///     if (edit.proof.holds()) write(edit.text);
+///
+/// All other lines stay the same byte for byte: layout, digits, blank lines, lines that the reader
+/// drops and line ends. A last line without a line end stays without one. A changed header line is
+/// the library's to_string() of the command, with quotes around values that need them. A new line
+/// gets the line end of the line before it, or of the first line if there is none before it.
+///
+/// A new header line comes after the last header line, or in the place of one that was removed
+/// there; charge and multiplicity come before the coordinates, and post-processing lines after the
+/// last line that is not blank. An empty line separates a new section from its neighbours. When the
+/// coordinates change, atoms and references that are the same at either end of the list, or in the
+/// same place, keep their lines.
 
 #include <string>
 #include <vector>

@@ -1,6 +1,11 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_WORDING_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_WORDING_HPP
 
+/// @file
+/// The words for people: for the parts of a document, for what differs and for what cannot be
+/// written. All other files pass facts on; only the words here are for reading. They hold bytes of
+/// documents unchanged, and have to be escaped before they are shown on a terminal.
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -12,10 +17,6 @@
 #include "kelp/input/quill/lossless/input_doubt.hpp"
 #include "kelp/input/quill/lossless/proof.hpp"
 #include "kelp/input/quill/lossless/quoting.hpp"
-
-// The words for people: for the parts of a document, for what differs and for what cannot be
-// written. All other files pass facts on; only the words here are for reading. They hold bytes of
-// documents unchanged, and have to be escaped before they are shown on a terminal.
 
 namespace kelp::input::quill::lossless {
 
@@ -42,18 +43,6 @@ KELP_QUILL_LOSSLESS_EXPORT std::string words(const InputDoubt& doubt);
 
 /// Returns why a piece of a header command cannot be written.
 KELP_QUILL_LOSSLESS_EXPORT std::string words(const QuotingProblem& problem);
-
-/// Returns the text between apostrophes.
-KELP_QUILL_LOSSLESS_EXPORT std::string in_apostrophes(std::string_view text);
-
-/// Returns the shortest decimal text that reads back as exactly this number.
-KELP_QUILL_LOSSLESS_EXPORT std::string shortest_text(double number);
-
-/// Returns the number with two significant digits.
-KELP_QUILL_LOSSLESS_EXPORT std::string rounded_text(double number);
-
-/// Returns the numbers with single blanks between them.
-KELP_QUILL_LOSSLESS_EXPORT std::string joined(const std::vector<std::int32_t>& numbers);
 
 }  // namespace kelp::input::quill::lossless
 
