@@ -21,7 +21,7 @@ is_deleted { print ""; is_deleted = !/;$/; next }
 
 /^ *$/ { comment = "" }
 
-/^ *(\[\[nodiscard\]\]|KELP_QUILL_INP_EXPORT|const|[A-Za-z:]+) / && !is_comment && comment != "" && is_complete {
+/^ *(\[\[nodiscard\]\]|KELP_QUILL_(INP|LOSSLESS)_EXPORT|const|[A-Za-z:]+) / && !is_comment && comment != "" && is_complete {
   print "/** " comment " */ " $0
   is_complete = /[;}]$/
   next

@@ -13,15 +13,16 @@ mkdir -p "$scratch"
 LD_LIBRARY_PATH=$(pkg-config --variable=libdir kelp_quill_inp)
 export LD_LIBRARY_PATH
 
-# run SOURCE STANDARD
+# run SOURCE STANDARD PACKAGE
 run() {
   # The flags must be split into words, and no folder of this test has a blank in its name.
   # shellcheck disable=SC2046
   "$compiler" "-std=c++$2" -Wall -Wextra -Wpedantic -Werror "$folder/$1.cpp" -o "$scratch/$1_$2" \
-    $(pkg-config --cflags --libs 'kelp_quill_inp >= 0.1')
+    $(pkg-config --cflags --libs "$3 >= 0.1")
   "$scratch/$1_$2"
 }
 
-run minimal 17
-run main 17
-run main 20
+run minimal 17 kelp_quill_inp
+run main 17 kelp_quill_inp
+run main 20 kelp_quill_inp
+run lossless 17 kelp_quill_lossless

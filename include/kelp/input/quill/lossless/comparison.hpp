@@ -22,9 +22,10 @@ namespace kelp::input::quill::lossless {
 
 /// A part of a document that has its own line, as in a LineRecord.
 struct Part {
-  LineRole role = LineRole::Blank;
-  std::optional<std::size_t> index = std::nullopt;
+  LineRole role = LineRole::Blank;                  ///< of the line
+  std::optional<std::size_t> index = std::nullopt;  ///< in the list that the role names, from 0
 
+  /// Whether both are the same part.
   bool operator==(const Part& other) const { return role == other.role && index == other.index; }
 };
 
@@ -62,10 +63,11 @@ using Value =
 /// means the document as a whole (its kind of geometry, the length of a list). If the member
 /// belongs to a parameter of a command, `parameter` is the index of that parameter.
 struct Difference {
-  Part part = {};
-  Member member = Member::CommandCount;
-  Value wanted = {};
-  Value found = {};
+  Part part = {};                        ///< what the member belongs to
+  Member member = Member::CommandCount;  ///< what differs
+  Value wanted = {};                     ///< in the document that is wanted
+  Value found = {};                      ///< in the other one
+  /// The index of the parameter, from 0.
   std::optional<std::size_t> parameter = std::nullopt;
 };
 
@@ -73,14 +75,14 @@ struct Difference {
 /// change. A change is infinite when one of the two numbers is infinite or not a number, and zero
 /// when a zero changed only its sign.
 struct NumberChanges {
-  std::size_t count = 0;
-  double largest = 0.0;
+  std::size_t count = 0;  ///< of the numbers that changed
+  double largest = 0.0;   ///< change, in the unit of the file
 };
 
 /// Everything that differs, in the order of the lines, and the numbers that changed.
 struct Comparison {
-  std::vector<Difference> differences = {};
-  NumberChanges number_changes = {};
+  std::vector<Difference> differences = {};  ///< in the order of the lines
+  NumberChanges number_changes = {};         ///< small ones included
 
   /// Whether the documents are equal, apart from changes of numbers that are small enough.
   bool is_equal() const { return differences.empty(); }

@@ -1,6 +1,9 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_INPUT_DOUBT_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_INPUT_DOUBT_HPP
 
+/// @file
+/// Whether a text looks like a QUILL input at all.
+
 #include <cstddef>
 #include <optional>
 
@@ -12,6 +15,7 @@ namespace kelp::input::quill::lossless {
 /// Why a text is probably not a QUILL input. The reader takes any text, and most of a program or a
 /// picture would be raw text to it. Whoever writes such a text anew should ask before.
 struct InputDoubt {
+  /// What makes it improbable.
   enum class Kind {
     ByteOrderMark,  ///< of UTF-8, which the reader takes for text, so that the first line is raw
     Utf16,          ///< with a byte order mark
@@ -22,7 +26,7 @@ struct InputDoubt {
     NoSections,  ///< there is text, but no header line and no coordinate section
   };
 
-  Kind kind = Kind::NoSections;
+  Kind kind = Kind::NoSections;                    ///< the first one that holds
   std::optional<std::size_t> line = std::nullopt;  ///< counted from 1, if the doubt is about one
 };
 

@@ -1,6 +1,9 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_LINE_CHANGE_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_LINE_CHANGE_HPP
 
+/// @file
+/// A line that an edit changed.
+
 #include <cstddef>
 #include <optional>
 
@@ -9,8 +12,8 @@ namespace kelp::input::quill::lossless {
 /// One line that is not as before. A changed line has both numbers, an added line only the new one,
 /// and a removed line only the old one. Numbers count from 1 in their own text.
 struct LineChange {
-  std::optional<std::size_t> old_line = std::nullopt;
-  std::optional<std::size_t> new_line = std::nullopt;
+  std::optional<std::size_t> old_line = std::nullopt;  ///< its number in the old text
+  std::optional<std::size_t> new_line = std::nullopt;  ///< its number in the new text
 };
 
 }  // namespace kelp::input::quill::lossless

@@ -25,6 +25,7 @@ namespace kelp::input::quill::lossless {
 
 /// The first thing that is not as wanted.
 struct Explanation {
+  /// How the text is not as wanted.
   enum class Kind {
     OtherPart,     ///< `line` would be read as `found` and not as `wanted`, or as nothing wanted
     OtherContent,  ///< `line` is read as the part it should be, with the difference `difference`
@@ -32,11 +33,11 @@ struct Explanation {
     Difference,    ///< no line is to blame for the difference `difference`
   };
 
-  Kind kind = Kind::Difference;
+  Kind kind = Kind::Difference;                    ///< says which members are set
   std::optional<std::size_t> line = std::nullopt;  ///< counted from 1
-  Part found = {};
-  std::optional<Part> wanted = std::nullopt;
-  bool is_avoidable = false;  ///< by another post-processing line before it
+  Part found = {};                                 ///< what the line is read as
+  std::optional<Part> wanted = std::nullopt;       ///< what it should be
+  bool is_avoidable = false;                       ///< by another post-processing line before it
   std::optional<std::size_t> difference = std::nullopt;  ///< into Comparison::differences
 };
 
@@ -44,11 +45,12 @@ struct Explanation {
 /// hold. `comparison` has every difference, for callers that write the text anyway, and the numbers
 /// that changed. `found` and `lines` are what parse_lines() made of the text.
 struct Proof {
-  std::optional<Explanation> explanation = std::nullopt;
-  Comparison comparison = {};
-  ParseResult found = {};
-  std::vector<LineRecord> lines = {};
+  std::optional<Explanation> explanation = std::nullopt;  ///< the first reason
+  Comparison comparison = {};                             ///< all that differs
+  ParseResult found = {};                                 ///< what the text is read as
+  std::vector<LineRecord> lines = {};                     ///< of the text
 
+  /// Whether the text says what is wanted.
   bool holds() const { return comparison.is_equal(); }
 
   /// The line, counted from 1, that the explanation is about, if it is about one.

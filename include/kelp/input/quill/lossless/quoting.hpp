@@ -22,7 +22,10 @@ namespace kelp::input::quill::lossless {
 
 /// Why a piece of a header command cannot be written so that it reads back.
 struct QuotingProblem {
+  /// The piece that cannot be written.
   enum class Piece { Command, CommandName, CommandValue, ParameterName, ParameterValue };
+
+  /// Why it cannot.
   enum class Reason {
     LineBreak,        ///< in the name or value; a header command is one line
     ReadDifferently,  ///< the name would be read differently
@@ -32,11 +35,11 @@ struct QuotingProblem {
     UnusedMembers,    ///< a value or parameters that the kind does not write
   };
 
-  Piece piece = Piece::Command;
-  Reason reason = Reason::ReadDifferently;
-  std::string name = {};   ///< of the command or parameter
-  std::string value = {};  ///< where the piece is a value
-  HeaderCommandKind kind = HeaderCommandKind::Flag;
+  Piece piece = Piece::Command;                      ///< what cannot be written
+  Reason reason = Reason::ReadDifferently;           ///< why
+  std::string name = {};                             ///< of the command or parameter
+  std::string value = {};                            ///< where the piece is a value
+  HeaderCommandKind kind = HeaderCommandKind::Flag;  ///< of the command
   /// Whether the parameter could be written if it were the last one: a parameter with an unclosed
   /// quote takes in the parameters after it.
   bool is_due_to_next_parameter = false;
@@ -45,8 +48,8 @@ struct QuotingProblem {
 /// A command whose to_string() is read back as the given one. Pieces for which that is impossible
 /// are unchanged and have an entry in `problems`.
 struct QuotedCommand {
-  HeaderCommand command = {};
-  std::vector<QuotingProblem> problems = {};
+  HeaderCommand command = {};                 ///< with quotes where they are needed
+  std::vector<QuotingProblem> problems = {};  ///< empty if it reads back
 };
 
 /// Quotes every value of a command. Names cannot be quoted: a name that is read differently (with
@@ -57,10 +60,11 @@ KELP_QUILL_LOSSLESS_EXPORT QuotedCommand quote(const HeaderCommand& command);
 /// A document whose to_string() is the canonical text with the values quoted. The problems are
 /// those of header commands only; prove() decides whether the whole text is read back unchanged.
 struct QuotedDocument {
-  QuillInput document = {};
-  std::vector<QuotingProblem> problems = {};
+  QuillInput document = {};                   ///< with quotes where they are needed
+  std::vector<QuotingProblem> problems = {};  ///< in the order of the commands
 };
 
+/// Quotes every value of every command of a document, as quote() does for one.
 KELP_QUILL_LOSSLESS_EXPORT QuotedDocument quote(const QuillInput& input);
 
 }  // namespace kelp::input::quill::lossless

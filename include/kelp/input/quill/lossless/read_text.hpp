@@ -1,6 +1,9 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_READ_TEXT_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_READ_TEXT_HPP
 
+/// @file
+/// A text with what the reader made of it.
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -14,11 +17,12 @@ namespace kelp::input::quill::lossless {
 
 /// A text and what the reader made of it. It is passed around so that a text is read only once.
 struct ReadText {
-  std::string text = {};
-  ParseResult result = {};
-  std::vector<LineRecord> lines = {};
+  std::string text = {};               ///< byte for byte
+  ParseResult result = {};             ///< what parse_string() returns for it
+  std::vector<LineRecord> lines = {};  ///< what parse_lines() adds to that
 };
 
+/// Reads a text and keeps it. Nothing is thrown for any content.
 KELP_QUILL_LOSSLESS_EXPORT ReadText read_text(std::string text);
 
 /// Returns a line of `text` without its line end.

@@ -1,6 +1,9 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_TRACKED_DOCUMENT_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_TRACKED_DOCUMENT_HPP
 
+/// @file
+/// A document that is edited together with its text.
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -17,6 +20,7 @@ namespace kelp::input::quill::lossless {
 /// for what is found and what is created.
 class TrackedDocument : private InputEditor {
  public:
+  /// Begins to edit a document, which the text that is to be changed was read as.
   KELP_QUILL_LOSSLESS_EXPORT explicit TrackedDocument(QuillInput input);
 
   using InputEditor::add_command;
@@ -34,9 +38,11 @@ class TrackedDocument : private InputEditor {
   using InputEditor::set_xyz_files;
   using InputEditor::set_xyz_trajectory;
 
+  /// Removes commands as InputEditor::remove_command() does: all of the name, or one of them.
   KELP_QUILL_LOSSLESS_EXPORT bool remove_command(
       std::string_view name, std::optional<std::uint64_t> occurrence = std::nullopt);
 
+  /// Returns the document as it is now. The reference stays valid as long as this object.
   const QuillInput& document() const { return InputEditor::document(); }
 
   /// Returns, for each command of the document, its index in the document before all edits; nothing
