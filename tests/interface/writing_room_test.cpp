@@ -77,13 +77,21 @@ struct Row {
 
 void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
+/// Some standard libraries reserve in steps.
+std::size_t capacity_reserved_for(std::size_t size) {
+  std::string text;
+  text.reserve(size);
+  return text.capacity();
+}
+
 class RoomOfAnInput : public testing::TestWithParam<Row> {};
 
 TEST_P(RoomOfAnInput, IsReservedAtOnce) {
   constexpr std::size_t for_everything_else = 32;
   const std::string text = GetParam().input.to_string();
   EXPECT_LE(text.capacity(),
-            text.size() + number_of_parts * GetParam().unused + for_everything_else);
+            capacity_reserved_for(text.size() + number_of_parts * GetParam().unused +
+                                  for_everything_else));
 }
 
 const Row rows[] = {
@@ -116,7 +124,7 @@ TEST(RoomOfAnInput, IsThatOfTheLongestTextItCanTake) {
   input.geometry.xyz_files = {name_of_size(60)};
   input.post_commands = {raw_line()};
   const std::string text = input.to_string();
-  EXPECT_EQ(text.capacity(), text.size());
+  EXPECT_EQ(text.capacity(), capacity_reserved_for(text.size()));
 }
 
 }  // namespace

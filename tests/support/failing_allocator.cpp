@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <new>
+#include <vector>
 
 namespace kelp::input::quill {
 
@@ -60,6 +61,21 @@ AllocationWindow::~AllocationWindow() { counts.is_window_open = false; }
 std::uint64_t AllocationWindow::allocations() const noexcept { return counts.asked_for; }
 
 std::int64_t live_allocations() noexcept { return counts.live; }
+
+bool failed_copies_are_freed() {
+  struct Element {
+    Element() = default;
+    Element(const Element& /*other*/) { throw std::bad_alloc(); }
+  };
+  const std::vector<Element> elements(1);
+  const std::int64_t before = live_allocations();
+  try {
+    const std::vector<Element> copy(elements);
+  } catch (const std::bad_alloc&) {
+    return live_allocations() == before;
+  }
+  return true;
+}
 
 }  // namespace kelp::input::quill
 

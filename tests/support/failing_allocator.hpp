@@ -31,6 +31,10 @@ class AllocationWindow {
 /// Returns how many blocks are allocated and not freed yet.
 std::int64_t live_allocations() noexcept;
 
+/// Whether a vector that cannot copy its first element frees its memory. In libc++ before release
+/// 16 it does not, and then no program can.
+bool failed_copies_are_freed();
+
 }  // namespace kelp::input::quill
 
 #endif  // KELP_INPUT_QUILL_TESTS_SUPPORT_FAILING_ALLOCATOR_HPP
