@@ -1,7 +1,7 @@
 # Sourced by the scripts in scripts/: the names of the fuzz targets and how they are built; needs
 # builds.sh and packages.sh.
 
-fuzz_targets=(parse document edit text lines allocation_faults keys json surgery)
+fuzz_targets=(parse document edit text lines allocation_faults keys json lint surgery)
 # Where the build unpacks fuzz/corpus.tar.xz.
 corpus=build/fuzz/fuzz/corpus
 
