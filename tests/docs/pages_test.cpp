@@ -9,6 +9,7 @@
 //                    read and written (format_page_test.cpp)
 //   console          carried out in a shell, with what it prints (tests/tools/quill_inp)
 //   cmake, meson, sh built and run (first_program.sh, tests/package, and the scripts of CI)
+//   toml             read as the choices of a project (tests/tools/quill-inp/findings)
 //   abnf             compared with the reader on many lines (grammar_test.cpp)
 
 #include <gmock/gmock.h>
@@ -39,7 +40,7 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
     {"docs/packaging.md", {"cmake", "cpp", "meson", "sh"}},
     {"docs/performance.md", {"text"}},
-    {"docs/quill-inp.md", {"console"}},
+    {"docs/quill-inp.md", {"console", "toml"}},
 };
 
 std::vector<std::string> pages() {

@@ -14,7 +14,7 @@
 
 namespace kelp::input::quill::lint {
 
-void PrintTo(const Rule& rule, std::ostream* out) { *out << rule.code; }
+inline void PrintTo(const Rule& rule, std::ostream* out) { *out << rule.code; }
 
 namespace {
 

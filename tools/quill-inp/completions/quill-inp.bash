@@ -3,7 +3,7 @@
 _quill_inp_options() {
   local files='--recursive -r --glob --files-from --null -0 --jobs -j'
   local write='--in-place -i --diff --backup --break-hard-links --lock-timeout'
-  local loss='--allow-loss --max-change'
+  local loss='--allow-loss --max-change --strict'
   local geometry='--atoms --xyz --trajectory'
   local lines='--bond --angle --dihedral --atom --scan --post --raw'
   local general='--help -h --quiet -q --color --max-size --stdin-filename'
@@ -19,6 +19,8 @@ _quill_inp_options() {
     from-json) echo "$loss $general" ;;
     get) echo "--key -k --with-filename --no-filename $files $general" ;;
     json) echo "$files $general" ;;
+    lint) echo "--format --fail-on --select --ignore --statistics --fix --diff $files $general" ;;
+    explain) echo "$general" ;;
     *) echo '--help -h --version' ;;
   esac
 }
@@ -56,18 +58,20 @@ _quill_inp() {
     if [[ $word == -* ]]; then
       _quill_inp_offer "$(_quill_inp_options)" "$word"
     else
-      _quill_inp_offer 'show fmt get set unset add new json from-json' "$word"
+      _quill_inp_offer 'show fmt get set unset add new json from-json lint explain' "$word"
     fi
     return
   fi
 
   case $before in
     --color) _quill_inp_offer 'auto always never' "$word" ;;
+    --format) _quill_inp_offer 'text json github sarif' "$word" ;;
+    --fail-on) _quill_inp_offer 'error warning info never' "$word" ;;
     --atoms | --xyz | --trajectory | --post | --files-from) _quill_inp_files "$word" ;;
     --task) _quill_inp_offer 'sp opt ts freq irc scan' "$word" ;;
     --key | -k) _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word" ;;
     --flag | --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
-      --atom | --scan | --raw | --glob | --jobs | -j | --max-change | --lock-timeout | --max-size | --stdin-filename) ;;
+      --atom | --scan | --raw | --glob | --select | --ignore | --jobs | -j | --max-change | --lock-timeout | --max-size | --stdin-filename) ;;
     *)
       case $word in
         -*) _quill_inp_offer "$(_quill_inp_options "$verb")" "$word" ;;

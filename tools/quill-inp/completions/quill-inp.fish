@@ -1,13 +1,14 @@
 # Completion of quill-inp for fish.
 
-set -l verbs show fmt get set unset add new json from-json
+set -l verbs show fmt get set unset add new json from-json lint explain
 set -l writing '__fish_seen_subcommand_from fmt set unset add'
-set -l choosing '__fish_seen_subcommand_from show fmt get set unset add json'
+set -l choosing '__fish_seen_subcommand_from show fmt get set unset add json lint'
 set -l keyed '__fish_seen_subcommand_from get unset'
 set -l losing '__fish_seen_subcommand_from fmt set unset add new from-json'
 set -l placing '__fish_seen_subcommand_from set new'
 set -l adding '__fish_seen_subcommand_from add new'
 set -l making '__fish_seen_subcommand_from new'
+set -l linting '__fish_seen_subcommand_from lint'
 set -l general "__fish_seen_subcommand_from $verbs"
 set -l first "not __fish_seen_subcommand_from $verbs"
 
@@ -23,6 +24,8 @@ complete -c quill-inp -n $first -a add -d 'Add constraints, scans and other line
 complete -c quill-inp -n $first -a new -d 'Print a new input'
 complete -c quill-inp -n $first -a json -d 'Print inputs as JSON, without loss'
 complete -c quill-inp -n $first -a from-json -d 'Print a JSON text as a QUILL input'
+complete -c quill-inp -n $first -a lint -d 'Find what the reader silently made of inputs'
+complete -c quill-inp -n $first -a explain -d 'Explain the codes of lint'
 
 complete -c quill-inp -n $general -s q -l quiet -d 'Print errors only'
 complete -c quill-inp -n $general -l color -xa 'auto always never' -d 'Use colour'
@@ -32,6 +35,14 @@ complete -c quill-inp -n $general -l stdin-filename -x -d 'Name for standard inp
 complete -c quill-inp -n '__fish_seen_subcommand_from show' -l json -d 'Print JSON'
 complete -c quill-inp -n '__fish_seen_subcommand_from show' -l lines -d 'Print what every line is'
 complete -c quill-inp -n '__fish_seen_subcommand_from fmt' -l check -d 'Only list files that would change'
+
+complete -c quill-inp -n $linting -l format -xa 'text json github sarif' -d 'Print in this form'
+complete -c quill-inp -n $linting -l fail-on -xa 'error warning info never' -d 'Exit code 1 from this severity on'
+complete -c quill-inp -n $linting -l select -x -d 'Only these codes and groups'
+complete -c quill-inp -n $linting -l ignore -x -d 'All but these codes and groups'
+complete -c quill-inp -n $linting -l statistics -d 'Print how often each code was found'
+complete -c quill-inp -n $linting -l fix -d 'Write files in which the safe mends are made'
+complete -c quill-inp -n $linting -l diff -d 'Only print the changes'
 
 complete -c quill-inp -n $choosing -s r -l recursive -d 'Take the files in folders, too'
 complete -c quill-inp -n $choosing -l glob -x -d 'With -r, take files like this'
@@ -49,6 +60,7 @@ complete -c quill-inp -n $writing -l break-hard-links -d 'Also write a file that
 complete -c quill-inp -n $writing -l lock-timeout -x -d 'Wait so long for other runs'
 complete -c quill-inp -n $losing -l allow-loss -d 'Write the text even if something is lost'
 complete -c quill-inp -n $losing -l max-change -x -d 'Accept rounding by up to this number'
+complete -c quill-inp -n $losing -l strict -d 'Refuse a text in which lint finds an error'
 
 complete -c quill-inp -n '__fish_seen_subcommand_from set' -l flag -x -d 'Set a command or parameter without a value'
 complete -c quill-inp -n $placing -l atoms -r -d 'Copy the atoms of an XYZ file into the input'

@@ -8,6 +8,7 @@
 #include "quill-inp/editing/addition_doubts.hpp"
 #include "quill-inp/editing/ambiguity_notes.hpp"
 #include "quill-inp/editing/change_report.hpp"
+#include "quill-inp/editing/strictness.hpp"
 #include "quill-inp/editing/wording.hpp"
 #include "quill-inp/session/input_source.hpp"
 
@@ -91,6 +92,7 @@ ExitCode edit_file(Session& session, const std::string& argument, const Edit& ed
   const Losses losses{std::move(report.losses), list_header_losses(input.read, edited),
                       std::move(edited.quoting_problems), edited.proof, document.document()};
   if (!accept_losses(session, input.name, losses, policy)) return ExitCode::Trouble;
+  if (!accept_findings(session, argument, edited.text, policy)) return ExitCode::Trouble;
   // If memory ran out after the file was written, the error would look as if it was not written. So
   // the notes, which can take much memory, are made first.
   std::vector<ChangeNote> notes;

@@ -21,6 +21,8 @@ constexpr Option allow_loss{"--allow-loss", "",
 constexpr Option max_change{"--max-change", "NUMBER",
                             "Accept rounding by up to this number (default 1e-6)"};
 
+constexpr Option strict{"--strict", "", "Refuse a text in which lint finds an error"};
+
 // If nearly everything in a text differs, a message for every number would be of no use.
 constexpr std::size_t most_losses_told = 20;
 
@@ -55,10 +57,12 @@ std::string refusal(const std::string& reason) {
 void add_loss_options(CLI::App& verb) {
   add_flag(verb, allow_loss);
   add_value(verb, max_change);
+  add_flag(verb, strict);
 }
 
 LossPolicy read_loss_policy(const CLI::App& verb) {
   LossPolicy policy;
+  policy.is_strict = is_given(verb, strict);
   policy.allows_loss = is_given(verb, allow_loss);
   if (const auto change = value_of(verb, max_change)) policy.max_change = parse_max_change(*change);
   return policy;

@@ -16,10 +16,11 @@ namespace kelp::input::quill::tool {
 struct LossPolicy {
   bool allows_loss = false;
   double max_change = 1e-6;
+  bool is_strict = false;  // no text with an error that the linter finds
 };
 
-/// Add --allow-loss and --max-change to a verb, and read them. Reading throws UsageError for a
-/// change that is not a number of 0 or more.
+/// Add --allow-loss, --max-change and --strict to a verb, and read them. Reading throws UsageError
+/// for a change that is not a number of 0 or more.
 void add_loss_options(CLI::App& verb);
 LossPolicy read_loss_policy(const CLI::App& verb);
 

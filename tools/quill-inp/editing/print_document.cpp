@@ -2,6 +2,7 @@
 
 #include "kelp/input/quill/lossless/proof.hpp"
 #include "kelp/input/quill/lossless/quoting.hpp"
+#include "quill-inp/editing/strictness.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -21,6 +22,7 @@ ExitCode print_document(Session& session, const std::string& name, const QuillIn
   const Losses losses{{}, {}, std::move(quoted.problems), proof, document};
   // Their lines are those of a text that is not printed, and `name` is not the name of that text.
   if (!accept_losses(session, name, losses, policy, LossLines::Hidden)) return ExitCode::Trouble;
+  if (!accept_findings(session, name_of_output, text, policy)) return ExitCode::Trouble;
   report_warnings(session.reporter(), name_of_output, proof.found);
   session.output().write(text);
   return ExitCode::Done;

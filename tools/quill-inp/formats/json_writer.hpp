@@ -36,7 +36,7 @@ class JsonWriter {
   void begin_list(Layout layout) { begin('[', layout); }
   void end_list() { end(']'); }
 
-  /// Begins a member of an object; its value comes next. The name has only letters and "_".
+  /// Begins a member of an object; its value comes next. The name needs no escapes.
   JsonWriter& member(std::string_view name);
 
   /// Writes a text of any bytes, see json_text.hpp.
@@ -74,7 +74,7 @@ class JsonWriter {
 
   Sink sink_;
   std::string waiting_;
-  std::array<Level, 8> levels_ = {};  // a document and its summary are at most five levels deep
+  std::array<Level, 16> levels_ = {};  // the mend of a finding is the deepest, at twelve levels
   std::size_t depth_ = 0;
 };
 

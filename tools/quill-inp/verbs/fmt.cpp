@@ -9,6 +9,7 @@
 #include "quill-inp/command_line/file_options.hpp"
 #include "quill-inp/editing/delivery.hpp"
 #include "quill-inp/editing/loss_policy.hpp"
+#include "quill-inp/editing/strictness.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/verbs/verb.hpp"
 
@@ -37,6 +38,7 @@ ExitCode format(Session& session, const std::string& argument, const Delivery& d
   const Losses losses{
       {}, list_line_losses(input.read), std::move(quoted.problems), proof, document};
   if (!accept_losses(session, input.name, losses, policy)) return ExitCode::Trouble;
+  if (!accept_findings(session, argument, text, policy)) return ExitCode::Trouble;
   const ExitCode code = deliver(session, input, text, delivery);
   if (session.has_noted_change()) session.reporter().note({input.name}, "changed");
   return code;

@@ -31,6 +31,9 @@ Verb add_add(CLI::App& program);
 Verb add_new(CLI::App& program);
 Verb add_json(CLI::App& program);
 Verb add_from_json(CLI::App& program);
+Verb add_lint(CLI::App& program);
+Verb add_check(CLI::App& program);
+Verb add_explain(CLI::App& program);
 
 /// Adds a verb to the program: its name, one line about it, and an example of its use.
 CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string& description,

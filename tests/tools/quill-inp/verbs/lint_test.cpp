@@ -1,0 +1,224 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "support/temporary_folder.hpp"
+#include "tools/quill-inp/support/call.hpp"
+#include "tools/quill-inp/support/files.hpp"
+#include "tools/quill-inp/support/program.hpp"
+
+namespace kelp::input::quill::tool {
+namespace {
+
+const std::string one_clean = "quill-inp: note: 1 file read, 0 with findings\n";
+const std::string one_found = "quill-inp: note: 1 file read, 1 with findings\n";
+
+Outcome usage_error(const std::string& message) {
+  return ended(2, "",
+               "quill-inp: error: " + message + "\nquill-inp: note: see 'quill-inp lint --help'\n");
+}
+
+const std::string comma = "#opt\n0 1\nH 0 0 0\nH 0 0 1,5\n";
+const std::string comma_found =
+    "<stdin>:4:7: error: this line ended the atoms after 1 atom: '1,5' is not a number [QL104]\n"
+    "    H 0 0 1,5\n"
+    "          ^^^\n"
+    "    to mend: write a symbol and three numbers with decimal points\n";
+
+const std::string info = "#opt\nHe 0 0 0\n";
+const std::string info_found =
+    "<stdin>:2:1: info: no line gives charge and multiplicity, so the reader assumes 0 and 1 "
+    "[QL109]\n"
+    "    He 0 0 0\n"
+    "    ^^^^^^^^\n"
+    "    to mend: write a line such as '0 1' before the atoms\n";
+
+class Lint : public testing::TestWithParam<Call> {};
+
+const Call calls[] = {
+    {"FindsNothing", {"lint", "water.qin"}, ended(0, "", one_clean)},
+    {"SaysNothingQuietly", {"lint", "-q", "water.qin"}, ended(0, "", "")},
+    {"ShowsTheLineAndThePlace", {"lint", "-"}, ended(1, comma_found, one_found), comma},
+    {"HasAnotherName", {"check", "-q", "-"}, ended(1, comma_found, ""), comma},
+    {"EscapesWhatATerminalWouldObey",
+     {"lint", "-q", "--select=QL206", "-"},
+     ended(1,
+           "<stdin>:2:2: warning: this is a command named 'a \\x1b[2J': an input has no comments "
+           "[QL206]\n"
+           "    #a \\x1b[2J\n"
+           "     ^^^^^^^^^\n"
+           "    to mend: remove the line\n",
+           ""),
+     "#opt\n#a \x1b[2J\n0 1\nHe 0 0 0\n"},
+    {"PutsTheCaretUnderTheCharacter",
+     {"lint", "-q", "-"},
+     ended(1,
+           "<stdin>:2:10: warning: the value '\u22121' looks like a number, and has characters that "
+           "no number has [QL217]\n"
+           "    #\u00E9t\u00E9 = \u22121\n"
+           "           ^^\n"
+           "    to mend: type the number anew\n",
+           ""),
+     "#opt\n#\u00E9t\u00E9 = \u22121\n0 1\nHe 0 0 0\n"},
+    {"ShowsPartOfALongLine",
+     {"lint", "-q", "-"},
+     ended(1,
+           "<stdin>:1:206: warning: ignored trailing text after QUILL header command: 'x' is lost "
+           "[QL202]\n"
+           "    ..." +
+               std::string(78, 'a') + ") x\n" + std::string(87, ' ') +
+               "^\n"
+               "    to mend: write another command on a line of its own\n",
+           ""),
+     "#opt(" + std::string(198, 'a') + ") x\n0 1\nHe 0 0 0\n"},
+    {"FailsFromWarningOn", {"lint", "-q", "-"}, ended(0, info_found, ""), info},
+    {"FailsFromInfoOn", {"lint", "-q", "--fail-on=info", "-"}, ended(1, info_found, ""), info},
+    {"FailsFromErrorOn",
+     {"lint", "-q", "--fail-on", "error", "-"},
+     ended(1, comma_found, ""),
+     comma},
+    {"NeverFails", {"lint", "-q", "--fail-on=never", "-"}, ended(0, comma_found, ""), comma},
+    {"RefusesAnUnknownSeverity",
+     {"lint", "--fail-on=warnings", "-"},
+     usage_error("--fail-on takes error, warning, info or never, not 'warnings'; did you mean "
+                 "'warning'?")},
+    {"SelectsAGroup", {"lint", "-q", "--select=chemistry", "-"}, ended(0, "", ""), comma},
+    {"SelectsCodes", {"lint", "-q", "--select=ql101,QL104", "-"}, ended(1, comma_found, ""), comma},
+    {"IgnoresCodesAndGroups",
+     {"lint", "-q", "--ignore=header", "--ignore=QL109,QL104", "-"},
+     ended(0, "", ""),
+     comma},
+    {"RefusesAnUnknownCode",
+     {"lint", "--select=QL104,geometri", "-"},
+     usage_error("--select takes codes and groups, and 'geometri' is neither; did you mean "
+                 "'geometry'?")},
+    {"RefusesNoCode",
+     {"lint", "--ignore=", "-"},
+     usage_error("--ignore takes codes and groups, and '' is neither")},
+    {"RefusesAnUnknownForm",
+     {"lint", "--format=xml", "-"},
+     usage_error("--format takes text, json, github or sarif, not 'xml'")},
+    {"MarksLinesOfAChange",
+     {"lint", "-q", "--format=github", "--stdin-filename=100%,a:b.qin", "-"},
+     ended(1,
+           "::error file=100%25%2Ca%3Ab.qin,line=4,col=7,title=QL104::this line ended the atoms "
+           "after 1 atom: '1,5' is not a number\n",
+           ""),
+     comma},
+    {"ShowsWhatItWouldMend",
+     {"lint", "--fix", "--diff", "-"},
+     ended(1,
+           "--- <stdin>\n+++ <stdin>\n@@ -1,4 +1,4 @@\n #opt\n 0 1\n H 0 0 0\n-H 0 0 1,5\n"
+           "+H 0 0 1.5\n",
+           ""),
+     comma},
+    {"ShowsNothingWhereThereIsNothingToMend",
+     {"lint", "--fix", "--diff", "water.qin"},
+     ended(0, "", "")},
+    {"MendsNoStandardInput",
+     {"lint", "--fix", "-"},
+     ended(2, "",
+           "<stdin>: error: standard input cannot be changed in place\n"
+           "quill-inp: note: 0 files read, 0 with findings\n"),
+     comma},
+    {"NeedsFixForADiff", {"lint", "--diff", "-"}, usage_error("--diff needs --fix")},
+    {"CountsInTextAlone",
+     {"lint", "--statistics", "--format=json", "-"},
+     usage_error("--statistics is for --format=text")},
+    {"CountsCodes",
+     {"lint", "-q", "--statistics", "--fail-on=never", "-"},
+     ended(0, comma_found + "      1  QL104  a line that ends the atoms too early\n", ""),
+     comma},
+};
+
+TEST_P(Lint, EndsAsItShould) { expect_outcome(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Table, Lint, testing::ValuesIn(calls),
+                         [](const auto& call) { return std::string(call.param.name); });
+
+TEST(LintFix, MendsFilesAndReportsWhatIsLeft) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("job.qin", "\xEF\xBB\xBF" + comma);
+  const Outcome outcome = run_in(folder.path(), {"lint", "--fix", "--ignore=chemistry", "job.qin"});
+  EXPECT_EQ(outcome, ended(0, "", "job.qin: note: 2 findings mended\n" + one_clean));
+  EXPECT_EQ(content_of(path), "#opt\n0 1\nH 0 0 0\nH 0 0 1.5\n");
+  EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "--fix", "--ignore=chemistry", "job.qin"}),
+            ended(0, "", ""));
+}
+
+TEST(LintFix, LeavesAloneWhatIsNotSelected) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("job.qin", comma);
+  run_in(folder.path(), {"lint", "--fix", "--ignore=QL104", "job.qin"});
+  EXPECT_EQ(content_of(path), comma);
+}
+
+TEST(LintOfAProject, KeepsToItsChoices) {
+  const TemporaryFolder folder;
+  folder.write(".quill-inp.toml",
+               "ignore = ['chemistry']\nfail-on = 'error'\nknown-commands = ['solvent']\n");
+  folder.write("job.qin", "#opt\n#solvnt = water\n0 2\nHe 0 0 0\n");
+  const std::string found =
+      "job.qin:2:2: warning: the command 'solvnt' is not known; did you mean 'solvent'? [QL207]\n"
+      "    #solvnt = water\n"
+      "     ^^^^^^\n"
+      "    to mend: write 'solvent', or add the name to known-commands in .quill-inp.toml\n";
+  EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "job.qin"}), ended(0, found, ""));
+  EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "--fail-on=warning", "job.qin"}),
+            ended(1, found, ""));
+}
+
+TEST(LintOfAProject, RefusesAnUnknownKey) {
+  const TemporaryFolder folder;
+  folder.write(".quill-inp.toml", "\nfail_on = 'error'\n");
+  folder.write("job.qin", comma);
+  EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "job.qin"}),
+            ended(2, "",
+                  "job.qin: error: " + folder.path(".quill-inp.toml") +
+                      ":2: unknown key 'fail_on'; did you mean 'fail-on'?\n"));
+}
+
+TEST(LintOfSeveralFiles, KnowsTheNamesThatTwoOfThemUse) {
+  const TemporaryFolder folder;
+  const std::string rest = "\n0 1\nHe 0 0 0\n";
+  folder.write("a.qin", "#sp\n#solvent=x" + rest);
+  folder.write("b.qin", "#sp\n#Solvent=y" + rest);
+  folder.write("c.qin", "#sp\n#solvnt=z" + rest);
+  EXPECT_EQ(run_in(folder.path(), {"lint", "--format=github", "a.qin", "b.qin", "c.qin"}),
+            ended(1,
+                  "::warning file=c.qin,line=2,col=2,title=QL207::the command 'solvnt' is not "
+                  "known; did you mean 'solvent'?\n",
+                  "quill-inp: note: 3 files read, 1 with findings\n"));
+}
+
+TEST(LintOfReferences, LooksBesideTheInput) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directories(folder.path("jobs/structures"));
+  folder.write("jobs/he.xyz", "1\n\nHe 0 0 0\n");
+  folder.write("jobs/job.qin", "#sp\n0 1\nXYZ he.xyz\nXYZ no.xyz\nXYZ structures\nXYZ job.qin\n");
+  EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "--format=github", "jobs/job.qin"}).out,
+            "::warning file=jobs/job.qin,line=4,col=5,title=QL402::there is no file 'no.xyz'\n"
+            "::warning file=jobs/job.qin,line=5,col=5,title=QL403::the file 'structures' cannot be "
+            "read: it is a folder\n"
+            "::warning file=jobs/job.qin,line=6,col=5,title=QL404::the file 'job.qin' does not "
+            "begin with a frame of the XYZ format\n");
+}
+
+TEST(Strict, RefusesATextWithAnError) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("job.qin", "#opt\n0 1\nHe 0 0 0\nC 0\n");
+  const std::string message =
+      "job.qin:5: error: refused by --strict: the atom number '0' is below 1 [QL303]\n";
+  EXPECT_EQ(run_in(folder.path(), {"set", "--strict", "-i", "job.qin", "model=a"}),
+            ended(2, "", message));
+  EXPECT_EQ(content_of(path), "#opt\n0 1\nHe 0 0 0\nC 0\n");
+  EXPECT_EQ(run_in(folder.path(), {"set", "-q", "-i", "job.qin", "model=a"}).code, 0);
+  EXPECT_EQ(run_in(folder.path(), {"fmt", "--strict", "job.qin"}).code, 2);
+  EXPECT_EQ(run_in(folder.path(), {"new", "-q", "--strict", "--task=opt", "--raw=#freq"}).code, 2);
+  folder.write(".quill-inp.toml", "ignore = ['QL303']\n");
+  EXPECT_EQ(run_in(folder.path(), {"fmt", "-q", "--strict", "job.qin"}).code, 0);
+}
+
+}  // namespace
+}  // namespace kelp::input::quill::tool

@@ -1,0 +1,29 @@
+#include "quill-inp/editing/strictness.hpp"
+
+#include "lint/lint.hpp"
+#include "lint/selection.hpp"
+#include "lint/wording.hpp"
+#include "quill-inp/findings/project_choices.hpp"
+
+namespace kelp::input::quill::tool {
+
+bool accept_findings(Session& session, const std::string& argument, std::string_view text,
+                     const LossPolicy& policy) {
+  if (!policy.is_strict) return true;
+  const ProjectChoices project = ProjectFinder().choices_for(argument);
+  lint::Options options;
+  options.known_commands = project.known_commands;
+  const lossless::ReadText read = lossless::read_text(std::string(text));
+  for (const lint::Finding& finding : lint::find_all(read, options)) {
+    const bool is_error = lint::find_rule(finding.code)->severity == lint::Severity::Error;
+    if (!is_error || !lint::is_selected(finding.code, {{}, project.ignored})) continue;
+    const std::size_t line = lint::place_of(finding.range.offset, read.lines).line;
+    session.reporter().error({session.shown_name(argument), line},
+                             "refused by --strict: " + lint::words_of(finding).message + " [" +
+                                 std::string(finding.code) + "]");
+    return false;
+  }
+  return true;
+}
+
+}  // namespace kelp::input::quill::tool

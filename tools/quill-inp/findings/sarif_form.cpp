@@ -1,0 +1,202 @@
+#include "quill-inp/findings/sarif_form.hpp"
+
+#include <algorithm>
+#include <string>
+
+#include "lint/lint.hpp"
+#include "lint/wording.hpp"
+#include "quill-inp/text/hexadecimal.hpp"
+#include "quill-inp/text/terminal_text.hpp"
+#include "quill-inp/text/utf8.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+constexpr auto one_line = JsonWriter::Layout::OneLine;
+constexpr auto lines = JsonWriter::Layout::Lines;
+
+void write_count(JsonWriter& json, std::string_view name, std::size_t count) {
+  json.member(name).integer(static_cast<std::int64_t>(count));
+}
+
+std::string_view level_of(lint::Severity severity) {
+  if (severity == lint::Severity::Error) return "error";
+  return severity == lint::Severity::Warning ? "warning" : "note";
+}
+
+/// An object with one text, as messages and descriptions are.
+void write_message(JsonWriter& json, std::string_view name, std::string_view text) {
+  json.member(name).begin_object(one_line);
+  json.member("text").text(shown_on_one_line(text));
+  json.end_object();
+}
+
+bool is_plain_in_address(char c) {
+  return ('a' <= c && c <= 'z') || ('A' <= c && c <= 'Z') || ('0' <= c && c <= '9') ||
+         std::string_view("-._~/").find(c) != std::string_view::npos;
+}
+
+/// Returns the address of a path: relative, or beginning with "file://" for an absolute path.
+std::string address_of(std::string_view path) {
+  std::string address = path.substr(0, 1) == "/" ? "file://" : "";
+  for (const char c : path) {
+    if (is_plain_in_address(c)) {
+      address += c;
+    } else {
+      address += '%';
+      append_hexadecimal(address, static_cast<unsigned char>(c), 2);
+    }
+  }
+  return address;
+}
+
+/// Returns how many characters a text has; a byte that is not part of one counts as one.
+std::size_t count_characters(std::string_view text) {
+  std::size_t count = 0;
+  for (; !text.empty(); ++count) {
+    const auto character = first_character(text);
+    text.remove_prefix(character ? character->length : 1);
+  }
+  return count;
+}
+
+/// Returns the column of a byte in code points, counted from 1. A place in the middle of a
+/// character counts as after it.
+std::size_t character_column(const FileReport& report, std::size_t line, std::size_t offset) {
+  const std::size_t start = report.read.lines[line - 1].offset;
+  return 1 + count_characters(std::string_view(report.read.text).substr(start, offset - start));
+}
+
+void write_region(JsonWriter& json, std::string_view name, const FileReport& report,
+                  const lint::Range& range) {
+  json.member(name).begin_object(one_line);
+  const std::vector<LineRecord>& records = report.read.lines;
+  if (!records.empty()) {
+    const lint::TextPlace first = lint::place_of(range.offset, records);
+    const lint::TextPlace last = lint::place_of(range.end(), records);
+    write_count(json, "startLine", first.line);
+    write_count(json, "startColumn", character_column(report, first.line, range.offset));
+    write_count(json, "endLine", last.line);
+    write_count(json, "endColumn", character_column(report, last.line, range.end()));
+  }
+  write_count(json, "byteOffset", range.offset);
+  write_count(json, "byteLength", range.length);
+  json.end_object();
+}
+
+void write_artifact(JsonWriter& json, const FileReport& report) {
+  json.member("artifactLocation").begin_object(one_line);
+  json.member("uri").text(address_of(report.name));
+  json.end_object();
+}
+
+void write_location(JsonWriter& json, const FileReport& report, const lint::Range& range,
+                    std::string_view role) {
+  json.begin_object(one_line);
+  json.member("physicalLocation").begin_object(one_line);
+  write_artifact(json, report);
+  write_region(json, "region", report, range);
+  json.end_object();
+  if (!role.empty()) write_message(json, "message", role);
+  json.end_object();
+}
+
+void write_replacement(JsonWriter& json, const FileReport& report, const lint::ByteEdit& edit) {
+  json.begin_object(one_line);
+  write_region(json, "deletedRegion", report, edit.range);
+  json.member("insertedContent").begin_object(one_line);
+  json.member("text").text(edit.replacement);
+  json.end_object();
+  json.end_object();
+}
+
+void write_fix(JsonWriter& json, const FileReport& report, const lint::Finding& finding) {
+  json.member("fixes").begin_list(one_line);
+  json.begin_object(one_line);
+  write_message(json, "description", lint::words_of(finding).advice);
+  json.member("artifactChanges").begin_list(one_line);
+  json.begin_object(one_line);
+  write_artifact(json, report);
+  json.member("replacements").begin_list(one_line);
+  for (const lint::ByteEdit& edit : finding.mend->edits) write_replacement(json, report, edit);
+  json.end_list();
+  json.end_object();
+  json.end_list();
+  json.end_object();
+  json.end_list();
+}
+
+void write_result(JsonWriter& json, const FileReport& report, const lint::Finding& finding) {
+  const std::vector<lint::Rule>& rules = lint::all_rules();
+  const lint::Rule* rule = lint::find_rule(finding.code);
+  json.begin_object(one_line);
+  json.member("ruleId").text(rule->code);
+  write_count(json, "ruleIndex", static_cast<std::size_t>(rule - rules.data()));
+  json.member("level").text(level_of(rule->severity));
+  write_message(json, "message", lint::words_of(finding).message);
+  json.member("locations").begin_list(one_line);
+  write_location(json, report, finding.range, {});
+  json.end_list();
+  if (!finding.related.empty()) {
+    json.member("relatedLocations").begin_list(one_line);
+    for (const lint::RelatedPlace& place : finding.related)
+      write_location(json, report, place.range, place.role);
+    json.end_list();
+  }
+  if (finding.mend) write_fix(json, report, finding);
+  json.end_object();
+}
+
+void write_rule(JsonWriter& json, const lint::Rule& rule) {
+  json.begin_object(one_line);
+  json.member("id").text(rule.code);
+  write_message(json, "shortDescription", rule.title);
+  json.member("defaultConfiguration").begin_object(one_line);
+  json.member("level").text(level_of(rule.severity));
+  json.end_object();
+  json.member("properties").begin_object(one_line);
+  json.member("tags").begin_list(one_line);
+  json.text(lint::name_of(rule.group));
+  json.end_list();
+  json.end_object();
+  json.end_object();
+}
+
+void write_tool(JsonWriter& json, std::string_view version) {
+  json.member("tool").begin_object(lines);
+  json.member("driver").begin_object(lines);
+  json.member("name").text("quill-inp");
+  json.member("version").text(version);
+  json.member("rules").begin_list(lines);
+  for (const lint::Rule& rule : lint::all_rules()) write_rule(json, rule);
+  json.end_list();
+  json.end_object();
+  json.end_object();
+}
+
+}  // namespace
+
+void write_sarif_form(const std::vector<FileReport>& reports, std::string_view version,
+                      const JsonWriter::Sink& sink) {
+  JsonWriter json(sink);
+  json.begin_object(lines);
+  json.member("$schema").text(
+      "https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/sarif-schema-2.1.0.json");
+  json.member("version").text("2.1.0");
+  json.member("runs").begin_list(lines);
+  json.begin_object(lines);
+  write_tool(json, version);
+  json.member("columnKind").text("unicodeCodePoints");
+  json.member("results").begin_list(lines);
+  for (const FileReport& report : reports) {
+    for (const lint::Finding& finding : report.findings) write_result(json, report, finding);
+  }
+  json.end_list();
+  json.end_object();
+  json.end_list();
+  json.end_object();
+  json.finish();
+}
+
+}  // namespace kelp::input::quill::tool
