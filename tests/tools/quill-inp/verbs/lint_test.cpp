@@ -53,13 +53,14 @@ const Call calls[] = {
      "#opt\n#a \x1b[2J\n0 1\nHe 0 0 0\n"},
     {"PutsTheCaretUnderTheCharacter",
      {"lint", "-q", "-"},
-     ended(1,
-           "<stdin>:2:10: warning: the value '\u22121' looks like a number, and has characters that "
-           "no number has [QL217]\n"
-           "    #\u00E9t\u00E9 = \u22121\n"
-           "           ^^\n"
-           "    to mend: type the number anew\n",
-           ""),
+     ended(
+         1,
+         "<stdin>:2:10: warning: the value '\u22121' looks like a number, and has characters that "
+         "no number has [QL217]\n"
+         "    #\u00E9t\u00E9 = \u22121\n"
+         "           ^^\n"
+         "    to mend: type the number anew\n",
+         ""),
      "#opt\n#\u00E9t\u00E9 = \u22121\n0 1\nHe 0 0 0\n"},
     {"ShowsPartOfALongLine",
      {"lint", "-q", "-"},
