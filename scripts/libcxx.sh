@@ -3,7 +3,7 @@
 # folder. A class has another layout in each of the two libraries, so GoogleTest is built with libc++
 # as well, from the sources in its Debian package.
 #
-#   scripts/libcxx.sh [unit | interface]
+#   scripts/libcxx.sh [unit | interface | properties | exactness]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
