@@ -123,7 +123,7 @@ constexpr std::string_view member_words[] = {
 
 /// A value as it comes after "is".
 struct ValueWords {
-  std::string operator()(std::monostate) const { return std::string(absent); }
+  std::string operator()(std::monostate /*nothing*/) const { return std::string(absent); }
   std::string operator()(bool is_there) const { return is_there ? "present" : std::string(absent); }
   std::string operator()(std::int32_t number) const { return std::to_string(number); }
   std::string operator()(std::size_t number) const { return std::to_string(number); }
