@@ -24,7 +24,7 @@ longest_input() {
 }
 
 build_fuzz_targets() {
-  need_packages clang cmake ninja-build python3 libclang-rt-14-dev libcli11-dev nlohmann-json3-dev libutfcpp-dev libtomlplusplus-dev
+  need_packages clang cmake ninja-build python3 libclang-rt-14-dev libcli11-dev nlohmann-json3-dev libutfcpp-dev libmd-dev libtomlplusplus-dev
   build_preset fuzz "${fuzz_targets[@]/#/kelp_quill_inp_fuzz_}"
 }
 

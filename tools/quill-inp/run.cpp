@@ -47,8 +47,9 @@ void describe(CommandLine& line) {
   line.program.set_help_flag("-h,--help", "Print this help");
   line.program.set_version_flag("--version", std::string("quill-inp ") + KELP_QUILL_INP_VERSION,
                                 "Print the version");
-  for (const auto add : {add_show, add_fmt, add_get, add_set, add_unset, add_add, add_new, add_json,
-                         add_from_json, add_lint, add_check, add_explain})
+  for (const auto add :
+       {add_show, add_fmt, add_get, add_set, add_unset, add_add, add_new, add_sweep, add_hash,
+        add_json, add_from_json, add_lint, add_check, add_explain})
     line.verbs.push_back(add(line.program));
 }
 

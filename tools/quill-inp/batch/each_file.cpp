@@ -47,7 +47,7 @@ void replay(Session& session, const FileRun& run) {
 class Batch {
  public:
   Batch(Session& session, const std::vector<std::string>& files, const BatchOptions& options,
-        const FileAction& action)
+        const NumberedAction& action)
       : session_(session),
         files_(files),
         options_(options),
@@ -60,18 +60,21 @@ class Batch {
     if (files_.size() > 1 && (options_.threads > 1 || shows_progress_)) {
       run_side_by_side();
     } else {
-      for (const std::string& file : files_) run_alone(file);
+      for (std::size_t i = 0; i < files_.size(); ++i) run_alone(i);
     }
     progress_.clear();
-    if (files_.size() > 1 && (options_.tells_counts || progress_.was_shown()))
-      session_.reporter().note({"quill-inp"}, words(tally_));
+    if (files_.size() > 1 && (options_.counted != nullptr || progress_.was_shown())) {
+      const char* const counted = options_.counted == nullptr ? "changed" : options_.counted;
+      session_.reporter().note({"quill-inp"}, words(tally_, counted));
+    }
     return worst_;
   }
 
  private:
-  void run_alone(const std::string& file) {
+  void run_alone(std::size_t number) {
     session_.forget_change();
-    const ExitCode code = for_file(session_, file, [&] { return action_(session_, file); });
+    const ExitCode code =
+        for_file(session_, files_[number], [&] { return action_(session_, number); });
     count(code, session_.has_noted_change());
   }
 
@@ -99,7 +102,7 @@ class Batch {
     try {
       auto run = std::make_unique<FileRun>(session_);
       if (number != reader_) run->session.forbid_standard_input();
-      run->code = for_file(run->session, file, [&] { return action_(run->session, file); });
+      run->code = for_file(run->session, file, [&] { return action_(run->session, number); });
       runs_[number % runs_.size()] = std::move(run);
     } catch (const std::bad_alloc&) {
     }
@@ -130,7 +133,7 @@ class Batch {
   Session& session_;
   const std::vector<std::string>& files_;
   const BatchOptions& options_;
-  const FileAction& action_;
+  const NumberedAction& action_;
   std::vector<std::unique_ptr<FileRun>> runs_ = {};  // by their numbers within the window
   ProgressLine progress_;
   bool shows_progress_;
@@ -160,6 +163,13 @@ ExitCode for_file(Session& session, const std::string& argument,
 
 ExitCode for_each_file(Session& session, const ChosenFiles& files, const BatchOptions& options,
                        const FileAction& action) {
+  return for_each_number(session, files, options, [&](Session& one, std::size_t number) {
+    return action(one, files.files[number]);
+  });
+}
+
+ExitCode for_each_number(Session& session, const ChosenFiles& files, const BatchOptions& options,
+                         const NumberedAction& action) {
   // The texts of the other files would be written into this input, too.
   ExitCode code = ExitCode::Done;
   for (const std::string& file : files.files) {

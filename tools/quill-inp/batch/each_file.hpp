@@ -7,6 +7,7 @@
 //   return for_each_file(session, files, read_batch_options(app),
 //                        [&](Session& one, const std::string& file) { return show(one, file); });
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -27,10 +28,13 @@ ExitCode for_file(Session& session, const std::string& argument,
 /// for several files at once, on several threads, when the user wants that.
 using FileAction = std::function<ExitCode(Session&, const std::string&)>;
 
+/// The same, with the number of the file among all, from 0.
+using NumberedAction = std::function<ExitCode(Session&, std::size_t)>;
+
 /// How to go through many files.
 struct BatchOptions {
   unsigned threads = 1;
-  bool tells_counts = false;  // in a last line, if there are several files
+  const char* counted = nullptr;  // what a last line says of changed files; nothing: no such line
 };
 
 /// Carries `action` out for every file, as for_file() does, even if it fails for files before it,
@@ -42,6 +46,8 @@ struct BatchOptions {
 /// second, and the counts at the end.
 ExitCode for_each_file(Session& session, const ChosenFiles& files, const BatchOptions& options,
                        const FileAction& action);
+ExitCode for_each_number(Session& session, const ChosenFiles& files, const BatchOptions& options,
+                         const NumberedAction& action);
 
 }  // namespace kelp::input::quill::tool
 

@@ -9,9 +9,9 @@ void Tally::add(ExitCode code, bool was_changed) {
   if (code == ExitCode::Trouble) ++refused;
 }
 
-std::string words(const Tally& tally) {
+std::string words(const Tally& tally, std::string_view changed) {
   std::string text = grouped(tally.files) + (tally.files == 1 ? " file, " : " files, ") +
-                     grouped(tally.changed) + " changed";
+                     grouped(tally.changed) + " " + std::string(changed);
   if (tally.without_match > 0) text += ", " + grouped(tally.without_match) + " without a match";
   if (tally.refused > 0) text += ", " + grouped(tally.refused) + " refused";
   return text;

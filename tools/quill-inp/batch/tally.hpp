@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "quill-inp/process/exit_code.hpp"
 
@@ -19,9 +20,9 @@ struct Tally {
   void add(ExitCode code, bool was_changed);
 };
 
-/// Returns the counts in words: "10,000 files, 37 changed, 2 refused". How many had no match or
-/// were refused is left out when none was.
-std::string words(const Tally& tally);
+/// Returns the counts in words: "10,000 files, 37 changed, 2 refused", with another word for
+/// "changed". How many had no match or were refused is left out when none was.
+std::string words(const Tally& tally, std::string_view changed);
 
 /// Returns a number with commas between its thousands.
 std::string grouped(std::size_t number);

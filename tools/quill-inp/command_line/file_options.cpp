@@ -43,8 +43,10 @@ void add_file_options(CLI::App& verb) {
   add_repeated(verb, glob);
   add_value(verb, files_from);
   add_flag(verb, null);
-  add_value(verb, jobs);
+  add_jobs_option(verb);
 }
+
+void add_jobs_option(CLI::App& verb) { add_value(verb, jobs); }
 
 bool has_file_list(const CLI::App& verb) { return value_of(verb, files_from).has_value(); }
 

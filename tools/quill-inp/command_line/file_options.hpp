@@ -15,6 +15,9 @@ namespace kelp::input::quill::tool {
 /// Adds --recursive, --glob, --files-from, --null and --jobs to a verb, in a group of their own.
 void add_file_options(CLI::App& verb);
 
+/// Adds --jobs alone.
+void add_jobs_option(CLI::App& verb);
+
 /// Returns whether --files-from names a file with the names of files, so that the command line need
 /// not have any.
 bool has_file_list(const CLI::App& verb);

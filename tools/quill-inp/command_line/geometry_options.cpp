@@ -32,7 +32,8 @@ void warn_of_unknown_elements(Session& session, const std::string& name,
   }
 }
 
-/// An option that takes any number of paths would take a setting after them as a path, too.
+}  // namespace
+
 const std::string& require_path(const Option& option, const std::string& text) {
   if (text.find('=') < text.find('/')) {
     throw UsageError(
@@ -43,19 +44,23 @@ const std::string& require_path(const Option& option, const std::string& text) {
   return text;
 }
 
-std::vector<AtomRecord> read_atoms(Session& session, const std::string& argument) {
+std::vector<std::vector<AtomRecord>> read_structures(Session& session, const std::string& argument,
+                                                     bool wants_all_frames) {
   try {
     const InputSource source = read_source(session, argument);
-    std::vector<AtomRecord> atoms = read_xyz_atoms(source.content);
-    warn_of_unknown_elements(session, source.name, atoms);
-    return atoms;
+    std::vector<std::vector<AtomRecord>> structures;
+    if (wants_all_frames) {
+      structures = read_xyz_frames(source.content);
+    } else {
+      structures.push_back(read_xyz_atoms(source.content));
+    }
+    warn_of_unknown_elements(session, source.name, structures.front());
+    return structures;
   } catch (const Trouble& trouble) {
     session.report(argument, trouble);
     throw ReportedTrouble();
   }
 }
-
-}  // namespace
 
 void add_geometry_options(CLI::App& verb) {
   add_value(verb, atoms_option);
@@ -71,9 +76,8 @@ GeometryChange read_geometry_change(Session& session, const CLI::App& verb) {
   const int given = (xyz_file ? 1 : 0) + (paths.empty() ? 0 : 1) + (trajectory ? 1 : 0);
   if (given > 1) throw UsageError("only one of --atoms, --xyz and --trajectory can be given");
   if (xyz_file) {
-    return [atoms = read_atoms(session, *xyz_file)](TrackedDocument& document) {
-      document.set_geometry(atoms);
-    };
+    return [atoms = std::move(read_structures(session, *xyz_file, false).front())](
+               TrackedDocument& document) { document.set_geometry(atoms); };
   }
   if (!paths.empty()) return [paths](TrackedDocument& document) { document.set_xyz_files(paths); };
   if (trajectory) {

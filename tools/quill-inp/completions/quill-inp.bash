@@ -2,7 +2,8 @@
 
 _quill_inp_options() {
   local files='--recursive -r --glob --files-from --null -0 --jobs -j'
-  local write='--in-place -i --diff --backup --break-hard-links --lock-timeout'
+  local output='--output -o --force'
+  local write='--output -o --force --in-place -i --diff --backup --break-hard-links --lock-timeout'
   local loss='--allow-loss --max-change --strict'
   local geometry='--atoms --xyz --trajectory'
   local lines='--bond --angle --dihedral --atom --scan --post --raw'
@@ -14,9 +15,11 @@ _quill_inp_options() {
     unset) echo "--key -k $write $loss $files $general" ;;
     add) echo "$lines $write $loss $files $general" ;;
     new)
-      echo "--task --param --model --device --charge --multiplicity $geometry $lines $loss $general"
+      echo "--task --param --model --device --charge --multiplicity $geometry $lines $output $loss $general"
       ;;
-    from-json) echo "$loss $general" ;;
+    from-json) echo "$output $loss $general" ;;
+    sweep) echo "--output -o --zip --atoms --frames --manifest --force --jobs -j $loss $general" ;;
+    hash) echo "--check $loss $files $general" ;;
     get) echo "--key -k --with-filename --no-filename $files $general" ;;
     json) echo "$files $general" ;;
     lint) echo "--format --fail-on --select --ignore --statistics --fix --diff $files $general" ;;
@@ -58,7 +61,7 @@ _quill_inp() {
     if [[ $word == -* ]]; then
       _quill_inp_offer "$(_quill_inp_options)" "$word"
     else
-      _quill_inp_offer 'show fmt get set unset add new json from-json lint explain' "$word"
+      _quill_inp_offer 'show fmt get set unset add new sweep hash json from-json lint explain' "$word"
     fi
     return
   fi
@@ -67,7 +70,7 @@ _quill_inp() {
     --color) _quill_inp_offer 'auto always never' "$word" ;;
     --format) _quill_inp_offer 'text json github sarif' "$word" ;;
     --fail-on) _quill_inp_offer 'error warning info never' "$word" ;;
-    --atoms | --xyz | --trajectory | --post | --files-from) _quill_inp_files "$word" ;;
+    --atoms | --xyz | --trajectory | --post | --files-from | --output | -o | --manifest) _quill_inp_files "$word" ;;
     --task) _quill_inp_offer 'sp opt ts freq irc scan' "$word" ;;
     --key | -k) _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word" ;;
     --flag | --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \

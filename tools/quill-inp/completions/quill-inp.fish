@@ -1,10 +1,10 @@
 # Completion of quill-inp for fish.
 
-set -l verbs show fmt get set unset add new json from-json lint explain
+set -l verbs show fmt get set unset add new sweep hash json from-json lint explain
 set -l writing '__fish_seen_subcommand_from fmt set unset add'
-set -l choosing '__fish_seen_subcommand_from show fmt get set unset add json lint'
+set -l choosing '__fish_seen_subcommand_from show fmt get set unset add hash json lint'
 set -l keyed '__fish_seen_subcommand_from get unset'
-set -l losing '__fish_seen_subcommand_from fmt set unset add new from-json'
+set -l losing '__fish_seen_subcommand_from fmt set unset add new sweep hash from-json'
 set -l placing '__fish_seen_subcommand_from set new'
 set -l adding '__fish_seen_subcommand_from add new'
 set -l making '__fish_seen_subcommand_from new'
@@ -22,6 +22,8 @@ complete -c quill-inp -n $first -a set -d 'Set values, parameters and the geomet
 complete -c quill-inp -n $first -a unset -d 'Remove commands and parameters'
 complete -c quill-inp -n $first -a add -d 'Add constraints, scans and other lines at the end'
 complete -c quill-inp -n $first -a new -d 'Print a new input'
+complete -c quill-inp -n $first -a sweep -d 'Write inputs for all combinations of values'
+complete -c quill-inp -n $first -a hash -d 'Print or check hashes of what inputs say'
 complete -c quill-inp -n $first -a json -d 'Print inputs as JSON, without loss'
 complete -c quill-inp -n $first -a from-json -d 'Print a JSON text as a QUILL input'
 complete -c quill-inp -n $first -a lint -d 'Find what the reader silently made of inputs'
@@ -35,6 +37,7 @@ complete -c quill-inp -n $general -l stdin-filename -x -d 'Name for standard inp
 complete -c quill-inp -n '__fish_seen_subcommand_from show' -l json -d 'Print JSON'
 complete -c quill-inp -n '__fish_seen_subcommand_from show' -l lines -d 'Print what every line is'
 complete -c quill-inp -n '__fish_seen_subcommand_from fmt' -l check -d 'Only list files that would change'
+complete -c quill-inp -n '__fish_seen_subcommand_from hash' -l check -d 'Read hashes and check them'
 
 complete -c quill-inp -n $linting -l format -xa 'text json github sarif' -d 'Print in this form'
 complete -c quill-inp -n $linting -l fail-on -xa 'error warning info never' -d 'Exit code 1 from this severity on'
@@ -48,11 +51,16 @@ complete -c quill-inp -n $choosing -s r -l recursive -d 'Take the files in folde
 complete -c quill-inp -n $choosing -l glob -x -d 'With -r, take files like this'
 complete -c quill-inp -n $choosing -l files-from -r -d 'Read names of files from a list'
 complete -c quill-inp -n $choosing -s 0 -l null -d 'The names in the list end with NUL'
-complete -c quill-inp -n $choosing -s j -l jobs -x -d 'Work on so many files at once'
+complete -c quill-inp -n "$choosing; or __fish_seen_subcommand_from sweep" -s j -l jobs -x -d 'Work on so many files at once'
 complete -c quill-inp -n $keyed -s k -l key -x -d 'A key'
 complete -c quill-inp -n '__fish_seen_subcommand_from get' -l with-filename -d 'Print the name of the file before every line'
 complete -c quill-inp -n '__fish_seen_subcommand_from get' -l no-filename -d 'Never print the name of the file'
 
+complete -c quill-inp -n '__fish_seen_subcommand_from fmt set unset add new sweep from-json' -s o -l output -r -d 'Write to a new file'
+complete -c quill-inp -n '__fish_seen_subcommand_from fmt set unset add new sweep from-json' -l force -d 'Replace a file that is there already'
+complete -c quill-inp -n '__fish_seen_subcommand_from sweep' -l zip -d 'Combine values of the same number'
+complete -c quill-inp -n '__fish_seen_subcommand_from sweep' -l frames -d 'Take every frame of a trajectory'
+complete -c quill-inp -n '__fish_seen_subcommand_from sweep' -l manifest -r -d 'List names, SHA-256 and values'
 complete -c quill-inp -n $writing -s i -l in-place -d 'Write to the file'
 complete -c quill-inp -n $writing -l diff -d 'Only print the changes'
 complete -c quill-inp -n $writing -l backup -d 'Keep a copy of the old text'
@@ -63,7 +71,7 @@ complete -c quill-inp -n $losing -l max-change -x -d 'Accept rounding by up to t
 complete -c quill-inp -n $losing -l strict -d 'Refuse a text in which lint finds an error'
 
 complete -c quill-inp -n '__fish_seen_subcommand_from set' -l flag -x -d 'Set a command or parameter without a value'
-complete -c quill-inp -n $placing -l atoms -r -d 'Copy the atoms of an XYZ file into the input'
+complete -c quill-inp -n "$placing; or __fish_seen_subcommand_from sweep" -l atoms -r -d 'Copy the atoms of an XYZ file into the input'
 complete -c quill-inp -n $placing -l xyz -r -d 'Refer to XYZ files'
 complete -c quill-inp -n $placing -l trajectory -r -d 'Refer to an XYZ trajectory'
 

@@ -57,6 +57,7 @@ ExitCode tell_difference(Session& session, const ReadInput& input, std::string_v
 
 void add_delivery_options(CLI::App& verb, CheckOption check) {
   add_flag(verb, in_place);
+  add_output_options(verb);
   if (check == CheckOption::Present) add_flag(verb, check_option);
   add_flag(verb, diff);
   add_attached_value(verb, backup);
@@ -74,9 +75,12 @@ Delivery read_delivery(const CLI::App& verb, CheckOption check) {
   delivery.replace.breaks_hard_links = is_given(verb, break_hard_links);
   const auto seconds = value_of(verb, lock_timeout);
   if (seconds) delivery.patience = parse_patience(*seconds);
+  delivery.output = read_output_file(verb);
 
   if (delivery.in_place && (delivery.as_diff || delivery.as_check))
     throw UsageError("--check and --diff write no file and cannot be used with --in-place");
+  if (delivery.output.path && (delivery.in_place || delivery.as_diff || delivery.as_check))
+    throw UsageError("--output cannot be used with --in-place, --check and --diff");
   if (!delivery.in_place && delivery.replace.backup_suffix)
     throw UsageError("--backup needs --in-place");
   if (!delivery.in_place && delivery.replace.breaks_hard_links)
@@ -91,12 +95,17 @@ ReadInput read_for_delivery(Session& session, const std::string& argument,
                            : read_input(session, argument);
 }
 
+void require_one_text(const Delivery& delivery, const FileChoice& files) {
+  const bool is_one = files.arguments.size() == 1 && !files.is_recursive && !files.list;
+  if (delivery.output.path && !is_one) throw UsageError("--output takes the text of one FILE");
+}
+
 ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_text,
                  const Delivery& delivery) {
   if (delivery.as_check || delivery.as_diff)
     return tell_difference(session, input, new_text, delivery);
   if (!delivery.in_place) {
-    session.output().write(new_text);
+    write_output(session, delivery.output, new_text);
     return ExitCode::Done;
   }
   for (const std::string& note :

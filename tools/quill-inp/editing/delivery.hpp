@@ -5,7 +5,9 @@
 #include <string>
 #include <string_view>
 
+#include "quill-inp/batch/file_choice.hpp"
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/editing/output_file.hpp"
 #include "quill-inp/files/safe_write.hpp"
 #include "quill-inp/process/exit_code.hpp"
 #include "quill-inp/session/input_source.hpp"
@@ -20,13 +22,14 @@ struct Delivery {
   bool as_check = false;  // only whether there is anything to change
   ReplaceOptions replace = {};
   std::chrono::seconds patience = std::chrono::seconds(60);  // with other runs, when in place
+  OutputFile output = {};
 };
 
 /// Whether a verb has --check.
 enum class CheckOption { Absent, Present };
 
-/// Adds --in-place, --diff, --backup, --break-hard-links and --lock-timeout to a verb, and --check
-/// if wanted.
+/// Adds --in-place, --output, --force, --diff, --backup, --break-hard-links and --lock-timeout to a
+/// verb, and --check if wanted.
 void add_delivery_options(CLI::App& verb, CheckOption check = CheckOption::Absent);
 
 /// Reads these options. Throws UsageError for options that cannot be used together.
@@ -35,6 +38,9 @@ Delivery read_delivery(const CLI::App& verb, CheckOption check = CheckOption::Ab
 /// Reads the input whose new text is to be delivered. Throws Trouble when that fails.
 ReadInput read_for_delivery(Session& session, const std::string& argument,
                             const Delivery& delivery);
+
+/// Throws UsageError if one file is to take the texts of several.
+void require_one_text(const Delivery& delivery, const FileChoice& files);
 
 /// Delivers the new text of a file: prints it, writes it in place of the old one, or prints whether
 /// and how it differs. The answer is "no" if it differs. The session notes a file that was changed.

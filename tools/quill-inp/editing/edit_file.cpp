@@ -20,14 +20,15 @@ using lossless::ReadText;
 using lossless::SurgicalEdit;
 using lossless::TrackedDocument;
 
-void report_notes(Session& session, const ReadInput& input, const std::vector<EditNote>& notes) {
-  for (const EditNote& note : notes) {
+void report_notes(Session& session, const ReadInput& input, const EditReport& report) {
+  for (const EditNote& note : report.notes) {
     Place place{input.name};
     if (note.command)
       place.line =
           1 + lossless::find_line(input.read.lines, LineRole::Command, note.command).value();
     session.reporter().note(place, words(note));
   }
+  for (const Ambiguity& ambiguity : report.ambiguities) note_ambiguity(session, input, ambiguity);
 }
 
 /// Returns what changed or removed header lines say besides their commands. The other lines that
@@ -58,7 +59,8 @@ void add_edit_options(CLI::App& verb) {
 EditOptions read_edit_options(const CLI::App& verb, const std::vector<std::string>& arguments) {
   EditOptions options{read_file_choice(verb, arguments), read_batch_options(verb),
                       read_delivery(verb), read_loss_policy(verb)};
-  options.batch.tells_counts = options.delivery.in_place;
+  require_one_text(options.delivery, options.files);
+  if (options.delivery.in_place) options.batch.counted = "changed";
   return options;
 }
 
@@ -70,34 +72,41 @@ ExitCode edit_files(Session& session, const EditOptions& options, const Edit& ed
                        });
 }
 
+EditedInput edit_input(Session& session, const std::string& name, const ReadInput& input,
+                       const Edit& edit, const LossPolicy& policy, EditNotes notes) {
+  TrackedDocument document(input.read.result.input);
+  EditReport report = edit(document);
+  if (notes == EditNotes::Told) report_notes(session, input, report);
+  for (const MissingAnswer& missing : report.missing)
+    session.reporter().note({name}, words(missing));
+  if (!report.missing.empty()) return {ExitCode::No, {}};
+
+  const auto doubts =
+      find_addition_doubts(input.read.result.input, document.document(), folder_of(input.name));
+  if (!accept_additions(session, name, doubts, policy)) return {ExitCode::Trouble, {}};
+
+  SurgicalEdit edited = lossless::render(input.read, document, policy.max_change);
+  if (notes == EditNotes::Told)
+    note_number_changes(session, name, edited.proof.comparison.number_changes);
+  const Losses losses{std::move(report.losses), list_header_losses(input.read, edited),
+                      edited.quoting_problems, edited.proof, document.document()};
+  if (!accept_losses(session, name, losses, policy)) return {ExitCode::Trouble, {}};
+  return {ExitCode::Done, std::move(edited)};
+}
+
 ExitCode edit_file(Session& session, const std::string& argument, const Edit& edit,
                    const Delivery& delivery, const LossPolicy& policy) {
   const ReadInput input = read_for_delivery(session, argument, delivery);
   if (!accept_as_input(session, input, policy)) return ExitCode::Trouble;
   report_warnings(session.reporter(), input.name, input.read.result);
-  TrackedDocument document(input.read.result.input);
-  EditReport report = edit(document);
-  report_notes(session, input, report.notes);
-  for (const Ambiguity& ambiguity : report.ambiguities) note_ambiguity(session, input, ambiguity);
-  for (const MissingAnswer& missing : report.missing)
-    session.reporter().note({input.name}, words(missing));
-  if (!report.missing.empty()) return ExitCode::No;
-
-  const auto doubts =
-      find_addition_doubts(input.read.result.input, document.document(), folder_of(argument));
-  if (!accept_additions(session, input.name, doubts, policy)) return ExitCode::Trouble;
-
-  SurgicalEdit edited = lossless::render(input.read, document, policy.max_change);
-  note_number_changes(session, input.name, edited.proof.comparison.number_changes);
-  const Losses losses{std::move(report.losses), list_header_losses(input.read, edited),
-                      std::move(edited.quoting_problems), edited.proof, document.document()};
-  if (!accept_losses(session, input.name, losses, policy)) return ExitCode::Trouble;
-  if (!accept_findings(session, argument, edited.text, policy)) return ExitCode::Trouble;
+  const EditedInput edited = edit_input(session, input.name, input, edit, policy, EditNotes::Told);
+  if (edited.code != ExitCode::Done) return edited.code;
+  if (!accept_findings(session, argument, edited.edit.text, policy)) return ExitCode::Trouble;
   // If memory ran out after the file was written, the error would look as if it was not written. So
   // the notes, which can take much memory, are made first.
   std::vector<ChangeNote> notes;
-  if (delivery.in_place) notes = describe_changes(input, edited);
-  const ExitCode code = deliver(session, input, edited.text, delivery);
+  if (delivery.in_place) notes = describe_changes(input, edited.edit);
+  const ExitCode code = deliver(session, input, edited.edit.text, delivery);
   for (const ChangeNote& note : notes) session.reporter().note(note.place, note.message);
   return code;
 }

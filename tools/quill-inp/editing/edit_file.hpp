@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "kelp/input/quill/lossless/surgical_edit.hpp"
 #include "kelp/input/quill/lossless/tracked_document.hpp"
 #include "quill-inp/batch/each_file.hpp"
 #include "quill-inp/batch/file_choice.hpp"
@@ -12,6 +13,7 @@
 #include "quill-inp/editing/edit_report.hpp"
 #include "quill-inp/editing/loss_policy.hpp"
 #include "quill-inp/process/exit_code.hpp"
+#include "quill-inp/session/input_source.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -33,6 +35,20 @@ EditOptions read_edit_options(const CLI::App& verb, const std::vector<std::strin
 
 /// Makes the same edit in every file. It may be called for several files at once.
 ExitCode edit_files(Session& session, const EditOptions& options, const Edit& edit);
+
+/// Whether to tell of what is worth a note in an edit. For the second of two equal edits it is not.
+enum class EditNotes { Told, Untold };
+
+/// The text that an edit makes, unless there is something that forbids it; `code` is then not Done.
+struct EditedInput {
+  ExitCode code = ExitCode::Done;
+  lossless::SurgicalEdit edit = {};
+};
+
+/// Edits an input that was read, and reports, under `name`, what is missing, what is lost and what
+/// is refused.
+EditedInput edit_input(Session& session, const std::string& name, const ReadInput& input,
+                       const Edit& edit, const LossPolicy& policy, EditNotes notes);
 
 /// Reads an input, edits its document and delivers the whole new text or nothing. The answer is
 /// "no" when something is missing. Throws Trouble and UsageError.

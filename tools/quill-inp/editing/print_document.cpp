@@ -14,7 +14,7 @@ constexpr const char* name_of_output = "<stdout>";
 }  // namespace
 
 ExitCode print_document(Session& session, const std::string& name, const QuillInput& document,
-                        const LossPolicy& policy) {
+                        const LossPolicy& policy, const OutputFile& output) {
   lossless::QuotedDocument quoted = lossless::quote(document);
   const std::string text = quoted.document.to_string();
   const lossless::Proof proof = lossless::prove(text, document, policy.max_change);
@@ -22,9 +22,10 @@ ExitCode print_document(Session& session, const std::string& name, const QuillIn
   const Losses losses{{}, {}, std::move(quoted.problems), proof, document};
   // Their lines are those of a text that is not printed, and `name` is not the name of that text.
   if (!accept_losses(session, name, losses, policy, LossLines::Hidden)) return ExitCode::Trouble;
-  if (!accept_findings(session, name_of_output, text, policy)) return ExitCode::Trouble;
-  report_warnings(session.reporter(), name_of_output, proof.found);
-  session.output().write(text);
+  const std::string shown = output.path.value_or(name_of_output);
+  if (!accept_findings(session, shown, text, policy)) return ExitCode::Trouble;
+  report_warnings(session.reporter(), shown, proof.found);
+  write_output(session, output, text);
   return ExitCode::Done;
 }
 

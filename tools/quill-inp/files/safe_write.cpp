@@ -10,6 +10,7 @@
 
 #include "quill-inp/files/access_rights.hpp"
 #include "quill-inp/files/attributes.hpp"
+#include "quill-inp/files/flush.hpp"
 #include "quill-inp/files/provisional_name.hpp"
 #include "quill-inp/files/temporary_file.hpp"
 #include "quill-inp/process/file_descriptor.hpp"
@@ -54,12 +55,6 @@ void require_one_name(const FileOrigin& target, const ReplaceOptions& options) {
   }
 }
 
-void flush_to_disk(int file) {
-  while (fsync(file) != 0) {
-    if (errno != EINTR) throw_system_trouble("the temporary file cannot be flushed to disk", errno);
-  }
-}
-
 /// Reads the file back by its name, since others will find it by its name, too.
 void require_content(const FileOrigin& target, const TemporaryFile& temporary,
                      std::string_view text) {
@@ -87,7 +82,7 @@ std::vector<std::string> fill(TemporaryFile& temporary, const FileOrigin& target
   // The system takes these away from a file that is written to.
   append(losses, restore_special_bits(target.state, file));
   append(losses, copy_attributes(old_file, file));
-  flush_to_disk(file);
+  flush_file(file, "the temporary file");
   if (const int error = temporary.file().close(); error != 0)
     throw_system_trouble("the temporary file cannot be closed", error);
   require_content(target, temporary, text);
@@ -128,15 +123,6 @@ void place(TemporaryFile& file, std::optional<Backup>& backup, const FileOrigin&
   if (backup_name) backup_name->keep();
 }
 
-/// The new name is on disk only when the folder is. Some file systems cannot flush folders.
-void flush_folder(const FileOrigin& target) {
-  while (fsync(target.folder.number()) != 0) {
-    if (errno == EINVAL || errno == ENOTSUP) return;
-    if (errno != EINTR)
-      throw_system_trouble("holds the new text, but the folder cannot be flushed to disk", errno);
-  }
-}
-
 }  // namespace
 
 std::vector<std::string> replace_content(const FileOrigin& origin, std::string_view old_text,
@@ -150,7 +136,7 @@ std::vector<std::string> replace_content(const FileOrigin& origin, std::string_v
   TemporaryFile temporary(origin.folder.number());
   std::vector<std::string> losses = fill(temporary, origin, new_text);
   place(temporary, backup, origin);
-  flush_folder(origin);
+  flush_folder(origin.folder.number());
   return losses;
 }
 

@@ -26,11 +26,10 @@ std::string random_name() {
 
 constexpr int most_tries = 100;
 
-int create_new_file(int folder, std::string& name) {
+int create_new_file(int folder, std::string& name, mode_t mode) {
   for (int i = 0; i < most_tries; ++i) {
     name = random_name();
-    const int file =
-        open_in(folder, name, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    const int file = open_in(folder, name, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
     if (file >= 0 || errno != EEXIST) return file;
   }
   return -1;
@@ -38,10 +37,10 @@ int create_new_file(int folder, std::string& name) {
 
 }  // namespace
 
-TemporaryFile::TemporaryFile(int folder) : folder_(folder), file_(-1) {
+TemporaryFile::TemporaryFile(int folder, mode_t mode) : folder_(folder), file_(-1) {
   const HeldSignals held;
   std::string chosen;
-  const int number = create_new_file(folder, chosen);
+  const int number = create_new_file(folder, chosen, mode);
   if (number < 0) throw_system_trouble("cannot create a temporary file in the same folder", errno);
   name_.emplace(folder, std::move(chosen));
   file_ = FileDescriptor(number);

@@ -1,6 +1,8 @@
 #ifndef KELP_INPUT_QUILL_TOOL_FILES_TEMPORARY_FILE_HPP
 #define KELP_INPUT_QUILL_TOOL_FILES_TEMPORARY_FILE_HPP
 
+#include <sys/stat.h>
+
 #include <optional>
 #include <string>
 
@@ -9,13 +11,13 @@
 
 namespace kelp::input::quill::tool {
 
-/// A new file in a folder, which only its owner can open. Unless it was given its final name, it is
-/// removed when the object is destroyed, so on every error, and on SIGINT, SIGTERM and SIGHUP,
-/// which then have their usual effect.
+/// A new file in a folder, which only its owner can open unless other rights are asked for. Unless
+/// it was given its final name, it is removed when the object is destroyed, so on every error, and
+/// on SIGINT, SIGTERM and SIGHUP, which then have their usual effect.
 class TemporaryFile {
  public:
-  /// Creates the file in the open folder. Throws Trouble when that fails.
-  explicit TemporaryFile(int folder);
+  /// Creates the file in the open folder, with these access rights. Throws Trouble when that fails.
+  explicit TemporaryFile(int folder, mode_t mode = S_IRUSR | S_IWUSR);
 
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;

@@ -33,6 +33,26 @@ AtomRecord read_atom(const std::string& line, std::size_t number) {
   return atom;
 }
 
+/// Returns how long the first lines of a text are, with their line ends.
+std::size_t size_of_lines(std::string_view content, std::size_t lines) {
+  std::size_t size = 0;
+  for (; lines > 0 && size < content.size(); --lines)
+    size = std::min(content.find('\n', size), content.size() - 1) + 1;
+  return size;
+}
+
+/// Removes the blank lines at the beginning of a text, and returns how many there were.
+std::size_t remove_blank_lines(std::string_view& content) {
+  std::size_t lines = 0;
+  while (!content.empty()) {
+    const std::size_t size = size_of_lines(content, 1);
+    if (!text::trim(content.substr(0, size)).empty()) break;
+    content.remove_prefix(size);
+    ++lines;
+  }
+  return lines;
+}
+
 }  // namespace
 
 std::optional<std::size_t> find_xyz_count(std::string_view content) {
@@ -62,6 +82,25 @@ std::vector<AtomRecord> read_xyz_atoms(std::string_view content) {
       throw_at(i + 1, "more text after the last atom; only files with one structure can be read");
   }
   return atoms;
+}
+
+std::vector<std::vector<AtomRecord>> read_xyz_frames(std::string_view content) {
+  std::vector<std::vector<AtomRecord>> frames;
+  std::size_t lines_before = 0;
+  do {
+    const std::size_t atoms = find_xyz_count(content).value_or(0);
+    const std::size_t size = size_of_lines(content, xyz_lines_before_atoms + atoms);
+    try {
+      frames.push_back(read_xyz_atoms(content.substr(0, size)));
+    } catch (const Trouble& trouble) {
+      const auto line = trouble.line();
+      throw Trouble(trouble.what(), line ? std::optional(lines_before + *line) : std::nullopt);
+    }
+    lines_before += xyz_lines_before_atoms + atoms;
+    content.remove_prefix(size);
+    lines_before += remove_blank_lines(content);
+  } while (!content.empty());
+  return frames;
 }
 
 }  // namespace kelp::input::quill::tool

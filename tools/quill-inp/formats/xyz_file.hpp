@@ -26,6 +26,10 @@ std::optional<std::size_t> find_xyz_count(std::string_view content);
 /// which of them is wanted.
 std::vector<AtomRecord> read_xyz_atoms(std::string_view content);
 
+/// Returns the atoms of every structure of a trajectory: XYZ files one after another, with blank
+/// lines between them or not. Throws Trouble as read_xyz_atoms() does, for any of the structures.
+std::vector<std::vector<AtomRecord>> read_xyz_frames(std::string_view content);
+
 }  // namespace kelp::input::quill::tool
 
 #endif  // KELP_INPUT_QUILL_TOOL_FORMATS_XYZ_FILE_HPP

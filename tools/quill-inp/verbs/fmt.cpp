@@ -1,12 +1,11 @@
+#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "kelp/input/quill/lossless/proof.hpp"
-#include "kelp/input/quill/lossless/quoting.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/file_options.hpp"
+#include "quill-inp/editing/canonical_text.hpp"
 #include "quill-inp/editing/delivery.hpp"
 #include "quill-inp/editing/loss_policy.hpp"
 #include "quill-inp/editing/strictness.hpp"
@@ -27,20 +26,12 @@ constexpr Option files{"FILE", "", "The inputs"};
 ExitCode format(Session& session, const std::string& argument, const Delivery& delivery,
                 const LossPolicy& policy) {
   const ReadInput input = read_for_delivery(session, argument, delivery);
-  if (!accept_as_input(session, input, policy)) return ExitCode::Trouble;
-  const QuillInput& document = input.read.result.input;
-  report_warnings(session.reporter(), input.name, input.read.result);
-
-  lossless::QuotedDocument quoted = lossless::quote(document);
-  const std::string text = quoted.document.to_string();
-  const lossless::Proof proof = lossless::prove(text, document, policy.max_change);
-  note_number_changes(session, input.name, proof.comparison.number_changes);
-  const Losses losses{
-      {}, list_line_losses(input.read), std::move(quoted.problems), proof, document};
-  if (!accept_losses(session, input.name, losses, policy)) return ExitCode::Trouble;
-  if (!accept_findings(session, argument, text, policy)) return ExitCode::Trouble;
-  const ExitCode code = deliver(session, input, text, delivery);
-  if (session.has_noted_change()) session.reporter().note({input.name}, "changed");
+  const std::optional<std::string> text = make_canonical_text(session, input, policy);
+  if (!text) return ExitCode::Trouble;
+  if (!accept_findings(session, argument, *text, policy)) return ExitCode::Trouble;
+  const ExitCode code = deliver(session, input, *text, delivery);
+  if (delivery.in_place && session.has_noted_change())
+    session.reporter().note({input.name}, "changed");
   return code;
 }
 
@@ -48,8 +39,10 @@ ExitCode fmt(Session& session, const CLI::App& app) {
   const Delivery delivery = read_delivery(app, CheckOption::Present);
   const LossPolicy policy = read_loss_policy(app);
   BatchOptions options = read_batch_options(app);
-  options.tells_counts = delivery.in_place;
-  const ChosenFiles chosen = choose_files(session, read_file_choice(app, values_of(app, files)));
+  if (delivery.in_place) options.counted = "changed";
+  const FileChoice choice = read_file_choice(app, values_of(app, files));
+  require_one_text(delivery, choice);
+  const ChosenFiles chosen = choose_files(session, choice);
   return for_each_file(session, chosen, options, [&](Session& one, const std::string& argument) {
     return format(one, argument, delivery, policy);
   });

@@ -172,7 +172,7 @@ ExitCode lint_files(Session& session, const CLI::App& app) {
   call.shows_diff = is_given(app, diff);
   if (call.shows_diff && !call.fixes) throw UsageError("--diff needs --fix");
   BatchOptions batch = read_batch_options(app);
-  batch.tells_counts = false;  // the last line has other ones
+  batch.counted = nullptr;  // the last line has other ones
   const ChosenFiles chosen = choose_files(session, read_file_choice(app, values_of(app, files)));
   if (chosen.files.size() > 1) call.other_names = names_in_several_files(chosen.files);
 

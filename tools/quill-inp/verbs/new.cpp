@@ -87,11 +87,12 @@ QuillInput build(Session& session, const CLI::App& app) {
 
 ExitCode make_new(Session& session, const CLI::App& app) {
   const LossPolicy policy = read_loss_policy(app);
+  const OutputFile output = read_output_file(app);
   return for_file(session, name_of_result, [&] {
     const QuillInput document = build(session, app);
     const auto doubts = find_addition_doubts(QuillInput(), document, ".");
     if (!accept_additions(session, name_of_result, doubts, policy)) return ExitCode::Trouble;
-    return print_document(session, name_of_result, document, policy);
+    return print_document(session, name_of_result, document, policy, output);
   });
 }
 
@@ -104,6 +105,7 @@ Verb add_new(CLI::App& program) {
   for (const Option& option : {model, device, charge, multiplicity}) add_value(*app, option);
   add_geometry_options(*app);
   add_post_options(*app);
+  add_output_options(*app);
   add_loss_options(*app);
   add_common_options(*app);
   return {app, make_new};

@@ -34,6 +34,8 @@ Verb add_from_json(CLI::App& program);
 Verb add_lint(CLI::App& program);
 Verb add_check(CLI::App& program);
 Verb add_explain(CLI::App& program);
+Verb add_sweep(CLI::App& program);
+Verb add_hash(CLI::App& program);
 
 /// Adds a verb to the program: its name, one line about it, and an example of its use.
 CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string& description,

@@ -69,8 +69,7 @@ class EachFile : public testing::TestWithParam<Words> {};
 TEST_P(EachFile, GivesTheSameForEveryNumberOfThreads) {
   const Result one = run_with(GetParam(), "1");
   EXPECT_NE(one.outcome.out.find("none too.qin: error: cannot be opened"), std::string::npos);
-  EXPECT_NE(one.outcome.out.find("<stdin>: error: standard input was read already"),
-            std::string::npos);
+  EXPECT_NE(one.outcome.out.find("<stdin>: error: standard input "), std::string::npos);
   for (const char* threads : {"2", "8"}) {
     const Result several = run_with(GetParam(), threads);
     EXPECT_EQ(several.outcome, one.outcome);

@@ -30,7 +30,7 @@ TEST(Tally, IsToldInWords) {
       {{1234567, 1000, 2000, 3000},
        "1,234,567 files, 1,000 changed, 2,000 without a match, 3,000 refused"},
   };
-  for (const auto& row : rows) EXPECT_EQ(words(row.tally), row.text);
+  for (const auto& row : rows) EXPECT_EQ(words(row.tally, "changed"), row.text);
 }
 
 TEST(Tally, PutsACommaBeforeEveryThreeDigits) {
