@@ -92,7 +92,10 @@ ReadInput read_input(Session& session, const std::string& argument) {
 
 ReadInput read_for_replacing(Session& session, const std::string& argument,
                              std::chrono::milliseconds patience) {
-  if (argument == "-") throw Trouble("standard input cannot be changed in place");
+  if (argument == "-") {
+    static_cast<void>(session.take_standard_input());
+    throw Trouble("standard input cannot be changed in place");
+  }
   FileOrigin origin = open_for_replacing(argument, patience);
   std::string content = read_regular_file(session, origin.file.number(), origin.state);
   return {session.shown_name(argument), lossless::read_text(std::move(content)), std::move(origin)};
