@@ -76,12 +76,11 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${debian_files}/triggers")
 # The tool's own libraries are found in the build; the package that contains them is set above.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
-  "${PROJECT_BINARY_DIR}/src"
-  "${PROJECT_BINARY_DIR}/lossless"
-  "${PROJECT_BINARY_DIR}/sisters/core_text"
-  "${PROJECT_BINARY_DIR}/sisters/chem_elements"
-)
+get_property(libraries GLOBAL PROPERTY KELP_QUILL_INP_LIBRARIES)
+foreach(library IN LISTS libraries)
+  get_target_property(folder ${library} BINARY_DIR)
+  list(APPEND CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${folder}")
+endforeach()
 
 # Each description has its own first line.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")

@@ -16,7 +16,7 @@ kelp_quill_inp_install_library(kelp_quill_inp "${PROJECT_DESCRIPTION}"
   kelp_core_text kelp_chem_elements)
 kelp_quill_inp_install_library(kelp_quill_lossless
   "Edits QUILL input files and keeps what the edit does not concern"
-  kelp_quill_inp kelp_core_text)
+  kelp_quill_inp kelp_core_text kelp_chem_elements)
 
 if(KELP_QUILL_INP_BUILD_TOOLS)
   include(cmake/install_tool.cmake)

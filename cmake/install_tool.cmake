@@ -1,5 +1,7 @@
 # The program, its manual page, and its completions for shells.
 install(TARGETS quill-inp RUNTIME COMPONENT tool)
+kelp_quill_inp_install_run_path(quill-inp BINDIR tool
+  kelp_quill_lossless kelp_quill_inp kelp_core_text kelp_chem_elements)
 
 # kelp_quill_inp_install_for_tool(FILE FOLDER [RENAME NAME])
 function(kelp_quill_inp_install_for_tool file folder)

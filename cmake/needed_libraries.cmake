@@ -1,9 +1,10 @@
 include(CheckLinkerFlag)
 
 # Links libraries so that programs which link the target need them directly, even if they use none of
-# their functions. The run path of a program is used to find only the libraries that it needs directly,
-# and the installed libraries have no run path: without this, a program would start only if the
-# libraries are in a folder that the dynamic linker searches by default.
+# their functions. The run path of a program is used to find only the libraries that it needs directly.
+# Sister libraries from another installation are in a folder that the run path of this library does not
+# name, and packagers may leave the run paths out: without this, a program would start only if all
+# libraries are in folders that the dynamic linker searches by default.
 function(kelp_quill_inp_link_needed target)
   get_target_property(type ${target} TYPE)
   set(begin -Wl,--push-state,--no-as-needed)

@@ -19,9 +19,15 @@ set(KELP_QUILL_INP_SANITIZERS "" CACHE STRING
 set(KELP_QUILL_INP_ZSH_COMPLETIONS_DIR "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" CACHE STRING
   "Folder for the tool's completions for zsh")
 
-# The libraries are shared unless BUILD_SHARED_LIBS is set to OFF explicitly.
-if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)
-  set(KELP_QUILL_INP_LIBRARY_TYPE STATIC)
+# Unless BUILD_SHARED_LIBS says it, the libraries are shared, and in another project static: what that
+# project installs then has all that it needs.
+if(DEFINED BUILD_SHARED_LIBS)
+  set(is_shared ${BUILD_SHARED_LIBS})
 else()
+  set(is_shared ${PROJECT_IS_TOP_LEVEL})
+endif()
+if(is_shared)
   set(KELP_QUILL_INP_LIBRARY_TYPE SHARED)
+else()
+  set(KELP_QUILL_INP_LIBRARY_TYPE STATIC)
 endif()

@@ -30,15 +30,14 @@ function(move_installation name moved)
     COMMAND "${CMAKE_COMMAND}" -E rename "${folder}_before" "${folder}")
 endfunction()
 
-# install_outside_of_the_prefix(NAME OUTSIDE): configures the build of NAME again, with a library
-# folder that is absolute and not in the prefix. It waits for the fixtures named last, which need the
-# build as it was before.
-function(install_outside_of_the_prefix name outside)
+# configure_again(NAME AGAIN AFTER DESTDIR OPTION...): configures the build of NAME again, with other
+# options, and installs it under DESTDIR. It waits for the fixture AFTER, which needs the build as it was
+# before.
+function(configure_again name again after destdir)
   set(build "${PROJECT_BINARY_DIR}/${name}/build")
-  set(folder "${PROJECT_BINARY_DIR}/${outside}")
-  add_step(${outside} is_configured SETUP ${outside}.configured REQUIRES ${name} ${ARGN}
-    COMMAND "${CMAKE_COMMAND}" "-DCMAKE_INSTALL_PREFIX=${folder}/prefix"
-      "-DCMAKE_INSTALL_LIBDIR=${folder}/libraries" "${build}")
-  add_step(${outside} is_installed SETUP ${outside} REQUIRES ${outside}.configured
-    COMMAND "${CMAKE_COMMAND}" --build "${build}" --target install)
+  add_step(${again} is_configured SETUP ${again}.configured REQUIRES ${name} ${after}
+    COMMAND "${CMAKE_COMMAND}" ${ARGN} "${build}")
+  add_step(${again} is_installed SETUP ${again} REQUIRES ${again}.configured
+    COMMAND "${CMAKE_COMMAND}" -E env "DESTDIR=${destdir}"
+      "${CMAKE_COMMAND}" --build "${build}" --target install)
 endfunction()
