@@ -19,6 +19,7 @@ if [ $# -eq 0 ]; then set -- "${fuzz_targets[@]}"; fi
 for target in "$@"; do check_fuzz_target "$target"; done
 
 build_fuzz_targets
+for target in "$@"; do need_corpus "$target"; done
 
 # Stacks of allocations are not recorded, and freed memory is not kept for long: that would double the
 # time, and a finding that is run again alone has both.

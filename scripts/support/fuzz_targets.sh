@@ -28,6 +28,14 @@ build_fuzz_targets() {
   build_preset fuzz "${fuzz_targets[@]/#/kelp_quill_inp_fuzz_}"
 }
 
+# need_corpus NAME: fails when the target has no inputs to begin with; to lose them would go unnoticed.
+need_corpus() {
+  if [ ! -d "$corpus/$1" ] || [ -z "$(find "$corpus/$1" -type f)" ]; then
+    echo "The corpus of $1 is empty: $corpus/$1" >&2
+    return 1
+  fi
+}
+
 # pack_corpus: the same inputs give the same archive.
 pack_corpus() {
   tar --create --directory="$corpus" --sort=name --owner=0 --group=0 --numeric-owner --mtime=@0 \

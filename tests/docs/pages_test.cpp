@@ -65,7 +65,7 @@ TEST(Pages, HaveOnlyCodeThatIsTested) {
   }
 }
 
-/// The names after a word such as "scripts/" in the shell blocks of all pages.
+/// What a pattern captures in the shell blocks of all pages.
 std::set<std::string> names_in_shell_blocks(const std::string& pattern) {
   std::set<std::string> names;
   const std::regex name(pattern);
@@ -78,18 +78,6 @@ std::set<std::string> names_in_shell_blocks(const std::string& pattern) {
     }
   }
   return names;
-}
-
-TEST(Pages, NameScriptsThatExist) {
-  const std::set<std::string> scripts =
-      names_in_shell_blocks("(?:^|\\n| )(scripts/[\\w./-]+|.ci/run)");
-  EXPECT_THAT(scripts, testing::Contains("scripts/test.sh"));
-  const std::filesystem::path root = KELP_QUILL_INP_SOURCE_DIR;
-  for (const std::string& script : scripts) {
-    const auto permissions = std::filesystem::status(root / script).permissions();
-    EXPECT_NE(permissions & std::filesystem::perms::owner_exec, std::filesystem::perms::none)
-        << script;
-  }
 }
 
 TEST(Pages, NamePresetsThatExist) {

@@ -1,0 +1,57 @@
+#!/bin/sh
+# Tries check_test_sources.sh on a small folder of tests, and on the same with one thing wrong.
+set -eu
+
+check=$(dirname "$0")/check_test_sources.sh
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+failures=0
+tests=$scratch/tests
+
+make_tests() {
+  rm -rf "$tests"
+  mkdir -p "$tests/unit" "$tests/package"
+  printf '#include <gtest/gtest.h>\n\nTEST(A, IsRight) {}\n' >"$tests/unit/a_test.cpp"
+  printf 'int helper() { return 1; }\n' >"$tests/unit/helper.cpp"
+  printf 'int main() {}\n' >"$tests/package/main.cpp"
+  printf '%s\n' "$tests/unit/helper.cpp" "$tests/unit/a_test.cpp" /usr/src/other.cpp >"$scratch/list"
+}
+
+# judge accepted|refused WHAT
+judge() {
+  verdict=refused
+  if sh "$check" "$tests" "$scratch/list" >/dev/null 2>&1; then verdict=accepted; fi
+  if [ "$verdict" != "$1" ]; then
+    echo "a folder is $verdict: $2" >&2
+    failures=$((failures + 1))
+  fi
+}
+
+make_tests
+judge accepted 'nothing is wrong'
+
+make_tests
+printf 'TEST(B, IsRight) {}\n' >"$tests/unit/b_test.cpp"
+judge refused 'a test is not built'
+
+make_tests
+: >"$tests/unit/other.cpp"
+judge refused 'a helper is not built'
+
+make_tests
+: >"$tests/unit/a_test.cpp"
+judge refused 'a test is empty'
+
+make_tests
+printf '// TEST(A, IsRight) {}\nint TESTED(int);\n' >"$tests/unit/a_test.cpp"
+judge refused 'the only test is a comment'
+
+make_tests
+printf 'static_assert(true);\n' >"$tests/unit/a_test.cpp"
+judge accepted 'the compiler makes the test'
+
+rm -r "$tests/unit"
+judge refused 'there are no tests'
+
+if [ "$failures" -ne 0 ]; then exit 1; fi
+echo "every folder is judged as it should be"
