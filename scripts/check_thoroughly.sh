@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
 # The checks that would take too long for every change, for use before a release: the analyses over all
 # sources, the tests in other modes, what is shipped, longer fuzzing, mutants, exactness, scale. Takes
-# some hours on two cores.
+# some hours on two cores. When all have passed on a commit, notes that for scripts/release.sh.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
+. support/release.sh
+
+commit=$(cd .. && committed_state)
 
 step() { printf '\n=== %s (after %d s)\n' "$*" "$SECONDS"; }
 
@@ -37,3 +40,11 @@ step "the largest texts"
 
 step "mutants"
 ./mutate.sh
+
+cd ..
+if [ -n "$commit" ] && [ "$(committed_state)" = "$commit" ]; then
+  date --utc >"$(thorough_mark "$commit")"
+  echo "all checks passed on the commit $commit"
+else
+  echo "all checks passed on files that are no commit; a release needs a commit that was checked"
+fi

@@ -34,5 +34,7 @@ need_packages() {
 
 package_log=${TMPDIR:-/tmp}/kelp_quill_inp_packages.$(id -u).log
 build_packages=(g++ cmake ninja-build)
-tool_packages=("${build_packages[@]}" libcli11-dev nlohmann-json3-dev libutfcpp-dev libmd-dev libtomlplusplus-dev)
-test_packages=("${tool_packages[@]}" libgtest-dev libgmock-dev locales valgrind python3-jsonschema pre-commit)
+tool_packages=("${build_packages[@]}" libcli11-dev nlohmann-json3-dev libutfcpp-dev libmd-dev
+  libtomlplusplus-dev)
+test_packages=("${tool_packages[@]}" libgtest-dev libgmock-dev locales valgrind python3-jsonschema
+  pre-commit xz-utils)

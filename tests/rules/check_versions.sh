@@ -46,9 +46,8 @@ if [ "$is_release" = no ] && [ "$newest" = Unreleased ]; then
   if [ "$released" = "$version" ] || [ "$oldest" = "$version" ]; then
     complain "CHANGELOG.md has unreleased changes, and project() still has the released version $version"
   fi
-else
-  expect CHANGELOG.md "$newest" "$version, $(printf '%s\n' "$newest" |
-    grep -oE '[0-9]{4}-[0-9]{2}-[0-9]{2}$' || echo 'and a date')"
+elif ! printf '%s\n' "$newest" | sed "s/^$version, //" | grep -qxE '[0-9]{4}-[0-9]{2}-[0-9]{2}'; then
+  complain "the newest entry of CHANGELOG.md is '$newest', and should be '$version, YEAR-MONTH-DAY'"
 fi
 expect cmake/debian/changelog \
   "$(sed -n '1s/^kelp-quill-inp (\([0-9.]*\)-[^)]*).*/\1/p' "$tree/cmake/debian/changelog")" "$version"

@@ -68,6 +68,8 @@ judge refused 'a version before the released one'
 
 file CHANGELOG.md '## 0.2.2, 2026-03-01'
 judge refused 'the changelog has another version'
+file CHANGELOG.md '## 0.2.1, soon'
+judge refused 'a release without a date' --release
 file CHANGELOG.md '## 0.2.1'
 judge refused 'a release without a date' --release
 
