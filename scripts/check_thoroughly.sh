@@ -24,6 +24,9 @@ step "the tests with the standard library's checks, with a char that has no sign
 step "the tests of the libraries with another standard library"
 for folder in unit interface properties exactness; do ./libcxx.sh "$folder"; done
 
+step "the oldest compilers"
+./check_compilers.sh
+
 step "what is shipped: hardening, Debian packages, the same bytes from two folders"
 ./check_hardening.sh
 ./check_debian.sh

@@ -4,7 +4,8 @@
 #   check_test_sources.sh TESTS LIST_OF_SOURCES
 #
 # The list has one source on each line, as an absolute path. Consumers of the installed library are
-# projects of their own, in a folder "package".
+# projects of their own, in the folder "package", and what a compiler must refuse, in folders "refused",
+# is given to it by tests.
 set -eu
 export LC_ALL=C
 
@@ -13,7 +14,7 @@ list=$2
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-find "$tests" -path "$tests/package" -prune -o -name '*.cpp' -print | sort -u >"$scratch/there"
+find "$tests" \( -path "$tests/package" -o -name refused \) -prune -o -name '*.cpp' -print | sort -u >"$scratch/there"
 if [ ! -s "$scratch/there" ]; then
   echo "there are no sources in $tests" >&2
   exit 1

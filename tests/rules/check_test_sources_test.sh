@@ -10,10 +10,11 @@ tests=$scratch/tests
 
 make_tests() {
   rm -rf "$tests"
-  mkdir -p "$tests/unit" "$tests/package"
+  mkdir -p "$tests/unit/refused" "$tests/package"
   printf '#include <gtest/gtest.h>\n\nTEST(A, IsRight) {}\n' >"$tests/unit/a_test.cpp"
   printf 'int helper() { return 1; }\n' >"$tests/unit/helper.cpp"
   printf 'int main() {}\n' >"$tests/package/main.cpp"
+  printf 'char text = nullptr;\n' >"$tests/unit/refused/text.cpp"
   printf '%s\n' "$tests/unit/helper.cpp" "$tests/unit/a_test.cpp" /usr/src/other.cpp >"$scratch/list"
 }
 
