@@ -80,6 +80,14 @@ FailOn fail_on_for(const LintCall& call, const ProjectChoices& project) {
   return project.fail_on.value_or(default_fail_on);
 }
 
+/// Where mended texts go: a file that will be written is locked from before it is read.
+Delivery delivery_of_mends(const LintCall& call) {
+  Delivery delivery;
+  delivery.as_diff = call.fixes && call.shows_diff;
+  delivery.in_place = call.fixes && !call.shows_diff;
+  return delivery;
+}
+
 bool fails(const lint::Findings& findings, const FailOn& fail_on) {
   const std::optional<lint::Severity> worst = worst_severity(findings);
   return fail_on && worst && *worst >= *fail_on;
@@ -91,12 +99,13 @@ class Linter {
   explicit Linter(LintCall call) : call_(std::move(call)) {}
 
   ExitCode operator()(Session& session, const std::string& argument) {
-    ReadInput input = read_input(session, argument);
+    const Delivery delivery = delivery_of_mends(call_);
+    ReadInput input = read_for_delivery(session, argument, delivery);
     const ProjectChoices project = projects_.choices_for(argument);
     const lint::Options options = options_for(session, call_, project, argument);
     const lint::Selection selection = selection_for(call_, project);
     if (call_.fixes) {
-      const ExitCode code = mend_file(session, input, options, selection);
+      const ExitCode code = mend_file(session, input, options, selection, delivery);
       if (call_.shows_diff) return code;
     }
     FileReport report{input.name, std::move(input.read), {}};
@@ -113,15 +122,12 @@ class Linter {
  private:
   /// Mends a file in place, or shows how, and goes on with its new text.
   ExitCode mend_file(Session& session, ReadInput& input, const lint::Options& options,
-                     const lint::Selection& selection) const {
+                     const lint::Selection& selection, const Delivery& delivery) const {
     const auto is_wanted = [&](const lint::Finding& finding) {
       return lint::is_selected(finding.code, selection);
     };
     lint::MendedText mended = lint::mend(input.read.text, options, is_wanted);
     if (mended.count == 0) return ExitCode::Done;
-    Delivery delivery;
-    delivery.as_diff = call_.shows_diff;
-    delivery.in_place = !call_.shows_diff;
     const ExitCode code = deliver(session, input, mended.text, delivery);
     if (call_.shows_diff) return code;
     session.reporter().note({input.name}, counted(mended.count, "finding") + " mended");
