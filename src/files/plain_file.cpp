@@ -36,12 +36,15 @@ PlainFile::~PlainFile() {
 
 std::size_t PlainFile::size() const { return size_of_file(descriptor_); }
 
+// Reading and writing move the position in the file, so they are no functions of a constant file.
+// NOLINTNEXTLINE(readability-make-member-function-const)
 std::optional<std::size_t> PlainFile::read(char* bytes, std::size_t size) {
   const std::int64_t count = read_bytes(descriptor_, bytes, size);
   if (count < 0) return std::nullopt;
   return static_cast<std::size_t>(count);
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const)
 bool PlainFile::write(std::string_view bytes) {
   while (!bytes.empty()) {
     const std::int64_t count = write_bytes(descriptor_, bytes);
