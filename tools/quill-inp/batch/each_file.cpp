@@ -100,20 +100,20 @@ class Batch {
   void work(std::size_t number) {
     const std::string& file = files_[number];
     try {
-      auto run = std::make_unique<FileRun>(session_);
-      if (number != reader_) run->session.forbid_standard_input();
-      run->code = for_file(run->session, file, [&] { return action_(run->session, number); });
-      runs_[number % runs_.size()] = std::move(run);
+      auto task = std::make_unique<FileRun>(session_);
+      if (number != reader_) task->session.forbid_standard_input();
+      task->code = for_file(task->session, file, [&] { return action_(task->session, number); });
+      runs_[number % runs_.size()] = std::move(task);
     } catch (const std::bad_alloc&) {
     }
   }
 
   void deliver(std::size_t number) {
-    const std::unique_ptr<FileRun> run = std::move(runs_[number % runs_.size()]);
-    if (!run || !run->transcript.pieces().empty()) progress_.clear();
-    if (run) {
-      replay(session_, *run);
-      count(run->code, run->session.has_noted_change());
+    const std::unique_ptr<FileRun> task = std::move(runs_[number % runs_.size()]);
+    if (!task || !task->transcript.pieces().empty()) progress_.clear();
+    if (task) {
+      replay(session_, *task);
+      count(task->code, task->session.has_noted_change());
     } else {
       session_.report(files_[number], Trouble(explain(std::bad_alloc())));
       count(ExitCode::Trouble, false);

@@ -58,7 +58,9 @@ bool create_without_name(int folder, const std::string& name, std::string_view t
   fill(file.number(), text);
   return give_name(file.number(), folder, name);
 #else
-  static_cast<void>(folder), static_cast<void>(name), static_cast<void>(text);
+  static_cast<void>(folder);
+  static_cast<void>(name);
+  static_cast<void>(text);
   return false;
 #endif
 }

@@ -83,9 +83,9 @@ void JsonWriter::number(double number) {
   }
   const bool is_scientific = has_exponent(number);
   char digits[longest_shortest_fixed];
-  const char* const end = is_scientific ? write_shortest_scientific(digits, number)
-                                        : write_shortest_fixed(digits, number);
-  const std::string_view written(digits, static_cast<std::size_t>(end - digits));
+  const char* const last = is_scientific ? write_shortest_scientific(digits, number)
+                                         : write_shortest_fixed(digits, number);
+  const std::string_view written(digits, static_cast<std::size_t>(last - digits));
   value(written);
   // Without a point, readers that tell integers from other numbers would see an integer.
   if (!is_scientific && written.find('.') == std::string_view::npos) put(".0");
@@ -93,8 +93,8 @@ void JsonWriter::number(double number) {
 
 void JsonWriter::integer(std::int64_t number) {
   char digits[longest_integer];
-  char* const end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-  value({digits, static_cast<std::size_t>(end - digits)});
+  char* const last = std::to_chars(digits, digits + sizeof digits, number).ptr;
+  value({digits, static_cast<std::size_t>(last - digits)});
 }
 
 void JsonWriter::finish() {

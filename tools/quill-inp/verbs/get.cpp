@@ -95,10 +95,10 @@ bool prints_names(const CLI::App& app, const ChosenFiles& files) {
 }
 
 ExitCode get(Session& session, const CLI::App& app) {
-  const FilesAndKeys words = read_files_and_keys(app);
-  const std::vector<TypedKey> keys = parse_keys(words.keys);
+  const FilesAndKeys given = read_files_and_keys(app);
+  const std::vector<TypedKey> keys = parse_keys(given.keys);
   const BatchOptions options = read_batch_options(app);
-  const ChosenFiles files = choose_files(session, read_file_choice(app, words.files));
+  const ChosenFiles files = choose_files(session, read_file_choice(app, given.files));
   const bool has_name = prints_names(app, files);
   return for_each_file(session, files, options, [&](Session& one, const std::string& argument) {
     return get_from_file(one, argument, keys, has_name);

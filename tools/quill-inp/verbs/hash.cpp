@@ -67,10 +67,10 @@ std::optional<std::string> hash_of(Session& session, const std::string& argument
 }
 
 ExitCode print_hash(Session& session, const std::string& argument, const LossPolicy& policy) {
-  const std::optional<std::string> hash = hash_of(session, argument, policy);
-  if (!hash) return ExitCode::Trouble;
+  const std::optional<std::string> digest = hash_of(session, argument, policy);
+  if (!digest) return ExitCode::Trouble;
   const std::string name = escaped(argument);
-  session.output().write((name == argument ? "" : "\\") + *hash + "  " + name + "\n");
+  session.output().write((name == argument ? "" : "\\") + *digest + "  " + name + "\n");
   return ExitCode::Done;
 }
 
@@ -84,15 +84,15 @@ struct Expected {
 void add_line(std::string_view line, std::size_t number, Expected& expected) {
   const bool is_escaped = line.substr(0, 1) == "\\";
   if (is_escaped) line.remove_prefix(1);
-  const std::string_view hash = line.substr(0, digits_of_hash);
-  const bool is_hash = hash.size() == digits_of_hash &&
-                       hash.find_first_not_of("0123456789abcdef") == std::string_view::npos;
+  const std::string_view digest = line.substr(0, digits_of_hash);
+  const bool is_hash = digest.size() == digits_of_hash &&
+                       digest.find_first_not_of("0123456789abcdef") == std::string_view::npos;
   const std::string_view mark = is_hash ? line.substr(digits_of_hash, 2) : std::string_view();
   if ((mark != "  " && mark != " *") || line.size() == digits_of_hash + mark.size())
     throw Trouble("expected a hash of 64 digits, two blanks and the name of an input", number);
   const std::string_view name = line.substr(digits_of_hash + mark.size());
   expected.files.push_back(is_escaped ? unescaped(name) : std::string(name));
-  expected.hashes.emplace_back(hash);
+  expected.hashes.emplace_back(digest);
 }
 
 void add_lines(std::string_view content, Expected& expected) {
@@ -106,10 +106,10 @@ void add_lines(std::string_view content, Expected& expected) {
 
 ExitCode check_hash(Session& session, const std::string& argument, const std::string& expected,
                     const LossPolicy& policy) {
-  const std::optional<std::string> hash = hash_of(session, argument, policy);
-  if (!hash) return ExitCode::Trouble;
-  session.output().write(escaped(argument) + (*hash == expected ? ": OK\n" : ": FAILED\n"));
-  return *hash == expected ? ExitCode::Done : ExitCode::No;
+  const std::optional<std::string> digest = hash_of(session, argument, policy);
+  if (!digest) return ExitCode::Trouble;
+  session.output().write(escaped(argument) + (*digest == expected ? ": OK\n" : ": FAILED\n"));
+  return *digest == expected ? ExitCode::Done : ExitCode::No;
 }
 
 ExitCode check_all(Session& session, const ChosenFiles& lists, const BatchOptions& options,

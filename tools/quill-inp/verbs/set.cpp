@@ -24,12 +24,12 @@ constexpr const char* example =
     "changed.";
 
 /// Reads the geometry, which may be in a file of its own, and makes the edits.
-ExitCode set_in_files(Session& session, const CLI::App& app, const FilesAndSettings& words) {
-  const EditOptions options = read_edit_options(app, words.files);
+ExitCode set_in_files(Session& session, const CLI::App& app, const FilesAndSettings& given) {
+  const EditOptions options = read_edit_options(app, given.files);
   const GeometryChange change_geometry = read_geometry_change(session, app);
-  if (words.settings.empty() && !change_geometry) throw UsageError("nothing to set");
+  if (given.settings.empty() && !change_geometry) throw UsageError("nothing to set");
   const auto edit = [&](lossless::TrackedDocument& document) {
-    EditReport report = apply_settings(words.settings, document);
+    EditReport report = apply_settings(given.settings, document);
     if (change_geometry) change_geometry(document);
     return report;
   };
@@ -37,9 +37,9 @@ ExitCode set_in_files(Session& session, const CLI::App& app, const FilesAndSetti
 }
 
 ExitCode set(Session& session, const CLI::App& app) {
-  const FilesAndSettings words = read_files_and_settings(app);
-  const std::string name = words.files.size() == 1 ? words.files.front() : "quill-inp";
-  return for_file(session, name, [&] { return set_in_files(session, app, words); });
+  const FilesAndSettings given = read_files_and_settings(app);
+  const std::string name = given.files.size() == 1 ? given.files.front() : "quill-inp";
+  return for_file(session, name, [&] { return set_in_files(session, app, given); });
 }
 
 }  // namespace

@@ -168,10 +168,10 @@ EditReport remove_keys(const Request& request, TrackedDocument& document) {
 }
 
 ExitCode unset(Session& session, const CLI::App& app) {
-  const FilesAndKeys words = read_files_and_keys(app);
-  const Request request = parse_request(words.keys);
+  const FilesAndKeys given = read_files_and_keys(app);
+  const Request request = parse_request(given.keys);
   const auto edit = [&](TrackedDocument& document) { return remove_keys(request, document); };
-  return edit_files(session, read_edit_options(app, words.files), edit);
+  return edit_files(session, read_edit_options(app, given.files), edit);
 }
 
 }  // namespace
