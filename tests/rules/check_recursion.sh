@@ -12,20 +12,25 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
 # A call to a function of the same section is shown with its name, any other one by a relocation in
-# the next line. An offset after the name means a jump into a function.
+# the next line. Until it is relocated, such a call seems to be one to what comes after it, which is
+# the next function if a function ends with it. An offset after the name means a jump into a function.
 "$objdump" --disassemble --reloc --no-show-raw-insn "$@" >"$scratch/code"
 awk '
-  /^[0-9a-f]+ <.*>:$/ { caller = substr($2, 2, length($2) - 3); next }
-  /R_[A-Z0-9_]+/ {
+  function tell() { if (call != "") print call; call = "" }
+  /^[0-9a-f]+ <.*>:$/ { tell(); caller = substr($2, 2, length($2) - 3); next }
+  /^[ \t]+[0-9a-f]+: R_[A-Z0-9_]+/ {
+    call = ""
     callee = $NF
     sub(/-0x4$/, "", callee)
     if (is_call && callee !~ /^\.|[-+]0x/) print caller, callee
     next
   }
   {
+    tell()
     is_call = $2 ~ /^(call|jmp|b|bl)q?$/
-    if (is_call && $NF ~ /^<[^+]*>$/) print caller, substr($NF, 2, length($NF) - 2)
+    if (is_call && $NF ~ /^<[^+]*>$/) call = caller " " substr($NF, 2, length($NF) - 2)
   }
+  END { tell() }
 ' "$scratch/code" | sed 's/@plt//' | sort -u >"$scratch/calls"
 if [ ! -s "$scratch/calls" ]; then
   echo "there are no calls in $*" >&2
