@@ -23,6 +23,7 @@ reasons_against_a_release() {
   if [ -n "$(git status --porcelain)" ]; then
     echo "there are files that differ from the commit $commit; commit or remove them"
   fi
+  # The caller refuses a release because of what is said, and says all of it at once.
   { sh tests/rules/check_versions.sh --release . >/dev/null || true; } 2>&1
   if [ ! -f "$(thorough_mark "$commit")" ]; then
     echo "scripts/check_thoroughly.sh was not seen to pass on the commit $commit; run it"

@@ -44,6 +44,7 @@ std::optional<std::size_t> PlainFile::read(char* bytes, std::size_t size) {
   return static_cast<std::size_t>(count);
 }
 
+// As for reading.
 // NOLINTNEXTLINE(readability-make-member-function-const)
 bool PlainFile::write(std::string_view bytes) {
   while (!bytes.empty()) {

@@ -12,7 +12,8 @@ trap 'rm -rf "$scratch"' EXIT
 cd "$tree"
 find . \( -path ./build -o -path ./.git -o -name node_modules \) -prune -o -name '*.md' -print >"$scratch/pages"
 printf '%s\n' CMakePresets.json >>"$scratch/pages"
-# A name ends before a full stop that ends its sentence.
+# A name ends before a full stop that ends its sentence. grep fails when no page names a script, which is
+# told of below.
 xargs grep -noE '(^|[^./[:alnum:]_-])(scripts/[[:alnum:]_./-]*[[:alnum:]_]|\.ci/[[:alnum:]_]+)' \
   <"$scratch/pages" >"$scratch/named" || true
 if [ ! -s "$scratch/named" ]; then

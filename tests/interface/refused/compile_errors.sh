@@ -26,6 +26,7 @@ fi
 # and an error in another file has a line of its own here.
 grep -E ': (fatal )?error: ' "$scratch/errors" >"$scratch/all"
 sed -n "s|^$source:\([0-9]*\):.*$|\1|p" "$scratch/all" | sort -un >"$scratch/lines"
+# grep fails when every message is about the source, which is the usual case.
 grep -vF "$source:" "$scratch/all" >>"$scratch/lines" || true
 grep -F -f "$scratch/texts" "$scratch/all" | cut -d: -f2 | sort -un >"$scratch/named"
 

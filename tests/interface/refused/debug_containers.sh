@@ -21,6 +21,7 @@ PROGRAM
 # link_errors [OPTION...]: what the linker says. It may also miss what only the library's own build
 # links, such as a sanitizer.
 link_errors() {
+  # Most of these programs must not link: what the linker said is what is compared.
   "${compile[@]}" "$@" "$scratch/program.cpp" "$library" -o "$scratch/program" 2>&1 || true
 }
 

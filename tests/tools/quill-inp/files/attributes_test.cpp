@@ -86,6 +86,7 @@ TEST_F(Attributes, OfTheUserAreKept) {
 
 // Only the superuser can give a file capabilities.
 TEST_F(Attributes, CapabilitiesAreKeptWhereTheSystemAllowsIt) {
+  // The system lets nobody else do this; the tests run as root in a container and skip elsewhere.
   if (geteuid() != 0) GTEST_SKIP() << "only the superuser can give a file capabilities";
   ASSERT_TRUE(set_attribute(path(), "security.capability", capability())) << hint;
   EXPECT_EQ(change(), changed());
