@@ -18,7 +18,7 @@ trap 'rm -rf "$scratch"' EXIT
 awk '
   function tell() { if (call != "") print call; call = "" }
   /^[0-9a-f]+ <.*>:$/ { tell(); caller = substr($2, 2, length($2) - 3); next }
-  /^[ \t]+[0-9a-f]+: R_[A-Z0-9_]+/ {
+  /^[ \t]+[0-9a-f]+:[ \t]+R_[A-Z0-9_]+/ {
     call = ""
     callee = $NF
     sub(/-0x4$/, "", callee)
