@@ -5,13 +5,13 @@ _quill_inp_options() {
   local output='--output -o --force'
   local write='--output -o --force --in-place -i --diff --backup --break-hard-links --lock-timeout'
   local loss='--allow-loss --max-change --strict'
-  local geometry='--atoms --xyz --trajectory'
+  local geometry='--atoms --frame --xyz --trajectory'
   local lines='--bond --angle --dihedral --atom --scan --post --raw'
   local general='--help -h --quiet -q --color --max-size --stdin-filename'
   case ${1:-} in
     show) echo "--json --lines $files $general" ;;
     fmt) echo "$write --check $loss $files $general" ;;
-    set) echo "--flag $geometry $write $loss $files $general" ;;
+    set) echo "--flag --replace-task --existing $geometry $write $loss $files $general" ;;
     unset) echo "--key -k $write $loss $files $general" ;;
     add) echo "$lines $write $loss $files $general" ;;
     new)
@@ -20,7 +20,7 @@ _quill_inp_options() {
     from-json) echo "$output $loss $general" ;;
     sweep) echo "--output -o --zip --atoms --frames --manifest --force --jobs -j $loss $general" ;;
     hash) echo "--check $loss $files $general" ;;
-    get) echo "--key -k --with-filename --no-filename $files $general" ;;
+    get) echo "--json --default --key -k --with-filename --no-filename $files $general" ;;
     json) echo "$files $general" ;;
     lint) echo "--format --fail-on --select --ignore --statistics --fix --diff $files $general" ;;
     explain) echo "$general" ;;
@@ -29,10 +29,11 @@ _quill_inp_options() {
 }
 
 _quill_inp_keys() {
+  local lines='@bonds @angles @dihedrals @atom_constraints @scans @post_files @raw'
   case ${1:-} in
-    get) echo '@charge @multiplicity @geometry @files @atoms' ;;
+    get) echo "@charge @multiplicity @geometry @files @atoms @formula @natoms $lines" ;;
     set) echo '@charge= @multiplicity=' ;;
-    unset) echo '@charge @multiplicity' ;;
+    unset) echo "@charge @multiplicity $lines" ;;
   esac
 }
 
@@ -73,7 +74,7 @@ _quill_inp() {
     --atoms | --xyz | --trajectory | --post | --files-from | --output | -o | --manifest) _quill_inp_files "$word" ;;
     --task) _quill_inp_offer 'sp opt ts freq irc scan' "$word" ;;
     --key | -k) _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word" ;;
-    --flag | --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
+    --flag | --replace-task | --default | --frame | --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
       --atom | --scan | --raw | --glob | --select | --ignore | --jobs | -j | --max-change | --lock-timeout | --max-size | --stdin-filename) ;;
     *)
       case $word in
