@@ -148,8 +148,7 @@ TEST(XyzTrajectory, HasNoStructureBeforeTheFirstOrAfterTheLast) {
             "has no structure 4: there are only 3 structures");
   EXPECT_EQ(complaint_about(three_structures, -4),
             "has no structure -4: there are only 3 structures");
-  EXPECT_EQ(complaint_about("1\n\nHe 0 0 0\n", 2),
-            "has no structure 2: there is only 1 structure");
+  EXPECT_EQ(complaint_about("1\n\nHe 0 0 0\n", 2), "has no structure 2: there is only 1 structure");
   EXPECT_EQ(complaint_about("2\n\nHe 0 0 0\nHe 0 0 1\n2\n\nHe 0 0 0\n", 2),
             "5: has 1 atom instead of 2");
 }
