@@ -1,5 +1,7 @@
 # Completion of quill-inp for bash.
 
+_quill_inp_verbs='show fmt get set unset add new sweep hash json from-json lint explain help'
+
 _quill_inp_options() {
   local files='--recursive -r --glob --files-from --null -0 --jobs -j'
   local output='--output -o --force'
@@ -23,7 +25,7 @@ _quill_inp_options() {
     get) echo "--json --default --key -k --with-filename --no-filename $files $general" ;;
     json) echo "$files $general" ;;
     lint) echo "--format --fail-on --select --ignore --statistics --fix --diff $files $general" ;;
-    explain) echo "$general" ;;
+    explain | help) echo "$general" ;;
     *) echo '--help -h --version' ;;
   esac
 }
@@ -62,7 +64,7 @@ _quill_inp() {
     if [[ $word == -* ]]; then
       _quill_inp_offer "$(_quill_inp_options)" "$word"
     else
-      _quill_inp_offer 'show fmt get set unset add new sweep hash json from-json lint explain' "$word"
+      _quill_inp_offer "$_quill_inp_verbs" "$word"
     fi
     return
   fi
@@ -80,7 +82,13 @@ _quill_inp() {
       case $word in
         -*) _quill_inp_offer "$(_quill_inp_options "$verb")" "$word" ;;
         @*) _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word" ;;
-        *) _quill_inp_files "$word" ;;
+        *)
+          if [[ $verb == help ]]; then
+            _quill_inp_offer "$_quill_inp_verbs" "$word"
+          else
+            _quill_inp_files "$word"
+          fi
+          ;;
       esac
       ;;
   esac

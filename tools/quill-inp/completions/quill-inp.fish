@@ -1,6 +1,6 @@
 # Completion of quill-inp for fish.
 
-set -l verbs show fmt get set unset add new sweep hash json from-json lint explain
+set -l verbs show fmt get set unset add new sweep hash json from-json lint explain help
 set -l writing '__fish_seen_subcommand_from fmt set unset add'
 set -l choosing '__fish_seen_subcommand_from show fmt get set unset add hash json lint'
 set -l keyed '__fish_seen_subcommand_from get unset'
@@ -28,6 +28,8 @@ complete -c quill-inp -n $first -a json -d 'Print inputs as JSON, without loss'
 complete -c quill-inp -n $first -a from-json -d 'Print a JSON text as a QUILL input'
 complete -c quill-inp -n $first -a lint -d 'Find what the reader silently made of inputs'
 complete -c quill-inp -n $first -a explain -d 'Explain the codes of lint'
+complete -c quill-inp -n $first -a help -d 'Print the help of a verb'
+complete -c quill-inp -n '__fish_seen_subcommand_from help' -f -a "$verbs"
 
 complete -c quill-inp -n $general -s q -l quiet -d 'Print errors only'
 complete -c quill-inp -n $general -l color -xa 'auto always never' -d 'Use colour'
