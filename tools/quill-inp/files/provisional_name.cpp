@@ -20,23 +20,34 @@ constexpr std::size_t signal_count = sizeof ending_signals / sizeof ending_signa
 ListedName* first_listed = nullptr;
 struct sigaction former_actions[signal_count] = {};
 
-extern "C" void remove_listed_names(int signal) {
-  const int error = errno;
-  // The other threads would go on to make files, and to change the list.
-  hold_for_good();
-  for (const ListedName* name = first_listed; name != nullptr; name = name->next)
-    unlinkat(name->folder, name->text.c_str(), 0);
+/// Lets the program get a signal as if nobody had caught it. What the program does then, it does
+/// before this returns, if it goes on at all.
+void pass_on(int signal) {
   for (std::size_t i = 0; i < signal_count; ++i) {
     if (ending_signals[i] == signal) sigaction(signal, &former_actions[i], nullptr);
   }
-  // The signal arrives as soon as this handler returns. A failure cannot be reported from here.
+  sigset_t only;
+  sigemptyset(&only);
+  sigaddset(&only, signal);
+  pthread_sigmask(SIG_UNBLOCK, &only, nullptr);
+  // A failure cannot be reported from here.
   static_cast<void>(raise(signal));
+}
+
+extern "C" void remove_listed_names(int signal) {
+  const int error = errno;
+  // The other threads would go on to make files, and to change the list.
+  const HeldThreads held;
+  for (const ListedName* name = first_listed; name != nullptr; name = name->next)
+    unlinkat(name->folder, name->text.c_str(), 0);
+  pass_on(signal);
   errno = error;
 }
 
 void catch_signals() {
   struct sigaction action {};
   action.sa_handler = remove_listed_names;
+  // A second of these signals waits for the first: its handler would wait for that one for ever.
   action.sa_mask = ending_signal_set();
   for (std::size_t i = 0; i < signal_count; ++i) {
     sigaction(ending_signals[i], nullptr, &former_actions[i]);

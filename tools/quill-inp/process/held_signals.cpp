@@ -16,6 +16,8 @@ void take() {
   while (is_taken.test_and_set(std::memory_order_acquire)) sched_yield();
 }
 
+void give_back() { is_taken.clear(std::memory_order_release); }
+
 }  // namespace
 
 sigset_t ending_signal_set() {
@@ -32,10 +34,12 @@ HeldSignals::HeldSignals() {
 }
 
 HeldSignals::~HeldSignals() {
-  if (--objects_of_thread == 0) is_taken.clear(std::memory_order_release);
+  if (--objects_of_thread == 0) give_back();
   pthread_sigmask(SIG_SETMASK, &former_, nullptr);
 }
 
-void hold_for_good() { take(); }
+HeldThreads::HeldThreads() { take(); }
+
+HeldThreads::~HeldThreads() { give_back(); }
 
 }  // namespace kelp::input::quill::tool

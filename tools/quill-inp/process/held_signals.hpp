@@ -13,7 +13,7 @@ sigset_t ending_signal_set();
 
 /// Holds these signals back as long as the object lives, so that no signal comes between steps that
 /// belong together. Objects may be nested. Of several threads only one has such an object at a
-/// time; the others wait for it, as a signal handler does in hold_for_good().
+/// time; the others wait for it, as a signal handler does with HeldThreads.
 class HeldSignals {
  public:
   HeldSignals();
@@ -25,10 +25,16 @@ class HeldSignals {
   sigset_t former_ = {};
 };
 
-/// For the handler of one of these signals: waits until no thread has such an object, and lets none
-/// make one any more. The handler may run in any thread, since a thread with such an object does
-/// not get the signal.
-void hold_for_good();
+/// For the handler of one of these signals: no thread has an object of HeldSignals as long as this
+/// object lives. The handler may run in any thread, since a thread with such an object does not get
+/// the signal.
+class HeldThreads {
+ public:
+  HeldThreads();
+  HeldThreads(const HeldThreads&) = delete;
+  HeldThreads& operator=(const HeldThreads&) = delete;
+  ~HeldThreads();
+};
 
 }  // namespace kelp::input::quill::tool
 

@@ -66,16 +66,12 @@ class FaultyWrite {
   }
 
   /// The calls that the write makes when all goes well.
-  std::vector<std::string> list_calls() {
-    const TemporaryFolder logs;
-    const std::string log = logs.write("calls", "");
-    request_.environment["QUILL_INP_CALL_LOG"] = log;
-    EXPECT_EQ(run(), ended(0, "", ""));
-    std::istringstream lines(content_of(log));
-    std::vector<std::string> calls;
-    for (std::string line; std::getline(lines, line);) calls.push_back(line);
-    return calls;
+  std::vector<std::string> list_calls(const Outcome& expected = ended(0, "", "")) {
+    return list("QUILL_INP_CALL_LOG", expected);
   }
+
+  /// The calls that have flags, with these.
+  std::vector<std::string> list_flags() { return list("QUILL_INP_FLAG_LOG", ended(0, "", "")); }
 
   /// The names in the folder, without that of the file.
   std::vector<std::string> others() const {
@@ -103,6 +99,18 @@ class FaultyWrite {
   }
 
  private:
+  /// The lines that a run leaves in the file that an environment variable names.
+  std::vector<std::string> list(const std::string& variable, const Outcome& expected) {
+    const TemporaryFolder logs;
+    const std::string log = logs.write("log", "");
+    request_.environment[variable] = log;
+    EXPECT_EQ(run(), expected);
+    std::istringstream lines(content_of(log));
+    std::vector<std::string> all;
+    for (std::string line; std::getline(lines, line);) all.push_back(line);
+    return all;
+  }
+
   bool keeps_backup_;
   TemporaryFolder folder_;
   std::string path_;
@@ -431,6 +439,7 @@ INSTANTIATE_TEST_SUITE_P(
             MeanwhileRow{"Removed", "rm a.qin", std::nullopt, 0},
             MeanwhileRow{"MadeALink", "mv a.qin b; ln -s b a.qin", water, S_IFLNK, {"b"}},
             MeanwhileRow{"MadeADanglingLink", "ln -sf none a.qin", std::nullopt, S_IFLNK},
+            MeanwhileRow{"MadeAPipe", "rm a.qin; mkfifo a.qin", std::nullopt, S_IFIFO},
             MeanwhileRow{"MadeAFolder", "rm a.qin; mkdir a.qin", std::nullopt, S_IFDIR}),
         testing::Bool()),
     [](const auto& row) {
@@ -438,15 +447,16 @@ INSTANTIATE_TEST_SUITE_P(
     });
 
 TEST(TooFewDescriptors, AreNotBlamedOnSomebodyElse) {
-  const std::vector<std::string> calls = calls_of_a_write();
-  for (std::size_t call = 0; call < calls.size(); ++call) {
-    if (calls[call] != "openat") continue;
-    FaultyWrite write;
-    const Outcome outcome = write.run_with_fault(call + 1, "errno " + std::to_string(EMFILE));
-    EXPECT_EQ(outcome.code, 2) << call;
-    EXPECT_NE(outcome.err.find(": Too many open files\n"), std::string::npos) << outcome.err;
-    EXPECT_EQ(write.content(), water);
-    EXPECT_EQ(write.others(), std::vector<std::string>{});
+  const TemporaryFolder folder;
+  folder.write("a.qin", water);
+  for (const char* most : {"4", "5"}) {
+    // Who runs the tests may have left files open, which would count.
+    const std::string call =
+        "exec 3>&- 4>&-; ulimit -n " + std::string(most) + "; quill-inp set -q -i a.qin model=m2";
+    const Outcome outcome = run_shell(folder.path(), call);
+    EXPECT_EQ(outcome.code, 2) << most;
+    EXPECT_NE(outcome.out.find(": Too many open files\n"), std::string::npos) << outcome.out;
+    EXPECT_EQ(content_of(folder.path("a.qin")), water);
   }
 }
 
@@ -459,22 +469,71 @@ TEST(ChangeWhileReading, IsNoticed) {
   EXPECT_EQ(write.content(), water + std::string("other\n"));
 }
 
-TEST(TemporaryName, ThatIsTakenIsLeftForAnother) {
-  const std::vector<std::string> calls = calls_of_a_write();
-  const std::vector<std::string> until_it_exists(calls.begin(),
-                                                 std::find(calls.begin(), calls.end(), "fchmod"));
-  FaultyWrite write;
-  EXPECT_EQ(
-      write.run_with_fault(last_call(until_it_exists, "openat"), "errno " + std::to_string(EEXIST)),
-      ended(0, "", ""));
-  EXPECT_EQ(write.content(), changed_water());
-  EXPECT_EQ(write.others(), std::vector<std::string>());
+TEST(Write, OpensNoFileThatItDoesNotMean) {
+  const std::vector<std::string> expected = {
+      "openat DIRECTORY CLOEXEC NOCTTY",            // the folder
+      "openat NOFOLLOW NONBLOCK CLOEXEC NOCTTY",    // the file in it
+      "faccessat EACCESS",                          // may it be written by who runs the program
+      "openat CREAT EXCL NOFOLLOW CLOEXEC NOCTTY",  // the temporary file
+      "openat NOFOLLOW CLOEXEC NOCTTY",             // reading it back
+  };
+  EXPECT_EQ(FaultyWrite().list_flags(), expected);
 }
 
-TEST(FolderThatCannotBeFlushed, IsNotAnErrorWhereTheFileSystemCannotDoThat) {
+/// The number of the call that creates the temporary file.
+std::size_t creation(const std::vector<std::string>& calls) {
+  const std::vector<std::string> until_it_exists(calls.begin(),
+                                                 std::find(calls.begin(), calls.end(), "fchmod"));
+  return last_call(until_it_exists, "openat");
+}
+
+TEST(TemporaryName, ThatSomebodyElseTookIsLeftForAnother) {
+  FaultyWrite write;
+  EXPECT_EQ(write.run_with_fault(creation(calls_of_a_write()), "plant"), ended(0, "", ""));
+  EXPECT_EQ(write.content(), changed_water());
+  const std::vector<std::string> others = write.others();
+  ASSERT_EQ(others.size(), 1U);
+  EXPECT_EQ(content_of(write.request().folder + "/" + others.front()), "planted");
+}
+
+TEST(TemporaryName, ThatBecameALinkIsNotFollowed) {
   const std::vector<std::string> calls = calls_of_a_write();
   FaultyWrite write;
-  EXPECT_EQ(write.run_with_fault(last_call(calls, "fsync"), "errno " + std::to_string(EINVAL)),
+  EXPECT_EQ(
+      write.run_with_fault(last_call(calls, "openat"),
+                           "run name=$(echo .quill-inp.*); mv $name moved; ln -s moved $name"),
+      ended(2, "",
+            "a.qin: error: the temporary file cannot be read back: Too many levels of "
+            "symbolic links\n"));
+  EXPECT_EQ(write.content(), water);
+  EXPECT_EQ(write.others(), std::vector<std::string>{"moved"});
+}
+
+/// The number of the call that opens the file, in its folder.
+std::size_t opening(const std::vector<std::string>& calls) {
+  return position(calls, "flock");  // it comes right after
+}
+
+TEST(FileThatBecameALink, IsNotFollowedWhereItIsRead) {
+  FaultyWrite write;
+  EXPECT_EQ(write.run_with_fault(opening(calls_of_a_write()), "run mv a.qin b; ln -s b a.qin").code,
+            2);
+  EXPECT_EQ(content_of(write.request().folder + "/b"), water);
+}
+
+TEST(FileThatBecameAPipe, IsRefusedAtOnceWhereItIsRead) {
+  FaultyWrite write;
+  EXPECT_EQ(write.run_with_fault(opening(calls_of_a_write()), "run rm a.qin; mkfifo a.qin"),
+            ended(2, "",
+                  "a.qin: error: is a pipe, not a regular file; use '-' to read standard input\n"));
+}
+
+class FolderThatCannotBeFlushed : public testing::TestWithParam<int> {};
+
+TEST_P(FolderThatCannotBeFlushed, IsNotAnErrorWhereTheFileSystemCannotDoThat) {
+  const std::vector<std::string> calls = calls_of_a_write();
+  FaultyWrite write;
+  EXPECT_EQ(write.run_with_fault(last_call(calls, "fsync"), "errno " + std::to_string(GetParam())),
             ended(0, "", ""));
   EXPECT_EQ(write.content(), changed_water());
 }
@@ -508,17 +567,91 @@ TEST(ExtendedAttribute, ThatCannotBeKeptIsNamed) {
   EXPECT_EQ(write.content(), changed_water());
 }
 
-TEST(FileSystemWithoutLinks, StillGetsABackup) {
-  const std::vector<std::string> calls = calls_of_a_write(true);
-  const std::size_t link = position(calls, "linkat") + 1;
-  ASSERT_LE(link, calls.size());
+TEST_P(FolderThatCannotBeFlushed, IsOfNoHelpToAFileThatCannotBe) {
+  const std::vector<std::string> calls = calls_of_a_write();
+  FaultyWrite write;
+  EXPECT_EQ(
+      write.run_with_fault(position(calls, "fsync") + 1, "errno " + std::to_string(GetParam()))
+          .code,
+      2);
+  EXPECT_EQ(write.content(), water);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, FolderThatCannotBeFlushed, testing::Values(EINVAL, ENOTSUP),
+                         [](const auto& row) { return std::string(strerrorname_np(row.param)); });
+
+class FileSystemWithoutLinks : public testing::TestWithParam<int> {
+ protected:
+  static Outcome run(FaultyWrite& write) {
+    const std::vector<std::string> calls = calls_of_a_write(true);
+    const std::size_t link = position(calls, "linkat") + 1;
+    EXPECT_LE(link, calls.size());
+    return write.run_with_fault(link, "errno " + std::to_string(GetParam()));
+  }
+};
+
+TEST_P(FileSystemWithoutLinks, StillGetsABackup) {
   FaultyWrite write(true);
-  EXPECT_EQ(write.run_with_fault(link, "errno " + std::to_string(EPERM)), ended(0, "", ""));
-  EXPECT_EQ(write.others(), std::vector<std::string>{"a.qin.bak"});
-  FaultyWrite second(true);
-  second.write_other("a.qin.bak");
-  EXPECT_EQ(second.run_with_fault(link, "errno " + std::to_string(EPERM)).code, 2);
-  EXPECT_EQ(content_of(second.request().folder + "/a.qin.bak"), "#other");
+  EXPECT_EQ(run(write), ended(0, "", ""));
+  EXPECT_EQ(write.others(), std::vector<std::string>{backup_name});
+}
+
+TEST_P(FileSystemWithoutLinks, KeepsWhatHasTheNameOfTheBackup) {
+  FaultyWrite write(true);
+  write.write_other(backup_name);
+  EXPECT_EQ(run(write).code, 2);
+  EXPECT_EQ(write.backup(), "#other");
+}
+
+TEST_P(FileSystemWithoutLinks, KeepsALinkToNowhereThatHasTheNameOfTheBackup) {
+  FaultyWrite write(true);
+  const std::string link = write.request().folder + "/" + backup_name;
+  ASSERT_EQ(symlink("none", link.c_str()), 0);
+  EXPECT_EQ(run(write).code, 2);
+  struct stat state {};
+  ASSERT_EQ(lstat(link.c_str(), &state), 0);
+  EXPECT_TRUE(S_ISLNK(state.st_mode));
+  EXPECT_EQ(write.content(), water);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, FileSystemWithoutLinks, testing::Values(EPERM, ENOTSUP),
+                         [](const auto& row) { return std::string(strerrorname_np(row.param)); });
+
+/// The number of the call that asks for the access control list.
+std::size_t first_list(const std::vector<std::string>& calls) {
+  return position(calls, "fgetxattr") + 1;
+}
+
+TEST(AccessList, ThatCannotBeReadCostsTheRightsOfTheGroup) {
+  FaultyWrite write;
+  write.request().arguments = {"set", "-i", "a.qin", "model=m2"};
+  EXPECT_EQ(write.run_with_fault(first_list(calls_of_a_write()), "errno " + std::to_string(EIO)),
+            ended(0, "",
+                  "a.qin: note: the access control list could not be kept\n"
+                  "a.qin:2: note: changed: #model = m2\n"));
+  EXPECT_EQ(write.content(), changed_water());
+  // The bits of the group may have been those of a list, and would let the group in without it.
+  EXPECT_EQ(write.mode_of_file(), 0600U);
+}
+
+TEST(AccessList, ThatTheFileSystemDoesNotHaveIsNotMissed) {
+  FaultyWrite write;
+  EXPECT_EQ(
+      write.run_with_fault(first_list(calls_of_a_write()), "errno " + std::to_string(ENOTSUP)),
+      ended(0, "", ""));
+  EXPECT_EQ(write.mode_of_file(), mode);
+}
+
+TEST(StandardOutput, ThatCannotBeClosedIsAnError) {
+  FaultyWrite write;
+  write.request().arguments = {"set", "a.qin", "model=m2"};
+  // A copy of the descriptor is closed, after the file that was read.
+  const std::size_t call = last_call(write.list_calls(ended(0, changed_water(), "")), "close");
+  EXPECT_EQ(write.run_with_fault(call, "errno " + std::to_string(EIO)),
+            ended(2, changed_water(),
+                  "quill-inp: error: cannot write to standard output: Input/output error\n"));
+  EXPECT_EQ(write.run_with_fault(call, "errno " + std::to_string(EINTR)),
+            ended(0, changed_water(), ""));
 }
 
 }  // namespace

@@ -5,7 +5,10 @@
 //   QUILL_INP_FAULT_AT    the number of a call, counted from 1
 //   QUILL_INP_FAULT       what happens there: "errno N", it fails; "signal N", that arrives; "run
 //                         COMMAND", the shell does that; of a read also "corrupt", a bit of what it
-//                         gives is another, and "end", it gives nothing
+//                         gives is another, and "end", it gives nothing; of a call that creates a
+//                         file "plant", another file of this name is there already
+//   QUILL_INP_FLAG_LOG    a file that gets the flags of every call that has some, as in
+//                         "openat CREAT EXCL"
 //   QUILL_INP_SHORT       set: every write takes only half of what it is given
 //
 // Calls on the standard streams do not count.
@@ -25,6 +28,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 
 namespace {
 
@@ -36,6 +40,7 @@ Function* find_next(const char* name) {
 long calls = 0;
 bool corrupts = false;  // the call that follows, if it is a read
 bool ends = false;      // likewise
+bool plants = false;    // before the call that follows
 
 /// Runs a command as another program would be run, without this library.
 void run_command(const char* command) {
@@ -43,19 +48,45 @@ void run_command(const char* command) {
   if (std::system(command) != 0) std::abort();
 }
 
-void log_call(const char* name) {
-  const char* path = std::getenv("QUILL_INP_CALL_LOG");
+/// Appends a line to the file that a variable names, if it names one.
+void append_to(const char* variable, const std::string& line) {
+  const char* path = std::getenv(variable);
   if (path == nullptr) return;
   const long file = syscall(SYS_openat, AT_FDCWD, path, O_WRONLY | O_CREAT | O_APPEND, 0600);
-  syscall(SYS_write, file, name, std::strlen(name));
-  syscall(SYS_write, file, "\n", std::size_t{1});
+  const std::string text = line + "\n";
+  syscall(SYS_write, file, text.data(), text.size());
+  syscall(SYS_close, file);
+}
+
+struct Flag {
+  const char* name;
+  int bit;
+};
+
+constexpr Flag open_flags[] = {{"CREAT", O_CREAT},         {"EXCL", O_EXCL},
+                               {"NOFOLLOW", O_NOFOLLOW},   {"NONBLOCK", O_NONBLOCK},
+                               {"DIRECTORY", O_DIRECTORY}, {"CLOEXEC", O_CLOEXEC},
+                               {"NOCTTY", O_NOCTTY}};
+
+void log_open(int flags) {
+  std::string line = "openat";
+  for (const Flag& flag : open_flags) {
+    if ((flags & flag.bit) == flag.bit) line += std::string(" ") + flag.name;
+  }
+  append_to("QUILL_INP_FLAG_LOG", line);
+}
+
+/// Somebody else's file takes a name just before the program does.
+void plant(int folder, const char* name) {
+  const long file = syscall(SYS_openat, folder, name, O_WRONLY | O_CREAT | O_EXCL, 0600);
+  syscall(SYS_write, file, "planted", std::size_t{7});
   syscall(SYS_close, file);
 }
 
 /// Returns whether the call has to fail. If so, sets errno.
 bool fails(const char* name) {
   ++calls;
-  log_call(name);
+  append_to("QUILL_INP_CALL_LOG", name);
   const char* at = std::getenv("QUILL_INP_FAULT_AT");
   const char* fault = std::getenv("QUILL_INP_FAULT");
   if (at == nullptr || fault == nullptr || std::strtol(at, nullptr, 10) != calls) return false;
@@ -63,6 +94,7 @@ bool fails(const char* name) {
   if (std::strncmp(fault, run, sizeof run - 1) == 0) run_command(fault + sizeof run - 1);
   corrupts = std::strcmp(fault, "corrupt") == 0;
   ends = std::strcmp(fault, "end") == 0;
+  plants = std::strcmp(fault, "plant") == 0;
   int number = 0;
   if (std::sscanf(fault, "signal %d", &number) == 1) {
     kill(getpid(), number);
@@ -81,6 +113,14 @@ mode_t mode_argument(int flags, va_list arguments) {
   return (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
 }
 
+int open_at(const char* function, int folder, const char* name, int flags, mode_t mode) {
+  log_open(flags);
+  plants = false;
+  if (fails("openat")) return -1;
+  if (plants) plant(folder, name);
+  return find_next<int(int, const char*, int, ...)>(function)(folder, name, flags, mode);
+}
+
 }  // namespace
 
 extern "C" {
@@ -90,8 +130,7 @@ int openat(int folder, const char* name, int flags, ...) {
   va_start(arguments, flags);
   const mode_t mode = mode_argument(flags, arguments);
   va_end(arguments);
-  if (fails("openat")) return -1;
-  return find_next<int(int, const char*, int, ...)>("openat")(folder, name, flags, mode);
+  return open_at("openat", folder, name, flags, mode);
 }
 
 int openat64(int folder, const char* name, int flags, ...) {
@@ -99,8 +138,7 @@ int openat64(int folder, const char* name, int flags, ...) {
   va_start(arguments, flags);
   const mode_t mode = mode_argument(flags, arguments);
   va_end(arguments);
-  if (fails("openat")) return -1;
-  return find_next<int(int, const char*, int, ...)>("openat64")(folder, name, flags, mode);
+  return open_at("openat64", folder, name, flags, mode);
 }
 
 ssize_t read(int file, void* data, size_t size) {
@@ -155,6 +193,7 @@ int fchown(int file, uid_t owner, gid_t group) noexcept {
 }
 
 int faccessat(int folder, const char* name, int mode, int flags) noexcept {
+  append_to("QUILL_INP_FLAG_LOG", (flags & AT_EACCESS) != 0 ? "faccessat EACCESS" : "faccessat");
   if (fails("faccessat")) return -1;
   return find_next<int(int, const char*, int, int)>("faccessat")(folder, name, mode, flags);
 }
