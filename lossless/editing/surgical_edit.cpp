@@ -15,10 +15,25 @@ bool is_post_processing(const LineRecord& line) {
   return line.role == LineRole::PostCommand || line.role == LineRole::Dropped;
 }
 
-/// Post-processing lines are never changed or removed, only appended.
-void add_post_lines(const ReadText& read, const QuillInput& after, EditedLines& lines) {
+/// Post-processing lines are never changed, only removed and appended. Returns how many are kept.
+std::size_t remove_post_lines(const ReadText& read, const TrackedDocument& document,
+                              EditedLines& lines) {
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < read.lines.size(); ++i) {
+    if (read.lines[i].role != LineRole::PostCommand) continue;
+    if (document.is_post_command_removed(read.lines[i].index.value())) {
+      lines.remove(i);
+    } else {
+      ++kept;
+    }
+  }
+  return kept;
+}
+
+void add_post_lines(const ReadText& read, const QuillInput& after, std::size_t kept,
+                    EditedLines& lines) {
   std::vector<std::string> added;
-  for (std::size_t i = read.result.input.post_commands.size(); i < after.post_commands.size(); ++i)
+  for (std::size_t i = kept; i < after.post_commands.size(); ++i)
     added.push_back(to_string(after.post_commands[i]));
   if (added.empty()) return;
   const std::size_t gap = lines.gap_after_text();
@@ -38,9 +53,10 @@ SurgicalEdit render(const ReadText& read, const TrackedDocument& document, doubl
   CoordinateSurgery coordinates(read, after.geometry);
   header.change_lines(lines);
   coordinates.change_lines(lines);
+  const std::size_t kept_post_lines = remove_post_lines(read, document, lines);
   header.add_lines(lines);
   coordinates.add_lines(lines, header.end());
-  add_post_lines(read, after, lines);
+  add_post_lines(read, after, kept_post_lines, lines);
 
   EditedText edited = lines.finish();
   SurgicalEdit result;

@@ -31,4 +31,28 @@ std::vector<std::optional<std::size_t>> TrackedDocument::origins() const {
   return all;
 }
 
+void TrackedDocument::replace_command(std::size_t index, HeaderCommand command) {
+  QuillInput changed = static_cast<InputEditor&&>(*this).document();
+  changed.commands[index] = std::move(command);
+  static_cast<InputEditor&>(*this) = InputEditor(std::move(changed));
+}
+
+void TrackedDocument::remove_post_commands(std::vector<bool> is_removed) {
+  QuillInput changed = static_cast<InputEditor&&>(*this).document();
+  std::vector<PostCommand>& commands = changed.post_commands;
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < commands.size(); ++i) {
+    if (is_removed[i]) continue;
+    if (kept != i) commands[kept] = std::move(commands[i]);
+    ++kept;
+  }
+  commands.erase(commands.begin() + static_cast<std::ptrdiff_t>(kept), commands.end());
+  static_cast<InputEditor&>(*this) = InputEditor(std::move(changed));
+  is_post_command_removed_ = std::move(is_removed);
+}
+
+bool TrackedDocument::is_post_command_removed(std::size_t index) const {
+  return index < is_post_command_removed_.size() && is_post_command_removed_[index];
+}
+
 }  // namespace kelp::input::quill::lossless

@@ -7,6 +7,7 @@ first line, then the reason, then an empty line.
 """
 
 import json
+import os
 import sys
 from collections import Counter
 from pathlib import Path
@@ -114,6 +115,8 @@ def judge_libraries(data, files, names, list_path):
 
 def judge_lines(folder, all_files):
     files = {name: entry for name, entry in all_files.items() if name.startswith(folder)}
+    if not files:
+        raise SystemExit(f"the report has no file of {folder}")
     print(f"{folder}: {line_share(files):.2f} % of lines")
     if line_share(files) >= LOWEST_LINES:
         return True
@@ -122,12 +125,21 @@ def judge_lines(folder, all_files):
     return False
 
 
+def name_in_tree(path):
+    """The path from the root of the tree, or None for a file that is not in it. A compiler that was
+    given relative paths leaves ".." in those that it notes."""
+    normal = Path(os.path.normpath(path))
+    return str(normal.relative_to(ROOT)) if normal.is_relative_to(ROOT) else None
+
+
 def main(report, list_path, with_tools):
     data = json.loads(Path(report).read_text())["data"][0]
-    names = {entry["filename"]: str(Path(entry["filename"]).relative_to(ROOT))
-             for entry in data["files"] if entry["filename"].startswith(f"{ROOT}/")}
+    names = {entry["filename"]: name_in_tree(entry["filename"]) for entry in data["files"]}
+    names = {path: name for path, name in names.items() if name}
     files = {names[e["filename"]]: e for e in data["files"] if e["filename"] in names}
     libraries = {name: e for name, e in files.items() if name.startswith(LIBRARIES)}
+    if not libraries:
+        raise SystemExit("the report has no file of " + " or ".join(LIBRARIES))
     fine = judge_libraries(data, libraries, names, Path(list_path))
     fine &= judge_lines("lossless/", files)
     if with_tools == "yes":

@@ -22,6 +22,8 @@ struct PostLineShape {
   std::string_view article;  // of the noun; empty where it takes none
   std::string_view subject;  // what a constraint holds; empty for other kinds
   std::string_view name;     // of the kind, in JSON
+  std::string_view key;      // of the command line, that names one such line
+  std::string_view keys;     // the same for all of them
   const char* option;        // of the command line, that makes such a line
   const char* placeholder;   // for the value of the option
   const char* help;          // what the option does
@@ -39,19 +41,20 @@ inline constexpr std::size_t any_number_of_tokens = std::numeric_limits<std::siz
 /// The rows are in the order of the enumerators.
 inline constexpr std::array<PostLineShape, 7> post_line_shapes = {{
     {"C", PostCommandKind::AtomConstraint, 2, 2, "atom constraint", "an", "atom", "atom_constraint",
-     "--atom", "I", "Hold the place of an atom"},
+     "atom_constraint", "atom_constraints", "--atom", "I", "Hold the place of an atom"},
     {"B", PostCommandKind::BondConstraint, 3, 3, "bond constraint", "a", "bond", "bond_constraint",
-     "--bond", "I,J", "Hold the distance of two atoms"},
+     "bond", "bonds", "--bond", "I,J", "Hold the distance of two atoms"},
     {"A", PostCommandKind::AngleConstraint, 4, 4, "angle constraint", "an", "angle",
-     "angle_constraint", "--angle", "I,J,K", "Hold the angle of three atoms"},
+     "angle_constraint", "angle", "angles", "--angle", "I,J,K", "Hold the angle of three atoms"},
     {"D", PostCommandKind::DihedralConstraint, 5, 5, "dihedral constraint", "a", "dihedral",
-     "dihedral_constraint", "--dihedral", "I,J,K,L", "Hold the dihedral of four atoms"},
-    {"S", PostCommandKind::Scan, 5, 7, "scan", "a", "", "scan", "--scan", "I,J[,K[,L]]:VALUE:STEPS",
-     "Scan a distance, angle or dihedral"},
+     "dihedral_constraint", "dihedral", "dihedrals", "--dihedral", "I,J,K,L",
+     "Hold the dihedral of four atoms"},
+    {"S", PostCommandKind::Scan, 5, 7, "scan", "a", "", "scan", "scan", "scans", "--scan",
+     "I,J[,K[,L]]:VALUE:STEPS", "Scan a distance, angle or dihedral"},
     {"POST", PostCommandKind::PostFile, 2, any_number_of_tokens, "post file", "a", "", "post_file",
-     "--post", "PATH", "Name a post-processing file"},
-    {"", PostCommandKind::Raw, 0, any_number_of_tokens, "raw text", "", "", "raw", "--raw", "TEXT",
-     "Add a line of text as it is"},
+     "post_file", "post_files", "--post", "PATH", "Name a post-processing file"},
+    {"", PostCommandKind::Raw, 0, any_number_of_tokens, "raw text", "", "", "raw", "raw", "raw",
+     "--raw", "TEXT", "Add a line of text as it is"},
 }};
 
 /// Returns the row of an upper-case keyword, that of raw text for no word at all, or a null pointer

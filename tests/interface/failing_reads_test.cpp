@@ -1,5 +1,5 @@
 // A file that can be opened but not read to its end is treated as one that cannot be opened: no
-// part of it becomes a document.
+// part of it becomes a document. One that changes its length meanwhile is read to its end.
 
 #include "support/failing_reads.hpp"
 
@@ -76,19 +76,24 @@ TEST(AReadOfFewBytes, IsFollowedByTheNext) {
   EXPECT_TRUE(result == parse_string(text));
 }
 
-TEST(AFileThatGrowsWhileItIsRead, IsReadToItsNewEnd) {
+/// What is read of a file that gets another text before the third piece of it is read.
+ParseResult read_while_it_becomes(const std::string& text, const std::string& other_text) {
   const TemporaryFolder folder;
-  const std::string text = "#opt\n0 1\nH 0 0 0\n";
-  for (const std::string& added : {std::string("H 0 0 1\n"), text_of_many_reads()}) {
-    const std::string path = folder.write("in.qin", text);
-    ParseResult result;
-    {
-      // The size was asked for before the first read.
-      const ReadWindow window([&] { folder.write("in.qin", text + added); });
-      result = parse_file(path);
-    }
-    EXPECT_TRUE(result == parse_string(text + added)) << added.size();
-  }
+  const std::string path = folder.write("in.qin", text);
+  const ReadWindow window(3, [&] { folder.write("in.qin", other_text); });
+  return parse_file(path);
+}
+
+TEST(AFileThatBecomesLongerWhileItIsRead, IsReadToItsNewEnd) {
+  const std::string text = text_of_many_reads();
+  const std::string longer = text + text;
+  EXPECT_TRUE(read_while_it_becomes(text, longer) == parse_string(longer));
+}
+
+TEST(AFileThatBecomesShorterWhileItIsRead, EndsWhereItEnds) {
+  const std::string text = text_of_many_reads();
+  const std::string shorter = text.substr(0, text.size() / 2);
+  EXPECT_TRUE(read_while_it_becomes(text, shorter) == parse_string(shorter));
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 
 #include "properties/allocation_faults.hpp"
 #include "properties/holds.hpp"
+#include "support/failing_allocator.hpp"
 
 namespace kelp::input::quill {
 namespace {
@@ -64,6 +65,7 @@ TEST(AnEditThatRunsOutOfMemory, MayNotLeaveHalfOfItsWork) {
 }
 
 TEST(AnEdit, MayNotLoseABlock) {
+  if (!failed_copies_are_freed()) GTEST_SKIP() << "this standard library loses blocks itself";
   std::unique_ptr<int> block;
   const EditOperation losing =
       change([&](InputEditor&) { block = std::make_unique<int>(); }, [](QuillInput&) {});

@@ -30,12 +30,18 @@ Counts counts;
 
 std::int64_t size_of(void* block) { return static_cast<std::int64_t>(malloc_usable_size(block)); }
 
-void* allocate(std::size_t size) {
+void* allocate(std::size_t size) noexcept {
   void* const block = std::malloc(size == 0 ? 1 : size);
-  if (block == nullptr) throw std::bad_alloc();
+  if (block == nullptr) return nullptr;
   ++counts.allocations;
   counts.bytes += size_of(block);
   counts.peak_bytes = std::max(counts.peak_bytes, counts.bytes);
+  return block;
+}
+
+void* allocate_or_throw(std::size_t size) {
+  void* const block = allocate(size);
+  if (block == nullptr) throw std::bad_alloc();
   return block;
 }
 
@@ -59,10 +65,17 @@ std::int64_t MemoryCount::allocations() const noexcept {
 
 }  // namespace kelp::input::quill
 
-// The forms that do not throw are counted as well: the standard library's versions call these.
+// Every form is replaced: the address sanitizer brings its own of those that are not, and refuses
+// to have a block of its own freed by one of these.
 
-void* operator new(std::size_t size) { return kelp::input::quill::allocate(size); }
-void* operator new[](std::size_t size) { return kelp::input::quill::allocate(size); }
+void* operator new(std::size_t size) { return kelp::input::quill::allocate_or_throw(size); }
+void* operator new[](std::size_t size) { return kelp::input::quill::allocate_or_throw(size); }
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return kelp::input::quill::allocate(size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return kelp::input::quill::allocate(size);
+}
 void operator delete(void* block) noexcept { kelp::input::quill::release(block); }
 void operator delete[](void* block) noexcept { kelp::input::quill::release(block); }
 void operator delete(void* block, std::size_t /*size*/) noexcept {

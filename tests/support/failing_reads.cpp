@@ -16,9 +16,9 @@ constexpr std::size_t most_bytes = 1000;
 struct Reads {
   bool is_window_open = false;
   std::size_t count = 0;
-  std::size_t failing = 0;
+  std::size_t special = 0;
   int error = 0;
-  std::function<void()> action = {};
+  std::function<void()> event = nullptr;
 };
 
 Reads reads_of_the_program;
@@ -26,11 +26,11 @@ Reads reads_of_the_program;
 }  // namespace
 
 ReadWindow::ReadWindow(std::size_t failing, int error) noexcept {
-  reads_of_the_program = {true, 0, failing, error, {}};
+  reads_of_the_program = {true, 0, failing, error, nullptr};
 }
 
-ReadWindow::ReadWindow(std::function<void()> action) {
-  reads_of_the_program = {true, 0, 0, 0, std::move(action)};
+ReadWindow::ReadWindow(std::size_t call, std::function<void()> event) noexcept {
+  reads_of_the_program = {true, 0, call, 0, std::move(event)};
 }
 
 ReadWindow::~ReadWindow() { reads_of_the_program.is_window_open = false; }
@@ -43,11 +43,12 @@ std::size_t ReadWindow::reads() const noexcept { return reads_of_the_program.cou
 extern "C" ssize_t read(int file, void* buffer, std::size_t size) {
   auto& reads = kelp::input::quill::reads_of_the_program;
   if (reads.is_window_open) {
-    ++reads.count;
-    if (reads.count == 1 && reads.action) reads.action();
-    if (reads.count == reads.failing) {
-      errno = reads.error;
-      return -1;
+    if (++reads.count == reads.special) {
+      if (reads.event == nullptr) {
+        errno = reads.error;
+        return -1;
+      }
+      reads.event();
     }
     size = std::min(size, kelp::input::quill::most_bytes);
   }

@@ -49,7 +49,7 @@ void describe(CommandLine& line) {
                                 "Print the version");
   for (const auto add :
        {add_show, add_fmt, add_get, add_set, add_unset, add_add, add_new, add_sweep, add_hash,
-        add_json, add_from_json, add_lint, add_check, add_explain})
+        add_json, add_from_json, add_lint, add_check, add_explain, add_help})
     line.verbs.push_back(add(line.program));
 }
 
@@ -145,6 +145,10 @@ ExitCode run_program(const std::vector<std::string>& arguments, const StandardSt
                      Output& out) {
   CommandLine line;
   describe(line);
+  if (arguments.empty()) {
+    out.write_shown(line.program.help());
+    return ExitCode::Done;
+  }
   std::string complaint;
   try {
     parse(line, arguments);

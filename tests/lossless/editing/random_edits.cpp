@@ -155,6 +155,7 @@ Edit RandomEdits::header_edit() {
     case 5:
       return RemoveParameter{command_name(), parameter_name(), below(2)};
     case 6:
+      if (one_in(2)) return ReplaceCommand{below(3), HeaderCommand(command_name())};
       return AddCommand{HeaderCommand(command_name(), HeaderCommandKind::Assignment, value())};
     default:
       if (one_in(2)) return RemoveCommand{command_name()};
@@ -188,6 +189,7 @@ Edit RandomEdits::geometry_edit() {
 
 std::vector<Edit> RandomEdits::edits() {
   std::vector<Edit> edits;
+  if (one_in(4)) edits.emplace_back(RemovePostCommands{{one_in(2), one_in(2), one_in(2)}});
   for (std::size_t count = 1 + below(3); count > 0; --count) {
     switch (below(4)) {
       case 0:

@@ -127,6 +127,53 @@ class SurgeryOnPostLines : public testing::TestWithParam<SurgicalCase> {};
 
 TEST_P(SurgeryOnPostLines, AddsLines) { expect_surgery(GetParam()); }
 
+const SurgicalCase removal_rows[] = {
+    {"TheFirstOfThree",
+     "O 0 0 0\n\nb 1 2 \nC 1\n  POST x  y\n",
+     {RemovePostCommands{{true}}},
+     "O 0 0 0\n\nC 1\n  POST x  y\n",
+     "-3"},
+    {"TheSecondOfThree",
+     "O 0 0 0\n\nb 1 2 \nC 1\n  POST x  y\n",
+     {RemovePostCommands{{false, true, false}}},
+     "O 0 0 0\n\nb 1 2 \n  POST x  y\n",
+     "-4"},
+    {"AllOfThem",
+     "O 0 0 0\n\nb 1 2\n\nC 1\n",
+     {RemovePostCommands{{true, true}}},
+     "O 0 0 0\n\n\n",
+     "-3 -5"},
+    {"NoneOfThem", "O 0 0 0\n\nb 1 2\n", {RemovePostCommands{{false}}}, "O 0 0 0\n\nb 1 2\n", ""},
+    {"ALineThatWasDroppedStays",
+     "O 0 0 0\n\nB 1 x\nB 1 2\n",
+     {RemovePostCommands{{true}}},
+     "O 0 0 0\n\nB 1 x\n",
+     "-4"},
+    {"AnotherLineIsAdded",
+     "O 0 0 0\n\nC 1\nC 2\n",
+     {RemovePostCommands{{true, false}}, bond},
+     "O 0 0 0\n\nC 2\nB 1 2\n",
+     "-3 +4"},
+    {"TheOnlyOneIsReplaced",
+     "O 0 0 0\n\nC 1\n",
+     {RemovePostCommands{{true}}, bond},
+     "O 0 0 0\n\nB 1 2\n",
+     "-3 +3"},
+    {"AnAngleThatFollowsTheAtomsIsRefused",
+     "O 0 0 0\nC 1\nA 1 2 3\n",
+     {RemovePostCommands{{true, false}}},
+     "O 0 0 0\nA 1 2 3\n",
+     "-2",
+     "line 2 would be read as an atom of element A, not as an angle constraint; put another "
+     "post-processing line before it to avoid that"},
+};
+
+class RemovalOfPostLines : public testing::TestWithParam<SurgicalCase> {};
+
+TEST_P(RemovalOfPostLines, KeepsTheOthers) { expect_surgery(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Table, RemovalOfPostLines, testing::ValuesIn(removal_rows), row_name);
+
 INSTANTIATE_TEST_SUITE_P(Table, SurgeryOnPostLines, testing::ValuesIn(rows), row_name);
 
 const SurgicalCase line_end_rows[] = {

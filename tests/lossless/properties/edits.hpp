@@ -1,6 +1,7 @@
 #ifndef KELP_INPUT_QUILL_TESTS_LOSSLESS_PROPERTIES_EDITS_HPP
 #define KELP_INPUT_QUILL_TESTS_LOSSLESS_PROPERTIES_EDITS_HPP
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -142,6 +143,23 @@ struct AddPostCommand {
   void operator()(Document& document) const {
     document.add_post_command(command);
   }
+};
+
+/// Nothing is changed where there is no command with this index.
+struct ReplaceCommand {
+  std::size_t index = 0;
+  HeaderCommand command;
+
+  void operator()(TrackedDocument& document) const;
+  void operator()(InputEditor& editor) const;
+};
+
+/// The first of all edits. Lines after the last one that the list speaks of stay.
+struct RemovePostCommands {
+  std::vector<bool> is_removed = {};
+
+  void operator()(TrackedDocument& document) const;
+  void operator()(InputEditor& editor) const;
 };
 
 /// Any of them.

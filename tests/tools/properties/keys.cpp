@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "kelp/input/quill/writer.hpp"
+#include "model/post_line_shapes.hpp"
 #include "properties/obvious_reader.hpp"
 #include "properties/obvious_text.hpp"
 #include "properties/violation.hpp"
@@ -32,8 +33,13 @@ std::string escaped(std::string_view name) {
 std::string spelled(const Key& key) {
   if (const auto* special = std::get_if<SpecialKey>(&key))
     return special_key_names().at(static_cast<std::size_t>(*special));
+  if (const auto* post = std::get_if<PostKey>(&key)) {
+    const std::string name = "@" + std::string(find_post_line_shape(post->kind)->keys);
+    return post->number ? name + "[" + std::to_string(*post->number) + "]" : name;
+  }
   const auto& command = std::get<CommandKey>(key);
-  std::string text = "#" + escaped(command.command);
+  std::string text = command.position ? "@commands[" + std::to_string(*command.position) + "]"
+                                      : "#" + escaped(command.command);
   if (command.occurrence) text += "[" + std::to_string(*command.occurrence) + "]";
   if (command.parameter) text += "." + escaped(*command.parameter);
   return text;
@@ -43,10 +49,14 @@ bool is_same(const Key& left, const Key& right) {
   if (left.index() != right.index()) return false;
   if (const auto* special = std::get_if<SpecialKey>(&left))
     return *special == std::get<SpecialKey>(right);
+  if (const auto* post = std::get_if<PostKey>(&left)) {
+    const auto& other = std::get<PostKey>(right);
+    return post->kind == other.kind && post->number == other.number;
+  }
   const auto& one = std::get<CommandKey>(left);
   const auto& other = std::get<CommandKey>(right);
   return one.command == other.command && one.occurrence == other.occurrence &&
-         one.parameter == other.parameter;
+         one.parameter == other.parameter && one.position == other.position;
 }
 
 std::optional<Setting> read_setting(std::string_view text) {
@@ -101,7 +111,8 @@ void check_key(std::string_view text) {
   require(has_value(text) == setting->value.has_value(), "a setting has the value that it shows",
           text);
   const auto* command = std::get_if<CommandKey>(&setting->key);
-  require(command == nullptr || !is_nameless(command->command), "a setting has a name", text);
+  require(command == nullptr || command->position || !is_nameless(command->command),
+          "a setting has a name", text);
   require(is_same(setting->key, parse_key(setting->key_text)), "a setting has the key of its text",
           text);
 }

@@ -1,12 +1,16 @@
 #include "quill-inp/command_line/geometry_options.hpp"
 
 #include <cstddef>
+#include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "kelp/chem/elements.hpp"
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/command_line/post_options.hpp"
 #include "quill-inp/formats/xyz_file.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/session/input_source.hpp"
@@ -19,17 +23,53 @@ using lossless::TrackedDocument;
 
 constexpr Option atoms_option{"--atoms", "FILE.xyz",
                               "Copy the atoms of an XYZ file into the input"};
+constexpr Option frame_option{"--frame", "N",
+                              "With --atoms, the N-th structure of several; -1 is the last"};
 constexpr Option xyz_option{"--xyz", "PATH", "Refer to XYZ files"};
 constexpr Option trajectory_option{"--trajectory", "PATH", "Refer to an XYZ trajectory"};
 
 void warn_of_unknown_elements(Session& session, const std::string& name,
-                              const std::vector<AtomRecord>& atoms) {
-  for (std::size_t i = 0; i < atoms.size(); ++i) {
-    if (!chem::elements::atomic_number_from_symbol(atoms[i].symbol)) {
-      session.reporter().warning({name, xyz_lines_before_atoms + i + 1},
-                                 "unknown element symbol '" + atoms[i].symbol + "'");
+                              const XyzStructure& structure) {
+  for (std::size_t i = 0; i < structure.atoms.size(); ++i) {
+    const std::string& symbol = structure.atoms[i].symbol;
+    if (!chem::elements::atomic_number_from_symbol(symbol)) {
+      session.reporter().warning({name, structure.first_line + i},
+                                 "unknown element symbol '" + symbol + "'");
     }
   }
+}
+
+/// What to take from the text of an XYZ file; it is not empty.
+using ReadStructures = std::function<std::vector<XyzStructure>(std::string_view)>;
+
+std::vector<XyzStructure> read_from(Session& session, const std::string& argument,
+                                    const ReadStructures& read) {
+  try {
+    const InputSource source = read_source(session, argument);
+    std::vector<XyzStructure> structures = read(source.content);
+    warn_of_unknown_elements(session, source.name, structures.front());
+    return structures;
+  } catch (const Trouble& trouble) {
+    session.report(argument, trouble);
+    throw ReportedTrouble();
+  }
+}
+
+/// Returns the structure that --frame names, or the only one in the file.
+XyzStructure read_structure(Session& session, const std::string& argument,
+                            std::optional<int> frame) {
+  const auto read = [&](std::string_view content) {
+    return std::vector<XyzStructure>{read_xyz_structure(content, frame)};
+  };
+  return std::move(read_from(session, argument, read).front());
+}
+
+std::optional<int> read_frame_number(const CLI::App& verb) {
+  const auto text = value_of(verb, frame_option);
+  if (!text) return std::nullopt;
+  const int number = parse_integer(name_of(frame_option), *text);
+  if (number == 0) throw UsageError("--frame counts from 1, or from the end with -1");
+  return number;
 }
 
 }  // namespace
@@ -44,26 +84,15 @@ const std::string& require_path(const Option& option, const std::string& text) {
   return text;
 }
 
-std::vector<std::vector<AtomRecord>> read_structures(Session& session, const std::string& argument,
-                                                     bool wants_all_frames) {
-  try {
-    const InputSource source = read_source(session, argument);
-    std::vector<std::vector<AtomRecord>> structures;
-    if (wants_all_frames) {
-      structures = read_xyz_frames(source.content);
-    } else {
-      structures.push_back(read_xyz_atoms(source.content));
-    }
-    warn_of_unknown_elements(session, source.name, structures.front());
-    return structures;
-  } catch (const Trouble& trouble) {
-    session.report(argument, trouble);
-    throw ReportedTrouble();
-  }
+std::vector<XyzStructure> read_structures(Session& session, const std::string& argument,
+                                          bool wants_all_frames) {
+  if (wants_all_frames) return read_from(session, argument, read_xyz_structures);
+  return {read_structure(session, argument, std::nullopt)};
 }
 
 void add_geometry_options(CLI::App& verb) {
   add_value(verb, atoms_option);
+  add_value(verb, frame_option);
   add_values(verb, xyz_option);
   add_value(verb, trajectory_option);
 }
@@ -75,9 +104,12 @@ GeometryChange read_geometry_change(Session& session, const CLI::App& verb) {
   for (const std::string& path : paths) require_path(xyz_option, path);
   const int given = (xyz_file ? 1 : 0) + (paths.empty() ? 0 : 1) + (trajectory ? 1 : 0);
   if (given > 1) throw UsageError("only one of --atoms, --xyz and --trajectory can be given");
+  const std::optional<int> frame = read_frame_number(verb);
+  if (frame && !xyz_file) throw UsageError("--frame needs --atoms");
   if (xyz_file) {
-    return [atoms = std::move(read_structures(session, *xyz_file, false).front())](
-               TrackedDocument& document) { document.set_geometry(atoms); };
+    return [atoms = read_structure(session, *xyz_file, frame).atoms](TrackedDocument& document) {
+      document.set_geometry(atoms);
+    };
   }
   if (!paths.empty()) return [paths](TrackedDocument& document) { document.set_xyz_files(paths); };
   if (trajectory) {

@@ -24,6 +24,9 @@ struct FilesAndSettings {
 /// was forgotten. Throws UsageError for such a word, and for bad settings.
 FilesAndSettings read_files_and_settings(const CLI::App& verb);
 
+/// Returns whether only what is there already is to be set.
+bool sets_only_existing(const CLI::App& verb);
+
 }  // namespace kelp::input::quill::tool
 
 #endif  // KELP_INPUT_QUILL_TOOL_COMMAND_LINE_SETTING_OPTIONS_HPP

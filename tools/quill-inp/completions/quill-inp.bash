@@ -1,17 +1,19 @@
 # Completion of quill-inp for bash.
 
+_quill_inp_verbs='show fmt get set unset add new sweep hash json from-json lint explain help'
+
 _quill_inp_options() {
   local files='--recursive -r --glob --files-from --null -0 --jobs -j'
   local output='--output -o --force'
   local write='--output -o --force --in-place -i --diff --backup --break-hard-links --lock-timeout'
   local loss='--allow-loss --max-change --strict'
-  local geometry='--atoms --xyz --trajectory'
+  local geometry='--atoms --frame --xyz --trajectory'
   local lines='--bond --angle --dihedral --atom --scan --post --raw'
   local general='--help -h --quiet -q --color --max-size --stdin-filename'
   case ${1:-} in
     show) echo "--json --lines $files $general" ;;
     fmt) echo "$write --check $loss $files $general" ;;
-    set) echo "--flag $geometry $write $loss $files $general" ;;
+    set) echo "--flag --replace-task --existing $geometry $write $loss $files $general" ;;
     unset) echo "--key -k $write $loss $files $general" ;;
     add) echo "$lines $write $loss $files $general" ;;
     new)
@@ -20,19 +22,20 @@ _quill_inp_options() {
     from-json) echo "$output $loss $general" ;;
     sweep) echo "--output -o --zip --atoms --frames --manifest --force --jobs -j $loss $general" ;;
     hash) echo "--check $loss $files $general" ;;
-    get) echo "--key -k --with-filename --no-filename $files $general" ;;
+    get) echo "--json --default --key -k --with-filename --no-filename $files $general" ;;
     json) echo "$files $general" ;;
     lint) echo "--format --fail-on --select --ignore --statistics --fix --diff $files $general" ;;
-    explain) echo "$general" ;;
+    explain | help) echo "$general" ;;
     *) echo '--help -h --version' ;;
   esac
 }
 
 _quill_inp_keys() {
+  local lines='@bonds @angles @dihedrals @atom_constraints @scans @post_files @raw'
   case ${1:-} in
-    get) echo '@charge @multiplicity @geometry @files @atoms' ;;
+    get) echo "@charge @multiplicity @geometry @files @atoms @formula @natoms $lines" ;;
     set) echo '@charge= @multiplicity=' ;;
-    unset) echo '@charge @multiplicity' ;;
+    unset) echo "@charge @multiplicity $lines" ;;
   esac
 }
 
@@ -61,7 +64,7 @@ _quill_inp() {
     if [[ $word == -* ]]; then
       _quill_inp_offer "$(_quill_inp_options)" "$word"
     else
-      _quill_inp_offer 'show fmt get set unset add new sweep hash json from-json lint explain' "$word"
+      _quill_inp_offer "$_quill_inp_verbs" "$word"
     fi
     return
   fi
@@ -73,13 +76,19 @@ _quill_inp() {
     --atoms | --xyz | --trajectory | --post | --files-from | --output | -o | --manifest) _quill_inp_files "$word" ;;
     --task) _quill_inp_offer 'sp opt ts freq irc scan' "$word" ;;
     --key | -k) _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word" ;;
-    --flag | --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
+    --flag | --replace-task | --default | --frame | --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
       --atom | --scan | --raw | --glob | --select | --ignore | --jobs | -j | --max-change | --lock-timeout | --max-size | --stdin-filename) ;;
     *)
       case $word in
         -*) _quill_inp_offer "$(_quill_inp_options "$verb")" "$word" ;;
         @*) _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word" ;;
-        *) _quill_inp_files "$word" ;;
+        *)
+          if [[ $verb == help ]]; then
+            _quill_inp_offer "$_quill_inp_verbs" "$word"
+          else
+            _quill_inp_files "$word"
+          fi
+          ;;
       esac
       ;;
   esac

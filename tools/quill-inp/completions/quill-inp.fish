@@ -1,6 +1,6 @@
 # Completion of quill-inp for fish.
 
-set -l verbs show fmt get set unset add new sweep hash json from-json lint explain
+set -l verbs show fmt get set unset add new sweep hash json from-json lint explain help
 set -l writing '__fish_seen_subcommand_from fmt set unset add'
 set -l choosing '__fish_seen_subcommand_from show fmt get set unset add hash json lint'
 set -l keyed '__fish_seen_subcommand_from get unset'
@@ -28,6 +28,8 @@ complete -c quill-inp -n $first -a json -d 'Print inputs as JSON, without loss'
 complete -c quill-inp -n $first -a from-json -d 'Print a JSON text as a QUILL input'
 complete -c quill-inp -n $first -a lint -d 'Find what the reader silently made of inputs'
 complete -c quill-inp -n $first -a explain -d 'Explain the codes of lint'
+complete -c quill-inp -n $first -a help -d 'Print the help of a verb'
+complete -c quill-inp -n '__fish_seen_subcommand_from help' -f -a "$verbs"
 
 complete -c quill-inp -n $general -s q -l quiet -d 'Print errors only'
 complete -c quill-inp -n $general -l color -xa 'auto always never' -d 'Use colour'
@@ -36,6 +38,8 @@ complete -c quill-inp -n $general -l stdin-filename -x -d 'Name for standard inp
 
 complete -c quill-inp -n '__fish_seen_subcommand_from show' -l json -d 'Print JSON'
 complete -c quill-inp -n '__fish_seen_subcommand_from show' -l lines -d 'Print what every line is'
+complete -c quill-inp -n '__fish_seen_subcommand_from get' -l json -d 'Print JSON'
+complete -c quill-inp -n '__fish_seen_subcommand_from get' -l default -x -d 'Print this for a key without an answer'
 complete -c quill-inp -n '__fish_seen_subcommand_from fmt' -l check -d 'Only list files that would change'
 complete -c quill-inp -n '__fish_seen_subcommand_from hash' -l check -d 'Read hashes and check them'
 
@@ -71,7 +75,10 @@ complete -c quill-inp -n $losing -l max-change -x -d 'Accept rounding by up to t
 complete -c quill-inp -n $losing -l strict -d 'Refuse a text in which lint finds an error'
 
 complete -c quill-inp -n '__fish_seen_subcommand_from set' -l flag -x -d 'Set a command or parameter without a value'
+complete -c quill-inp -n '__fish_seen_subcommand_from set' -l replace-task -x -d 'Give a task another name'
+complete -c quill-inp -n '__fish_seen_subcommand_from set' -l existing -d 'Only set what is there already'
 complete -c quill-inp -n "$placing; or __fish_seen_subcommand_from sweep" -l atoms -r -d 'Copy the atoms of an XYZ file into the input'
+complete -c quill-inp -n $placing -l frame -x -d 'The structure of several'
 complete -c quill-inp -n $placing -l xyz -r -d 'Refer to XYZ files'
 complete -c quill-inp -n $placing -l trajectory -r -d 'Refer to an XYZ trajectory'
 
@@ -91,5 +98,6 @@ complete -c quill-inp -n $making -l charge -x -d 'The charge'
 complete -c quill-inp -n $making -l multiplicity -x -d 'The multiplicity'
 
 complete -c quill-inp -n '__fish_seen_subcommand_from get unset' -a '@charge @multiplicity'
-complete -c quill-inp -n '__fish_seen_subcommand_from get' -a '@geometry @files @atoms'
+complete -c quill-inp -n '__fish_seen_subcommand_from get' -a '@geometry @files @atoms @formula @natoms'
+complete -c quill-inp -n '__fish_seen_subcommand_from get unset' -a '@bonds @angles @dihedrals @atom_constraints @scans @post_files @raw'
 complete -c quill-inp -n '__fish_seen_subcommand_from set' -a '@charge= @multiplicity='

@@ -17,16 +17,21 @@ using lossless::TrackedDocument;
 /// Makes one setting after another and collects what to report about them.
 class Settings {
  public:
-  explicit Settings(TrackedDocument& document) : document_(document) {}
+  Settings(TrackedDocument& document, NewNames new_names)
+      : document_(document), new_names_(new_names) {}
 
   void apply(const Setting& setting) {
     if (const auto* special = std::get_if<SpecialKey>(&setting.key)) {
       set_special(setting, *special);
       return;
     }
+    if (std::holds_alternative<PostKey>(setting.key)) {
+      throw UsageError("'" + setting.key_text +
+                       "' cannot be set; 'unset' removes such lines, and 'add' adds them");
+    }
     const auto& key = std::get<CommandKey>(setting.key);
-    const HeaderCommand* command = input().find_command(key.command, key.occurrence.value_or(0));
-    if (command == nullptr && key.occurrence.value_or(0) > 0) {
+    const HeaderCommand* command = find_command(input(), key);
+    if (is_missing(setting, key, command)) {
       report_.missing.push_back(find_missing(input(), setting.key_text, setting.key));
       return;
     }
@@ -35,7 +40,9 @@ class Settings {
       report_.notes.push_back(
           {EditNote::Kind::NewName, setting.key_text, std::move(*similar), std::nullopt});
     }
-    if (key.parameter) {
+    if (setting.new_name) {
+      rename(*command, *setting.new_name);
+    } else if (key.parameter) {
       set_parameter(setting, key, command);
     } else {
       set_command(setting, key, command);
@@ -45,6 +52,23 @@ class Settings {
   EditReport take_report() { return std::move(report_); }
 
  private:
+  /// Whether the key names something that is not there and is not to be created.
+  bool is_missing(const Setting& setting, const CommandKey& key,
+                  const HeaderCommand* command) const {
+    if (command == nullptr) {
+      return key.position || key.occurrence.value_or(0) > 0 || setting.new_name ||
+             new_names_ == NewNames::Missing;
+    }
+    return new_names_ == NewNames::Missing && key.parameter &&
+           !find_parameter_index(*command, *key.parameter);
+  }
+
+  void rename(const HeaderCommand& command, const std::string& name) {
+    HeaderCommand renamed = command;
+    renamed.name = name;
+    replace(command, std::move(renamed));
+  }
+
   const QuillInput& input() const { return document_.document(); }
 
   void set_special(const Setting& setting, SpecialKey key) {
@@ -54,6 +78,10 @@ class Settings {
     }
     if (!setting.value)
       throw UsageError("'" + setting.key_text + "' cannot be set without a value");
+    if (new_names_ == NewNames::Missing && !input().geometry.has_charge_and_multiplicity) {
+      report_.missing.push_back(find_missing(input(), setting.key_text, setting.key));
+      return;
+    }
     const std::int32_t number = parse_integer(setting.key_text, *setting.value);
     const GeometryBlock& geometry = input().geometry;
     if (key == SpecialKey::Charge) {
@@ -64,50 +92,48 @@ class Settings {
   }
 
   void set_command(const Setting& setting, const CommandKey& key, const HeaderCommand* command) {
-    require_first(setting, key);
-    if (command != nullptr) note_lost_parameters(*command);
-    if (setting.value) {
+    if (command != nullptr) {
+      note_lost_parameters(*command);
+      if (!setting.value) note_lost_value(*command);
+      const auto kind = setting.value ? HeaderCommandKind::Assignment : HeaderCommandKind::Flag;
+      replace(*command, HeaderCommand(command->name, kind, setting.value));
+    } else if (setting.value) {
       document_.set_assignment(key.command, *setting.value);
-      return;
+    } else {
+      document_.set_flag(key.command);
     }
-    if (command != nullptr) note_lost_value(*command);
-    document_.set_flag(key.command);
   }
 
   void set_parameter(const Setting& setting, const CommandKey& key, const HeaderCommand* command) {
-    if (command != nullptr) note_lost_value(*command);
-    if (setting.value) {
-      document_.set_parameter(key.command, *key.parameter, *setting.value,
-                              key.occurrence.value_or(0));
-    } else {
-      set_bare_parameter(setting, key, command);
+    if (command == nullptr) {
+      create_with_parameter(setting, key);
+      return;
     }
-  }
-
-  void set_bare_parameter(const Setting& setting, const CommandKey& key,
-                          const HeaderCommand* command) {
-    require_first(setting, key);
-    std::vector<CommandParameter> parameters;
-    std::optional<std::uint64_t> index;
-    if (command != nullptr) {
-      parameters = command->parameters;
-      index = find_parameter_index(*command, *key.parameter);
-    }
+    note_lost_value(*command);
+    HeaderCommand changed(command->name, HeaderCommandKind::ParameterList, std::nullopt,
+                          command->parameters);
+    const std::optional<std::uint64_t> index = find_parameter_index(*command, *key.parameter);
     if (!index) {
-      parameters.emplace_back(*key.parameter);
+      changed.parameters.emplace_back(*key.parameter, setting.value);
     } else {
-      note_lost_parameter_value(parameters[*index]);
-      parameters[*index].value.reset();
+      CommandParameter& parameter = changed.parameters[*index];
+      if (!setting.value) note_lost_parameter_value(parameter);
+      parameter.value = setting.value;
     }
-    document_.set_task(key.command, std::move(parameters));
+    replace(*command, std::move(changed));
   }
 
-  /// The editor can set a whole command only if it is the first one with its name.
-  static void require_first(const Setting& setting, const CommandKey& key) {
-    if (key.occurrence.value_or(0) > 0) {
-      throw UsageError("'" + setting.key_text +
-                       "': with a number, only COMMAND[N].PARAMETER=VALUE can be set");
+  void create_with_parameter(const Setting& setting, const CommandKey& key) {
+    if (setting.value) {
+      document_.set_parameter(key.command, *key.parameter, *setting.value);
+    } else {
+      document_.set_task(key.command, {CommandParameter(*key.parameter)});
     }
+  }
+
+  void replace(const HeaderCommand& old, HeaderCommand command) {
+    const auto index = static_cast<std::size_t>(&old - input().commands.data());
+    document_.replace_command(index, std::move(command));
   }
 
   void note_lost_parameters(const HeaderCommand& command) {
@@ -128,13 +154,15 @@ class Settings {
   }
 
   TrackedDocument& document_;
+  NewNames new_names_;
   EditReport report_;
 };
 
 }  // namespace
 
-EditReport apply_settings(const std::vector<Setting>& settings, TrackedDocument& document) {
-  Settings all(document);
+EditReport apply_settings(const std::vector<Setting>& settings, TrackedDocument& document,
+                          NewNames new_names) {
+  Settings all(document, new_names);
   for (const Setting& setting : settings) all.apply(setting);
   return all.take_report();
 }

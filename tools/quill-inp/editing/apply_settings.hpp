@@ -13,9 +13,11 @@ namespace kelp::input::quill::tool {
 /// something else loses its value or parameters, and a parameter that is set without a value loses
 /// its old one. The report also lists commands with a number that is too large, which are not
 /// created, and new names that are similar to an existing one. Throws UsageError for keys that
-/// cannot be set.
-EditReport apply_settings(const std::vector<Setting>& settings,
-                          lossless::TrackedDocument& document);
+/// cannot be set. With `NewNames::Missing`, nothing is created, and what would be is listed as
+/// missing.
+enum class NewNames { Created, Missing };
+EditReport apply_settings(const std::vector<Setting>& settings, lossless::TrackedDocument& document,
+                          NewNames new_names);
 
 }  // namespace kelp::input::quill::tool
 

@@ -24,9 +24,10 @@ QuillInput document_from_json(std::string_view text);
 /// Whether a post-processing line is written with the text that it was read from.
 enum class RawText { Written, LeftOut };
 
-/// Write a command or a post-processing line, on one line, in the form that it has in the JSON of a
-/// document.
+/// Write a part of a document, on one line, in the form that it has in the JSON of the document.
 void write(JsonWriter& json, const HeaderCommand& command);
+void write(JsonWriter& json, const CommandParameter& parameter);
+void write(JsonWriter& json, const AtomRecord& atom);
 void write(JsonWriter& json, const PostCommand& command, RawText raw_text);
 
 }  // namespace kelp::input::quill::tool

@@ -7,22 +7,6 @@ namespace {
 
 using Layout = JsonWriter::Layout;
 
-void write(JsonWriter& json, const CommandParameter& parameter) {
-  json.begin_object(Layout::OneLine);
-  json.member("name").text(parameter.name);
-  if (parameter.value) json.member("value").text(*parameter.value);
-  json.end_object();
-}
-
-void write(JsonWriter& json, const AtomRecord& atom) {
-  json.begin_object(Layout::OneLine);
-  json.member("symbol").text(atom.symbol);
-  json.member("x").number(atom.x);
-  json.member("y").number(atom.y);
-  json.member("z").number(atom.z);
-  json.end_object();
-}
-
 /// If the numbers are there, the document has a line with them. Numbers without a line need a
 /// member that says so.
 void write_charge_and_multiplicity(JsonWriter& json, const GeometryBlock& geometry) {
@@ -57,6 +41,22 @@ void write(JsonWriter& json, const GeometryBlock& geometry) {
 }
 
 }  // namespace
+
+void write(JsonWriter& json, const CommandParameter& parameter) {
+  json.begin_object(Layout::OneLine);
+  json.member("name").text(parameter.name);
+  if (parameter.value) json.member("value").text(*parameter.value);
+  json.end_object();
+}
+
+void write(JsonWriter& json, const AtomRecord& atom) {
+  json.begin_object(Layout::OneLine);
+  json.member("symbol").text(atom.symbol);
+  json.member("x").number(atom.x);
+  json.member("y").number(atom.y);
+  json.member("z").number(atom.z);
+  json.end_object();
+}
 
 void write(JsonWriter& json, const HeaderCommand& command) {
   json.begin_object(Layout::OneLine);

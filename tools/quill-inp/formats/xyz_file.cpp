@@ -33,24 +33,72 @@ AtomRecord read_atom(const std::string& line, std::size_t number) {
   return atom;
 }
 
-/// Returns how long the first lines of a text are, with their line ends.
-std::size_t size_of_lines(std::string_view content, std::size_t lines) {
-  std::size_t size = 0;
-  for (; lines > 0 && size < content.size(); --lines)
-    size = std::min(content.find('\n', size), content.size() - 1) + 1;
-  return size;
+/// A structure in a file: the line, counted from 0, with the number of its atoms, and that number.
+struct Frame {
+  std::size_t begin = 0;
+  std::size_t count = 0;
+
+  std::size_t end() const { return begin + xyz_lines_before_atoms + count; }
+};
+
+bool is_blank(const std::string& line) { return text::trim(line).empty(); }
+
+/// Returns the structure that begins at a line. Throws Trouble if it is cut off.
+Frame find_frame(const std::vector<std::string>& lines, std::size_t begin) {
+  const auto count = begin < lines.size() ? find_xyz_count(lines[begin]) : std::nullopt;
+  if (!count) {
+    throw_at(begin + 1, begin == 0 ? "an XYZ file begins with the number of its atoms, 1 or more"
+                                   : "the next structure does not begin with the number of its "
+                                     "atoms, 1 or more");
+  }
+  const Frame frame{begin, *count};
+  if (lines.size() < frame.end()) {
+    const std::size_t first = begin + xyz_lines_before_atoms;
+    const std::size_t found = std::max(lines.size(), first) - first;
+    throw Trouble("has " + counted(found, "atom") + " instead of " + std::to_string(*count),
+                  begin == 0 ? std::nullopt : std::optional(begin + 1));
+  }
+  return frame;
 }
 
-/// Removes the blank lines at the beginning of a text, and returns how many there were.
-std::size_t remove_blank_lines(std::string_view& content) {
-  std::size_t lines = 0;
-  while (!content.empty()) {
-    const std::size_t size = size_of_lines(content, 1);
-    if (!text::trim(content.substr(0, size)).empty()) break;
-    content.remove_prefix(size);
-    ++lines;
+/// Returns the first line at or after `line` that is not blank.
+std::size_t skip_blank_lines(const std::vector<std::string>& lines, std::size_t line) {
+  while (line < lines.size() && is_blank(lines[line])) ++line;
+  return line;
+}
+
+XyzStructure read_frame(const std::vector<std::string>& lines, const Frame& frame) {
+  XyzStructure structure;
+  structure.first_line = frame.begin + xyz_lines_before_atoms + 1;
+  structure.atoms.reserve(frame.count);
+  for (std::size_t i = frame.end() - frame.count; i < frame.end(); ++i)
+    structure.atoms.push_back(read_atom(lines[i], i + 1));
+  return structure;
+}
+
+/// Returns one of several structures, counted from 1, or with a negative number from the end.
+Frame choose_frame(const std::vector<std::string>& lines, int number) {
+  std::vector<Frame> frames;
+  const bool counts_from_end = number < 0;
+  const auto wanted = static_cast<std::size_t>(counts_from_end ? -(number + 1) : number - 1);
+  for (std::size_t line = 0; line < lines.size(); line = skip_blank_lines(lines, line)) {
+    frames.push_back(find_frame(lines, line));
+    if (!counts_from_end && frames.size() > wanted) return frames.back();
+    line = frames.back().end();
   }
-  return lines;
+  if (wanted >= frames.size()) {
+    throw Trouble("has no structure " + std::to_string(number) + ": there " +
+                  (frames.size() == 1 ? "is" : "are") + " only " +
+                  counted(frames.size(), "structure"));
+  }
+  return frames[frames.size() - 1 - wanted];
+}
+
+void require_end(const std::vector<std::string>& lines, const Frame& frame) {
+  const std::size_t rest = skip_blank_lines(lines, frame.end());
+  if (rest < lines.size())
+    throw_at(rest + 1,
+             "more text after the last atom; use --frame N for one of several structures");
 }
 
 }  // namespace
@@ -62,45 +110,24 @@ std::optional<std::size_t> find_xyz_count(std::string_view content) {
   return static_cast<std::size_t>(count);
 }
 
-std::vector<AtomRecord> read_xyz_atoms(std::string_view content) {
+XyzStructure read_xyz_structure(std::string_view content, std::optional<int> frame_number) {
   const std::vector<std::string> lines = text::split_lines(content);
-  const std::optional<std::size_t> stated = find_xyz_count(content);
-  if (!stated) throw_at(1, "an XYZ file begins with the number of its atoms, 1 or more");
-  const std::size_t count = *stated;
-  const std::size_t end = xyz_lines_before_atoms + count;
-  if (lines.size() < end) {
-    const std::size_t found =
-        std::max(lines.size(), xyz_lines_before_atoms) - xyz_lines_before_atoms;
-    throw Trouble("has " + counted(found, "atom") + " instead of " + std::to_string(count));
-  }
-  std::vector<AtomRecord> atoms;
-  atoms.reserve(count);
-  for (std::size_t i = xyz_lines_before_atoms; i < end; ++i)
-    atoms.push_back(read_atom(lines[i], i + 1));
-  for (std::size_t i = end; i < lines.size(); ++i) {
-    if (!text::trim(lines[i]).empty())
-      throw_at(i + 1, "more text after the last atom; only files with one structure can be read");
-  }
-  return atoms;
+  const Frame frame = frame_number ? choose_frame(lines, *frame_number) : find_frame(lines, 0);
+  XyzStructure structure = read_frame(lines, frame);
+  if (!frame_number) require_end(lines, frame);
+  return structure;
 }
 
-std::vector<std::vector<AtomRecord>> read_xyz_frames(std::string_view content) {
-  std::vector<std::vector<AtomRecord>> frames;
-  std::size_t lines_before = 0;
+std::vector<XyzStructure> read_xyz_structures(std::string_view content) {
+  const std::vector<std::string> lines = text::split_lines(content);
+  std::vector<XyzStructure> structures;
+  std::size_t line = 0;
   do {
-    const std::size_t atoms = find_xyz_count(content).value_or(0);
-    const std::size_t size = size_of_lines(content, xyz_lines_before_atoms + atoms);
-    try {
-      frames.push_back(read_xyz_atoms(content.substr(0, size)));
-    } catch (const Trouble& trouble) {
-      const auto line = trouble.line();
-      throw Trouble(trouble.what(), line ? std::optional(lines_before + *line) : std::nullopt);
-    }
-    lines_before += xyz_lines_before_atoms + atoms;
-    content.remove_prefix(size);
-    lines_before += remove_blank_lines(content);
-  } while (!content.empty());
-  return frames;
+    const Frame frame = find_frame(lines, line);
+    structures.push_back(read_frame(lines, frame));
+    line = skip_blank_lines(lines, frame.end());
+  } while (line < lines.size());
+  return structures;
 }
 
 }  // namespace kelp::input::quill::tool

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "kelp/core/text.hpp"
+#include "quill-inp/keys/answer.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -47,11 +48,10 @@ bool operator==(const Ambiguity& left, const Ambiguity& right) {
 void add_ambiguities(const QuillInput& input, const Key& key, std::vector<Ambiguity>& ambiguities) {
   const auto* command_key = std::get_if<CommandKey>(&key);
   if (command_key == nullptr) return;
-  const HeaderCommand* command =
-      input.find_command(command_key->command, command_key->occurrence.value_or(0));
+  const HeaderCommand* command = find_command(input, *command_key);
   if (command == nullptr) return;
   const auto used = static_cast<std::size_t>(command - input.commands.data());
-  if (!command_key->occurrence) {
+  if (!command_key->occurrence && !command_key->position) {
     std::vector<std::size_t> others = list_other_commands(input, used);
     if (!others.empty()) add_once({used, command->name, std::move(others)}, ambiguities);
   }

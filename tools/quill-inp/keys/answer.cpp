@@ -7,7 +7,9 @@
 #include "kelp/input/quill/lossless/quoting.hpp"
 #include "kelp/input/quill/lossless/wording.hpp"
 #include "kelp/input/quill/writer.hpp"
+#include "quill-inp/formats/composition.hpp"
 #include "quill-inp/formats/document_names.hpp"
+#include "quill-inp/text/counted.hpp"
 #include "quill-inp/text/suggestion.hpp"
 
 namespace kelp::input::quill::tool {
@@ -15,10 +17,6 @@ namespace kelp::input::quill::tool {
 namespace {
 
 constexpr const char* no_value = "flag";
-
-const HeaderCommand* find(const QuillInput& input, const CommandKey& key) {
-  return input.find_command(key.command, key.occurrence.value_or(0));
-}
 
 std::string command_answer(const HeaderCommand& command) {
   if (command.kind == HeaderCommandKind::Assignment) return command.value.value_or("");
@@ -29,7 +27,7 @@ std::string command_answer(const HeaderCommand& command) {
 }
 
 std::optional<std::string> find_answer(const QuillInput& input, const CommandKey& key) {
-  const HeaderCommand* command = find(input, key);
+  const HeaderCommand* command = find_command(input, key);
   if (command == nullptr) return std::nullopt;
   if (!key.parameter) return command_answer(*command);
   const std::optional<std::uint64_t> index = find_parameter_index(*command, *key.parameter);
@@ -70,8 +68,32 @@ std::optional<std::string> find_answer(const QuillInput& input, SpecialKey key) 
                                         : std::optional(joined_lines(geometry.xyz_files));
     case SpecialKey::Atoms:
       return atom_lines(geometry.atoms);
+    case SpecialKey::Formula:
+      return geometry.atoms.empty() ? std::nullopt
+                                    : std::optional(to_formula(hill_composition(geometry.atoms)));
+    case SpecialKey::AtomCount:
+      return geometry.kind == GeometryKind::Atoms
+                 ? std::optional(std::to_string(geometry.atoms.size()))
+                 : std::nullopt;
   }
   return std::nullopt;
+}
+
+/// Returns what a line says after its keyword.
+std::string post_answer(const PostCommand& command) {
+  if (command.kind == PostCommandKind::PostFile) return command.post_file;
+  if (command.kind == PostCommandKind::Raw) return command.raw_text;
+  std::string text = lossless::joined(command.atom_indices);
+  if (command.scan_value) text += " " + lossless::shortest_text(*command.scan_value);
+  if (command.scan_steps) text += " " + std::to_string(*command.scan_steps);
+  return text;
+}
+
+std::optional<std::string> find_answer(const QuillInput& input, const PostKey& key) {
+  std::vector<std::string> lines;
+  for (const std::size_t index : find_post_commands(input, key))
+    lines.push_back(post_answer(input.post_commands[index]));
+  return lines.empty() ? std::nullopt : std::optional(joined_lines(lines));
 }
 
 std::uint64_t count_commands(const QuillInput& input, const std::string& name) {
@@ -95,10 +117,19 @@ std::string count_words(const MissingAnswer& missing) {
          missing.name + "', and [N] counts from 0";
 }
 
+std::string number_words(std::uint64_t count, std::string_view noun) {
+  return std::string("there ") + (count == 1 ? "is" : "are") + " only " + counted(count, noun) +
+         ", and [N] counts from 0";
+}
+
 std::string reason_words(const MissingAnswer& missing) {
   switch (missing.kind) {
     case MissingAnswer::Kind::Section:
       break;
+    case MissingAnswer::Kind::Position:
+      return ": " + number_words(missing.count, "command");
+    case MissingAnswer::Kind::PostNumber:
+      return ": " + number_words(missing.count, missing.name);
     case MissingAnswer::Kind::Command:
       return ": no command '" + missing.name + "'" + did_you_mean(missing.similar);
     case MissingAnswer::Kind::Number:
@@ -112,18 +143,46 @@ std::string reason_words(const MissingAnswer& missing) {
 
 }  // namespace
 
+const HeaderCommand* find_command(const QuillInput& input, const CommandKey& key) {
+  if (!key.position) return input.find_command(key.command, key.occurrence.value_or(0));
+  return *key.position < input.commands.size() ? &input.commands[*key.position] : nullptr;
+}
+
+std::vector<std::size_t> find_post_commands(const QuillInput& input, const PostKey& key) {
+  std::vector<std::size_t> indexes;
+  std::uint64_t number = 0;
+  for (std::size_t i = 0; i < input.post_commands.size(); ++i) {
+    if (input.post_commands[i].kind != key.kind) continue;
+    if (!key.number || *key.number == number) indexes.push_back(i);
+    ++number;
+  }
+  return indexes;
+}
+
 std::optional<std::string> answer(const QuillInput& input, const Key& key) {
   return std::visit([&](const auto& any_key) { return find_answer(input, any_key); }, key);
 }
 
 MissingAnswer find_missing(const QuillInput& input, std::string_view key_text, const Key& key) {
   MissingAnswer missing{std::string(key_text)};
+  if (const auto* post_key = std::get_if<PostKey>(&key)) {
+    const PostKey all{post_key->kind};
+    missing.count = find_post_commands(input, all).size();
+    missing.name = lossless::noun_of(post_key->kind);
+    if (missing.count > 0) missing.kind = MissingAnswer::Kind::PostNumber;
+    return missing;
+  }
   const auto* command_key = std::get_if<CommandKey>(&key);
   if (command_key == nullptr) return missing;
-  if (const HeaderCommand* command = find(input, *command_key)) {
+  if (const HeaderCommand* command = find_command(input, *command_key)) {
     missing.kind = MissingAnswer::Kind::Parameter;
     missing.name = command_key->parameter.value();
     missing.similar = nearest_name(missing.name, parameter_names(*command));
+    return missing;
+  }
+  if (command_key->position) {
+    missing.count = input.commands.size();
+    missing.kind = MissingAnswer::Kind::Position;
     return missing;
   }
   missing.name = command_key->command;
@@ -138,7 +197,8 @@ std::string words(const MissingAnswer& missing) {
 }
 
 std::optional<std::string> find_similar_name(const QuillInput& input, const CommandKey& key) {
-  const HeaderCommand* command = find(input, key);
+  const HeaderCommand* command = find_command(input, key);
+  if (command == nullptr && key.position) return std::nullopt;
   if (command == nullptr) return nearest_name(key.command, input.command_names());
   if (key.parameter && !find_parameter_index(*command, *key.parameter))
     return nearest_name(*key.parameter, parameter_names(*command));

@@ -1,10 +1,12 @@
 #ifndef KELP_INPUT_QUILL_TOOL_KEYS_ANSWER_HPP
 #define KELP_INPUT_QUILL_TOOL_KEYS_ANSWER_HPP
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "kelp/input/quill/document.hpp"
 #include "quill-inp/keys/key.hpp"
@@ -13,23 +15,33 @@ namespace kelp::input::quill::tool {
 
 /// Returns what `input` has under a key, as one or more lines: the value of an assignment or
 /// parameter, "flag" for a command or parameter without a value, the list in parentheses for a
-/// parameter list; for the special keys the number, the kind of geometry, the paths, or the atoms
-/// with all digits. Returns nothing if the input does not have it.
+/// parameter list; for the special keys the number, the kind of geometry, the paths, the atoms with
+/// all digits, or their formula or number; for post-processing lines what comes after their
+/// keyword, with all digits. Returns nothing if the input does not have it.
 std::optional<std::string> answer(const QuillInput& input, const Key& key);
+
+/// Returns the command that a key names, or that has the parameter it names; a null pointer if
+/// there is none.
+const HeaderCommand* find_command(const QuillInput& input, const CommandKey& key);
+
+/// Returns the post-processing lines that a key names, by their indexes.
+std::vector<std::size_t> find_post_commands(const QuillInput& input, const PostKey& key);
 
 /// What a key asks for and the input does not have.
 struct MissingAnswer {
   enum class Kind {
-    Section,    // there is no such section
-    Command,    // no command has the name
-    Number,     // there are commands with the name, but the number is too large
-    Parameter,  // the command has no such parameter
+    Section,     // there is no such section or line
+    Position,    // there are commands, but the number among all is too large
+    PostNumber,  // there are lines of the kind, but the number is too large
+    Command,     // no command has the name
+    Number,      // there are commands with the name, but the number is too large
+    Parameter,   // the command has no such parameter
   };
 
   std::string key_text = {};  // the key as it was typed
   Kind kind = Kind::Section;
   std::string name = {};                              // of the command or parameter
-  std::uint64_t count = 0;                            // of the commands with the name
+  std::uint64_t count = 0;                            // of the commands or lines
   std::optional<std::string> similar = std::nullopt;  // the nearest name in the input
 };
 

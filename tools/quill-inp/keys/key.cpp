@@ -6,6 +6,7 @@
 
 #include "kelp/core/text.hpp"
 #include "kelp/input/quill/document.hpp"
+#include "model/post_line_shapes.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/text/suggestion.hpp"
 
@@ -21,8 +22,11 @@ struct SpecialName {
 constexpr SpecialName special_names[] = {
     {"@charge", SpecialKey::Charge},     {"@multiplicity", SpecialKey::Multiplicity},
     {"@geometry", SpecialKey::Geometry}, {"@files", SpecialKey::Files},
-    {"@atoms", SpecialKey::Atoms},
+    {"@atoms", SpecialKey::Atoms},       {"@formula", SpecialKey::Formula},
+    {"@natoms", SpecialKey::AtomCount},
 };
+
+constexpr std::string_view commands_name = "@commands";
 
 constexpr std::string_view escapable = ".[]=@\\";
 
@@ -37,6 +41,8 @@ class KeyCursor {
   explicit KeyCursor(std::string_view text) : text_(text) {}
 
   bool at_end() const { return position_ == text_.size(); }
+
+  void skip(std::size_t count) { position_ += count; }
 
   bool consume(char c) {
     if (at_end() || text_[position_] != c) return false;
@@ -79,6 +85,16 @@ class KeyCursor {
   std::size_t position_ = 0;
 };
 
+constexpr const char* too_many =
+    "there is one '.', '[' or ']' too many, or a backslash is missing before it";
+
+std::string parse_parameter(KeyCursor& cursor, std::string_view text) {
+  std::string parameter = cursor.piece();
+  if (core::text::trim(parameter).empty())
+    throw_bad_key(text, "there is no parameter name after '.'");
+  return parameter;
+}
+
 /// key = name [ "[" number "]" ] [ "." name ]
 CommandKey parse_command_key(std::string_view text) {
   KeyCursor cursor(text);
@@ -87,23 +103,45 @@ CommandKey parse_command_key(std::string_view text) {
   if (core::text::trim(name).empty()) throw_bad_key(text, "there is no name");
   key.command = stored_command_name(name);
   if (cursor.consume('[')) key.occurrence = cursor.occurrence();
-  if (cursor.consume('.')) {
-    key.parameter = cursor.piece();
-    if (core::text::trim(*key.parameter).empty())
-      throw_bad_key(text, "there is no parameter name after '.'");
-  }
-  if (!cursor.at_end())
-    throw_bad_key(text,
-                  "there is one '.', '[' or ']' too many, or a backslash is missing before it");
+  if (cursor.consume('.')) key.parameter = parse_parameter(cursor, text);
+  if (!cursor.at_end()) throw_bad_key(text, too_many);
   return key;
 }
 
-SpecialKey parse_special_key(std::string_view text) {
+[[noreturn]] void throw_unknown_key(std::string_view text) {
+  throw UsageError("unknown key '" + std::string(text) + "'" +
+                   suggestion(text, special_key_names()));
+}
+
+/// Returns the row of the lines that "@bonds", "@bonds[1]" or "@bond[1]" names, or a null pointer.
+const PostLineShape* find_post_shape(std::string_view name, bool has_number) {
+  for (const PostLineShape& shape : post_line_shapes) {
+    if (shape.keys == name || (has_number && shape.key == name)) return &shape;
+  }
+  return nullptr;
+}
+
+/// key = "@" name / "@" name "[" number "]" / "@commands[" number "]" [ "." name ]
+Key parse_special_key(std::string_view text) {
   for (const SpecialName& special : special_names) {
     if (special.name == text) return special.key;
   }
-  throw UsageError("unknown key '" + std::string(text) + "'" +
-                   suggestion(text, special_key_names()));
+  const std::size_t bracket = text.find('[');
+  const bool has_number = bracket != std::string_view::npos;
+  const std::string_view name = text.substr(0, bracket);
+  const PostLineShape* shape = find_post_shape(name.substr(1), has_number);
+  if (shape == nullptr && name != commands_name) throw_unknown_key(text);
+  if (shape != nullptr && !has_number) return PostKey{shape->kind};
+  if (!has_number) throw_bad_key(text, "a number in brackets must follow '@commands'");
+  KeyCursor cursor(text);
+  cursor.skip(bracket + 1);
+  const std::uint64_t number = cursor.occurrence();
+  CommandKey command;
+  if (shape == nullptr && cursor.consume('.')) command.parameter = parse_parameter(cursor, text);
+  if (!cursor.at_end()) throw_bad_key(text, too_many);
+  if (shape != nullptr) return PostKey{shape->kind, number};
+  command.position = number;
+  return command;
 }
 
 std::size_t find_equals_sign(std::string_view text) {
@@ -141,7 +179,7 @@ Setting parse_setting(std::string_view text) {
   setting.key_text = std::string(text.substr(0, equals));
   setting.key = parse_key(setting.key_text);
   const auto* key = std::get_if<CommandKey>(&setting.key);
-  if (key != nullptr && is_nameless(key->command))
+  if (key != nullptr && !key->position && is_nameless(key->command))
     throw_bad_key(setting.key_text, "there is no name");
   if (equals != std::string_view::npos) setting.value = std::string(text.substr(equals + 1));
   return setting;
@@ -150,12 +188,15 @@ Setting parse_setting(std::string_view text) {
 std::vector<std::string> special_key_names() {
   std::vector<std::string> names;
   for (const SpecialName& special : special_names) names.emplace_back(special.name);
+  for (const PostLineShape& shape : post_line_shapes)
+    names.push_back("@" + std::string(shape.keys));
+  names.emplace_back(commands_name);
   return names;
 }
 
 std::string_view key_grammar() {
   return "a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, where N counts "
-         "from 0, or @charge, @multiplicity, @geometry, @files or @atoms";
+         "from 0, or begins with '@', such as @charge, @bonds, @bond[N] or @commands[N]";
 }
 
 }  // namespace kelp::input::quill::tool

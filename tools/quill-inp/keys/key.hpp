@@ -6,6 +6,8 @@
 //   parse_key("opt");             // the first command "opt"
 //   parse_key("opt[1].maxiter");  // a parameter of the second one
 //   parse_key("@charge");         // something that is not a header command
+//   parse_key("@bond[1]");        // the second bond constraint
+//   parse_key("@commands[2]");    // the third command, whatever its name
 //   parse_key("basis\\.set");     // the command "basis.set"
 
 #include <cstdint>
@@ -14,6 +16,8 @@
 #include <string_view>
 #include <variant>
 #include <vector>
+
+#include "kelp/input/quill/document.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -31,17 +35,28 @@ enum class SpecialKey {
   Geometry,
   Files,
   Atoms,
+  Formula,
+  AtomCount,
 };
 
 /// A command, by its name and its number among the commands with that name, counted from 0; or a
-/// parameter of it. Names are as InputEditor takes them, so `command` has no "#" before it.
+/// parameter of it. Names are as InputEditor takes them, so `command` has no "#" before it. With a
+/// `position`, it is the command with this number among all, counted from 0, and name and
+/// occurrence are empty.
 struct CommandKey {
   std::string command = {};
   std::optional<std::uint64_t> occurrence = std::nullopt;
   std::optional<std::string> parameter = std::nullopt;
+  std::optional<std::uint64_t> position = std::nullopt;
 };
 
-using Key = std::variant<SpecialKey, CommandKey>;
+/// All post-processing lines of a kind, or the one with this number among them, counted from 0.
+struct PostKey {
+  PostCommandKind kind = PostCommandKind::Raw;
+  std::optional<std::uint64_t> number = std::nullopt;
+};
+
+using Key = std::variant<SpecialKey, CommandKey, PostKey>;
 
 /// Reads a key. Throws UsageError, with the grammar, for a text that is not a key, and with the
 /// nearest name for an unknown name after "@".
@@ -52,6 +67,8 @@ struct Setting {
   std::string key_text = {};
   Key key = CommandKey{};
   std::optional<std::string> value = std::nullopt;
+  /// The command gets this name, and keeps all else; there is no value then.
+  std::optional<std::string> new_name = std::nullopt;
 };
 
 /// Returns whether a setting has a value: an "=" without a backslash before it.
@@ -62,7 +79,7 @@ bool has_value(std::string_view setting);
 /// have one, but nobody wants to make one.
 Setting parse_setting(std::string_view text);
 
-/// Returns how the keys that begin with "@" are written, "@charge" and so on.
+/// Returns how the keys that begin with "@" are written, "@charge" and so on, without numbers.
 std::vector<std::string> special_key_names();
 
 /// What a key looks like, in one sentence.

@@ -1,6 +1,7 @@
 #include "quill-inp/session/input_source.hpp"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -48,12 +49,34 @@ std::string read_regular_file(Session& session, int file, const struct stat& sta
   return content;
 }
 
+/// Returns whether somebody has written to a pipe, or may still do so. The pipe was opened without
+/// blocking: where nobody has it open for writing, there is nothing to read and no sign of an end.
+bool has_writer(int pipe) {
+  struct pollfd state {};
+  state.fd = pipe;
+  state.events = POLLIN;
+  if (poll(&state, 1, 0) != 0) return true;
+  char ignored = 0;
+  return read(pipe, &ignored, 1) < 0;  // EAGAIN: there is a writer, but nothing to read yet
+}
+
+/// Reads a pipe that another program writes to, such as the shell's <(...).
+std::string read_pipe(Session& session, int pipe, const struct stat& state) {
+  if (!has_writer(pipe)) throw_not_regular(state.st_mode);
+  const int flags = fcntl(pipe, F_GETFL);
+  if (flags < 0 || fcntl(pipe, F_SETFL, flags & ~O_NONBLOCK) != 0)
+    throw_system_trouble("cannot be read", errno);
+  return read_at_most(pipe, session.options().max_size);
+}
+
 std::string read_file(Session& session, const std::string& path) {
   if (path.find('\0') != std::string::npos) throw Trouble("a file name cannot hold a NUL byte");
   // Not blocking, so that a pipe without a writer is refused at once.
   const FileDescriptor file(open_in(AT_FDCWD, path, O_RDONLY | O_NONBLOCK));
   if (file.number() < 0) throw_cannot_open(path, errno);
-  return read_regular_file(session, file.number(), state_of(file.number()));
+  const struct stat state = state_of(file.number());
+  if (S_ISFIFO(state.st_mode)) return read_pipe(session, file.number(), state);
+  return read_regular_file(session, file.number(), state);
 }
 
 /// Reads a stream that is not connected to a file.

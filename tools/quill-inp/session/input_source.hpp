@@ -25,9 +25,10 @@ struct ReadInput {
   std::optional<FileOrigin> origin = std::nullopt;
 };
 
-/// Reads the file that `argument` names, or standard input for "-". Throws Trouble when the file
-/// does not exist, when it is not a regular file, when it is larger than the session accepts, when
-/// it changes while it is read, when standard output goes into it, and when it cannot be read.
+/// Reads the file that `argument` names, or standard input for "-". A pipe that another program
+/// writes to is read, too. Throws Trouble when the file does not exist, when it is anything else,
+/// when it is larger than the session accepts, when it changes while it is read, when standard
+/// output goes into it, and when it cannot be read.
 InputSource read_source(Session& session, const std::string& argument);
 
 /// Reads such a file as a QUILL input. Throws as read_source() does.

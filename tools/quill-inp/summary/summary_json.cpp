@@ -1,10 +1,10 @@
 #include <optional>
 #include <string_view>
 
+#include "quill-inp/formats/composition.hpp"
 #include "quill-inp/formats/document_json.hpp"
 #include "quill-inp/formats/document_names.hpp"
 #include "quill-inp/summary/command_roles.hpp"
-#include "quill-inp/summary/composition.hpp"
 #include "quill-inp/summary/summary.hpp"
 #include "reader/diagnostics.hpp"
 

@@ -9,8 +9,10 @@
 #include "quill-inp/command_line/file_options.hpp"
 #include "quill-inp/command_line/key_options.hpp"
 #include "quill-inp/editing/ambiguity_notes.hpp"
+#include "quill-inp/formats/json_writer.hpp"
 #include "quill-inp/keys/ambiguity.hpp"
 #include "quill-inp/keys/answer.hpp"
+#include "quill-inp/keys/answer_json.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/verbs/verb.hpp"
 
@@ -24,14 +26,19 @@ constexpr const char* example =
     "  quill-inp get -k model -k @charge *.qin\n"
     "\n"
     "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, where N counts\n"
-    "from 0, or @charge, @multiplicity, @geometry, @files or @atoms. Put a backslash before a\n"
-    "'.', '[' or ']' that is part of a name. A command or parameter without a value prints\n"
-    "'flag'.";
+    "from 0; @commands[N] for the N-th of all commands; @charge, @multiplicity, @geometry,\n"
+    "@files, @atoms, @formula or @natoms; or @bonds, @angles, @dihedrals, @atom_constraints,\n"
+    "@scans, @post_files or @raw, and @bond[N] and so on for one of them. Put a backslash\n"
+    "before a '.', '[' or ']' that is part of a name. A command or parameter without a value\n"
+    "prints 'flag'.";
 
 constexpr const char* help_of_keys = "What to print, in this order";
 constexpr Option with_filename{"--with-filename", "",
                                "Print 'FILE:' before every line, as for several files"};
 constexpr Option no_filename{"--no-filename", "", "Never print 'FILE:' before a line"};
+
+constexpr Option as_json{"--json", "", "Print the answers as JSON, one line per file"};
+constexpr Option default_text{"--default", "TEXT", "Print this for a key without an answer"};
 
 /// A key as it was typed and as it was read.
 struct TypedKey {
@@ -58,31 +65,75 @@ void append_lines(std::string_view answer, const std::string& prefix, std::strin
   }
 }
 
+/// What to print of every file, and in what form.
+struct Question {
+  std::vector<TypedKey> keys = {};
+  std::optional<std::string> default_text = std::nullopt;
+  bool as_json = false;
+  bool has_name = false;
+};
+
+void note_missing(Session& session, const ReadInput& input, const TypedKey& key) {
+  const MissingAnswer missing = find_missing(input.read.result.input, key.text, key.key);
+  session.reporter().note({input.name}, words(missing));
+}
+
 /// Prints the answers to all keys, or nothing when one key has no answer: a script that reads the
 /// lines can rely on their order.
-ExitCode get_from_file(Session& session, const std::string& argument,
-                       const std::vector<TypedKey>& keys, bool has_name) {
-  const ReadInput input = read_input(session, argument);
-  const QuillInput& document = input.read.result.input;
-  report_warnings(session.reporter(), input.name, input.read.result);
-
-  std::vector<Ambiguity> ambiguities;
-  for (const TypedKey& key : keys) add_ambiguities(document, key.key, ambiguities);
-  for (const Ambiguity& ambiguity : ambiguities) note_ambiguity(session, input, ambiguity);
-
-  const std::string prefix = has_name ? input.name + ":" : "";
+ExitCode print_lines(Session& session, const ReadInput& input, const Question& question) {
+  const std::string prefix = question.has_name ? input.name + ":" : "";
   std::string answers;
   ExitCode code = ExitCode::Done;
-  for (const TypedKey& key : keys) {
-    if (const std::optional<std::string> found = answer(document, key.key)) {
+  for (const TypedKey& key : question.keys) {
+    std::optional<std::string> found = answer(input.read.result.input, key.key);
+    if (!found) found = question.default_text;
+    if (found) {
       append_lines(*found, prefix, answers);
     } else {
-      session.reporter().note({input.name}, words(find_missing(document, key.text, key.key)));
+      note_missing(session, input, key);
       code = ExitCode::No;
     }
   }
   if (code == ExitCode::Done) session.output().write(answers);
   return code;
+}
+
+/// Prints the answers to all keys, each with its key. One that is missing is there as such.
+ExitCode print_json(Session& session, const ReadInput& input, const Question& question) {
+  JsonWriter json([&](std::string_view piece) { session.output().write(piece); });
+  json.begin_object(JsonWriter::Layout::OneLine);
+  json.member("file").text(input.name);
+  json.member("answers").begin_list(JsonWriter::Layout::OneLine);
+  ExitCode code = ExitCode::Done;
+  for (const TypedKey& key : question.keys) {
+    json.begin_object(JsonWriter::Layout::OneLine);
+    json.member("key").text(key.text);
+    if (!write_answer(json, input.read.result.input, key.key)) {
+      json.member("missing").truth(true);
+      if (question.default_text) {
+        json.member("value").text(*question.default_text);
+      } else {
+        note_missing(session, input, key);
+        code = ExitCode::No;
+      }
+    }
+    json.end_object();
+  }
+  json.end_list();
+  json.end_object();
+  json.finish();
+  return code;
+}
+
+ExitCode get_from_file(Session& session, const std::string& argument, const Question& question) {
+  const ReadInput input = read_input(session, argument);
+  report_warnings(session.reporter(), input.name, input.read.result);
+  std::vector<Ambiguity> ambiguities;
+  for (const TypedKey& key : question.keys)
+    add_ambiguities(input.read.result.input, key.key, ambiguities);
+  for (const Ambiguity& ambiguity : ambiguities) note_ambiguity(session, input, ambiguity);
+  return question.as_json ? print_json(session, input, question)
+                          : print_lines(session, input, question);
 }
 
 /// Whether to print names of files: as the user wants it, or if an answer may be of several files.
@@ -96,12 +147,12 @@ bool prints_names(const CLI::App& app, const ChosenFiles& files) {
 
 ExitCode get(Session& session, const CLI::App& app) {
   const FilesAndKeys given = read_files_and_keys(app);
-  const std::vector<TypedKey> keys = parse_keys(given.keys);
+  Question question{parse_keys(given.keys), value_of(app, default_text), is_given(app, as_json)};
   const BatchOptions options = read_batch_options(app);
   const ChosenFiles files = choose_files(session, read_file_choice(app, given.files));
-  const bool has_name = prints_names(app, files);
+  question.has_name = prints_names(app, files);
   return for_each_file(session, files, options, [&](Session& one, const std::string& argument) {
-    return get_from_file(one, argument, keys, has_name);
+    return get_from_file(one, argument, question);
   });
 }
 
@@ -110,6 +161,8 @@ ExitCode get(Session& session, const CLI::App& app) {
 Verb add_get(CLI::App& program) {
   CLI::App* app = add_verb(program, "get", "Print the values of inputs", example);
   add_key_options(*app, help_of_keys);
+  add_flag(*app, as_json);
+  add_value(*app, default_text);
   add_flag(*app, with_filename);
   add_flag(*app, no_filename);
   add_file_options(*app);

@@ -17,19 +17,20 @@ constexpr const char* example =
     "Example:\n"
     "  quill-inp set -i water.qin opt.maxiter=100 model=m1 @charge=-1\n"
     "\n"
-    "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N].PARAMETER, @charge or @multiplicity, where\n"
-    "N counts from 0; for --flag it is COMMAND or COMMAND.PARAMETER. Settings are made in the\n"
-    "order in which they are given. A word without '=' is a further file. Put all words before\n"
-    "--xyz, which takes the words after it as paths. Only the lines that have to change are\n"
-    "changed.";
+    "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, where N counts\n"
+    "from 0, or @commands[N] for the N-th of all commands, @charge or @multiplicity. Settings\n"
+    "are made in the order in which they are given. A word without '=' is a further file. Put\n"
+    "all words before --xyz, which takes the words after it as paths. Only the lines that have\n"
+    "to change are changed.";
 
 /// Reads the geometry, which may be in a file of its own, and makes the edits.
 ExitCode set_in_files(Session& session, const CLI::App& app, const FilesAndSettings& given) {
+  const NewNames new_names = sets_only_existing(app) ? NewNames::Missing : NewNames::Created;
   const EditOptions options = read_edit_options(app, given.files);
   const GeometryChange change_geometry = read_geometry_change(session, app);
   if (given.settings.empty() && !change_geometry) throw UsageError("nothing to set");
   const auto edit = [&](lossless::TrackedDocument& document) {
-    EditReport report = apply_settings(given.settings, document);
+    EditReport report = apply_settings(given.settings, document, new_names);
     if (change_geometry) change_geometry(document);
     return report;
   };

@@ -99,8 +99,8 @@ std::vector<Structure> read_all_structures(Session& session, const Request& requ
   for (const std::string& file : request.structure_files) {
     std::size_t frame = 0;
     auto found = read_structures(session, file, request.has_frames);
-    for (std::vector<AtomRecord>& atoms : found)
-      all.push_back({file, ++frame, found.size(), std::move(atoms)});
+    for (XyzStructure& structure : found)
+      all.push_back({file, ++frame, found.size(), std::move(structure.atoms)});
   }
   return all;
 }
@@ -147,8 +147,8 @@ class Plan {
     const std::vector<std::string> values = values_of_number(number);
     std::vector<Setting> settings;
     for (std::size_t i = 0; i < values.size(); ++i)
-      settings.push_back({request_.lists[i].key_text, request_.lists[i].key, values[i]});
-    EditReport report = apply_settings(settings, document);
+      settings.push_back({request_.lists[i].key_text, request_.lists[i].key, values[i], {}});
+    EditReport report = apply_settings(settings, document, NewNames::Created);
     if (const Structure* structure = structure_of(number)) document.set_geometry(structure->atoms);
     return report;
   }

@@ -29,16 +29,17 @@ constexpr const char* example =
     "KEY has the same form as for 'get'. COMMAND removes every command with that name,\n"
     "COMMAND[N] only one of them, COMMAND.PARAMETER a parameter of the first one. Where a\n"
     "command has two parameters with the same name, give the key twice to remove both. @charge\n"
-    "or @multiplicity removes the line with both numbers. When a key has no match, nothing is\n"
-    "removed and the exit code is 1.";
+    "or @multiplicity removes the line with both numbers, @bonds every bond constraint and\n"
+    "@bond[N] one of them. When a key has no match, nothing is removed and the exit code is 1.";
 
 constexpr const char* help_of_keys = "What to remove; either all of it is removed or nothing";
 
 using lossless::TrackedDocument;
 
-/// A key in the form in which names are compared.
+/// A key in the form in which names are compared, and the name of the command as the input has it.
 struct Removal {
   std::string command = {};
+  std::string name = {};
   std::optional<std::uint64_t> occurrence = std::nullopt;
   std::optional<std::string> parameter = std::nullopt;
 };
@@ -50,10 +51,23 @@ bool asks_for_the_same(const Removal& left, const Removal& right) {
          left.occurrence == right.occurrence;
 }
 
-Removal to_removal(const CommandKey& key) {
-  Removal removal{normalize_command_name(key.command), key.occurrence, std::nullopt};
+/// Returns how many commands before this one have its name.
+std::uint64_t count_same_before(const QuillInput& input, const HeaderCommand& command) {
+  const std::string name = normalize_command_name(command.name);
+  const auto has_name = [&](const HeaderCommand& other) {
+    return normalize_command_name(other.name) == name;
+  };
+  const HeaderCommand* const first = input.commands.data();
+  return static_cast<std::uint64_t>(std::count_if(first, &command, has_name));
+}
+
+/// Returns the removal for a key that has a match.
+Removal to_removal(const QuillInput& input, const CommandKey& key) {
+  const HeaderCommand* command = find_command(input, key);
+  Removal removal{normalize_command_name(command->name), command->name, key.occurrence};
+  if (key.position) removal.occurrence = count_same_before(input, *command);
   if (key.parameter) {
-    removal.occurrence = key.occurrence.value_or(0);
+    removal.occurrence = removal.occurrence.value_or(0);
     removal.parameter = core::text::to_lower_copy(core::text::trim(*key.parameter));
   }
   return removal;
@@ -61,9 +75,9 @@ Removal to_removal(const CommandKey& key) {
 
 void remove(const Removal& removal, TrackedDocument& document) {
   if (removal.parameter) {
-    document.remove_parameter(removal.command, *removal.parameter, removal.occurrence.value_or(0));
+    document.remove_parameter(removal.name, *removal.parameter, removal.occurrence.value_or(0));
   } else {
-    document.remove_command(removal.command, removal.occurrence);
+    document.remove_command(removal.name, removal.occurrence);
   }
 }
 
@@ -84,10 +98,10 @@ struct TypedKey {
   Key key = {};
 };
 
-/// Every key, and the removals that they ask for.
+/// What keys ask for in an input that has a match for each of them.
 struct Request {
-  std::vector<TypedKey> keys = {};
   std::vector<Removal> removals = {};
+  std::vector<bool> post_commands = {};  // whether to remove each of them; empty for none
   bool clears_charge_and_multiplicity = false;
 };
 
@@ -95,20 +109,33 @@ bool is_on_charge_line(SpecialKey key) {
   return key == SpecialKey::Charge || key == SpecialKey::Multiplicity;
 }
 
-Request parse_request(const std::vector<std::string>& texts) {
-  Request request;
+std::vector<TypedKey> parse_keys(const std::vector<std::string>& texts) {
+  std::vector<TypedKey> keys;
   for (const std::string& text : texts) {
-    const Key key = parse_key(text);
-    request.keys.push_back({text, key});
-    if (const auto* command_key = std::get_if<CommandKey>(&key)) {
-      const Removal removal = to_removal(*command_key);
-      auto& all = request.removals;
-      const auto is_same = [&](const Removal& other) { return asks_for_the_same(removal, other); };
-      if (std::none_of(all.begin(), all.end(), is_same)) all.push_back(removal);
-    } else if (is_on_charge_line(std::get<SpecialKey>(key))) {
-      request.clears_charge_and_multiplicity = true;
-    } else {
+    keys.push_back({text, parse_key(text)});
+    const auto* special = std::get_if<SpecialKey>(&keys.back().key);
+    if (special != nullptr && !is_on_charge_line(*special))
       throw UsageError("'" + text + "' cannot be unset; 'set' has --atoms, --xyz and --trajectory");
+  }
+  return keys;
+}
+
+void add_removal(Removal&& removal, std::vector<Removal>& all) {
+  const auto is_same = [&](const Removal& other) { return asks_for_the_same(removal, other); };
+  if (std::none_of(all.begin(), all.end(), is_same)) all.push_back(std::move(removal));
+}
+
+Request make_request(const std::vector<TypedKey>& keys, const QuillInput& input) {
+  Request request;
+  for (const TypedKey& typed : keys) {
+    if (const auto* command = std::get_if<CommandKey>(&typed.key)) {
+      add_removal(to_removal(input, *command), request.removals);
+    } else if (const auto* post = std::get_if<PostKey>(&typed.key)) {
+      request.post_commands.resize(input.post_commands.size());
+      for (const std::size_t index : find_post_commands(input, *post))
+        request.post_commands[index] = true;
+    } else {
+      request.clears_charge_and_multiplicity = true;
     }
   }
   std::stable_sort(request.removals.begin(), request.removals.end(), goes_before);
@@ -117,8 +144,7 @@ Request parse_request(const std::vector<std::string>& texts) {
 
 /// Returns the index of a command that exists.
 std::size_t index_of(const QuillInput& input, const Removal& removal) {
-  const HeaderCommand* command =
-      input.find_command(removal.command, removal.occurrence.value_or(0));
+  const HeaderCommand* command = input.find_command(removal.name, removal.occurrence.value_or(0));
   return static_cast<std::size_t>(command - input.commands.data());
 }
 
@@ -152,16 +178,18 @@ std::vector<EditNote> note_parameters_left(const AskedParameters& asked,
   return notes;
 }
 
-EditReport remove_keys(const Request& request, TrackedDocument& document) {
+EditReport remove_keys(const std::vector<TypedKey>& keys, TrackedDocument& document) {
   EditReport report;
   const QuillInput& input = document.document();
-  for (const TypedKey& typed : request.keys) {
+  for (const TypedKey& typed : keys) {
     if (!answer(input, typed.key))
       report.missing.push_back(find_missing(input, typed.text, typed.key));
   }
   if (!report.missing.empty()) return report;
+  const Request request = make_request(keys, input);
   const AskedParameters asked = list_asked_parameters(request, input);
   for (const Removal& removal : request.removals) remove(removal, document);
+  if (!request.post_commands.empty()) document.remove_post_commands(request.post_commands);
   if (request.clears_charge_and_multiplicity) document.clear_charge_and_multiplicity();
   report.notes = note_parameters_left(asked, document);
   return report;
@@ -169,8 +197,8 @@ EditReport remove_keys(const Request& request, TrackedDocument& document) {
 
 ExitCode unset(Session& session, const CLI::App& app) {
   const FilesAndKeys given = read_files_and_keys(app);
-  const Request request = parse_request(given.keys);
-  const auto edit = [&](TrackedDocument& document) { return remove_keys(request, document); };
+  const std::vector<TypedKey> typed = parse_keys(given.keys);
+  const auto edit = [&](TrackedDocument& document) { return remove_keys(typed, document); };
   return edit_files(session, read_edit_options(app, given.files), edit);
 }
 

@@ -18,7 +18,7 @@ Outcome usage_error(const std::string& message, const std::string& verb = "") {
 class Usage : public testing::TestWithParam<Call> {};
 
 const Call calls[] = {
-    {"NoVerb", {}, usage_error("no verb")},
+    {"NoVerb", {"--"}, usage_error("no verb")},
     {"UnknownVerb", {"shwo"}, usage_error("unknown verb 'shwo'; did you mean 'show'?")},
     {"UnknownVerbLikeNone",
      {"frobnicate", "water.qin", "--json"},

@@ -43,7 +43,9 @@ const Row rows[] = {
     {"ANumberAsComment", "1\n7\nHe 0 0.5 -1.25\n", {helium}},
 };
 
-TEST_P(XyzFile, GivesItsAtoms) { EXPECT_EQ(read_xyz_atoms(GetParam().text), GetParam().atoms); }
+TEST_P(XyzFile, GivesItsAtoms) {
+  EXPECT_EQ(read_xyz_structure(GetParam().text).atoms, GetParam().atoms);
+}
 
 INSTANTIATE_TEST_SUITE_P(Table, XyzFile, testing::ValuesIn(rows),
                          [](const auto& row) { return std::string(row.param.name); });
@@ -82,12 +84,12 @@ const BadRow bad_rows[] = {
     {"SymbolWithTheCharacterAfterSmallZ", "1\n\nH{ 0 0 0\n", no_atom, 3},
     {"BlankLineBetweenAtoms", "2\n\nHe 0 0 0\n\nHe 0 0 1\n", no_atom, 4},
     {"ASecondStructure", "1\n\nHe 0 0 0\n1\n\nHe 0 0 1\n",
-     "more text after the last atom; only files with one structure can be read", 4},
+     "more text after the last atom; use --frame N for one of several structures", 4},
 };
 
 TEST_P(BadXyzFile, IsRefusedWithTheLine) {
   try {
-    read_xyz_atoms(GetParam().text);
+    read_xyz_structure(GetParam().text);
     FAIL() << "no exception";
   } catch (const Trouble& trouble) {
     EXPECT_EQ(std::string_view(trouble.what()), GetParam().complaint);
@@ -97,6 +99,71 @@ TEST_P(BadXyzFile, IsRefusedWithTheLine) {
 
 INSTANTIATE_TEST_SUITE_P(Table, BadXyzFile, testing::ValuesIn(bad_rows),
                          [](const auto& row) { return std::string(row.param.name); });
+
+constexpr std::string_view three_structures =
+    "1\nfirst\nHe 0 0 0\n\n2\nsecond\nH 0 0 1\nH 0 0 2\n1\nthird\nHe 0 0 3\n\n";
+
+TEST(XyzTrajectory, GivesTheStructureThatIsAskedFor) {
+  struct Expected {
+    int frame;
+    std::vector<AtomRecord> atoms;
+    std::size_t first_line;
+  };
+  const std::vector<Expected> all = {
+      {1, {{"He", 0, 0, 0}}, 3},
+      {2, {{"H", 0, 0, 1}, {"H", 0, 0, 2}}, 7},
+      {3, {{"He", 0, 0, 3}}, 11},
+      {-1, {{"He", 0, 0, 3}}, 11},
+      {-2, {{"H", 0, 0, 1}, {"H", 0, 0, 2}}, 7},
+      {-3, {{"He", 0, 0, 0}}, 3},
+  };
+  for (const Expected& expected : all) {
+    const XyzStructure found = read_xyz_structure(three_structures, expected.frame);
+    EXPECT_EQ(found.atoms, expected.atoms) << expected.frame;
+    EXPECT_EQ(found.first_line, expected.first_line) << expected.frame;
+  }
+}
+
+std::string complaint_about(std::string_view text, int frame) {
+  try {
+    read_xyz_structure(text, frame);
+  } catch (const Trouble& trouble) {
+    const std::string line = trouble.line() ? std::to_string(*trouble.line()) + ": " : "";
+    return line + trouble.what();
+  }
+  return {};
+}
+
+TEST(XyzTrajectory, IsReadOnlyAsFarAsNeeded) {
+  const std::string cut_off = "1\n\nHe 0 0 0\nmore text\n";
+  EXPECT_EQ(complaint_about(cut_off, 1), "");
+  EXPECT_EQ(complaint_about(cut_off, 2),
+            "4: the next structure does not begin with the number of its atoms, 1 or more");
+  EXPECT_EQ(complaint_about(cut_off, -1),
+            "4: the next structure does not begin with the number of its atoms, 1 or more");
+}
+
+TEST(XyzTrajectory, HasNoStructureBeforeTheFirstOrAfterTheLast) {
+  EXPECT_EQ(complaint_about(three_structures, 4),
+            "has no structure 4: there are only 3 structures");
+  EXPECT_EQ(complaint_about(three_structures, -4),
+            "has no structure -4: there are only 3 structures");
+  EXPECT_EQ(complaint_about("1\n\nHe 0 0 0\n", 2), "has no structure 2: there is only 1 structure");
+  EXPECT_EQ(complaint_about("2\n\nHe 0 0 0\nHe 0 0 1\n2\n\nHe 0 0 0\n", 2),
+            "5: has 1 atom instead of 2");
+}
+
+TEST(XyzTrajectory, GivesAllOfItsStructures) {
+  const std::vector<XyzStructure> all = read_xyz_structures(three_structures);
+  ASSERT_EQ(all.size(), 3U);
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    const XyzStructure one = read_xyz_structure(three_structures, static_cast<int>(i + 1));
+    EXPECT_EQ(all[i].atoms, one.atoms) << i;
+    EXPECT_EQ(all[i].first_line, one.first_line) << i;
+  }
+  EXPECT_THROW(read_xyz_structures(""), Trouble);
+  EXPECT_THROW(read_xyz_structures("1\n\nHe 0 0 0\nmore text\n"), Trouble);
+}
 
 }  // namespace
 }  // namespace kelp::input::quill::tool

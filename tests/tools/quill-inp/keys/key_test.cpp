@@ -15,8 +15,13 @@ namespace {
 std::string describe(const Key& key) {
   if (const auto* special = std::get_if<SpecialKey>(&key))
     return "special " + std::to_string(static_cast<int>(*special));
+  if (const auto* post = std::get_if<PostKey>(&key)) {
+    const std::string kind = "post " + std::to_string(static_cast<int>(post->kind));
+    return post->number ? kind + " number " + std::to_string(*post->number) : kind;
+  }
   const auto& command = std::get<CommandKey>(key);
   std::string text = "<" + command.command + ">";
+  if (command.position) text += " position " + std::to_string(*command.position);
   if (command.occurrence) text += " number " + std::to_string(*command.occurrence);
   if (command.parameter) text += " parameter <" + *command.parameter + ">";
   return text;
@@ -54,6 +59,22 @@ const Row rows[] = {
     {"Geometry", "@geometry", "special 2"},
     {"Files", "@files", "special 3"},
     {"Atoms", "@atoms", "special 4"},
+    {"Formula", "@formula", "special 5"},
+    {"AtomCount", "@natoms", "special 6"},
+    {"AtomConstraints", "@atom_constraints", "post 0"},
+    {"Bonds", "@bonds", "post 1"},
+    {"Angles", "@angles", "post 2"},
+    {"Dihedrals", "@dihedrals", "post 3"},
+    {"Scans", "@scans", "post 4"},
+    {"PostFiles", "@post_files", "post 5"},
+    {"RawText", "@raw", "post 6"},
+    {"OneAtomConstraint", "@atom_constraint[0]", "post 0 number 0"},
+    {"OneBond", "@bond[12]", "post 1 number 12"},
+    {"OneOfTheBonds", "@bonds[12]", "post 1 number 12"},
+    {"OnePostFile", "@post_file[1]", "post 5 number 1"},
+    {"OneLineOfRawText", "@raw[1]", "post 6 number 1"},
+    {"AnyCommand", "@commands[2]", "<> position 2"},
+    {"AParameterOfAnyCommand", R"(@commands[0].a\.b)", "<> position 0 parameter <a.b>"},
 };
 
 TEST_P(ParsedKey, IsTakenApart) { EXPECT_EQ(describe(parse_key(GetParam().text)), GetParam().key); }
@@ -94,6 +115,13 @@ const BadRow bad_rows[] = {
     {"NotANumber", "a[x]", bad_number},
     {"NumberThatIsTooLarge", "a[18446744073709551616]", bad_number},
     {"BackslashAtTheEnd", "a\\", bad_backslash},
+    {"CommandsWithoutANumber", "@commands", "a number in brackets must follow '@commands'"},
+    {"CommandsWithoutANumberInTheBrackets", "@commands[]", bad_number},
+    {"NoParameterOfAnyCommand", "@commands[1].", "there is no parameter name after '.'"},
+    {"TextAfterAnyCommand", "@commands[1]x", too_many},
+    {"ParameterOfABond", "@bond[1].x", too_many},
+    {"TwoNumbersOfABond", "@bond[1][2]", too_many},
+    {"BondsWithoutANumberInTheBrackets", "@bonds[x]", bad_number},
     {"BackslashBeforeALetter", "a\\b", bad_backslash},
 };
 
@@ -106,7 +134,8 @@ TEST_P(BadKey, IsRefusedWithTheReasonAndTheGrammar) {
         std::string(error.what()),
         "bad key '" + std::string(GetParam().text) + "': " + std::string(GetParam().reason) +
             "; a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, where "
-            "N counts from 0, or @charge, @multiplicity, @geometry, @files or @atoms");
+            "N counts from 0, or begins with '@', such as @charge, @bonds, @bond[N] or "
+            "@commands[N]");
   }
 }
 
@@ -126,6 +155,9 @@ TEST(SpecialKey, ThatIsUnknownGetsTheNearestOne) {
   EXPECT_EQ(complaint("@chrge"), "unknown key '@chrge'; did you mean '@charge'?");
   EXPECT_EQ(complaint("@Charge"), "unknown key '@Charge'; did you mean '@charge'?");
   EXPECT_EQ(complaint("@nothing"), "unknown key '@nothing'");
+  EXPECT_EQ(complaint("@bond"), "unknown key '@bond'; did you mean '@bonds'?");
+  EXPECT_EQ(complaint("@charge[0]"), "unknown key '@charge[0]'");
+  EXPECT_EQ(complaint("@command[0]"), "unknown key '@command[0]'; did you mean '@commands'?");
   EXPECT_EQ(complaint("@"), "unknown key '@'");
 }
 

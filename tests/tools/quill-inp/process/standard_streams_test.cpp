@@ -311,13 +311,24 @@ TEST(FilesThatAreNotRegular, AreRefused) {
             ended(2, "0 1\n", refusal("folder", "a folder") + refusal("pipe", "a pipe")));
 }
 
-TEST(FilesThatAreNotRegular, AreRefusedWhereOnlyALinkToThemHasAName) {
+TEST(PipesThatAProgramWritesTo, AreRead) {
   const TemporaryFolder folder;
   folder.write("a.qin", "0 1\n");
-  EXPECT_EQ(run_in(folder.path(), {"show", "/dev/stdin"}, "0 1\n"),
-            ended(2, "", refusal("/dev/stdin", "a pipe")));
-  EXPECT_EQ(run_in(folder.path(), {"fmt", "/dev/fd/0", "a.qin"}, "0 1\n"),
-            ended(2, "0 1\n", refusal("/dev/fd/0", "a pipe")));
+  EXPECT_EQ(run_in(folder.path(), {"get", "/dev/stdin", "@charge"}, "2 1\n"), ended(0, "2\n", ""));
+  EXPECT_EQ(run_in(folder.path(), {"fmt", "/dev/fd/0", "a.qin"}, "0 2\n"),
+            ended(0, "0 2\n0 1\n", ""));
+  EXPECT_EQ(run_in(folder.path(), {"get", "--max-size=3", "/dev/stdin", "@charge"}, "2 1\n"),
+            ended(2, "", "/dev/stdin: error: is larger than 3 bytes, see --max-size\n"));
+  const std::string slow =
+      "mkfifo pipe; (exec > pipe; sleep 0.1; printf '2 '; sleep 0.1; echo 1) & sleep 0.05\n"
+      "quill-inp get pipe @charge";
+  EXPECT_EQ(run_shell(folder.path(), slow), ended(0, "2\n", ""));
+}
+
+TEST(PipesThatAProgramWritesTo, CannotBeChangedInPlace) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(run_in(folder.path(), {"fmt", "-i", "/dev/fd/0"}, "0 1\n"),
+            ended(2, "", refusal("/dev/fd/0", "a pipe")));
 }
 
 TEST(UnreadableFiles, AreReportedAndTheOthersProcessed) {

@@ -48,6 +48,84 @@ const Call calls[] = {
      {"get", "-", "opt.x"},
      ended(0, "1\n", "<stdin>:1: note: 'opt' has 2 other parameters 'x'; the first is used\n"),
      "#opt(x=1, x, X = 2)\n0 1\n"},
+    {"PostProcessingLines",
+     {"get", "-", "@bonds", "@angles", "@dihedrals", "@atom_constraints", "@scans", "@post_files",
+      "@raw", "@bond[1]", "@raw[0]"},
+     ended(0,
+           "1 2\n3 4\n1 2 3\n1 2 3 4\n7\n1 2 0.1234567 5\n1 2 3 90 12\nout put\nmore  text\n3 4\n"
+           "more  text\n",
+           ""),
+     "XYZ a\nB 1 2\nc 7\n b 3 4\nA 1 2 3\nD 1 2 3 4\nS 1 2 0.1234567 5 \nS 1 2 3 90 12\n"
+     "POST out put\nmore  text\n"},
+    {"FormulaAndNumberOfAtoms",
+     {"get", "water.qin", "@formula", "@natoms"},
+     ended(0, "H2O\n3\n", "")},
+    {"NoFormulaOfAtomsInFiles",
+     {"get", "-", "@formula", "@natoms"},
+     ended(1, "",
+           "<stdin>: note: no match for '@formula'\n<stdin>: note: no match for '@natoms'\n"),
+     "XYZ a\n"},
+    {"NoSuchLine",
+     {"get", "-", "@bond[2]", "@scans", "@scan[0]", "@bond[0]"},
+     ended(1, "",
+           "<stdin>: note: no match for '@bond[2]': there are only 2 bond constraints, and [N] "
+           "counts from 0\n"
+           "<stdin>: note: no match for '@scans'\n<stdin>: note: no match for '@scan[0]'\n"),
+     "XYZ a\nB 1 2\nB 3 4\n"},
+    {"AnyCommandByItsNumber",
+     {"get", "-q", "-", "@commands[0]", "@commands[1]", "@commands[2].x", "@commands[2]"},
+     ended(0, "5\nflag\n1\n(x=1)\n", ""),
+     "# = 5\n#opt\n#opt(x=1)\n0 1\n"},
+    {"NoSuchCommand",
+     {"get", "-", "@commands[1]", "@commands[0].y"},
+     ended(1, "",
+           "<stdin>: note: no match for '@commands[1]': there is only 1 command, and [N] counts "
+           "from 0\n"
+           "<stdin>: note: no match for '@commands[0].y': the command has no parameter "
+           "'y'\n"),
+     "#opt(x=1)\n0 1\n"},
+    {"ADefaultForWhatIsMissing",
+     {"get", "water.qin", "--default=none", "model", "modle", "@scans", "opt.tight"},
+     ended(0, "m1\nnone\nnone\nflag\n", "")},
+    {"AnEmptyDefault", {"get", "--default=", "water.qin", "modle"}, ended(0, "\n", "")},
+    {"JsonTellsAFlagAValueAndNothingApart",
+     {"get", "--json", "-", "a", "b", "c", "d", "d.x", "d.y", "d.z"},
+     ended(1,
+           R"({"file": "<stdin>", "answers": [)"
+           R"({"key": "a", "command": {"name": "A", "kind": "flag"}}, )"
+           R"({"key": "b", "command": {"name": "b", "kind": "assignment", "value": "flag"}}, )"
+           R"({"key": "c", "missing": true}, )"
+           R"({"key": "d", "command": {"name": "d", "kind": "parameter_list", "parameters": )"
+           R"([{"name": "x"}, {"name": "y", "value": "1"}]}}, )"
+           R"({"key": "d.x", "parameter": {"name": "x"}}, )"
+           R"({"key": "d.y", "parameter": {"name": "y", "value": "1"}}, )"
+           R"({"key": "d.z", "missing": true}]})"
+           "\n",
+           "<stdin>: note: no match for 'c': no command 'c'\n"
+           "<stdin>: note: no match for 'd.z': the command has no parameter 'z'\n"),
+     "#A\n#b=flag\n#d(x, y=1)\n0 1\n"},
+    {"JsonOfTheOtherKeys",
+     {"get", "--json", "-", "@charge", "@multiplicity", "@geometry", "@atoms", "@formula",
+      "@natoms", "@bonds", "@raw", "@scan[0]"},
+     ended(0,
+           R"({"file": "<stdin>", "answers": [{"key": "@charge", "value": -1}, )"
+           R"({"key": "@multiplicity", "value": 2}, {"key": "@geometry", "value": "atoms"}, )"
+           R"({"key": "@atoms", "atoms": [{"symbol": "He", "x": 0.0, "y": 0.5, "z": 1.0}]}, )"
+           R"({"key": "@formula", "value": "He"}, {"key": "@natoms", "value": 1}, )"
+           R"({"key": "@bonds", "lines": [{"kind": "bond_constraint", "atom_indices": [1, 2]}]}, )"
+           R"({"key": "@raw", "lines": [{"kind": "raw", "raw_text": "text"}]}, )"
+           R"({"key": "@scan[0]", "lines": [{"kind": "scan", "atom_indices": [1, 2], )"
+           R"("scan_value": 1.5, "scan_steps": 3}]}]})"
+           "\n",
+           ""),
+     "-1 2\nHe 0 0.5 1\nB 1 2\ntext\nS 1 2 1.5 3\n"},
+    {"JsonOfFilesAndDefaults",
+     {"get", "--json", "--default", "0", "two_opts.qin", "-q", "@files", "@charge"},
+     ended(0,
+           R"({"file": "two_opts.qin", "answers": [{"key": "@files", "paths": ["a b.xyz", )"
+           R"("c.xyz"]}, {"key": "@charge", "missing": true, "value": "0"}]})"
+           "\n",
+           "")},
     {"NotesNothingForANumber",
      {"get", "-", "opt[0]", "opt[1].x"},
      ended(0, "(x=1)\n2\n", ""),
@@ -139,8 +217,7 @@ const Call calls[] = {
      ended(2, "",
            "quill-inp: error: bad key 'a[': a number and ']' must follow '['; a key is COMMAND, "
            "COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, where N counts from 0, or "
-           "@charge, "
-           "@multiplicity, @geometry, @files or @atoms\n"
+           "begins with '@', such as @charge, @bonds, @bond[N] or @commands[N]\n"
            "quill-inp: note: see 'quill-inp get --help'\n")},
 };
 

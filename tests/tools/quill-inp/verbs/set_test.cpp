@@ -38,8 +38,8 @@ std::string not_a_path(const std::string& option) {
 Outcome nameless(const std::string& key) {
   return usage_error("bad key '" + key +
                      "': there is no name; a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or "
-                     "COMMAND[N].PARAMETER, where N counts from 0, or @charge, @multiplicity, "
-                     "@geometry, @files or @atoms");
+                     "COMMAND[N].PARAMETER, where N counts from 0, or begins with '@', such as "
+                     "@charge, @bonds, @bond[N] or @commands[N]");
 }
 
 class Set : public testing::TestWithParam<Call> {};
@@ -297,16 +297,58 @@ const Call calls[] = {
      {"set", "water.qin", "@geometry=none"},
      usage_error("'@geometry' cannot be set to a value; use --atoms, --xyz or --trajectory")},
     {"WholeCommandByNumber",
-     {"set", "-q", "two_opts.qin", "opt[1]=5"},
-     ended(2, "",
-           "quill-inp: error: 'opt[1]': with a number, only COMMAND[N].PARAMETER=VALUE can be "
-           "set\n")},
+     {"set", "-", "--allow-loss", "opt[1]=5", "--flag", "freq[0]", "model[1]=c"},
+     ended(0, "#opt(x=1)\n#Opt = 5\n#freq\n#model=a\n#model = c\n0 1\n",
+           "<stdin>: warning: accepted loss: the command 'Opt' would lose its parameters\n"
+           "<stdin>: warning: accepted loss: the command 'freq' would lose its value '3'\n"),
+     "#opt(x=1)\n#Opt(y)\n#freq=3\n#model=a\n#model=b\n0 1\n"},
     {"BareParameterByNumber",
-     {"set", "-q", "two_opts.qin", "--flag", "opt[1].tight"},
-     ended(
-         2, "",
-         "quill-inp: error: 'opt[1].tight': with a number, only COMMAND[N].PARAMETER=VALUE can be "
-         "set\n")},
+     {"set", "-", "--flag", "opt[1].tight", "--flag", "opt[1].y"},
+     ended(0, "#opt(x=1)\n#Opt(y, tight)\n0 1\n", ""),
+     "#opt(x=1)\n#Opt(y)\n0 1\n"},
+    {"ATaskInPlaceOfAnother",
+     {"set", "-", "--replace-task", "SP=opt", "opt.maxiter=50", "--replace-task=freq[1]=ts"},
+     ended(0, "#opt(maxiter=50)\n#freq\n#ts(a=1)\n0 1\n", ""),
+     "#sp\n#freq\n#freq(a=1)\n0 1\n"},
+    {"ATaskThatIsNotThere",
+     {"set", "water.qin", "--replace-task", "sp=freq"},
+     ended(1, "", "water.qin: note: no match for 'sp': no command 'sp'\n")},
+    {"ATaskInPlaceOfNothing",
+     {"set", "water.qin", "--replace-task", "sp"},
+     usage_error("--replace-task takes two names of tasks, such as 'sp=opt', not 'sp'")},
+    {"ATaskInPlaceOfAParameter",
+     {"set", "water.qin", "--replace-task", "opt.tight=loose"},
+     usage_error(
+         "--replace-task takes two names of tasks, such as 'sp=opt', not 'opt.tight=loose'")},
+    {"NothingIsCreatedIfOnlyExistingIsSet",
+     {"set", "--existing", "water.qin", "modell=5", "opt.maxitr=1", "model=m2", "--flag", "sp"},
+     ended(1, "",
+           "water.qin: note: no match for 'modell': no command 'modell'; did you mean 'model'?\n"
+           "water.qin: note: no match for 'opt.maxitr': the command has no parameter 'maxitr'; did "
+           "you mean 'maxiter'?\n"
+           "water.qin: note: no match for 'sp': no command 'sp'\n")},
+    {"NoChargeLineIsCreatedIfOnlyExistingIsSet",
+     {"set", "--existing", "-", "@charge=1"},
+     ended(1, "", "<stdin>: note: no match for '@charge'\n"),
+     "#sp\nXYZ a\n"},
+    {"WhatExistsIsSet",
+     {"set", "--existing", "-", "@charge=1", "opt.x=2", "model=b"},
+     ended(0, "#opt(x=2)\n#model = b\n1 1\n", ""),
+     "#opt(x=1)\n#model=a\n0 1\n"},
+    {"ACommandWithoutAName",
+     {"set", "-", "@commands[0]=5", "@commands[1].z=2", "--flag", "@commands[2]"},
+     ended(0, "# = 5\n#opt(x=1, z=2)\n#sp\n0 1\n",
+           "<stdin>:1: warning: empty QUILL header command\n"),
+     "#\n#opt(x=1)\n#sp\n0 1\n"},
+    {"ACommandThatIsNotThere",
+     {"set", "-", "@commands[1]=5"},
+     ended(1, "",
+           "<stdin>: note: no match for '@commands[1]': there is only 1 command, and [N] counts "
+           "from 0\n"),
+     "#opt\n0 1\n"},
+    {"APostProcessingLine",
+     {"set", "water.qin", "@bond[0]=1,2"},
+     usage_error("'@bond[0]' cannot be set; 'unset' removes such lines, and 'add' adds them")},
     {"BadMaxChange",
      {"set", "--max-change", "-1", "water.qin", "model=a"},
      usage_error("--max-change takes a number that is 0 or larger, such as '1e-6', not '-1'")},
@@ -328,6 +370,25 @@ const Call calls[] = {
      {"set", "two_opts.qin", "--atoms", "water.qin"},
      ended(2, "",
            "water.qin:1: error: an XYZ file begins with the number of its atoms, 1 or more\n")},
+    {"AtomsOfTheLastStructure",
+     {"set", "-q", "bare.qin", "--atoms", "-", "--frame", "-1"},
+     ended(0, "#sp\n\nHe       0.000000      0.000000      2.000000\n", ""),
+     "1\n\nHe 0 0 1\n1\n\nHe 0 0 2\n"},
+    {"AnUnknownElementInASecondStructure",
+     {"set", "bare.qin", "--atoms", "-", "--frame=2"},
+     ended(0, "#sp\n\nD        0.000000      0.000000      2.000000\n",
+           "<stdin>:6: warning: unknown element symbol 'D'\n"
+           "bare.qin: warning: No QUILL coordinate section found\n"),
+     "1\n\nHe 0 0 1\n1\n\nD 0 0 2\n"},
+    {"AFrameOfNothing",
+     {"set", "water.qin", "--frame", "1", "model=a"},
+     usage_error("--frame needs --atoms")},
+    {"AFrameBeforeTheFirst",
+     {"set", "water.qin", "--atoms", "water.xyz", "--frame", "0"},
+     usage_error("--frame counts from 1, or from the end with -1")},
+    {"AFrameThatIsNoNumber",
+     {"set", "water.qin", "--atoms", "water.xyz", "--frame", "last"},
+     usage_error("--frame takes an integer, not 'last'")},
     {"AtomsThatAreNowhere",
      {"set", "water.qin", "--atoms", "-"},
      refused("atom 2 has a coordinate that is infinite or not a number"),

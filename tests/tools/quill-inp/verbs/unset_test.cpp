@@ -117,6 +117,38 @@ const Call calls[] = {
            "# Opt ( maxiter = 50 , tight )\r\n  0   1\r\n\r\no 0 0 0.117176\r\n"
            "h 0  0.75695 -0.468706\r\nh 0 -0.75695 -0.468706",
            "")},
+    {"PostProcessingLinesOfAKind",
+     {"unset", "-", "@bonds", "@raw"},
+     ended(0, "XYZ a\n\n\nC 1\n\n A  1 2 3\n", ""),
+     "XYZ a\n\nB 1 2\n\nC 1\nb 3 4\nmore\n\n A  1 2 3\n"},
+    {"OnePostProcessingLine",
+     {"unset", "-", "@bond[1]", "@scan[0]", "@bond[1]"},
+     ended(0, "XYZ a\nB 1 2\nB 5 6\nB 1 x\n",
+           "<stdin>:6: warning: ignored unrecognized QUILL post-processing line\n"),
+     "XYZ a\nB 1 2\nB 3 4\nB 5 6\nS 1 2 3.5 4\nB 1 x\n"},
+    {"AllLinesAndOneOfThem",
+     {"unset", "-", "@bond[0]", "@bonds"},
+     ended(0, "XYZ a\n", ""),
+     "XYZ a\nB 1 2\nB 3 4\n"},
+    {"ALineAfterWhichAnotherWouldBeAnAtom",
+     {"unset", "-", "@bond[0]"},
+     ended(
+         2, "",
+         "<stdin>:3: error: refused: line 3 would be read as an atom of element A, not as an angle "
+         "constraint; put another post-processing line before it to avoid that; use --allow-loss "
+         "to write it anyway\n"),
+     "0 1\nHe 0 0 0\nB 1 2\nA 1 2 3\n"},
+    {"NoSuchLine",
+     {"unset", "-", "@bond[0]", "@bond[1]", "@scans"},
+     ended(
+         1, "",
+         "<stdin>: note: no match for '@bond[1]': there is only 1 bond constraint, and [N] counts "
+         "from 0\n<stdin>: note: no match for '@scans'\n"),
+     "XYZ a\nB 1 2\n"},
+    {"AnyCommandByItsNumber",
+     {"unset", "-q", "-", "@commands[0]", "@commands[3].x", "a[0]", "@commands[1]"},
+     ended(0, "#\n#b(y)\n0 1\n", ""),
+     "#\n#a\n#\n#b(x=1, y)\n0 1\n"},
     {"NoMatch",
      {"unset", "water.qin", "opt.tigt"},
      ended(1, "",

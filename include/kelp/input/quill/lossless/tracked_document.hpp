@@ -42,6 +42,13 @@ class TrackedDocument : private InputEditor {
   KELP_QUILL_LOSSLESS_EXPORT bool remove_command(
       std::string_view name, std::optional<std::uint64_t> occurrence = std::nullopt);
 
+  /// Puts another command in the place of the one with this index, which keeps its origin.
+  KELP_QUILL_LOSSLESS_EXPORT void replace_command(std::size_t index, HeaderCommand command);
+
+  /// Removes post-processing lines. `is_removed` has an entry for each line of the document before
+  /// all edits. To be called at most once, and before lines are added.
+  KELP_QUILL_LOSSLESS_EXPORT void remove_post_commands(std::vector<bool> is_removed);
+
   /// Returns the document as it is now. The reference stays valid as long as this object.
   const QuillInput& document() const { return InputEditor::document(); }
 
@@ -49,9 +56,15 @@ class TrackedDocument : private InputEditor {
   /// for one that was added.
   KELP_QUILL_LOSSLESS_EXPORT std::vector<std::optional<std::size_t>> origins() const;
 
+  /// Returns whether the post-processing line with this index in the document before all edits was
+  /// removed. Those that were not are the first ones of the document, in their order.
+  KELP_QUILL_LOSSLESS_EXPORT bool is_post_command_removed(std::size_t index) const;
+
  private:
   /// Shorter than the list of commands if some were added: commands are only added at the end.
   std::vector<std::optional<std::size_t>> origins_;
+  /// Empty if none was removed.
+  std::vector<bool> is_post_command_removed_;
 };
 
 }  // namespace kelp::input::quill::lossless

@@ -1,4 +1,4 @@
-#include "quill-inp/summary/composition.hpp"
+#include "quill-inp/formats/composition.hpp"
 
 #include <map>
 

@@ -1,5 +1,5 @@
-#ifndef KELP_INPUT_QUILL_TOOL_SUMMARY_COMPOSITION_HPP
-#define KELP_INPUT_QUILL_TOOL_SUMMARY_COMPOSITION_HPP
+#ifndef KELP_INPUT_QUILL_TOOL_FORMATS_COMPOSITION_HPP
+#define KELP_INPUT_QUILL_TOOL_FORMATS_COMPOSITION_HPP
 
 #include <cstddef>
 #include <string>
@@ -23,4 +23,4 @@ std::string to_formula(const Composition& composition);
 
 }  // namespace kelp::input::quill::tool
 
-#endif  // KELP_INPUT_QUILL_TOOL_SUMMARY_COMPOSITION_HPP
+#endif  // KELP_INPUT_QUILL_TOOL_FORMATS_COMPOSITION_HPP
