@@ -11,7 +11,7 @@ _quill_inp_options() {
   local lines='--bond --angle --dihedral --atom --scan --post --raw'
   local general='--help -h --quiet -q --color --max-size --stdin-filename'
   case ${1:-} in
-    show) echo "--json --lines $files $general" ;;
+    show) echo "--json --lines --strict $files $general" ;;
     fmt) echo "$write --check $loss $files $general" ;;
     set) echo "--flag --replace-task --existing $geometry $write $loss $files $general" ;;
     unset) echo "--key -k $write $loss $files $general" ;;
@@ -22,8 +22,8 @@ _quill_inp_options() {
     from-json) echo "$output $loss $general" ;;
     sweep) echo "--output -o --zip --atoms --frames --manifest --force --jobs -j $loss $general" ;;
     hash) echo "--check $loss $files $general" ;;
-    get) echo "--json --default --key -k --with-filename --no-filename $files $general" ;;
-    json) echo "$files $general" ;;
+    get) echo "--json --default --strict --key -k --with-filename --no-filename $files $general" ;;
+    json) echo "--strict $files $general" ;;
     lint) echo "--format --fail-on --select --ignore --statistics --fix --diff $files $general" ;;
     explain | help) echo "$general" ;;
     *) echo '--help -h --version' ;;

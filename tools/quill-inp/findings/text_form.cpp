@@ -6,6 +6,7 @@
 
 #include "lint/lint.hpp"
 #include "lint/wording.hpp"
+#include "quill-inp/text/colors.hpp"
 #include "quill-inp/text/terminal_text.hpp"
 
 namespace kelp::input::quill::tool {
@@ -17,8 +18,8 @@ constexpr std::size_t most_before = 80;  // bytes of a long line that are shown 
 constexpr std::size_t most_after = 80;   // and from its beginning on
 
 std::string_view color_of(lint::Severity severity) {
-  if (severity == lint::Severity::Error) return "\x1b[1;31m";
-  return severity == lint::Severity::Warning ? "\x1b[1;35m" : "\x1b[1;36m";
+  if (severity == lint::Severity::Error) return error_color;
+  return severity == lint::Severity::Warning ? warning_color : note_color;
 }
 
 /// Whether a byte continues a character of UTF-8.
@@ -54,9 +55,7 @@ std::string head_of(const FileReport& report, const lint::Finding& finding,
   const lint::Severity severity = lint::find_rule(finding.code)->severity;
   std::string text = shown_on_one_line(report.name) + ":" + std::to_string(place.line) + ":" +
                      std::to_string(place.column) + ": ";
-  if (is_colored) text += color_of(severity);
-  text += std::string(lint::name_of(severity)) + ":";
-  if (is_colored) text += "\x1b[m";
+  text += colored(std::string(lint::name_of(severity)) + ":", color_of(severity), is_colored);
   return text + " " + shown_on_one_line(message) + " [" + std::string(finding.code) + "]\n";
 }
 

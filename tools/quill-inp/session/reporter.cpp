@@ -1,5 +1,6 @@
 #include "quill-inp/session/reporter.hpp"
 
+#include "quill-inp/text/colors.hpp"
 #include "quill-inp/text/terminal_text.hpp"
 #include "reader/diagnostics.hpp"
 
@@ -9,15 +10,15 @@ Reporter::Reporter(std::ostream& stream, bool is_quiet, bool is_colored)
     : stream_(stream), is_quiet_(is_quiet), is_colored_(is_colored) {}
 
 void Reporter::error(const Place& place, std::string_view message) {
-  write(place, "error:", "\x1b[1;31m", message);
+  write(place, "error:", error_color, message);
 }
 
 void Reporter::warning(const Place& place, std::string_view message) {
-  if (!is_quiet_) write(place, "warning:", "\x1b[1;35m", message);
+  if (!is_quiet_) write(place, "warning:", warning_color, message);
 }
 
 void Reporter::note(const Place& place, std::string_view message) {
-  if (!is_quiet_) write(place, "note:", "\x1b[1;36m", message);
+  if (!is_quiet_) write(place, "note:", note_color, message);
 }
 
 void Reporter::write(const Place& place, std::string_view severity, std::string_view color,
@@ -25,9 +26,7 @@ void Reporter::write(const Place& place, std::string_view severity, std::string_
   std::string text = shown_on_one_line(place.name);
   if (place.line) text += ":" + std::to_string(*place.line);
   text += ": ";
-  if (is_colored_) text += color;
-  text += severity;
-  if (is_colored_) text += "\x1b[m";
+  text += colored(severity, color, is_colored_);
   text += ' ';
   text += shown_on_one_line(message);
   text += '\n';

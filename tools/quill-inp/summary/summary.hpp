@@ -8,11 +8,18 @@
 
 namespace kelp::input::quill::tool {
 
+/// How to show a summary to a person.
+struct SummaryStyle {
+  bool is_colored = false;
+  bool has_warnings = true;
+};
+
 /// Returns what a person wants to know of the input that was read from `name`: a line with the
 /// name, and one line for each task, the model, the device, other commands, charge and
 /// multiplicity, the geometry with its composition, each file, constraint, scan and raw line, and
-/// each warning. Bytes that a terminal would obey are escaped.
-std::string summary_text(const std::string& name, const ParseResult& result);
+/// each warning if they are wanted. Bytes that a terminal would obey are escaped.
+std::string summary_text(const std::string& name, const ParseResult& result,
+                         const SummaryStyle& style);
 
 /// Writes the same as data: a JSON object on one line.
 void write_summary_json(const std::string& name, const ParseResult& result,

@@ -8,6 +8,7 @@
 #include "quill-inp/formats/composition.hpp"
 #include "quill-inp/summary/command_roles.hpp"
 #include "quill-inp/summary/summary.hpp"
+#include "quill-inp/text/colors.hpp"
 #include "quill-inp/text/counted.hpp"
 #include "quill-inp/text/terminal_text.hpp"
 #include "reader/diagnostics.hpp"
@@ -21,9 +22,11 @@ constexpr std::size_t label_width = 14;
 /// Rows of a label and a text.
 class Rows {
  public:
-  void add(std::string_view label, std::string_view text) {
+  explicit Rows(bool is_colored) : is_colored_(is_colored) {}
+
+  void add(std::string_view label, std::string_view text, std::string_view color = label_color) {
     text_ += "  ";
-    text_ += label;
+    text_ += colored(label, color, is_colored_);
     text_.append(label_width - label.size(), ' ');
     text_ += shown_on_one_line(text);
     text_ += '\n';
@@ -32,7 +35,8 @@ class Rows {
   const std::string& text() const { return text_; }
 
  private:
-  std::string text_;
+  bool is_colored_;
+  std::string text_ = {};
 };
 
 /// Returns a command as it would be in a file, with quotes where they are needed.
@@ -115,18 +119,21 @@ void add_post_command(Rows& rows, const PostCommand& command) {
 void add_warning(Rows& rows, const DiagnosticParts& warning) {
   const std::string place =
       warning.line ? "line " + std::to_string(*warning.line) + ": " : std::string();
-  rows.add("warning", place + std::string(warning.message));
+  rows.add("warning", place + std::string(warning.message), warning_color);
 }
 
 }  // namespace
 
-std::string summary_text(const std::string& name, const ParseResult& result) {
-  Rows rows;
+std::string summary_text(const std::string& name, const ParseResult& result,
+                         const SummaryStyle& style) {
+  Rows rows(style.is_colored);
   add_commands(rows, result.input);
   add_geometry(rows, result.input.geometry);
   for (const PostCommand& command : result.input.post_commands) add_post_command(rows, command);
-  for (const std::string& warning : result.warnings) add_warning(rows, split_diagnostic(warning));
-  return shown_on_one_line(name) + "\n" + rows.text();
+  if (style.has_warnings) {
+    for (const std::string& warning : result.warnings) add_warning(rows, split_diagnostic(warning));
+  }
+  return colored(shown_on_one_line(name), name_color, style.is_colored) + "\n" + rows.text();
 }
 
 }  // namespace kelp::input::quill::tool

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "quill-inp/text/colors.hpp"
 #include "quill-inp/text/line_matching.hpp"
 #include "quill-inp/text/terminal_text.hpp"
 
@@ -97,11 +98,11 @@ std::string header_line(std::string_view sign, std::string_view name) {
 std::string_view color_of(char sign) {
   switch (sign) {
     case '-':
-      return "\x1b[31m";
+      return removed_color;
     case '+':
-      return "\x1b[32m";
+      return added_color;
     case '@':
-      return "\x1b[36m";
+      return label_color;
     default:
       return {};
   }
@@ -135,9 +136,7 @@ std::string colored_diff(std::string_view diff) {
       out += line;
       continue;
     }
-    out += color;
-    out += line.substr(0, line.size() - 1);
-    out += "\x1b[m\n";
+    out += colored(line.substr(0, line.size() - 1), color, true) + "\n";
   }
   return out;
 }

@@ -8,6 +8,7 @@
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/file_options.hpp"
 #include "quill-inp/command_line/key_options.hpp"
+#include "quill-inp/command_line/reading_options.hpp"
 #include "quill-inp/editing/ambiguity_notes.hpp"
 #include "quill-inp/formats/json_writer.hpp"
 #include "quill-inp/keys/ambiguity.hpp"
@@ -70,6 +71,7 @@ struct Question {
   std::vector<TypedKey> keys = {};
   std::optional<std::string> default_text = std::nullopt;
   bool as_json = false;
+  Warnings warnings = Warnings::DoNotCount;
   bool has_name = false;
 };
 
@@ -132,8 +134,9 @@ ExitCode get_from_file(Session& session, const std::string& argument, const Ques
   for (const TypedKey& key : question.keys)
     add_ambiguities(input.read.result.input, key.key, ambiguities);
   for (const Ambiguity& ambiguity : ambiguities) note_ambiguity(session, input, ambiguity);
-  return question.as_json ? print_json(session, input, question)
-                          : print_lines(session, input, question);
+  const ExitCode code = question.as_json ? print_json(session, input, question)
+                                         : print_lines(session, input, question);
+  return worse_of(code, code_of(input.read.result, question.warnings));
 }
 
 /// Whether to print names of files: as the user wants it, or if an answer may be of several files.
@@ -147,7 +150,8 @@ bool prints_names(const CLI::App& app, const ChosenFiles& files) {
 
 ExitCode get(Session& session, const CLI::App& app) {
   const FilesAndKeys given = read_files_and_keys(app);
-  Question question{parse_keys(given.keys), value_of(app, default_text), is_given(app, as_json)};
+  Question question{parse_keys(given.keys), value_of(app, default_text), is_given(app, as_json),
+                    read_warnings_option(app)};
   const BatchOptions options = read_batch_options(app);
   const ChosenFiles files = choose_files(session, read_file_choice(app, given.files));
   question.has_name = prints_names(app, files);
@@ -165,6 +169,7 @@ Verb add_get(CLI::App& program) {
   add_value(*app, default_text);
   add_flag(*app, with_filename);
   add_flag(*app, no_filename);
+  add_reading_options(*app);
   add_file_options(*app);
   add_common_options(*app);
   return {app, get};
