@@ -43,13 +43,18 @@ std::chrono::seconds parse_patience(const std::string& text) {
   return std::chrono::seconds(seconds);
 }
 
+void show_difference(Session& session, const ReadInput& input, std::string_view new_text) {
+  session.output().write_diff(unified_diff(input.name, input.read.text, new_text),
+                              session.options().color);
+  if (differ_only_in_line_ends(input.read.text, new_text))
+    session.reporter().note({input.name}, "only line ends change");
+}
+
 ExitCode tell_difference(Session& session, const ReadInput& input, std::string_view new_text,
                          const Delivery& delivery) {
   if (input.read.text == new_text) return ExitCode::Done;
   if (delivery.as_check) session.output().write(input.name + "\n");
-  if (delivery.as_diff)
-    session.output().write_diff(unified_diff(input.name, input.read.text, new_text),
-                                session.options().color);
+  if (delivery.as_diff) show_difference(session, input, new_text);
   return ExitCode::No;
 }
 

@@ -43,11 +43,13 @@ void Output::begin_part() {
 }
 
 void Output::write_diff(std::string_view diff, ColorMode mode) {
-  if (wants_color(mode, file_)) {
-    write_shown(colored_diff(shown_as_lines(diff)));
-  } else {
-    write(diff);
+  const bool is_colored = wants_color(mode, file_);
+  if (!is_colored && !is_terminal(file_)) {
+    write_shown(diff);
+    return;
   }
+  const std::string shown = shown_diff(diff);
+  write_shown(is_colored ? colored_diff(shown) : shown);
 }
 
 bool Output::goes_into(const struct stat& file) const {

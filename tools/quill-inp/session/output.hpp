@@ -34,7 +34,8 @@ class Output {
   void begin_part();
   bool has_begun_part() const { return has_begun_part_; }
 
-  /// Writes a diff, in colour if `mode` asks for that.
+  /// Writes a diff: for people on a terminal or in colour, if `mode` asks for that, and byte for
+  /// byte otherwise, so that it can be applied.
   void write_diff(std::string_view diff, ColorMode mode);
 
   /// Returns whether data goes into the regular file with this state. Anything else, such as a

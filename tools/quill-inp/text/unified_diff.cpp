@@ -94,6 +94,48 @@ std::string header_line(std::string_view sign, std::string_view name) {
   return line;
 }
 
+bool is_changed(std::string_view line) { return line.front() == '-' || line.front() == '+'; }
+
+/// Whether a line belongs to the changed lines around it: it is one, or says how the last one ends.
+bool is_of_change(std::string_view line) { return is_changed(line) || line.front() == '\\'; }
+
+constexpr std::string_view dos_end = "\r\n";
+
+bool has_dos_end(std::string_view line) {
+  return line.size() >= dos_end.size() && line.substr(line.size() - dos_end.size()) == dos_end;
+}
+
+/// Returns whether some of the changed lines end in "\r\n" and some do not.
+bool has_several_line_ends(const std::string_view* first, const std::string_view* last) {
+  const auto ends_otherwise = [&](std::string_view line) {
+    return is_changed(line) && has_dos_end(line) != has_dos_end(*first);
+  };
+  return std::any_of(first, last, ends_otherwise);
+}
+
+void append_shown(std::string& out, std::string_view line, bool shows_line_ends) {
+  if (shows_line_ends && has_dos_end(line)) {
+    out += shown_as_lines(line.substr(0, line.size() - dos_end.size())) + "\\r\n";
+  } else {
+    out += shown_as_lines(line);
+  }
+}
+
+/// Returns the first line after those that are changed together with `first`.
+const std::string_view* end_of_change(const std::string_view* first, const std::string_view* end) {
+  return std::find_if_not(first, end, is_of_change);
+}
+
+std::string with_unix_ends(std::string_view text) {
+  std::string result;
+  for (const std::string_view line : split_with_ends(text)) {
+    const bool has_cr = has_dos_end(line);
+    result += line.substr(0, line.size() - (has_cr ? dos_end.size() : 0));
+    if (has_cr) result += '\n';
+  }
+  return result;
+}
+
 /// Returns the colour of a line that begins with `sign`, or nothing for a line of context.
 std::string_view color_of(char sign) {
   switch (sign) {
@@ -128,6 +170,22 @@ std::string unified_diff(std::string_view name, std::string_view old_text,
   return out;
 }
 
+std::string shown_diff(std::string_view diff) {
+  const Lines lines = split_with_ends(diff);
+  const std::string_view* const end = lines.data() + lines.size();
+  std::string out;
+  for (const std::string_view* line = lines.data(); line != end;) {
+    if (!is_changed(*line)) {
+      append_shown(out, *line++, false);
+      continue;
+    }
+    const std::string_view* const last = end_of_change(line, end);
+    const bool shows_line_ends = has_several_line_ends(line, last);
+    for (; line != last; ++line) append_shown(out, *line, shows_line_ends);
+  }
+  return out;
+}
+
 std::string colored_diff(std::string_view diff) {
   std::string out;
   for (const std::string_view line : split_with_ends(diff)) {
@@ -139,6 +197,10 @@ std::string colored_diff(std::string_view diff) {
     out += colored(line.substr(0, line.size() - 1), color, true) + "\n";
   }
   return out;
+}
+
+bool differ_only_in_line_ends(std::string_view old_text, std::string_view new_text) {
+  return old_text != new_text && with_unix_ends(old_text) == with_unix_ends(new_text);
 }
 
 }  // namespace kelp::input::quill::tool

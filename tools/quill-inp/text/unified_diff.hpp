@@ -13,8 +13,15 @@ namespace kelp::input::quill::tool {
 std::string unified_diff(std::string_view name, std::string_view old_text,
                          std::string_view new_text);
 
-/// Returns such a difference in colour: removed lines red, added lines green, positions cyan.
+/// Returns such a difference for people, escaped as by shown_as_lines(). Where lines take the place
+/// of lines with other line ends, nobody could see why, so "\r\n" is shown as "\r" and a line end.
+std::string shown_diff(std::string_view diff);
+
+/// Returns a difference in colour: removed lines red, added lines green, positions cyan.
 std::string colored_diff(std::string_view diff);
+
+/// Returns whether two different texts would be the same if "\r\n" and "\n" were.
+bool differ_only_in_line_ends(std::string_view old_text, std::string_view new_text);
 
 }  // namespace kelp::input::quill::tool
 

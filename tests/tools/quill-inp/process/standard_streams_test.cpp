@@ -277,6 +277,24 @@ TEST(Terminals, GetNoColourWhereItIsNotWanted) {
   EXPECT_NE(run_program(request).out, plain);
 }
 
+TEST(Terminals, ShowLineEndsThatChange) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "#sp\r\n\n0 1\nHe       0.000000      0.000000      0.000000\n");
+  Request request = call(folder, {"fmt", "--diff", "a.qin"});
+  const std::string note = "a.qin: note: only line ends change\n";
+  const std::string context = " \n 0 1\n He       0.000000      0.000000      0.000000\n";
+  const std::string head = "--- a.qin\n+++ a.qin\n@@ -1,4 +1,4 @@\n";
+  EXPECT_EQ(run_program(request), ended(1, head + "-#sp\r\n+#sp\n" + context, note));
+  request.out = Connection::Terminal;
+  request.environment = {{"TERM", "xterm"}, {"NO_COLOR", "1"}};
+  std::string shown;
+  for (const char c : head + "-#sp\\r\n+#sp\n" + context) {
+    if (c == '\n') shown += '\r';
+    shown += c;
+  }
+  EXPECT_EQ(run_program(request), ended(1, shown, note));
+}
+
 TEST(Terminals, GetUsageErrorsAsTheyAreWanted) {
   const TemporaryFolder folder;
   folder.write("a.qin", "0  1\n");

@@ -71,6 +71,49 @@ TEST(ColoredDiff, ColoursWholeLines) {
       "\x1B[31m-b\x1B[m\n\x1B[32m+c\x1B[m\n\\ No newline at end of file\n");
 }
 
+struct ShownRow {
+  std::string_view name;
+  std::string_view diff;
+  std::string_view shown;
+};
+
+class ShownDiff : public testing::TestWithParam<ShownRow> {};
+
+const ShownRow shown_rows[] = {
+    {"NoLines", "", ""},
+    {"ALineEndThatChanges", "--- f\n+++ f\n@@ -1 +1 @@\n-a\r\n+a\n",
+     "--- f\n+++ f\n@@ -1 +1 @@\n-a\\r\n+a\n"},
+    {"ALineEndThatIsNew", "-a\n+a\r\n", "-a\n+a\\r\n"},
+    {"ALineWithTheSameEnd", " a\r\n-b\r\n+c\r\n a\r\n", " a\r\n-b\r\n+c\r\n a\r\n"},
+    {"ChangesThatLinesPart", "-a\n+b\n a\n-a\r\n+b\r\n", "-a\n+b\n a\n-a\r\n+b\r\n"},
+    {"OnlyTheChangeWithTwoKindsOfEnds", "-a\r\n+b\r\n a\n-a\r\n+b\n",
+     "-a\r\n+b\r\n a\n-a\\r\n+b\n"},
+    {"ContextHasItsOwnEnds", " a\r\n-b\n+c\n", " a\r\n-b\n+c\n"},
+    {"ALastLineWithoutAnEnd", "-a\r\n+a\n\\ No newline at end of file\n",
+     "-a\\r\n+a\n\\ No newline at end of file\n"},
+    {"TheWordsAboutTheEndAreNoLine", "-a\r\n\\ No newline at end of file\n+b\r\n",
+     "-a\r\n\\ No newline at end of file\n+b\r\n"},
+    {"WhatATerminalWouldObey", "-a\x1B\r\n+a\rb\n", "-a\\x1b\\r\n+a\\rb\n"},
+    {"AnEmptyLine", "-\r\n+\n", "-\\r\n+\n"},
+};
+
+TEST_P(ShownDiff, ShowsLineEndsThatChange) {
+  EXPECT_EQ(shown_diff(GetParam().diff), GetParam().shown);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, ShownDiff, testing::ValuesIn(shown_rows),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(LineEnds, AreAllThatDiffers) {
+  EXPECT_TRUE(differ_only_in_line_ends("a\r\nb\r\n", "a\nb\n"));
+  EXPECT_TRUE(differ_only_in_line_ends("a\nb\r\n", "a\r\nb\n"));
+  EXPECT_FALSE(differ_only_in_line_ends("a\r\n", "a\r\n"));
+  EXPECT_FALSE(differ_only_in_line_ends("a\r\nb", "a\nc"));
+  EXPECT_FALSE(differ_only_in_line_ends("a\r\n", "a"));
+  EXPECT_FALSE(differ_only_in_line_ends("a\rb\n", "a\nb\n"));
+  EXPECT_FALSE(differ_only_in_line_ends("a\r", "a\n"));
+}
+
 using Lines = std::vector<std::string_view>;
 
 /// The length of the longest common subsequence, by the plain quadratic recurrence.
