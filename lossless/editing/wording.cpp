@@ -279,4 +279,26 @@ std::string words(const QuotingProblem& problem) {
          (problem.is_due_to_next_parameter ? " with another parameter after it" : "");
 }
 
+std::string words(const XyzProblem& problem) {
+  const bool is_one = problem.found == 1;
+  const std::string found = std::to_string(problem.found);
+  switch (problem.kind) {
+    case XyzProblem::Kind::NoCount:
+      break;
+    case XyzProblem::Kind::NoNextCount:
+      return "the next structure does not begin with the number of its atoms, 1 or more";
+    case XyzProblem::Kind::TooFewAtoms:
+      return "has " + found + (is_one ? " atom" : " atoms") + " instead of " +
+             std::to_string(problem.wanted);
+    case XyzProblem::Kind::NoAtom:
+      return "expected an atom, a symbol and three coordinates";
+    case XyzProblem::Kind::TextAfterEnd:
+      return "more text after the last atom";
+    case XyzProblem::Kind::NoSuchFrame:
+      return "has no structure " + std::to_string(problem.frame) + ": there " +
+             (is_one ? "is only 1 structure" : "are only " + found + " structures");
+  }
+  return "an XYZ file begins with the number of its atoms, 1 or more";
+}
+
 }  // namespace kelp::input::quill::lossless

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "kelp/chem/elements.hpp"
+#include "kelp/input/quill/lossless/wording.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/post_options.hpp"
-#include "quill-inp/formats/xyz_file.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/session/input_source.hpp"
 
@@ -20,6 +20,9 @@ namespace kelp::input::quill::tool {
 namespace {
 
 using lossless::TrackedDocument;
+using lossless::XyzFrame;
+using lossless::XyzProblem;
+using lossless::XyzReading;
 
 constexpr Option atoms_option{"--atoms", "FILE.xyz",
                               "Copy the atoms of an XYZ file into the input"};
@@ -28,27 +31,34 @@ constexpr Option frame_option{"--frame", "N",
 constexpr Option xyz_option{"--xyz", "PATH", "Refer to XYZ files"};
 constexpr Option trajectory_option{"--trajectory", "PATH", "Refer to an XYZ trajectory"};
 
-void warn_of_unknown_elements(Session& session, const std::string& name,
-                              const XyzStructure& structure) {
-  for (std::size_t i = 0; i < structure.atoms.size(); ++i) {
-    const std::string& symbol = structure.atoms[i].symbol;
+void warn_of_unknown_elements(Session& session, const std::string& name, const XyzFrame& frame) {
+  for (std::size_t i = 0; i < frame.atoms.size(); ++i) {
+    const std::string& symbol = frame.atoms[i].symbol;
     if (!chem::elements::atomic_number_from_symbol(symbol)) {
-      session.reporter().warning({name, structure.first_line + i},
+      session.reporter().warning({name, frame.first_atom_line + i},
                                  "unknown element symbol '" + symbol + "'");
     }
   }
 }
 
-/// What to take from the text of an XYZ file; it is not empty.
-using ReadStructures = std::function<std::vector<XyzStructure>(std::string_view)>;
+[[noreturn]] void throw_trouble(const XyzProblem& problem) {
+  const bool has_more = problem.kind == XyzProblem::Kind::TextAfterEnd;
+  const char* const cure = has_more ? "; use --frame N for one of several structures" : "";
+  throw Trouble(words(problem) + cure,
+                problem.line == 0 ? std::nullopt : std::optional(problem.line));
+}
 
-std::vector<XyzStructure> read_from(Session& session, const std::string& argument,
-                                    const ReadStructures& read) {
+/// What to take from the text of an XYZ file.
+using ReadFrames = std::function<XyzReading(std::string_view)>;
+
+std::vector<XyzFrame> read_from(Session& session, const std::string& argument,
+                                const ReadFrames& read) {
   try {
     const InputSource source = read_source(session, argument);
-    std::vector<XyzStructure> structures = read(source.content);
-    warn_of_unknown_elements(session, source.name, structures.front());
-    return structures;
+    XyzReading reading = read(source.content);
+    if (reading.problem) throw_trouble(*reading.problem);
+    warn_of_unknown_elements(session, source.name, reading.frames.front());
+    return std::move(reading.frames);
   } catch (const Trouble& trouble) {
     session.report(argument, trouble);
     throw ReportedTrouble();
@@ -56,10 +66,10 @@ std::vector<XyzStructure> read_from(Session& session, const std::string& argumen
 }
 
 /// Returns the structure that --frame names, or the only one in the file.
-XyzStructure read_structure(Session& session, const std::string& argument,
-                            std::optional<int> frame) {
+XyzFrame read_structure(Session& session, const std::string& argument, std::optional<int> frame) {
   const auto read = [&](std::string_view content) {
-    return std::vector<XyzStructure>{read_xyz_structure(content, frame)};
+    return frame ? lossless::read_xyz_frame(content, *frame)
+                 : lossless::read_only_xyz_frame(content);
   };
   return std::move(read_from(session, argument, read).front());
 }
@@ -84,9 +94,9 @@ const std::string& require_path(const Option& option, const std::string& text) {
   return text;
 }
 
-std::vector<XyzStructure> read_structures(Session& session, const std::string& argument,
-                                          bool wants_all_frames) {
-  if (wants_all_frames) return read_from(session, argument, read_xyz_structures);
+std::vector<XyzFrame> read_structures(Session& session, const std::string& argument,
+                                      bool wants_all_frames) {
+  if (wants_all_frames) return read_from(session, argument, lossless::read_xyz_frames);
   return {read_structure(session, argument, std::nullopt)};
 }
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "kelp/input/quill/lossless/tracked_document.hpp"
+#include "kelp/input/quill/lossless/xyz_frames.hpp"
 #include "quill-inp/command_line/arguments.hpp"
-#include "quill-inp/formats/xyz_file.hpp"
 #include "quill-inp/session/session.hpp"
 
 namespace kelp::input::quill::tool {
@@ -17,8 +17,8 @@ void add_geometry_options(CLI::App& verb);
 
 /// Returns the structure in an XYZ file, or every one if all frames are wanted. Warns of symbols of
 /// unknown elements. Throws ReportedTrouble for a file that cannot be read.
-std::vector<XyzStructure> read_structures(Session& session, const std::string& argument,
-                                          bool wants_all_frames);
+std::vector<lossless::XyzFrame> read_structures(Session& session, const std::string& argument,
+                                                bool wants_all_frames);
 
 /// Returns the text, which an option takes for a path. Throws UsageError for one that looks like a
 /// setting: an option that takes any number of paths takes settings after them, too.

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "quill-inp/formats/xyz_file.hpp"
+#include "kelp/input/quill/lossless/xyz_frames.hpp"
 #include "quill-inp/process/file_descriptor.hpp"
 #include "quill-inp/process/trouble.hpp"
 
@@ -36,7 +36,7 @@ std::optional<std::size_t> count_referenced_atoms(const std::string& folder,
                                                   const std::string& path) {
   const bool is_absolute = !path.empty() && path.front() == '/';
   const auto beginning = read_beginning(is_absolute ? path : folder + "/" + path);
-  return beginning ? find_xyz_count(*beginning) : std::nullopt;
+  return beginning ? lossless::find_xyz_count(*beginning) : std::nullopt;
 }
 
 }  // namespace kelp::input::quill::tool

@@ -99,7 +99,7 @@ std::vector<Structure> read_all_structures(Session& session, const Request& requ
   for (const std::string& file : request.structure_files) {
     std::size_t frame = 0;
     auto found = read_structures(session, file, request.has_frames);
-    for (XyzStructure& structure : found)
+    for (lossless::XyzFrame& structure : found)
       all.push_back({file, ++frame, found.size(), std::move(structure.atoms)});
   }
   return all;

@@ -360,7 +360,7 @@ const Call calls[] = {
      ended(2, "", "none.xyz: error: cannot be opened: No such file or directory\n")},
     {"TooFewAtoms",
      {"set", "water.qin", "--atoms", "-"},
-     ended(2, "", "<stdin>: error: has 1 atom instead of 2\n"),
+     ended(2, "", "<stdin>:1: error: has 1 atom instead of 2\n"),
      "2\n\nHe 0 0 0\n"},
     {"AnAtomThatIsNone",
      {"set", "-i", "water.qin", "--atoms=-", "--stdin-filename=b.xyz"},

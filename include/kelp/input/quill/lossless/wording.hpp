@@ -17,6 +17,7 @@
 #include "kelp/input/quill/lossless/input_doubt.hpp"
 #include "kelp/input/quill/lossless/proof.hpp"
 #include "kelp/input/quill/lossless/quoting.hpp"
+#include "kelp/input/quill/lossless/xyz_frames.hpp"
 
 namespace kelp::input::quill::lossless {
 
@@ -43,6 +44,10 @@ KELP_QUILL_LOSSLESS_EXPORT std::string words(const InputDoubt& doubt);
 
 /// Returns why a piece of a header command cannot be written.
 KELP_QUILL_LOSSLESS_EXPORT std::string words(const QuotingProblem& problem);
+
+/// Returns what is wrong with an XYZ file, without the line: "expected an atom, a symbol and three
+/// coordinates", "has 1 atom instead of 3".
+KELP_QUILL_LOSSLESS_EXPORT std::string words(const XyzProblem& problem);
 
 }  // namespace kelp::input::quill::lossless
 
