@@ -11,8 +11,11 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 cd "$scratch"
-touch water.qin
-export HOME=$scratch
+# shellcheck disable=SC2016 # the shells must not expand what is a name
+printf '#opt(maxiter=50, a.b)\n#opt\n#freq opt\n#odd`touch made`\n' >water.qin
+mkdir bin
+ln -s "$(realpath "$program")" bin/quill-inp
+export HOME=$scratch PATH=$scratch/bin:$PATH
 failures=0
 
 offers_of_bash() { bash "$here/offers_of_bash.sh" "$completions" "$@"; }
@@ -58,6 +61,31 @@ expect 'bash: when to use colour' $'auto\nalways\nnever' \
 expect 'bash: keys' $'@charge=\n@multiplicity=' "$(offers_of_bash quill-inp set water.qin @)"
 expect 'zsh: keys' $'@charge=\n@multiplicity=' "$(offers_of_zsh quill-inp set water.qin @)"
 expect 'fish: keys' $'@charge=\n@multiplicity=' "$(offers_of_fish quill-inp set water.qin @)"
+# The keys of an input; each shell quotes them in its own way.
+for verb in get unset; do
+  expect "bash: keys of a file for $verb" $'opt\nopt.maxiter\nopt.a\\\\.b\nopt\\[1\\]' \
+    "$(offers_of_bash quill-inp $verb water.qin opt)"
+  expect "zsh: keys of a file for $verb" $'opt\nopt.maxiter\nopt.a\\\\.b\nopt\\[1\\]' \
+    "$(offers_of_zsh quill-inp $verb water.qin opt)"
+  expect "fish: keys of a file for $verb" $'opt\nopt.maxiter\nopt.a\\.b\nopt[1]' \
+    "$(offers_of_fish quill-inp $verb water.qin opt)"
+done
+expect 'bash: keys to set' 'freq\ opt=' "$(offers_of_bash quill-inp set -q water.qin fre)"
+expect 'zsh: keys to set' 'freq\ opt=' "$(offers_of_zsh quill-inp set -q water.qin fre)"
+expect 'fish: keys to set' 'freq opt=' "$(offers_of_fish quill-inp set -q water.qin fre)"
+expect 'bash: keys for an option' $'opt\nopt.maxiter\nopt.a\\\\.b\nopt\\[1\\]' \
+  "$(offers_of_bash quill-inp get water.qin -k opt)"
+# shellcheck disable=SC2016
+expect 'bash: keys that a shell could expand' 'odd\`touch\ made\`' \
+  "$(offers_of_bash quill-inp get water.qin odd)"
+for shell in bash zsh fish; do
+  expect "$shell: no keys without a file" '' "$(offers_of_$shell quill-inp get none.qin opt)"
+done
+if [ -e made ]; then
+  echo "a key of a file was carried out" >&2
+  failures=$((failures + 1))
+fi
+
 expect 'fish: when to use colour' $'--color=always' "$(offers_of_fish quill-inp show --color=al)"
 
 if [ "$failures" -ne 0 ]; then

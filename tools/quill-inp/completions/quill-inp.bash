@@ -33,7 +33,7 @@ _quill_inp_options() {
 _quill_inp_keys() {
   local lines='@bonds @angles @dihedrals @atom_constraints @scans @post_files @raw'
   case ${1:-} in
-    get) echo "@charge @multiplicity @geometry @files @atoms @formula @natoms $lines" ;;
+    get) echo "@charge @multiplicity @geometry @files @atoms @formula @natoms @keys $lines" ;;
     set) echo '@charge= @multiplicity=' ;;
     unset) echo "@charge @multiplicity $lines" ;;
   esac
@@ -43,6 +43,29 @@ _quill_inp_keys() {
 _quill_inp_offer() {
   mapfile -t COMPREPLY < <(compgen -W "$1" -- "$2")
   if [[ ${#COMPREPLY[@]} -eq 1 && ${COMPREPLY[0]} == *= ]]; then compopt -o nospace 2>/dev/null; fi
+}
+
+# Prints the keys of the first input that is named before the word, one per line. They come from a
+# file of anybody, so the shell must not expand them.
+_quill_inp_keys_of_file() {
+  local file
+  for file in "${COMP_WORDS[@]:2:COMP_CWORD-2}"; do
+    if [[ -f $file ]]; then
+      "${COMP_WORDS[0]}" get -q -- "$file" @keys 2>/dev/null
+      return
+    fi
+  done
+}
+
+# Adds the keys of the input that begin with $2; those of 'set' get a '='.
+_quill_inp_offer_keys_of_file() {
+  local key ending=
+  if [[ $1 == set ]]; then ending='='; fi
+  while IFS= read -r key; do
+    printf -v key '%q' "$key$ending"
+    if [[ $key == "$2"* ]]; then COMPREPLY+=("$key"); fi
+  done < <(_quill_inp_keys_of_file)
+  if [[ $1 == set && ${#COMPREPLY[@]} -gt 0 ]]; then compopt -o nospace 2>/dev/null; fi
 }
 
 _quill_inp_files() {
@@ -75,7 +98,10 @@ _quill_inp() {
     --fail-on) _quill_inp_offer 'error warning info never' "$word" ;;
     --atoms | --xyz | --trajectory | --post | --files-from | --output | -o | --manifest) _quill_inp_files "$word" ;;
     --task) _quill_inp_offer 'sp opt ts freq irc scan' "$word" ;;
-    --key | -k) _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word" ;;
+    --key | -k)
+      _quill_inp_offer "$(_quill_inp_keys "$verb")" "$word"
+      _quill_inp_offer_keys_of_file "$verb" "$word"
+      ;;
     --flag | --replace-task | --default | --frame | --param | --model | --device | --charge | --multiplicity | --bond | --angle | --dihedral | \
       --atom | --scan | --raw | --glob | --select | --ignore | --jobs | -j | --max-change | --lock-timeout | --max-size | --stdin-filename) ;;
     *)
@@ -88,6 +114,9 @@ _quill_inp() {
           else
             _quill_inp_files "$word"
           fi
+          case $verb in
+            get | set | unset) _quill_inp_offer_keys_of_file "$verb" "$word" ;;
+          esac
           ;;
       esac
       ;;

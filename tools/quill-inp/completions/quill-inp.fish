@@ -1,5 +1,16 @@
 # Completion of quill-inp for fish.
 
+# Prints the keys of the first input that is named before the word, one per line.
+function __quill_inp_keys_of_file
+  set -l words (commandline -opc)
+  for word in $words[3..]
+    if test -f "$word"
+      $words[1] get -q -- $word @keys 2>/dev/null
+      return
+    end
+  end
+end
+
 set -l verbs show fmt get set unset add new sweep hash json from-json lint explain help
 set -l writing '__fish_seen_subcommand_from fmt set unset add'
 set -l choosing '__fish_seen_subcommand_from show fmt get set unset add hash json lint'
@@ -57,7 +68,7 @@ complete -c quill-inp -n $choosing -l glob -x -d 'With -r, take files like this'
 complete -c quill-inp -n $choosing -l files-from -r -d 'Read names of files from a list'
 complete -c quill-inp -n $choosing -s 0 -l null -d 'The names in the list end with NUL'
 complete -c quill-inp -n "$choosing; or __fish_seen_subcommand_from sweep" -s j -l jobs -x -d 'Work on so many files at once'
-complete -c quill-inp -n $keyed -s k -l key -x -d 'A key'
+complete -c quill-inp -n $keyed -s k -l key -xa '(__quill_inp_keys_of_file)' -d 'A key'
 complete -c quill-inp -n '__fish_seen_subcommand_from get' -l with-filename -d 'Print the name of the file before every line'
 complete -c quill-inp -n '__fish_seen_subcommand_from get' -l no-filename -d 'Never print the name of the file'
 
@@ -99,6 +110,8 @@ complete -c quill-inp -n $making -l charge -x -d 'The charge'
 complete -c quill-inp -n $making -l multiplicity -x -d 'The multiplicity'
 
 complete -c quill-inp -n '__fish_seen_subcommand_from get unset' -a '@charge @multiplicity'
-complete -c quill-inp -n '__fish_seen_subcommand_from get' -a '@geometry @files @atoms @formula @natoms'
+complete -c quill-inp -n '__fish_seen_subcommand_from get' -a '@geometry @files @atoms @formula @natoms @keys'
 complete -c quill-inp -n '__fish_seen_subcommand_from get unset' -a '@bonds @angles @dihedrals @atom_constraints @scans @post_files @raw'
 complete -c quill-inp -n '__fish_seen_subcommand_from set' -a '@charge= @multiplicity='
+complete -c quill-inp -n '__fish_seen_subcommand_from get unset' -a '(__quill_inp_keys_of_file)'
+complete -c quill-inp -n '__fish_seen_subcommand_from set' -a '(__quill_inp_keys_of_file | string replace -r \'$\' =)'

@@ -9,6 +9,7 @@
 #include "kelp/input/quill/writer.hpp"
 #include "quill-inp/formats/composition.hpp"
 #include "quill-inp/formats/document_names.hpp"
+#include "quill-inp/keys/key_list.hpp"
 #include "quill-inp/text/counted.hpp"
 #include "quill-inp/text/suggestion.hpp"
 
@@ -51,6 +52,11 @@ std::optional<std::string> atom_lines(const std::vector<AtomRecord>& atoms) {
   return lines.empty() ? std::nullopt : std::optional(joined_lines(lines));
 }
 
+std::optional<std::string> key_lines(const QuillInput& input) {
+  const std::vector<std::string> keys = list_keys(input);
+  return keys.empty() ? std::nullopt : std::optional(joined_lines(keys));
+}
+
 std::optional<std::string> find_answer(const QuillInput& input, SpecialKey key) {
   const GeometryBlock& geometry = input.geometry;
   const bool has_numbers = geometry.has_charge_and_multiplicity;
@@ -75,6 +81,8 @@ std::optional<std::string> find_answer(const QuillInput& input, SpecialKey key) 
       return geometry.kind == GeometryKind::Atoms
                  ? std::optional(std::to_string(geometry.atoms.size()))
                  : std::nullopt;
+    case SpecialKey::Keys:
+      return key_lines(input);
   }
   return std::nullopt;
 }

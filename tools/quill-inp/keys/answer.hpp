@@ -16,8 +16,8 @@ namespace kelp::input::quill::tool {
 /// Returns what `input` has under a key, as one or more lines: the value of an assignment or
 /// parameter, "flag" for a command or parameter without a value, the list in parentheses for a
 /// parameter list; for the special keys the number, the kind of geometry, the paths, the atoms with
-/// all digits, or their formula or number; for post-processing lines what comes after their
-/// keyword, with all digits. Returns nothing if the input does not have it.
+/// all digits, or their formula or number, or the keys of the input; for post-processing lines what
+/// comes after their keyword, with all digits. Returns nothing if the input does not have it.
 std::optional<std::string> answer(const QuillInput& input, const Key& key);
 
 /// Returns the command that a key names, or that has the parameter it names; a null pointer if

@@ -4,12 +4,14 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "quill-inp/formats/composition.hpp"
 #include "quill-inp/formats/document_json.hpp"
 #include "quill-inp/formats/document_names.hpp"
 #include "quill-inp/keys/answer.hpp"
+#include "quill-inp/keys/key_list.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -37,10 +39,10 @@ bool write_charge_line(JsonWriter& json, const GeometryBlock& geometry, std::int
   return geometry.has_charge_and_multiplicity;
 }
 
-bool write_paths(JsonWriter& json, const std::vector<std::string>& paths) {
-  if (paths.empty()) return false;
-  json.member("paths").begin_list(Layout::OneLine);
-  for (const std::string& path : paths) json.text(path);
+bool write_texts(JsonWriter& json, std::string_view name, const std::vector<std::string>& texts) {
+  if (texts.empty()) return false;
+  json.member(name).begin_list(Layout::OneLine);
+  for (const std::string& text : texts) json.text(text);
   json.end_list();
   return true;
 }
@@ -65,7 +67,7 @@ bool write_found(JsonWriter& json, const QuillInput& input, SpecialKey key) {
       if (geometry.kind != GeometryKind::None) json.member("value").text(name_of(geometry.kind));
       return geometry.kind != GeometryKind::None;
     case SpecialKey::Files:
-      return write_paths(json, geometry.xyz_files);
+      return write_texts(json, "paths", geometry.xyz_files);
     case SpecialKey::Atoms:
       return write_atoms(json, geometry.atoms);
     case SpecialKey::Formula:
@@ -74,6 +76,8 @@ bool write_found(JsonWriter& json, const QuillInput& input, SpecialKey key) {
     case SpecialKey::AtomCount:
       if (has_atoms) json.member("value").integer(static_cast<std::int64_t>(geometry.atoms.size()));
       return has_atoms;
+    case SpecialKey::Keys:
+      return write_texts(json, "keys", list_keys(input));
   }
   return false;
 }

@@ -23,7 +23,7 @@ constexpr SpecialName special_names[] = {
     {"@charge", SpecialKey::Charge},     {"@multiplicity", SpecialKey::Multiplicity},
     {"@geometry", SpecialKey::Geometry}, {"@files", SpecialKey::Files},
     {"@atoms", SpecialKey::Atoms},       {"@formula", SpecialKey::Formula},
-    {"@natoms", SpecialKey::AtomCount},
+    {"@natoms", SpecialKey::AtomCount},  {"@keys", SpecialKey::Keys},
 };
 
 constexpr std::string_view commands_name = "@commands";
@@ -192,6 +192,15 @@ std::vector<std::string> special_key_names() {
     names.push_back("@" + std::string(shape.keys));
   names.emplace_back(commands_name);
   return names;
+}
+
+std::string escaped_name(std::string_view name) {
+  std::string text;
+  for (const char c : name) {
+    if (escapable.find(c) != std::string_view::npos) text += '\\';
+    text += c;
+  }
+  return text;
 }
 
 std::string_view key_grammar() {

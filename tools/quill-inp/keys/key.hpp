@@ -37,6 +37,7 @@ enum class SpecialKey {
   Atoms,
   Formula,
   AtomCount,
+  Keys,
 };
 
 /// A command, by its name and its number among the commands with that name, counted from 0; or a
@@ -81,6 +82,10 @@ Setting parse_setting(std::string_view text);
 
 /// Returns how the keys that begin with "@" are written, "@charge" and so on, without numbers.
 std::vector<std::string> special_key_names();
+
+/// Returns how the name of a command or parameter is written in a key, with a backslash before the
+/// characters that have a special meaning.
+std::string escaped_name(std::string_view name);
 
 /// What a key looks like, in one sentence.
 std::string_view key_grammar();

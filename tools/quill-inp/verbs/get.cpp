@@ -27,11 +27,11 @@ constexpr const char* example =
     "  quill-inp get -k model -k @charge *.qin\n"
     "\n"
     "KEY is COMMAND, COMMAND.PARAMETER, COMMAND[N] or COMMAND[N].PARAMETER, where N counts\n"
-    "from 0; @commands[N] for the N-th of all commands; @charge, @multiplicity, @geometry,\n"
-    "@files, @atoms, @formula or @natoms; or @bonds, @angles, @dihedrals, @atom_constraints,\n"
-    "@scans, @post_files or @raw, and @bond[N] and so on for one of them. Put a backslash\n"
-    "before a '.', '[' or ']' that is part of a name. A command or parameter without a value\n"
-    "prints 'flag'.";
+    "from 0; @commands[N] for the N-th of all commands; @keys for all of these; @charge,\n"
+    "@multiplicity, @geometry, @files, @atoms, @formula or @natoms; or @bonds, @angles,\n"
+    "@dihedrals, @atom_constraints, @scans, @post_files or @raw, and @bond[N] and so on for\n"
+    "one of them. Put a backslash before a '.', '[' or ']' that is part of a name. A command or\n"
+    "parameter without a value prints 'flag'.";
 
 constexpr const char* help_of_keys = "What to print, in this order";
 constexpr Option with_filename{"--with-filename", "",

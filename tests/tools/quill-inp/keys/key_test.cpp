@@ -61,6 +61,7 @@ const Row rows[] = {
     {"Atoms", "@atoms", "special 4"},
     {"Formula", "@formula", "special 5"},
     {"AtomCount", "@natoms", "special 6"},
+    {"Keys", "@keys", "special 7"},
     {"AtomConstraints", "@atom_constraints", "post 0"},
     {"Bonds", "@bonds", "post 1"},
     {"Angles", "@angles", "post 2"},
