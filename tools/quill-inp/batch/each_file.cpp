@@ -1,4 +1,5 @@
 #include "quill-inp/batch/each_file.hpp"
+#include "quill-inp/batch/folder_walk.hpp"
 
 #include <chrono>
 #include <cstddef>
@@ -164,7 +165,13 @@ ExitCode for_file(Session& session, const std::string& argument,
 ExitCode for_each_file(Session& session, const ChosenFiles& files, const BatchOptions& options,
                        const FileAction& action) {
   return for_each_number(session, files, options, [&](Session& one, std::size_t number) {
-    return action(one, files.files[number]);
+    const std::string& file = files.files[number];
+    try {
+      return action(one, file);
+    } catch (const Trouble&) {
+      if (is_folder(file)) throw Trouble("is a folder; use --recursive to take the files in it");
+      throw;
+    }
   });
 }
 

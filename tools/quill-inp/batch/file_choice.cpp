@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <filesystem>
+#include <set>
 #include <string_view>
+#include <system_error>
+#include <utility>
 
 #include "quill-inp/batch/folder_walk.hpp"
 #include "quill-inp/process/trouble.hpp"
@@ -54,25 +58,44 @@ void append_folder(Session& session, const std::string& folder,
   chosen.files.insert(chosen.files.end(), found.begin(), found.end());
 }
 
+/// Keeps the first of several names that lead to the same file. Two hard links are two files: what
+/// is put in the place of one leaves the other as it was.
+void keep_each_once(std::vector<std::string>& files) {
+  std::set<std::string> paths;
+  const auto is_repeated = [&](const std::string& file) {
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::canonical(file, error);
+    return file != "-" && !error && !paths.insert(path.string()).second;
+  };
+  std::vector<std::string> kept;
+  for (std::string& file : files) {
+    if (!is_repeated(file)) kept.push_back(std::move(file));
+  }
+  files = std::move(kept);
+}
+
 }  // namespace
 
 ChosenFiles choose_files(Session& session, const FileChoice& choice) {
   ChosenFiles chosen;
+  std::vector<std::string> names;
   if (choice.list) {
     const char end = choice.list_has_nul_ends ? '\0' : '\n';
     const std::optional<std::string> list = read_list(session, *choice.list);
     if (!list) return {{}, ExitCode::Trouble, false};
-    append_listed(*list, end, chosen.files);
+    append_listed(*list, end, names);
   }
+  names.insert(names.end(), choice.arguments.begin(), choice.arguments.end());
   const std::vector<std::string> patterns =
       choice.patterns.empty() ? std::vector<std::string>{default_pattern} : choice.patterns;
-  for (const std::string& argument : choice.arguments) {
-    if (choice.is_recursive && is_folder(argument)) {
-      append_folder(session, argument, patterns, chosen);
+  for (const std::string& name : names) {
+    if (choice.is_recursive && is_folder(name)) {
+      append_folder(session, name, patterns, chosen);
     } else {
-      chosen.files.push_back(argument);
+      chosen.files.push_back(name);
     }
   }
+  if (choice.takes_each_once) keep_each_once(chosen.files);
   chosen.is_one_by_name =
       choice.arguments.size() == 1 && !choice.is_recursive && !choice.list.has_value();
   return chosen;

@@ -60,6 +60,7 @@ EditOptions read_edit_options(const CLI::App& verb, const std::vector<std::strin
   EditOptions options{read_file_choice(verb, arguments), read_batch_options(verb),
                       read_delivery(verb), read_loss_policy(verb)};
   require_one_text(options.delivery, options.files);
+  options.files.takes_each_once = options.delivery.in_place;
   if (options.delivery.in_place) options.batch.counted = "changed";
   return options;
 }

@@ -40,7 +40,8 @@ ExitCode fmt(Session& session, const CLI::App& app) {
   const LossPolicy policy = read_loss_policy(app);
   BatchOptions options = read_batch_options(app);
   if (delivery.in_place) options.counted = "changed";
-  const FileChoice choice = read_file_choice(app, values_of(app, files));
+  FileChoice choice = read_file_choice(app, values_of(app, files));
+  choice.takes_each_once = delivery.in_place;
   require_one_text(delivery, choice);
   const ChosenFiles chosen = choose_files(session, choice);
   return for_each_file(session, chosen, options, [&](Session& one, const std::string& argument) {

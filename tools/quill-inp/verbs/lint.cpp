@@ -179,7 +179,9 @@ ExitCode lint_files(Session& session, const CLI::App& app) {
   if (call.shows_diff && !call.fixes) throw UsageError("--diff needs --fix");
   BatchOptions batch = read_batch_options(app);
   batch.counted = nullptr;  // the last line has other ones
-  const ChosenFiles chosen = choose_files(session, read_file_choice(app, values_of(app, files)));
+  FileChoice choice = read_file_choice(app, values_of(app, files));
+  choice.takes_each_once = call.fixes && !call.shows_diff;
+  const ChosenFiles chosen = choose_files(session, choice);
   if (chosen.files.size() > 1) call.other_names = names_in_several_files(chosen.files);
 
   Linter linter(call);

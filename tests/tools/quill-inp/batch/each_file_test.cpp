@@ -145,6 +145,51 @@ TEST(ManyFiles, AreTakenFromALine) {
             ended(2, "", "list: error: cannot be opened: No such file or directory\n"));
 }
 
+TEST(ManyFiles, AreTakenFromTheListThatAProgramPrints) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.path("jobs"));
+  for (const char* name : {"a.qin", "jobs/b.qin"}) folder.write(name, "#model = m1\n0 1\n");
+  const std::string command = "bash -c 'quill-inp get --files-from=<(printf \"a.qin\\njobs\\n\") ";
+  EXPECT_EQ(run_shell(folder.path(), command + "-r model'"),
+            ended(0, "a.qin:m1\njobs/b.qin:m1\n", ""));
+  EXPECT_EQ(run_shell(folder.path(), command + "model'"),
+            ended(2,
+                  "a.qin:m1\n"
+                  "jobs: error: is a folder; use --recursive to take the files in it\n",
+                  ""));
+}
+
+TEST(ManyFiles, AreChangedOnceEachHoweverOftenTheyAreNamed) {
+  for (const Words& words : {Words{"add", "-i", "--raw=x"}, Words{"add", "-i", "--raw=x", "-j4"}}) {
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder.path("jobs"));
+    for (const char* name : {"a.qin", "jobs/b.qin"}) folder.write(name, "0 1\n");
+    std::filesystem::create_symlink("a.qin", folder.path("link.qin"));
+    Words arguments = words;
+    for (const char* name :
+         {"a.qin", "jobs", "./a.qin", "link.qin", "jobs/b.qin", "none.qin", "none.qin", "-r"})
+      arguments.emplace_back(name);
+    const std::string none = "none.qin: error: cannot be opened: No such file or directory\n";
+    EXPECT_EQ(
+        run_in(folder.path(), arguments),
+        ended(2, "",
+              "a.qin:2: note: added, up to line 3\njobs/b.qin:2: note: added, up to line 3\n" +
+                  none + none + "quill-inp: note: 4 files, 2 changed, 2 refused\n"));
+    EXPECT_EQ(content_of(folder.path("a.qin")), "0 1\n\nx\n");
+    EXPECT_EQ(content_of(folder.path("jobs/b.qin")), "0 1\n\nx\n");
+  }
+}
+
+TEST(ManyFiles, ThatAreHardLinksAreSeveral) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "#Model=m1\n");
+  std::filesystem::create_hard_link(folder.path("a.qin"), folder.path("b.qin"));
+  EXPECT_EQ(run_in(folder.path(), {"fmt", "-i", "-q", "--break-hard-links", "a.qin", "b.qin"}),
+            ended(0, "", ""));
+  EXPECT_EQ(content_of(folder.path("a.qin")), "#Model = m1\n");
+  EXPECT_EQ(content_of(folder.path("b.qin")), "#Model = m1\n");
+}
+
 TEST(ManyFiles, AreNamedInAnswersUnlessOneIsAskedForByName) {
   const TemporaryFolder folder;
   folder.write("a.qin", "#model = m1\n0 1\nH 0 0 1\nH 0 0 2\n");

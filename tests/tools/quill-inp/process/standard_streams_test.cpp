@@ -314,19 +314,21 @@ std::string refusal(const std::string& name, const std::string& kind) {
   return name + ": error: is " + kind + ", not a regular file; use '-' to read standard input\n";
 }
 
+const std::string refusal_of_folder =
+    "folder: error: is a folder; use --recursive to take the files in it\n";
+
 TEST(FilesThatAreNotRegular, AreRefused) {
   const TemporaryFolder folder;
   folder.write("a.qin", "0 1\n");
   ASSERT_EQ(mkdir(folder.path("folder").c_str(), 0700), 0);
   ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0600), 0);
-  EXPECT_EQ(run_in(folder.path(), {"get", "folder", "@charge"}),
-            ended(2, "", refusal("folder", "a folder")));
+  EXPECT_EQ(run_in(folder.path(), {"get", "folder", "@charge"}), ended(2, "", refusal_of_folder));
   EXPECT_EQ(run_in(folder.path(), {"get", "pipe", "@charge"}),
             ended(2, "", refusal("pipe", "a pipe")));
   EXPECT_EQ(run_in(folder.path(), {"get", "/dev/null", "@charge"}),
             ended(2, "", refusal("/dev/null", "a device")));
   EXPECT_EQ(run_in(folder.path(), {"fmt", "folder", "a.qin", "pipe"}),
-            ended(2, "0 1\n", refusal("folder", "a folder") + refusal("pipe", "a pipe")));
+            ended(2, "0 1\n", refusal_of_folder + refusal("pipe", "a pipe")));
 }
 
 TEST(PipesThatAProgramWritesTo, AreRead) {
@@ -338,8 +340,7 @@ TEST(PipesThatAProgramWritesTo, AreRead) {
   EXPECT_EQ(run_in(folder.path(), {"get", "--max-size=3", "/dev/stdin", "@charge"}, "2 1\n"),
             ended(2, "", "/dev/stdin: error: is larger than 3 bytes, see --max-size\n"));
   const std::string slow =
-      "mkfifo pipe; (exec > pipe; sleep 0.1; printf '2 '; sleep 0.1; echo 1) & sleep 0.05\n"
-      "quill-inp get pipe @charge";
+      "bash -c 'quill-inp get <(sleep 0.1; printf \"2 \"; sleep 0.1; echo 1) @charge'";
   EXPECT_EQ(run_shell(folder.path(), slow), ended(0, "2\n", ""));
 }
 
