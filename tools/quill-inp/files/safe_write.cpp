@@ -61,7 +61,7 @@ void require_content(const FileOrigin& target, const TemporaryFile& temporary,
   const FileDescriptor file(
       open_in(target.folder.number(), temporary.name(), O_RDONLY | O_NOFOLLOW));
   if (file.number() < 0) throw_system_trouble("the temporary file cannot be read back", errno);
-  if (read_to_end(file.number(), text.size()) != text)
+  if (read_to_end(file.number(), text.size(), text.size()) != text)
     throw Trouble("the temporary file does not hold what was written to it");
 }
 

@@ -29,7 +29,7 @@ constexpr mode_t mode_of_new_files = 0666;        // less the bits of the user's
 WrittenFile replace(const std::string& path, std::string_view text, ExistingFile existing) {
   const FileOrigin origin = open_for_replacing(path, longest_wait);
   if (!S_ISREG(origin.state.st_mode)) throw Trouble("exists already and is not a regular file");
-  const std::string old_text = read_to_end(origin.file.number(), text.size());
+  const std::string old_text = read_to_end(origin.file.number(), text.size(), text.size());
   if (old_text == text) return {};
   if (existing == ExistingFile::IsRefused) throw_exists();
   return {true, replace_content(origin, old_text, text, {})};
@@ -38,7 +38,7 @@ WrittenFile replace(const std::string& path, std::string_view text, ExistingFile
 void fill(int file, std::string_view text) {
   write_everything(file, text);
   flush_file(file, "the new file");
-  if (lseek(file, 0, SEEK_SET) != 0 || read_to_end(file, text.size()) != text)
+  if (lseek(file, 0, SEEK_SET) != 0 || read_to_end(file, text.size(), text.size()) != text)
     throw Trouble("the new file does not hold what was written to it");
 }
 

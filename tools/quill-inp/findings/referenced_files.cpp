@@ -27,7 +27,8 @@ lint::ReferencedFile read_open_file(const FileDescriptor& file, std::uint64_t li
   const struct stat state = state_of(file.number());
   if (S_ISDIR(state.st_mode)) return unreadable("it is a folder");
   if (!S_ISREG(state.st_mode)) return unreadable("it is not a regular file");
-  std::string content = read_to_end(file.number(), limit);
+  std::string content =
+      read_to_end(file.number(), limit, static_cast<std::uint64_t>(state.st_size));
   if (content.size() > limit) return unreadable("it is too large, see --max-size");
   return {State::Read, {}, std::move(content)};
 }

@@ -10,12 +10,6 @@
 
 namespace kelp::input::quill::tool {
 
-namespace {
-
-constexpr std::size_t chunk_size = std::size_t{256} * 1024;
-
-}  // namespace
-
 FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
   if (this != &other) {
     close();
@@ -46,12 +40,15 @@ struct stat state_of(int file, const char* failure) {
   return state;
 }
 
-std::string read_to_end(int file, std::uint64_t limit) {
+std::string read_to_end(int file, std::uint64_t limit, std::uint64_t expected) {
   std::string content;
+  content.reserve(static_cast<std::size_t>(std::min(expected, limit)) + 1);
   while (content.size() <= limit) {
     const std::size_t size = content.size();
-    const auto wanted = std::min<std::uint64_t>(chunk_size, limit - size);
-    const auto room = static_cast<std::size_t>(wanted) + 1;
+    const std::size_t prepared = content.capacity() - size;
+    // What a read may fill is filled with zeros first. That costs more than reading a small file.
+    const std::uint64_t wanted = prepared > 0 ? prepared - 1 : usual_chunk;
+    const auto room = static_cast<std::size_t>(std::min(wanted, limit - size)) + 1;
     content.resize(size + room);
     const ssize_t count = read(file, content.data() + size, room);
     content.resize(size + (count > 0 ? static_cast<std::size_t>(count) : 0));

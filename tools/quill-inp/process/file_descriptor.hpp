@@ -39,9 +39,13 @@ int open_in(int folder, const std::string& name, int flags, unsigned mode = 0);
 /// `failure`.
 struct stat state_of(int file, const char* failure = "cannot be examined");
 
+/// So many bytes are read at once when nobody knows how many there are.
+inline constexpr std::uint64_t usual_chunk = std::uint64_t{256} * 1024;
+
 /// Reads from the current position to the end of the file, but at most `limit` bytes and one more,
-/// so that the caller sees when there are too many. Throws Trouble when reading fails.
-std::string read_to_end(int file, std::uint64_t limit);
+/// so that the caller sees when there are too many. Takes the memory for `expected` bytes at once,
+/// and more when there are more. Throws Trouble when reading fails.
+std::string read_to_end(int file, std::uint64_t limit, std::uint64_t expected = usual_chunk);
 
 /// Writes all data, with as many system calls as needed. Throws Trouble when that fails.
 void write_everything(int file, std::string_view data);

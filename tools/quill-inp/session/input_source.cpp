@@ -33,8 +33,11 @@ void require_apart_from_output(Session& session, const struct stat& state) {
   }
 }
 
-std::string read_at_most(int file, std::uint64_t limit) {
-  std::string content = read_to_end(file, limit);
+std::string read_at_most(int file, const struct stat& state, std::uint64_t limit) {
+  const bool is_regular = S_ISREG(state.st_mode);
+  std::string content = is_regular
+                            ? read_to_end(file, limit, static_cast<std::uint64_t>(state.st_size))
+                            : read_to_end(file, limit);
   if (content.size() > limit) throw_too_large(limit);
   return content;
 }
@@ -44,7 +47,7 @@ std::string read_regular_file(Session& session, int file, const struct stat& sta
   const std::uint64_t limit = session.options().max_size;
   require_regular(state, limit);
   require_apart_from_output(session, state);
-  std::string content = read_at_most(file, limit);
+  std::string content = read_at_most(file, state, limit);
   if (!is_same_state(state, state_of(file))) throw Trouble("changed while it was read");
   return content;
 }
@@ -66,7 +69,7 @@ std::string read_pipe(Session& session, int pipe, const struct stat& state) {
   const int flags = fcntl(pipe, F_GETFL);
   if (flags < 0 || fcntl(pipe, F_SETFL, flags & ~O_NONBLOCK) != 0)
     throw_system_trouble("cannot be read", errno);
-  return read_at_most(pipe, session.options().max_size);
+  return read_at_most(pipe, state, session.options().max_size);
 }
 
 std::string read_file(Session& session, const std::string& path) {
@@ -96,9 +99,10 @@ std::string read_standard_input(Session& session) {
   const std::uint64_t limit = session.options().max_size;
   const Input in = session.take_standard_input();
   if (!in.file) return read_stream(in.stream, limit);
-  require_apart_from_output(session, state_of(*in.file));
+  const struct stat state = state_of(*in.file);
+  require_apart_from_output(session, state);
   // A stream treats a failed read as the end of the text; with the descriptor, they are different.
-  return read_at_most(*in.file, limit);
+  return read_at_most(*in.file, state, limit);
 }
 
 }  // namespace
