@@ -1,6 +1,7 @@
 #include "lint/header_line.hpp"
 
 #include <algorithm>
+#include <array>
 
 #include "lint/tokens.hpp"
 #include "model/task_names.hpp"
@@ -8,13 +9,19 @@
 
 namespace kelp::input::quill::lint {
 
-HeaderPieces pieces_of(const Source& source, std::size_t index) {
-  HeaderPieces pieces = find_header_pieces(source.content(source.command_lines()[index]));
-  pieces.name = trimmed_view(pieces.name);
-  pieces.value = trimmed_view(pieces.value);
-  pieces.trailing = trimmed_view(pieces.trailing);
-  return pieces;
+namespace {
+
+/// Names that mean something in every input, besides those of the tasks.
+constexpr std::array<std::string_view, 2> names_of_settings = {"model", "device"};
+
+std::vector<std::string> known_names(const Options& options) {
+  std::vector<std::string> names(task_names.begin(), task_names.end());
+  names.insert(names.end(), names_of_settings.begin(), names_of_settings.end());
+  names.insert(names.end(), options.known_commands.begin(), options.known_commands.end());
+  return names;
 }
+
+}  // namespace
 
 std::vector<ParameterPieces> entries_of(const HeaderPieces& pieces) {
   std::vector<ParameterPieces> entries;
@@ -32,19 +39,15 @@ Range range_of_command(const Source& source, std::size_t index) {
   return source.range_of(source.trimmed(source.command_lines()[index]));
 }
 
-std::vector<std::string> known_names(const Options& options) {
-  std::vector<std::string> names(task_names.begin(), task_names.end());
-  names.insert(names.end(), {"model", "device"});
-  names.insert(names.end(), options.known_commands.begin(), options.known_commands.end());
-  return names;
-}
-
 bool is_known(std::string_view name, const Options& options) {
   const std::string wanted = normalize_command_name(name);
-  const std::vector<std::string> names = known_names(options);
-  return std::any_of(names.begin(), names.end(), [&](const std::string& known) {
+  const auto is_wanted = [&](std::string_view known) {
     return normalize_command_name(known) == wanted;
-  });
+  };
+  const std::vector<std::string>& more = options.known_commands;
+  return is_task_name(wanted) ||
+         std::any_of(names_of_settings.begin(), names_of_settings.end(), is_wanted) ||
+         std::any_of(more.begin(), more.end(), is_wanted);
 }
 
 std::string_view first_word(std::string_view name) {

@@ -14,7 +14,9 @@
 namespace kelp::input::quill::lint {
 
 /// Returns the pieces of the line of command number `index`, without blanks around them.
-HeaderPieces pieces_of(const Source& source, std::size_t index);
+inline const HeaderPieces& pieces_of(const Source& source, std::size_t index) {
+  return source.header_pieces()[index];
+}
 
 /// Returns the entries of a parameter list, trimmed, empty ones included. A list that is blank has
 /// none.
@@ -23,10 +25,8 @@ std::vector<ParameterPieces> entries_of(const HeaderPieces& pieces);
 /// Returns the whole line of a command, for a finding without a better place.
 Range range_of_command(const Source& source, std::size_t index);
 
-/// Returns the names that mean something in every input, and those that the options add.
-std::vector<std::string> known_names(const Options& options);
-
-/// Returns whether a name, in any letter case, is one of these.
+/// Returns whether a name, in any letter case, means something in every input, or is one that the
+/// options add.
 bool is_known(std::string_view name, const Options& options);
 
 /// Returns the first word of a command's name.

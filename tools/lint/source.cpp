@@ -21,12 +21,15 @@ Reference read_reference(const Options& options, const std::string& path) {
 Source::Source(const lossless::ReadText& read, const Options& options)
     : read_(read), options_(options) {
   sort_lines();
+  find_pieces();
   odd_characters_ = find_odd_characters(text());
   broken_line_ = find_broken_line(read_);
   if (!options_.read_reference) return;
   for (const std::string& path : input().geometry.xyz_files)
     references_.push_back(lint::read_reference(options_, path));
 }
+
+Source::~Source() = default;
 
 void Source::sort_lines() {
   atom_lines_.reserve(input().geometry.atoms.size());
@@ -43,6 +46,17 @@ void Source::sort_lines() {
     } else {
       reference_lines_.push_back(i);
     }
+  }
+}
+
+void Source::find_pieces() {
+  header_pieces_.reserve(command_lines_.size());
+  for (const std::size_t line : command_lines_) {
+    HeaderPieces pieces = find_header_pieces(content(line));
+    pieces.name = trimmed_view(pieces.name);
+    pieces.value = trimmed_view(pieces.value);
+    pieces.trailing = trimmed_view(pieces.trailing);
+    header_pieces_.push_back(pieces);
   }
 }
 

@@ -13,6 +13,10 @@
 #include "lint/finding.hpp"
 #include "lint/odd_characters.hpp"
 
+namespace kelp::input::quill {
+struct HeaderPieces;
+}
+
 namespace kelp::input::quill::lint {
 
 /// A file that an input refers to, as it was found.
@@ -27,8 +31,11 @@ struct ReferencedFile {
 /// What the checks know besides the text.
 struct Options {
   std::vector<std::string> known_commands = {};  // of the project, besides those of every input
-  std::vector<std::string> other_names = {};     // of commands in the other inputs of the call
   double max_change = 1e-6;                      // of a number when the text is written anew
+
+  /// The names of commands that other inputs use as well, in canonical form and sorted. The list
+  /// belongs to whoever makes the options.
+  const std::vector<std::string>* other_names = nullptr;
 
   /// Finds a file by its path in the text. Without it, no rule looks at files.
   std::function<ReferencedFile(const std::string& path)> read_reference = {};
@@ -45,6 +52,9 @@ struct Reference {
 class Source {
  public:
   Source(const lossless::ReadText& read, const Options& options);
+  Source(const Source&) = delete;
+  Source& operator=(const Source&) = delete;
+  ~Source();
 
   const lossless::ReadText& read() const { return read_; }
   const Options& options() const { return options_; }
@@ -67,6 +77,9 @@ class Source {
   const std::vector<std::size_t>& reference_lines() const { return reference_lines_; }
   const std::vector<std::size_t>& post_lines() const { return post_lines_; }
 
+  /// The pieces of the lines of commands, without blanks around them, by the index of the command.
+  const std::vector<HeaderPieces>& header_pieces() const { return header_pieces_; }
+
   /// The line of charge and multiplicity, of a document that has them.
   std::size_t charge_line() const { return charge_line_; }
 
@@ -85,6 +98,7 @@ class Source {
 
  private:
   void sort_lines();
+  void find_pieces();
 
   const lossless::ReadText& read_;
   const Options& options_;
@@ -92,6 +106,7 @@ class Source {
   std::vector<std::size_t> atom_lines_;
   std::vector<std::size_t> reference_lines_;
   std::vector<std::size_t> post_lines_;
+  std::vector<HeaderPieces> header_pieces_;
   std::size_t charge_line_ = 0;
   std::vector<OddCharacter> odd_characters_;
   std::optional<BrokenLine> broken_line_;

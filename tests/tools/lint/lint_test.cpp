@@ -108,9 +108,10 @@ TEST(KnownNames, AreThoseOfTheProjectAndOfOtherInputs) {
   EXPECT_THAT(codes_of(find_all(read, options)), testing::IsEmpty());
   options.known_commands = {"solvent"};
   EXPECT_THAT(codes_of(find_all(read, options)), testing::ElementsAre("QL207"));
-  options.other_names = {"grid"};
+  std::vector<std::string> others = {"grid"};
+  options.other_names = &others;
   EXPECT_THAT(codes_of(find_all(read, options)), testing::ElementsAre("QL207", "QL207"));
-  options.other_names = {"grid", "grids", "solvnt"};
+  others = {"grid", "grids", "solvnt"};
   EXPECT_THAT(codes_of(find_all(read, options)), testing::IsEmpty());
   options.known_commands = {"Solvnt", "solvent", "GRIDS"};
   EXPECT_THAT(codes_of(find_all(read, options)), testing::IsEmpty());

@@ -24,7 +24,7 @@ Findings check_odd_number(const Source& source) {
   Findings findings;
   if (source.odd_characters().empty()) return findings;
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
-    const HeaderPieces pieces = pieces_of(source, i);
+    const HeaderPieces& pieces = pieces_of(source, i);
     check_value(source, pieces.value, findings);
     for (const ParameterPieces& entry : entries_of(pieces)) {
       if (entry.value) check_value(source, *entry.value, findings);

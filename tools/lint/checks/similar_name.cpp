@@ -10,11 +10,11 @@ namespace {
 
 /// A name that other inputs use as well is spelled as it is meant.
 std::optional<std::string> find_similar(const std::string& name, const Options& options) {
-  const std::vector<std::string>& others = options.other_names;
+  const std::vector<std::string>* others = options.other_names;
   if (name.empty() || is_known(name, options)) return std::nullopt;
-  if (std::find(others.begin(), others.end(), name) != others.end()) return std::nullopt;
+  if (others && std::binary_search(others->begin(), others->end(), name)) return std::nullopt;
   if (const auto known = meant_name(name, options)) return known;
-  return tool::nearest_name(name, others);
+  return others ? tool::nearest_name(name, *others) : std::nullopt;
 }
 
 }  // namespace

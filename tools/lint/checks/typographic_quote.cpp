@@ -54,7 +54,7 @@ std::string_view quoted_piece(std::string_view list, std::string_view value) {
 Findings check_typographic_quote(const Source& source) {
   Findings findings;
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
-    const HeaderPieces pieces = pieces_of(source, i);
+    const HeaderPieces& pieces = pieces_of(source, i);
     if (const auto quotes = find_quotes(pieces.value))
       findings.push_back(make_finding(source, pieces.value, *quotes));
     for (const ParameterPieces& entry : entries_of(pieces)) {

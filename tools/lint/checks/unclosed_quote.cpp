@@ -34,7 +34,7 @@ void add_finding(const Source& source, std::string_view text, std::size_t at, Fi
 Findings check_unclosed_quote(const Source& source) {
   Findings findings;
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
-    const HeaderPieces pieces = pieces_of(source, i);
+    const HeaderPieces& pieces = pieces_of(source, i);
     if (is_half_quoted(pieces.value)) add_finding(source, pieces.value, 0, findings);
     const std::size_t at = find_unclosed_quote(pieces.list);
     if (at < pieces.list.size()) add_finding(source, pieces.list, at, findings);

@@ -113,6 +113,17 @@ std::string read_text(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
+std::string folder_of(const std::string& path) {
+  return path == "-" ? std::string() : fs::path(path).parent_path().string();
+}
+
+ProjectChoices choices_for_folder(const std::string& folder) {
+  std::error_code error;
+  const fs::path absolute = folder.empty() ? fs::current_path(error) : fs::absolute(folder, error);
+  const std::string file = error ? std::string() : find_file(absolute).string();
+  return file.empty() ? ProjectChoices() : parse_project_choices(read_text(file), file);
+}
+
 }  // namespace
 
 ProjectChoices parse_project_choices(std::string_view text, const std::string& name) {
@@ -123,16 +134,12 @@ ProjectChoices parse_project_choices(std::string_view text, const std::string& n
   return choices;
 }
 
-ProjectChoices ProjectFinder::choices_for(const std::string& path) {
-  std::error_code error;
-  const fs::path input = path == "-" ? fs::path("input") : fs::path(path);
-  const fs::path absolute = fs::absolute(input, error);
-  const std::string file = find_file(absolute.parent_path()).string();
-  if (error || file.empty()) return {};
+const ProjectChoices& ProjectFinder::choices_for(const std::string& path) {
+  const std::string folder = folder_of(path);
   const std::lock_guard<std::mutex> lock(mutex_);
-  const auto known = known_.find(file);
+  const auto known = known_.find(folder);
   if (known != known_.end()) return known->second;
-  return known_.emplace(file, parse_project_choices(read_text(file), file)).first->second;
+  return known_.emplace(folder, choices_for_folder(folder)).first->second;
 }
 
 }  // namespace kelp::input::quill::tool

@@ -35,16 +35,17 @@ struct ProjectChoices {
 ProjectChoices parse_project_choices(std::string_view text, const std::string& name);
 
 /// Finds the choices for inputs: those of the file that is nearest upwards from the folder of the
-/// input. Each file is read once. Several threads may ask at once.
+/// input. It is looked for once for each folder. Several threads may ask at once.
 class ProjectFinder {
  public:
-  /// Returns the choices for the input at `path`; "-" is in the current folder. None if there is no
-  /// file. Throws Trouble, as parse_project_choices() does and when the file cannot be read.
-  ProjectChoices choices_for(const std::string& path);
+  /// Returns the choices for the input at `path`; "-" is in the current folder. They are empty if
+  /// no file is found, and live as long as the finder. Throws Trouble, as parse_project_choices()
+  /// does and when the file cannot be read.
+  const ProjectChoices& choices_for(const std::string& path);
 
  private:
   std::mutex mutex_;
-  std::map<std::string, ProjectChoices> known_;  // by the path of the file
+  std::map<std::string, ProjectChoices> known_;  // by the folder, as it is spelled
 };
 
 }  // namespace kelp::input::quill::tool

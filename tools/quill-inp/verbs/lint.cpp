@@ -7,6 +7,7 @@
 
 #include "lint/mending.hpp"
 #include "quill-inp/batch/each_file.hpp"
+#include "quill-inp/batch/name_census.hpp"
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/file_options.hpp"
 #include "quill-inp/command_line/lint_options.hpp"
@@ -14,7 +15,6 @@
 #include "quill-inp/findings/collected_reports.hpp"
 #include "quill-inp/findings/github_form.hpp"
 #include "quill-inp/findings/json_form.hpp"
-#include "quill-inp/findings/name_census.hpp"
 #include "quill-inp/findings/project_choices.hpp"
 #include "quill-inp/findings/referenced_files.hpp"
 #include "quill-inp/findings/sarif_form.hpp"
@@ -47,7 +47,7 @@ struct LintCall {
   LintOptions options = {};
   bool fixes = false;
   bool shows_diff = false;
-  std::vector<std::string> other_names = {};
+  std::vector<std::string> other_names = {};  // see lint::Options
 };
 
 std::string folder_of(const std::string& argument) {
@@ -59,7 +59,7 @@ lint::Options options_for(const Session& session, const LintCall& call,
                           const ProjectChoices& project, const std::string& argument) {
   lint::Options options;
   options.known_commands = project.known_commands;
-  options.other_names = call.other_names;
+  options.other_names = &call.other_names;
   options.max_change = project.max_change.value_or(options.max_change);
   options.read_reference = [folder = folder_of(argument),
                             limit = session.options().max_size](const std::string& path) {
@@ -101,7 +101,7 @@ class Linter {
   ExitCode operator()(Session& session, const std::string& argument) {
     const Delivery delivery = delivery_of_mends(call_);
     ReadInput input = read_for_delivery(session, argument, delivery);
-    const ProjectChoices project = projects_.choices_for(argument);
+    const ProjectChoices& project = projects_.choices_for(argument);
     const lint::Options options = options_for(session, call_, project, argument);
     const lint::Selection selection = selection_for(call_, project);
     if (call_.fixes) {
@@ -182,7 +182,8 @@ ExitCode lint_files(Session& session, const CLI::App& app) {
   FileChoice choice = read_file_choice(app, values_of(app, files));
   choice.takes_each_once = call.fixes && !call.shows_diff;
   const ChosenFiles chosen = choose_files(session, choice);
-  if (chosen.files.size() > 1) call.other_names = names_in_several_files(chosen.files);
+  if (chosen.files.size() > 1)
+    call.other_names = names_in_several_files(chosen.files, batch.threads);
 
   Linter linter(call);
   const ExitCode code = for_each_file(

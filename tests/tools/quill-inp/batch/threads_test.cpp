@@ -33,6 +33,7 @@ TEST(ToolThreads, ShareNothingThatChanges) {
       {"fmt", "--diff", "--color=always"},
       {"get", "-k", "opt.maxiter", "-"},
       {"json"},
+      {"lint", "-"},
       {"set", "-i", "--backup", "-", "opt.maxiter=9"},
       {"add", "-i", "--bond", "1,2"},
       {"unset", "-i", "-k", "model"},

@@ -95,6 +95,21 @@ TEST(ProjectFinder, TakesTheNearestFileUpwards) {
   EXPECT_THAT(finder.choices_for(folder.path("job.qin")).known_commands, ElementsAre("outer"));
 }
 
+TEST(ProjectFinder, LooksOnceForAFolder) {
+  const TemporaryFolder folder;
+  const std::string file = folder.write(".quill-inp.toml", "known-commands = ['grid']\n");
+  ProjectFinder finder;
+  const ProjectChoices& choices = finder.choices_for(folder.path("a.qin"));
+  std::filesystem::remove(file);
+  EXPECT_EQ(&finder.choices_for(folder.path("b.qin")), &choices);
+  EXPECT_THAT(choices.known_commands, ElementsAre("grid"));
+}
+
+TEST(ProjectFinder, TakesStandardInputForAFileOfTheCurrentFolder) {
+  ProjectFinder finder;
+  EXPECT_EQ(&finder.choices_for("-"), &finder.choices_for("job.qin"));
+}
+
 TEST(ProjectFinder, RefusesAFolderInPlaceOfTheFile) {
   const TemporaryFolder folder;
   std::filesystem::create_directories(folder.path(".quill-inp.toml"));

@@ -1,0 +1,131 @@
+#include "quill-inp/batch/name_census.hpp"
+
+#include <fcntl.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <map>
+#include <set>
+#include <string_view>
+
+#include "kelp/core/text.hpp"
+#include "kelp/input/quill/reader.hpp"
+#include "quill-inp/batch/ordered_work.hpp"
+#include "quill-inp/process/file_descriptor.hpp"
+#include "quill-inp/process/trouble.hpp"
+
+namespace kelp::input::quill::tool {
+
+namespace {
+
+// Nobody writes a longer header, and this file may be anything.
+constexpr std::uint64_t longest_header = std::uint64_t{64} * 1024;
+
+// A header takes less time than it takes to hand it from one thread to another.
+constexpr std::size_t files_in_a_piece = 32;
+
+using Names = std::vector<std::string>;
+
+std::string read_beginning(const std::string& path) {
+  // Not blocking, so that a pipe without a writer has no names.
+  const FileDescriptor file(open_in(AT_FDCWD, path, O_RDONLY | O_NONBLOCK));
+  struct stat state {};
+  const bool is_regular =
+      file.number() >= 0 && fstat(file.number(), &state) == 0 && S_ISREG(state.st_mode);
+  if (!is_regular) return {};
+  try {
+    return read_to_end(file.number(), longest_header, static_cast<std::uint64_t>(state.st_size));
+  } catch (const Trouble&) {
+    return {};  // this is reported when the whole file is read
+  }
+}
+
+/// Returns the lines up to the first one that is not part of a header.
+std::string_view header_of(std::string_view text) {
+  std::size_t end = 0;
+  while (end < text.size()) {
+    const std::size_t line_end = std::min(text.find('\n', end), text.size() - 1) + 1;
+    const std::string line = core::text::trim(text.substr(end, line_end - end));
+    if (!line.empty() && line.front() != '#') break;
+    end = line_end;
+  }
+  return text.substr(0, end);
+}
+
+/// Adds the names that a file uses, each once.
+void append_names(const std::string& path, Names& names) {
+  if (path == "-") return;
+  std::set<std::string> own;
+  for (const std::string& name :
+       parse_string(header_of(read_beginning(path))).input.command_names())
+    own.insert(normalize_command_name(name));
+  names.insert(names.end(), own.begin(), own.end());
+}
+
+/// Counts in how many files each name is.
+class Census {
+ public:
+  explicit Census(const std::vector<std::string>& files) : files_(files.begin(), files.end()) {
+    std::sort(files_.begin(), files_.end());
+    files_.erase(std::unique(files_.begin(), files_.end()), files_.end());
+  }
+
+  void take(unsigned threads) {
+    found_.resize(window_of(threads));
+    const std::size_t count = (files_.size() + files_in_a_piece - 1) / files_in_a_piece;
+    if (threads > 1) {
+      take_side_by_side(count, threads);
+      return;
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+      read_piece(i);
+      count_piece(i);
+    }
+  }
+
+  Names names_in_several() const {
+    Names names;
+    for (const auto& [name, count] : counts_) {
+      if (count >= 2) names.push_back(name);
+    }
+    return names;
+  }
+
+ private:
+  void take_side_by_side(std::size_t count, unsigned threads) {
+    OrderedWork pieces;
+    pieces.count = count;
+    pieces.work = [&](std::size_t number) { read_piece(number); };
+    pieces.deliver = [&](std::size_t number) { count_piece(number); };
+    pieces.pass_time = [] {};
+    do_in_order(pieces, threads);
+  }
+
+  Names& found_in(std::size_t piece) { return found_[piece % found_.size()]; }
+
+  void read_piece(std::size_t number) {
+    Names names;
+    const std::size_t end = std::min(files_.size(), (number + 1) * files_in_a_piece);
+    for (std::size_t i = number * files_in_a_piece; i < end; ++i) append_names(files_[i], names);
+    found_in(number) = std::move(names);
+  }
+
+  void count_piece(std::size_t number) {
+    for (const std::string& name : found_in(number)) ++counts_[name];
+  }
+
+  std::vector<std::string> files_;
+  std::vector<Names> found_ = {};  // of the pieces, by their numbers within the window
+  std::map<std::string, std::size_t> counts_ = {};
+};
+
+}  // namespace
+
+std::vector<std::string> names_in_several_files(const std::vector<std::string>& files,
+                                                unsigned threads) {
+  Census census(files);
+  census.take(threads);
+  return census.names_in_several();
+}
+
+}  // namespace kelp::input::quill::tool
