@@ -22,6 +22,7 @@ getting-started Start
 format Format
 editing Editing
 quill-inp Tool
+findings Findings
 embedding Embedding
 packaging Packaging
 performance Performance
@@ -33,7 +34,7 @@ PAGES
 python3 scripts/support/figures.py --check SECURITY.md properties fuzz corpus mutants scale
 python3 scripts/support/figures.py --check docs/performance.md bench
 
-for page in README.md CONTRIBUTING.md CHANGELOG.md examples/inputs/README.md docs/*.md; do
+for page in README.md CONTRIBUTING.md CHANGELOG.md examples/inputs/README.md docs/*.md docs/lint/*.md; do
   python3 docs/site/page_filter.py "$page" >/dev/null
 done
 

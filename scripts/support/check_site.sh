@@ -48,5 +48,7 @@ check_page() {
 check_page index.html libkelp_quill_inp
 check_page format.html 'The QUILL format'
 check_page quill-inp.html quill-inp
+check_page findings.html 'Findings of the linter'
+check_page ql104.html 'QL104: a line that ends the atoms too early'
 check_page classkelp_1_1input_1_1quill_1_1InputEditor.html 'InputEditor Class Reference'
 echo "pages open in a browser without an error"

@@ -36,6 +36,7 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/architecture.md", {""}},
     {"docs/editing.md", {"cpp"}},
     {"docs/embedding.md", {"cpp"}},
+    {"docs/findings.md", {}},
     {"docs/format.md", {"abnf", "cpp", "diagnostics", "qin", "written"}},
     {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
     {"docs/packaging.md", {"cmake", "cpp", "meson", "sh"}},

@@ -1,9 +1,29 @@
+#include <string>
+
 #include "lint/checks/checks.hpp"
 #include "lint/rule.hpp"
 
 namespace kelp::input::quill::lint {
 
 namespace {
+
+// What several rules say of a line that is not an atom, although it was meant as one.
+const std::string where_atoms_end =
+    "{atoms|the atoms end after {atoms} atom|the atoms end after {atoms} atoms|there are no "
+    "atoms}: ";
+const std::string lost_atoms =
+    "[; {lost|one further line that looks like an atom is|{lost} further lines that look like "
+    "atoms are} kept as raw text]";
+const std::string labelled_atom =
+    where_atoms_end + "'{token}' is not a symbol made of letters" + lost_atoms;
+const std::string numbered_atom =
+    where_atoms_end + "the line begins with the number '{token}', and has five words" + lost_atoms;
+const std::string ended_atoms =
+    "{atoms|this line ended the atoms after {atoms} atom|this line ended the atoms after {atoms} "
+    "atoms|this line kept the atoms from beginning}: ['{word}' is not a number]['{symbol}' is not "
+    "a symbol made of letters]['{extra}' is a fifth word][{missing|a number is missing|{missing} "
+    "numbers are missing}]" +
+    lost_atoms;
 
 const std::vector<Rule> rules = {
     // The file as a whole, and its bytes.
@@ -13,8 +33,7 @@ const std::vector<Rule> rules = {
      MendReach::Rest},
     {"QL002", Severity::Error, Group::File, "a carriage return where a line should end",
      "{count|a carriage return is|{count} carriage returns are} inside this line: only LF and CR "
-     "LF "
-     "end a line",
+     "LF end a line",
      "end lines with LF or CR LF", check_lone_carriage_return, Explains::Text, MendReach::Rest},
     {"QL003", Severity::Info, Group::File, "line ends of two kinds",
      "this line ends in {found}, and the first one in {usual}",
@@ -40,30 +59,17 @@ const std::vector<Rule> rules = {
 
     // Charge, multiplicity and coordinates.
     {"QL101", Severity::Error, Group::Geometry, "an atom with a label in place of its symbol",
-     "{atoms|the atoms end after {atoms} atom|the atoms end after {atoms} atoms|there are no "
-     "atoms}: "
-     "'{token}' is not a symbol made of letters[; {lost|one further line that looks like an atom "
-     "is|{lost} further lines that look like atoms are} kept as raw text]",
-     "write the symbol of the element alone", check_labelled_atom, Explains::Line, MendReach::Rest},
+     labelled_atom, "write the symbol of the element alone", check_labelled_atom, Explains::Line,
+     MendReach::Rest},
     {"QL102", Severity::Error, Group::Geometry, "an atom with a number before its symbol",
-     "{atoms|the atoms end after {atoms} atom|the atoms end after {atoms} atoms|there are no "
-     "atoms}: "
-     "the line begins with the number '{token}', and has five words[; {lost|one further line that "
-     "looks like an atom is|{lost} further lines that look like atoms are} kept as raw text]",
-     "remove the column of numbers", check_numbered_atom, Explains::Line, MendReach::Rest},
+     numbered_atom, "remove the column of numbers", check_numbered_atom, Explains::Line,
+     MendReach::Rest},
     {"QL103", Severity::Error, Group::Geometry, "a line of charge and multiplicity that is not one",
      "this is not read as charge and multiplicity[: '{token}' does not fit][; no coordinates are "
      "read, and {lost|one line that looks like them is|{lost} lines that look like them are} kept "
-     "as "
-     "raw text]",
-     "write exactly two integers", check_charge_line, Explains::Line, MendReach::Rest},
-    {"QL104", Severity::Error, Group::Geometry, "a line that ends the atoms too early",
-     "{atoms|this line ended the atoms after {atoms} atom|this line ended the atoms after {atoms} "
-     "atoms|this line kept the atoms from beginning}: ['{word}' is not a number]['{symbol}' is not "
-     "a symbol made of letters]['{extra}' is a "
-     "fifth word][{missing|a number is missing|{missing} numbers are missing}][; {lost|one "
-     "further line that looks like an atom is|{lost} further lines that look like atoms are} kept "
      "as raw text]",
+     "write exactly two integers", check_charge_line, Explains::Line, MendReach::Rest},
+    {"QL104", Severity::Error, Group::Geometry, "a line that ends the atoms too early", ended_atoms,
      "write a symbol and three numbers with decimal points", check_ended_atoms, Explains::Line,
      MendReach::Rest},
     {"QL105", Severity::Warning, Group::Geometry, "a constraint or scan that is read as an atom",
@@ -72,8 +78,7 @@ const std::vector<Rule> rules = {
      check_element_like_constraint, Explains::Line},
     {"QL106", Severity::Error, Group::Geometry, "an angle constraint that is read as an atom",
      "'{keyword}' with three numbers right after the atoms is read as an atom of the unknown "
-     "element "
-     "{symbol}",
+     "element {symbol}",
      "put another post-processing line before it", check_angle_read_as_atom, Explains::Line},
     {"QL107", Severity::Error, Group::Geometry, "a command after the header",
      "the header is over, so '{line}' is kept as raw text",
@@ -169,6 +174,9 @@ const std::vector<Rule> rules = {
     {"QL306", Severity::Error, Group::PostProcessing, "a scan without steps",
      "a scan needs at least one step, here '{steps}'", "write the number of steps",
      check_no_scan_steps},
+    {"QL307", Severity::Error, Group::PostProcessing, "a scan value that is not finite",
+     "the scan value '{token}' is not a finite number", "write the value",
+     check_no_finite_scan_value},
 
     // References to other files.
     {"QL401", Severity::Error, Group::References, "quotes around a path",

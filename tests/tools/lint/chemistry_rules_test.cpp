@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tools/lint/marked_text.hpp"
+#include "tools/lint/marked_rows.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -64,14 +64,11 @@ const MarkedRow rows[] = {
      "He 0 0.3 5\n"},
 };
 
-class ChemistryRules : public testing::TestWithParam<MarkedRow> {};
+class ChemistryRules : public MarkedRows {};
 
-TEST_P(ChemistryRules, FindExactlyThis) {
-  EXPECT_EQ(marked_anew(GetParam().marked), GetParam().marked);
-}
+TEST_P(ChemistryRules, FindExactlyThis) { expect_marks(); }
 
-INSTANTIATE_TEST_SUITE_P(Table, ChemistryRules, testing::ValuesIn(rows),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Table, ChemistryRules, testing::ValuesIn(rows), name_of_row);
 
 }  // namespace
 

@@ -2,7 +2,7 @@
 
 #include "lint/lint.hpp"
 #include "lint/wording.hpp"
-#include "tools/lint/marked_text.hpp"
+#include "tools/lint/marked_rows.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -116,12 +116,11 @@ const MarkedRow rows[] = {
      "\n"},
 };
 
-class FileRules : public testing::TestWithParam<MarkedRow> {};
+class FileRules : public MarkedRows {};
 
-TEST_P(FileRules, FindExactlyThis) { EXPECT_EQ(marked_anew(GetParam().marked), GetParam().marked); }
+TEST_P(FileRules, FindExactlyThis) { expect_marks(); }
 
-INSTANTIATE_TEST_SUITE_P(Table, FileRules, testing::ValuesIn(rows),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Table, FileRules, testing::ValuesIn(rows), name_of_row);
 
 /// Bytes that no text shows, and what is said of them.
 struct BytesRow {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tools/lint/marked_text.hpp"
+#include "tools/lint/marked_rows.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -290,14 +290,11 @@ const MarkedRow rows[] = {
      "text\n"},
 };
 
-class GeometryRules : public testing::TestWithParam<MarkedRow> {};
+class GeometryRules : public MarkedRows {};
 
-TEST_P(GeometryRules, FindExactlyThis) {
-  EXPECT_EQ(marked_anew(GetParam().marked), GetParam().marked);
-}
+TEST_P(GeometryRules, FindExactlyThis) { expect_marks(); }
 
-INSTANTIATE_TEST_SUITE_P(Table, GeometryRules, testing::ValuesIn(rows),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Table, GeometryRules, testing::ValuesIn(rows), name_of_row);
 
 }  // namespace
 

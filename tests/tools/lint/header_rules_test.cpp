@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tools/lint/marked_text.hpp"
+#include "tools/lint/marked_rows.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -191,14 +191,11 @@ const MarkedRow rows[] = {
      "He 0 0 0\n"},
 };
 
-class HeaderRules : public testing::TestWithParam<MarkedRow> {};
+class HeaderRules : public MarkedRows {};
 
-TEST_P(HeaderRules, FindExactlyThis) {
-  EXPECT_EQ(marked_anew(GetParam().marked), GetParam().marked);
-}
+TEST_P(HeaderRules, FindExactlyThis) { expect_marks(); }
 
-INSTANTIATE_TEST_SUITE_P(Table, HeaderRules, testing::ValuesIn(rows),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Table, HeaderRules, testing::ValuesIn(rows), name_of_row);
 
 }  // namespace
 

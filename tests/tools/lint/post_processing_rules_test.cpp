@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tools/lint/marked_text.hpp"
+#include "tools/lint/marked_rows.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -104,16 +104,24 @@ const MarkedRow rows[] = {
      "S 1 2 1.5 -5\n"
      "          ^^ QL306 a scan needs at least one step, here '-5'\n"
      "S 1 2 1.5 1\n"},
+    {"ScanValuesThatAreNotFinite",
+     "#scan\n"
+     "0 1\n"
+     "H 0 0 0\n"
+     "H 0 0 0.741\n"
+     "O 0 0.757 2\n"
+     "S 1 2 nan 10\n"
+     "      ^^^ QL307 the scan value 'nan' is not a finite number\n"
+     "S 1 2 3 -Infinity 10\n"
+     "        ^^^^^^^^^ QL307 the scan value '-Infinity' is not a finite number\n"
+     "S 1 2 3 1e308 10\n"},
 };
 
-class PostProcessingRules : public testing::TestWithParam<MarkedRow> {};
+class PostProcessingRules : public MarkedRows {};
 
-TEST_P(PostProcessingRules, FindExactlyThis) {
-  EXPECT_EQ(marked_anew(GetParam().marked), GetParam().marked);
-}
+TEST_P(PostProcessingRules, FindExactlyThis) { expect_marks(); }
 
-INSTANTIATE_TEST_SUITE_P(Table, PostProcessingRules, testing::ValuesIn(rows),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Table, PostProcessingRules, testing::ValuesIn(rows), name_of_row);
 
 }  // namespace
 

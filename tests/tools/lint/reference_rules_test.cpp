@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tools/lint/marked_text.hpp"
+#include "tools/lint/marked_rows.hpp"
 #include "tools/lint/page_text.hpp"
 namespace kelp::input::quill::lint {
 
@@ -65,14 +65,11 @@ const MarkedRow rows[] = {
      "text\n"},
 };
 
-class ReferenceRules : public testing::TestWithParam<MarkedRow> {};
+class ReferenceRules : public MarkedRows {};
 
-TEST_P(ReferenceRules, FindExactlyThis) {
-  EXPECT_EQ(marked_anew(GetParam().marked, options_of_pages()), GetParam().marked);
-}
+TEST_P(ReferenceRules, FindExactlyThis) { expect_marks(options_of_pages()); }
 
-INSTANTIATE_TEST_SUITE_P(Table, ReferenceRules, testing::ValuesIn(rows),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Table, ReferenceRules, testing::ValuesIn(rows), name_of_row);
 
 }  // namespace
 

@@ -61,8 +61,19 @@ TEST(Rules, HaveTheFilesOfTheFolderOfPages) {
   for (const auto& entry : std::filesystem::directory_iterator(folder))
     files.insert(after_last_slash(entry.path().string()));
   for (const Rule& rule : all_rules()) wanted.insert(std::string(rule.code) + ".md");
-  files.erase("index.md");
   EXPECT_EQ(files, wanted);
+}
+
+TEST(Rules, AreListedByThePageOfFindingsInTheirOrder) {
+  std::string wanted;
+  for (const Rule& rule : all_rules()) {
+    const std::string code(rule.code);
+    wanted += "| [" + code + "](lint/" + code + ".md) | " + std::string(name_of(rule.severity)) +
+              " | `" + std::string(name_of(rule.group)) + "` | " + std::string(rule.title) + " |\n";
+  }
+  const std::string page =
+      file_content(std::string(KELP_QUILL_INP_SOURCE_DIR) + "/docs/findings.md").value();
+  EXPECT_EQ(page.substr(page.find("| [QL")), wanted);
 }
 
 TEST(Rules, AreNamedByTheChangelogSinceTheirVersion) {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tools/lint/marked_text.hpp"
+#include "tools/lint/marked_rows.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -58,14 +58,11 @@ const MarkedRow rows[] = {
      "He 5000000 0 0\n"},
 };
 
-class WritingRules : public testing::TestWithParam<MarkedRow> {};
+class WritingRules : public MarkedRows {};
 
-TEST_P(WritingRules, FindExactlyThis) {
-  EXPECT_EQ(marked_anew(GetParam().marked), GetParam().marked);
-}
+TEST_P(WritingRules, FindExactlyThis) { expect_marks(); }
 
-INSTANTIATE_TEST_SUITE_P(Table, WritingRules, testing::ValuesIn(rows),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Table, WritingRules, testing::ValuesIn(rows), name_of_row);
 
 }  // namespace
 

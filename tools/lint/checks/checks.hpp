@@ -57,6 +57,7 @@ Findings check_atom_number_below_one(const Source& source);
 Findings check_repeated_atom_number(const Source& source);
 Findings check_atom_number_too_large(const Source& source);
 Findings check_no_scan_steps(const Source& source);
+Findings check_no_finite_scan_value(const Source& source);
 
 Findings check_quoted_path(const Source& source);
 Findings check_missing_file(const Source& source);
