@@ -50,10 +50,12 @@ using Arguments = std::vector<std::string>;
 
 INSTANTIATE_TEST_SUITE_P(
     Verbs, EveryVerbThatPrints,
-    testing::Values(Arguments{"--help"}, Arguments{"--version"}, Arguments{"show", "--help"},
-                    Arguments{"show", "a.qin"}, Arguments{"show", "--json", "a.qin"},
-                    Arguments{"show", "--lines", "a.qin"}, Arguments{"fmt", "a.qin"},
-                    Arguments{"get", "a.qin", "model"}, Arguments{"set", "a.qin", "model=m2"},
+    testing::Values(Arguments{}, Arguments{"help"}, Arguments{"--help"}, Arguments{"--version"},
+                    Arguments{"show", "--help"}, Arguments{"show", "a.qin"},
+                    Arguments{"show", "--json", "a.qin"}, Arguments{"show", "--lines", "a.qin"},
+                    Arguments{"fmt", "a.qin"}, Arguments{"get", "a.qin", "model"},
+                    Arguments{"get", "--json", "a.qin", "model"},
+                    Arguments{"set", "a.qin", "model=m2"},
                     Arguments{"set", "--diff", "a.qin", "model=m2"},
                     Arguments{"unset", "a.qin", "model"}, Arguments{"add", "a.qin", "--atom", "1"},
                     Arguments{"new", "--xyz", "a"}, Arguments{"json", "a.qin"}));
