@@ -69,6 +69,8 @@ function(kelp_quill_inp_install_pkg_config_file library description)
   get_target_property(link_options ${library} INTERFACE_LINK_OPTIONS)
   set(link_flags "")
   if(link_options)
+    # The libraries that this one needs are in "Requires".
+    list(FILTER link_options EXCLUDE REGEX "TARGET_FILE")
     list(JOIN link_options " " link_flags)
     string(REPLACE "LINKER:" "-Wl," link_flags " ${link_flags}")
   endif()
