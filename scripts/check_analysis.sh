@@ -25,7 +25,7 @@ echo "cppcheck has no findings"
 if [ "${1:-}" = cppcheck ]; then exit 0; fi
 
 with_templates='arguments|help_formatter|json_reading|run|verb'
-verbs='add|fmt|from_json|get|hash|json|new|set|show|sweep|unset'
+verbs='add|diff|fmt|from_json|get|hash|json|new|set|show|sweep|unset'
 left_out="($with_templates|$verbs|suggestion|trouble|main)\\.cpp\\.o$"
 
 list_objects_of_tool() {

@@ -41,7 +41,7 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
     {"docs/packaging.md", {"cmake", "cpp", "meson", "sh"}},
     {"docs/performance.md", {"text"}},
-    {"docs/quill-inp.md", {"console", "toml"}},
+    {"docs/quill-inp.md", {"console", "text", "toml"}},
 };
 
 std::vector<std::string> pages() {

@@ -100,8 +100,8 @@ TEST(ToolDocumentation, ShowsWhatTheFirstStepsSay) {
 TEST(ToolDocumentation, NamesEveryVerbAndOption) {
   const std::string page = content_of(QUILL_INP_PAGE);
   const TemporaryFolder folder;
-  for (const char* verb :
-       {"show", "fmt", "get", "set", "unset", "add", "new", "sweep", "hash", "json", "from-json"}) {
+  for (const char* verb : {"show", "fmt", "get", "set", "unset", "add", "new", "sweep", "hash",
+                           "diff", "json", "from-json"}) {
     EXPECT_NE(page.find(std::string("quill-inp ") + verb), std::string::npos) << verb;
     std::istringstream words(run_in(folder.path(), {verb, "--help"}).out);
     for (std::string word; words >> word;) {

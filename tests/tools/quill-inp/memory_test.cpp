@@ -186,6 +186,8 @@ const VerbRow verb_rows[] = {
      "1\n\nHe 0 0 1\n1\n\nHe 0 0 2\n"},
     {"Add", {"add", "-", "--bond", "1,2", "--raw", "a text that is not quite short"}, every_line},
     {"New", {"new", "--task", "opt", "--atoms", "-"}, "1\n\nHe 0 0 1\n"},
+    {"Diff", {"diff", "-", "a.qin"}, "#opt(maxiter=60, a)\n#b\n1 2\nO 0 0 0\nB 1 3\n"},
+    {"DiffAsJson", {"diff", "--json", "-", "a.qin"}, "#opt(maxiter=60, a)\n#b\n1 2\nO 0 0 0\n"},
     {"Json", {"json", "-"}, every_line},
     {"FromJson", {"from-json", "--allow-loss", "-"}, every_member},
 };

@@ -1,6 +1,6 @@
 # Completion of quill-inp for bash.
 
-_quill_inp_verbs='show fmt get set unset add new sweep hash json from-json lint explain help'
+_quill_inp_verbs='show fmt get set unset add new sweep hash diff json from-json lint explain help'
 
 _quill_inp_options() {
   local files='--recursive -r --glob --files-from --null -0 --jobs -j'
@@ -22,6 +22,7 @@ _quill_inp_options() {
     from-json) echo "$output $loss $general" ;;
     sweep) echo "--output -o --zip --atoms --frames --manifest --force --jobs -j $loss $general" ;;
     hash) echo "--check $loss $files $general" ;;
+    diff) echo "--json --git $general" ;;
     get) echo "--json --default --strict --key -k --with-filename --no-filename $files $general" ;;
     json) echo "--strict $files $general" ;;
     lint) echo "--format --fail-on --select --ignore --statistics --fix --diff $files $general" ;;

@@ -11,7 +11,7 @@ function __quill_inp_keys_of_file
   end
 end
 
-set -l verbs show fmt get set unset add new sweep hash json from-json lint explain help
+set -l verbs show fmt get set unset add new sweep hash diff json from-json lint explain help
 set -l writing '__fish_seen_subcommand_from fmt set unset add'
 set -l choosing '__fish_seen_subcommand_from show fmt get set unset add hash json lint'
 set -l keyed '__fish_seen_subcommand_from get unset'
@@ -35,6 +35,7 @@ complete -c quill-inp -n $first -a add -d 'Add constraints, scans and other line
 complete -c quill-inp -n $first -a new -d 'Print a new input'
 complete -c quill-inp -n $first -a sweep -d 'Write inputs for all combinations of values'
 complete -c quill-inp -n $first -a hash -d 'Print or check hashes of what inputs say'
+complete -c quill-inp -n $first -a diff -d 'Tell what two inputs say differently'
 complete -c quill-inp -n $first -a json -d 'Print inputs as JSON, without loss'
 complete -c quill-inp -n $first -a from-json -d 'Print a JSON text as a QUILL input'
 complete -c quill-inp -n $first -a lint -d 'Find what the reader silently made of inputs'
@@ -53,6 +54,8 @@ complete -c quill-inp -n '__fish_seen_subcommand_from get' -l json -d 'Print JSO
 complete -c quill-inp -n '__fish_seen_subcommand_from get' -l default -x -d 'Print this for a key without an answer'
 complete -c quill-inp -n '__fish_seen_subcommand_from show get json' -l strict -d 'Exit with 1 if the reader warns of something'
 complete -c quill-inp -n '__fish_seen_subcommand_from fmt' -l check -d 'Only list files that would change'
+complete -c quill-inp -n '__fish_seen_subcommand_from diff' -l json -d 'Print JSON'
+complete -c quill-inp -n '__fish_seen_subcommand_from diff' -l git -d 'Take the arguments that git gives'
 complete -c quill-inp -n '__fish_seen_subcommand_from hash' -l check -d 'Read hashes and check them'
 
 complete -c quill-inp -n $linting -l format -xa 'text json github sarif' -d 'Print in this form'

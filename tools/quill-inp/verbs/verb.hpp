@@ -37,6 +37,7 @@ Verb add_explain(CLI::App& program);
 Verb add_help(CLI::App& program);
 Verb add_sweep(CLI::App& program);
 Verb add_hash(CLI::App& program);
+Verb add_diff(CLI::App& program);
 
 /// Adds a verb to the program: its name, one line about it, and an example of its use.
 CLI::App* add_verb(CLI::App& program, const std::string& name, const std::string& description,
