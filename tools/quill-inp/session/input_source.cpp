@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <optional>
 #include <utility>
 
 #include "quill-inp/files/file_place.hpp"
@@ -52,24 +53,37 @@ std::string read_regular_file(Session& session, int file, const struct stat& sta
   return content;
 }
 
-/// Returns whether somebody has written to a pipe, or may still do so. The pipe was opened without
-/// blocking: where nobody has it open for writing, there is nothing to read and no sign of an end.
-bool has_writer(int pipe) {
+/// Whether a pipe has something to read, or somebody wrote to it and went.
+bool is_ready(int pipe) {
   struct pollfd state {};
   state.fd = pipe;
   state.events = POLLIN;
-  if (poll(&state, 1, 0) != 0) return true;
-  char ignored = 0;
-  return read(pipe, &ignored, 1) < 0;  // EAGAIN: there is a writer, but nothing to read yet
+  return poll(&state, 1, 0) != 0;
+}
+
+/// Returns the first bytes of a pipe that was opened without blocking, none if there are none yet,
+/// and nothing if nobody writes to it: then there is nothing to read and no sign of an end.
+std::optional<std::string> begin_of_pipe(int pipe) {
+  if (is_ready(pipe)) return std::string();
+  // A writer may come, write and go between any two of these calls.
+  char first = 0;
+  const ssize_t count = read(pipe, &first, 1);
+  if (count > 0) return std::string(1, first);
+  if (count < 0 || is_ready(pipe)) return std::string();  // EAGAIN: there is a writer
+  return std::nullopt;
 }
 
 /// Reads a pipe that another program writes to, such as the shell's <(...).
 std::string read_pipe(Session& session, int pipe, const struct stat& state) {
-  if (!has_writer(pipe)) throw_not_regular(state.st_mode);
+  std::optional<std::string> content = begin_of_pipe(pipe);
+  if (!content) throw_not_regular(state.st_mode);
   const int flags = fcntl(pipe, F_GETFL);
   if (flags < 0 || fcntl(pipe, F_SETFL, flags & ~O_NONBLOCK) != 0)
     throw_system_trouble("cannot be read", errno);
-  return read_at_most(pipe, state, session.options().max_size);
+  const std::uint64_t limit = session.options().max_size;
+  *content += read_to_end(pipe, limit);
+  if (content->size() > limit) throw_too_large(limit);
+  return std::move(*content);
 }
 
 std::string read_file(Session& session, const std::string& path) {

@@ -180,6 +180,18 @@ TEST(ManyFiles, AreChangedOnceEachHoweverOftenTheyAreNamed) {
   }
 }
 
+TEST(ManyFiles, AreOneForEveryVerbThatWritesInPlace) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "#Model=m1\r\n0 1\n");
+  const std::string path = folder.path();
+  EXPECT_EQ(run_in(path, {"lint", "--fix", "-q", "--format=json", "a.qin", "./a.qin"}).out,
+            run_in(path, {"lint", "--fix", "-q", "--format=json", "a.qin"}).out);
+  EXPECT_EQ(run_in(path, {"fmt", "a.qin", "a.qin"}).out,
+            "#Model = m1\n\n0 1\n#Model = m1\n\n0 1\n");
+  EXPECT_EQ(run_in(path, {"fmt", "-i", "a.qin", "./a.qin"}),
+            ended(0, "", "a.qin: note: changed\n"));
+}
+
 TEST(ManyFiles, ThatAreHardLinksAreSeveral) {
   const TemporaryFolder folder;
   folder.write("a.qin", "#Model=m1\n");
