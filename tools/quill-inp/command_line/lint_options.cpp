@@ -21,7 +21,7 @@ constexpr Option statistics{"--statistics", "", "Print how often each code was f
 constexpr const char* form_names[] = {"text", "json", "github", "sarif"};
 
 FindingForm parse_form(const std::string& name) {
-  const auto place = std::find(std::begin(form_names), std::end(form_names), name);
+  const char* const* const place = std::find(std::begin(form_names), std::end(form_names), name);
   if (place != std::end(form_names))
     return static_cast<FindingForm>(place - std::begin(form_names));
   throw UsageError("--format takes text, json, github or sarif, not '" + name + "'" +

@@ -22,7 +22,7 @@ _quill_inp_options() {
     from-json) echo "$output $loss $general" ;;
     sweep) echo "--output -o --zip --atoms --frames --manifest --force --jobs -j $loss $general" ;;
     hash) echo "--check $loss $files $general" ;;
-    diff) echo "--json --git $general" ;;
+    diff) echo "--json --git --strict $general" ;;
     get) echo "--json --default --strict --key -k --with-filename --no-filename $files $general" ;;
     json) echo "--strict $files $general" ;;
     lint) echo "--format --fail-on --select --ignore --statistics --fix --diff $files $general" ;;

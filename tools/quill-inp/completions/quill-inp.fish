@@ -52,7 +52,7 @@ complete -c quill-inp -n '__fish_seen_subcommand_from show' -l json -d 'Print JS
 complete -c quill-inp -n '__fish_seen_subcommand_from show' -l lines -d 'Print what every line is'
 complete -c quill-inp -n '__fish_seen_subcommand_from get' -l json -d 'Print JSON'
 complete -c quill-inp -n '__fish_seen_subcommand_from get' -l default -x -d 'Print this for a key without an answer'
-complete -c quill-inp -n '__fish_seen_subcommand_from show get json' -l strict -d 'Exit with 1 if the reader warns of something'
+complete -c quill-inp -n '__fish_seen_subcommand_from show get json diff' -l strict -d 'Exit with 1 if the reader warns of something'
 complete -c quill-inp -n '__fish_seen_subcommand_from fmt' -l check -d 'Only list files that would change'
 complete -c quill-inp -n '__fish_seen_subcommand_from diff' -l json -d 'Print JSON'
 complete -c quill-inp -n '__fish_seen_subcommand_from diff' -l git -d 'Take the arguments that git gives'

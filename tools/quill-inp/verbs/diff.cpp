@@ -1,8 +1,10 @@
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
+#include "quill-inp/command_line/reading_options.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/summary/input_difference.hpp"
 #include "quill-inp/text/counted.hpp"
@@ -48,13 +50,17 @@ Pair pair_of(const Session& session, const std::vector<std::string>& words) {
   return {words[0], words[1], session.shown_name(words[0]), session.shown_name(words[1])};
 }
 
-/// Reads an input; what git names for no file is an empty one.
-ExitCode read_one(Session& session, const std::string& argument, bool is_of_git,
+/// Reads an input, and tells of its warnings if they count; what git names for no file is an empty
+/// one.
+ExitCode read_one(Session& session, const std::string& argument, bool is_of_git, Warnings warnings,
                   QuillInput& input) {
   if (is_of_git && argument == no_file) return ExitCode::Done;
   return for_file(session, argument, [&] {
-    input = read_input(session, argument).read.result.input;
-    return ExitCode::Done;
+    ReadInput read = read_input(session, argument);
+    const ExitCode code = code_of(read.read.result, warnings);
+    if (code != ExitCode::Done) report_warnings(session.reporter(), read.name, read.read.result);
+    input = std::move(read.read.result.input);
+    return code;
   });
 }
 
@@ -80,12 +86,15 @@ ExitCode diff(Session& session, const CLI::App& app) {
   const Pair pair = is_of_git ? pair_of_git(words) : pair_of(session, words);
   QuillInput before;
   QuillInput after;
-  const ExitCode read_before = read_one(session, pair.before, is_of_git, before);
-  const ExitCode read_after = read_one(session, pair.after, is_of_git, after);
-  if (read_before != ExitCode::Done || read_after != ExitCode::Done) return ExitCode::Trouble;
+  const Warnings warnings = read_warnings_option(app);
+  const ExitCode of_before = read_one(session, pair.before, is_of_git, warnings, before);
+  const ExitCode of_after = read_one(session, pair.after, is_of_git, warnings, after);
+  const ExitCode code = worse_of(of_before, of_after);
+  if (code == ExitCode::Trouble) return code;
   const InputDifferences differences = find_differences(before, after);
   print(session, pair, differences, is_given(app, as_json));
-  return differences.count == 0 || is_of_git ? ExitCode::Done : ExitCode::No;
+  const bool is_same = differences.count == 0 || is_of_git;
+  return worse_of(code, is_same ? ExitCode::Done : ExitCode::No);
 }
 
 }  // namespace
@@ -95,6 +104,7 @@ Verb add_diff(CLI::App& program) {
   add_arguments(*app, files);
   add_flag(*app, as_json);
   add_flag(*app, for_git);
+  add_reading_options(*app);
   add_common_options(*app);
   return {app, diff};
 }
