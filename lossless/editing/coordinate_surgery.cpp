@@ -1,7 +1,6 @@
 #include "editing/coordinate_surgery.hpp"
 
 #include <algorithm>
-#include <utility>
 
 #include "editing/expected_lines.hpp"
 #include "kelp/input/quill/lossless/equality.hpp"
@@ -100,8 +99,8 @@ void CoordinateSurgery::change_parts(EditedLines& lines) {
     if (!is_equal_part(before_, i, after_, i)) lines.replace(part_lines_[i], part_line(after_, i));
   }
   for (std::size_t i = paired_end; i < old_end; ++i) lines.remove(part_lines_[i]);
-  for (std::size_t i = paired_end; i < new_end; ++i) added_parts_.push_back(part_line(after_, i));
-  added_after_ = paired_end;
+  added_begin_ = paired_end;
+  added_end_ = new_end;
 }
 
 /// A reference without a path says only that the coordinates are in files.
@@ -111,16 +110,23 @@ void CoordinateSurgery::remove_idle_lines(EditedLines& lines) const {
 }
 
 void CoordinateSurgery::add_lines(EditedLines& lines, std::size_t end_of_header) const {
-  std::vector<std::string> charge;
-  if (adds_charge_line_) charge.push_back(charge_and_multiplicity_line(after_));
   if (has_section()) {
-    for (std::string& line : charge) lines.insert(first_line(), std::move(line));
-    for (const std::string& line : added_parts_) lines.insert(gap_after_parts(added_after_), line);
-    return;
+    add_charge_line(lines, adds_charge_line_ ? first_line() : 0);
+    if (added_begin_ != added_end_) add_parts(lines, gap_after_parts(added_begin_));
+  } else if (adds_charge_line_ || added_begin_ != added_end_) {
+    const std::size_t gap = lines.begin_section(end_of_header);
+    add_charge_line(lines, gap);
+    add_parts(lines, gap);
+    lines.end_section(gap);
   }
-  std::vector<std::string> section = std::move(charge);
-  section.insert(section.end(), added_parts_.begin(), added_parts_.end());
-  if (!section.empty()) lines.insert_section(end_of_header, std::move(section));
+}
+
+void CoordinateSurgery::add_charge_line(EditedLines& lines, std::size_t gap) const {
+  if (adds_charge_line_) lines.insert(gap, charge_and_multiplicity_line(after_));
+}
+
+void CoordinateSurgery::add_parts(EditedLines& lines, std::size_t gap) const {
+  for (std::size_t i = added_begin_; i < added_end_; ++i) lines.insert(gap, part_line(after_, i));
 }
 
 /// The first line of the geometry. A section without a charge line has one.

@@ -29,6 +29,8 @@ class CoordinateSurgery {
   void change_charge_line(EditedLines& lines) const;
   void change_parts(EditedLines& lines);
   void remove_idle_lines(EditedLines& lines) const;
+  void add_charge_line(EditedLines& lines, std::size_t gap) const;
+  void add_parts(EditedLines& lines, std::size_t gap) const;
   std::size_t first_line() const;
   std::size_t gap_after_parts(std::size_t count) const;
 
@@ -38,8 +40,9 @@ class CoordinateSurgery {
   std::vector<std::size_t> part_lines_;  // the lines of atoms, or of references with a path
   std::vector<std::size_t> idle_lines_;  // references without a path, which have no effect
   bool adds_charge_line_ = false;
-  std::vector<std::string> added_parts_;
-  std::size_t added_after_ = 0;  // how many old parts are before those that are added
+  // The parts of `after_` that are added, and as many old parts are before them.
+  std::size_t added_begin_ = 0;
+  std::size_t added_end_ = 0;
 };
 
 }  // namespace kelp::input::quill::lossless

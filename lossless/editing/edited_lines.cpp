@@ -11,166 +11,189 @@ namespace {
 
 bool is_blank(std::string_view content) { return core::text::trim(content).empty(); }
 
-bool holds_text(const std::vector<std::string>& contents) {
-  return !std::all_of(contents.begin(), contents.end(), is_blank);
+std::string_view terminator_of(const LineRecord& line, std::string_view text) {
+  return text.substr(line.offset + line.length, line.terminator_length);
 }
 
-bool ends_in_empty_line(std::string_view content) {
-  return content.empty() || content.back() == '\n';
+/// Returns the line end for a new line that has none before it. All lines but the last have one, so
+/// that is the first line's.
+std::string_view usual_terminator(const ReadText& read) {
+  if (read.lines.empty() || read.lines.front().terminator_length == 0) return "\n";
+  return terminator_of(read.lines.front(), read.text);
 }
 
 /// Builds the new text from its first line to its last.
 class Assembly {
  public:
-  explicit Assembly(std::string_view usual_terminator) : usual_terminator_(usual_terminator) {}
+  Assembly(std::string_view usual_terminator, std::size_t text_size, std::size_t change_count)
+      : usual_terminator_(usual_terminator) {
+    result_.text.reserve(text_size);
+    result_.changes.reserve(change_count);
+  }
 
   void keep(std::string_view content, std::string_view terminator) {
-    lines_.push_back({content, terminator});
+    add(content, terminator);
     ++count_;
   }
 
-  void remove(std::size_t old_line) { changes_.push_back({old_line + 1, std::nullopt}); }
+  void remove(std::size_t old_line) { result_.changes.push_back({old_line + 1, std::nullopt}); }
 
   void replace(std::size_t old_line, std::string_view content, std::string_view terminator) {
-    lines_.push_back({content, terminator});
+    add(content, terminator);
     report(old_line + 1, content);
   }
 
+  /// A new line has the line end of the line before it, which has one from now on.
   void add_new(std::string_view content) {
-    if (!lines_.empty() && lines_.back().terminator.empty())
-      lines_.back().terminator = usual_terminator_;
-    lines_.push_back({content, lines_.empty() ? usual_terminator_ : lines_.back().terminator});
+    if (has_lines_ && terminator_.empty()) terminator_ = usual_terminator_;
+    add(content, has_lines_ ? terminator_ : usual_terminator_);
     report(std::nullopt, content);
   }
 
   EditedText finish(bool without_last_terminator) {
     // An empty last line keeps its line end: without that it would not be a line.
-    if (without_last_terminator && !lines_.empty() && !ends_in_empty_line(lines_.back().content))
-      lines_.back().terminator = {};
-    EditedText result;
-    for (const Line& line : lines_) {
-      result.text += line.content;
-      result.text += line.terminator;
-    }
-    result.changes = std::move(changes_);
-    return result;
+    const bool ends_in_empty_line = result_.text.empty() || result_.text.back() == '\n';
+    if (!without_last_terminator || ends_in_empty_line) result_.text += terminator_;
+    return std::move(result_);
   }
 
  private:
-  struct Line {
-    std::string_view content;
-    std::string_view terminator;
-  };
+  /// The line end of a line is written when the next line is: the last one may lose its own.
+  void add(std::string_view content, std::string_view terminator) {
+    result_.text += terminator_;
+    result_.text += content;
+    terminator_ = terminator;
+    has_lines_ = true;
+  }
 
   /// Content with line breaks makes several lines.
   void report(std::optional<std::size_t> old_line, std::string_view content) {
-    changes_.push_back({old_line, ++count_});
+    result_.changes.push_back({old_line, ++count_});
     for (auto i = std::count(content.begin(), content.end(), '\n'); i > 0; --i)
-      changes_.push_back({std::nullopt, ++count_});
+      result_.changes.push_back({std::nullopt, ++count_});
   }
 
   std::string_view usual_terminator_;
-  std::vector<Line> lines_;
+  EditedText result_;
+  std::string_view terminator_;  // of the last line
+  bool has_lines_ = false;
   std::size_t count_ = 0;
-  std::vector<LineChange> changes_;
 };
 
 }  // namespace
 
-EditedLines::EditedLines(const ReadText& read) : gaps_(read.lines.size() + 1) {
-  const std::string_view text = read.text;
-  lines_.reserve(read.lines.size());
-  for (const LineRecord& line : read.lines) {
-    lines_.push_back({content_of(line, text),
-                      text.substr(line.offset + line.length, line.terminator_length), std::nullopt,
-                      line.role == LineRole::Blank});
-  }
-  if (lines_.empty()) return;
-  ends_without_terminator_ = lines_.back().terminator.empty();
-  // All lines but the last have a line end, so new lines can take that of the first one.
-  if (!lines_.front().terminator.empty()) usual_terminator_ = lines_.front().terminator;
+EditedLines::EditedLines(const ReadText& read) : read_(read), is_removed_(read.lines.size()) {}
+
+void EditedLines::replace(std::size_t line, std::string_view content) {
+  if (content != content_of(read_.lines[line], read_.text))
+    replaced_.push_back(add_content(line, content));
 }
 
-void EditedLines::replace(std::size_t line, std::string content) {
-  lines_[line].replacement = std::move(content);
+void EditedLines::insert(std::size_t gap, std::string_view content) {
+  inserted_.push_back(add_content(gap, content));
 }
 
-void EditedLines::remove(std::size_t line) { lines_[line].is_removed = true; }
-
-void EditedLines::insert(std::size_t gap, std::string content) {
-  gaps_[gap].push_back(std::move(content));
+std::size_t EditedLines::begin_section(std::size_t gap) {
+  if (!has_text_before(gap) || has_blank_line_before(gap)) return gap;
+  if (has_blank_line_after(gap)) return next_line(gap) + 1;
+  insert(gap, {});
+  return gap;
 }
 
-void EditedLines::insert_section(std::size_t gap, std::vector<std::string> contents) {
-  const bool has_neighbour_before = has_text_before(gap);
-  if (has_neighbour_before && !has_blank_line_before(gap)) {
-    if (has_blank_line_after(gap)) {
-      gap = next_line(gap) + 1;
-    } else {
-      insert(gap, {});
-    }
-  }
-  for (std::string& content : contents) insert(gap, std::move(content));
+void EditedLines::end_section(std::size_t gap) {
   if (has_text_after(gap) && !has_blank_line_after(gap)) insert(gap, {});
 }
 
-/// Lines that were already put into the gap count as before it.
+EditedLines::NewLine EditedLines::add_content(std::size_t position, std::string_view content) {
+  const std::size_t offset = contents_.size();
+  contents_ += content;
+  return {position, offset, content.size()};
+}
+
+std::string_view EditedLines::content_of_new(const NewLine& line) const {
+  return std::string_view(contents_).substr(line.offset, line.length);
+}
+
+bool EditedLines::has_text_inserted() const {
+  return std::any_of(inserted_.begin(), inserted_.end(),
+                     [&](const NewLine& line) { return !is_blank(content_of_new(line)); });
+}
+
+/// Lines are inserted from the beginning to the end, so all that were already inserted are before.
 bool EditedLines::has_text_before(std::size_t gap) const {
-  if (holds_text(gaps_[gap])) return true;
+  if (has_text_inserted()) return true;
   for (std::size_t i = 0; i < gap; ++i) {
-    if (holds_text(gaps_[i]) || (!lines_[i].is_removed && !lines_[i].is_blank)) return true;
+    if (!is_removed_[i] && !is_blank_old(i)) return true;
   }
   return false;
 }
 
 bool EditedLines::has_text_after(std::size_t gap) const {
-  for (std::size_t i = gap; i < lines_.size(); ++i) {
-    if (holds_text(gaps_[i + 1]) || (!lines_[i].is_removed && !lines_[i].is_blank)) return true;
+  for (std::size_t i = gap; i < read_.lines.size(); ++i) {
+    if (!is_removed_[i] && !is_blank_old(i)) return true;
   }
   return false;
 }
 
 bool EditedLines::has_blank_line_before(std::size_t gap) const {
-  for (std::size_t i = gap + 1; i-- > 0;) {
-    if (!gaps_[i].empty()) return is_blank(gaps_[i].back());
-    if (i > 0 && !lines_[i - 1].is_removed) return lines_[i - 1].is_blank;
-  }
-  return false;
+  std::size_t kept_end = gap;
+  while (kept_end > 0 && is_removed_[kept_end - 1]) --kept_end;
+  if (!inserted_.empty() && inserted_.back().position >= kept_end)
+    return is_blank(content_of_new(inserted_.back()));
+  return kept_end > 0 && is_blank_old(kept_end - 1);
 }
 
 /// A blank line without a line end does not count: it would have to change to have lines after it.
 bool EditedLines::has_blank_line_after(std::size_t gap) const {
   const std::size_t line = next_line(gap);
-  return line != lines_.size() && lines_[line].is_blank && !lines_[line].terminator.empty();
+  return line != read_.lines.size() && is_blank_old(line) &&
+         read_.lines[line].terminator_length != 0;
 }
 
 std::size_t EditedLines::next_line(std::size_t gap) const {
-  while (gap != lines_.size() && lines_[gap].is_removed) ++gap;
+  while (gap != read_.lines.size() && is_removed_[gap]) ++gap;
   return gap;
 }
 
 std::size_t EditedLines::gap_after_text() const {
-  for (std::size_t gap = lines_.size(); gap > 0; --gap) {
-    if (holds_text(gaps_[gap]) || !lines_[gap - 1].is_blank) return gap;
+  std::size_t gap = read_.lines.size();
+  while (gap > 0 && is_blank_old(gap - 1)) --gap;
+  for (const NewLine& line : inserted_) {
+    if (!is_blank(content_of_new(line))) gap = std::max(gap, line.position);
   }
-  return 0;
+  return gap;
 }
 
-EditedText EditedLines::finish() const {
-  Assembly assembly(usual_terminator_);
-  for (std::size_t i = 0; i <= lines_.size(); ++i) {
-    for (const std::string& content : gaps_[i]) assembly.add_new(content);
-    if (i == lines_.size()) break;
-    const OldLine& line = lines_[i];
-    if (line.is_removed) {
+EditedText EditedLines::finish() {
+  const auto is_before = [](const NewLine& left, const NewLine& right) {
+    return left.position < right.position;
+  };
+  std::sort(replaced_.begin(), replaced_.end(), is_before);
+  const auto removed_count =
+      static_cast<std::size_t>(std::count(is_removed_.begin(), is_removed_.end(), true));
+  const std::string_view terminator = usual_terminator(read_);
+  Assembly assembly(terminator,
+                    read_.text.size() + contents_.size() + inserted_.size() * terminator.size(),
+                    replaced_.size() + inserted_.size() + removed_count);
+  auto replacement = replaced_.begin();
+  auto insertion = inserted_.begin();
+  for (std::size_t i = 0; i <= read_.lines.size(); ++i) {
+    for (; insertion != inserted_.end() && insertion->position == i; ++insertion)
+      assembly.add_new(content_of_new(*insertion));
+    if (i == read_.lines.size()) break;
+    const LineRecord& line = read_.lines[i];
+    const bool is_replaced = replacement != replaced_.end() && replacement->position == i;
+    if (is_removed_[i]) {
       assembly.remove(i);
-    } else if (line.replacement && *line.replacement != line.content) {
-      assembly.replace(i, *line.replacement, line.terminator);
+    } else if (is_replaced) {
+      assembly.replace(i, content_of_new(*replacement), terminator_of(line, read_.text));
     } else {
-      assembly.keep(line.content, line.terminator);
+      assembly.keep(content_of(line, read_.text), terminator_of(line, read_.text));
     }
+    if (is_replaced) ++replacement;
   }
-  return assembly.finish(ends_without_terminator_);
+  const bool had_last_terminator = read_.lines.empty() || read_.lines.back().terminator_length != 0;
+  return assembly.finish(!had_last_terminator);
 }
 
 }  // namespace kelp::input::quill::lossless

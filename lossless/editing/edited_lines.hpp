@@ -25,41 +25,53 @@ struct EditedText {
 /// which they were inserted.
 class EditedLines {
  public:
-  /// Keeps views of the text of `read`.
+  /// Keeps a reference to `read`.
   explicit EditedLines(const ReadText& read);
 
-  void replace(std::size_t line, std::string content);
-  void remove(std::size_t line);
-  void insert(std::size_t gap, std::string content);
+  void replace(std::size_t line, std::string_view content);
+  void remove(std::size_t line) { is_removed_[line] = true; }
+  void insert(std::size_t gap, std::string_view content);
 
-  /// Inserts the lines of a new section into a gap. Where there is no blank line between them and
-  /// the text before and after, an empty line is added.
-  void insert_section(std::size_t gap, std::vector<std::string> contents);
+  /// Begins a new section in a gap and returns the gap for its lines. Where there is no blank line
+  /// between them and the text before, an empty line is added.
+  std::size_t begin_section(std::size_t gap);
+
+  /// Ends the section whose lines were inserted into a gap, with an empty line if there is text
+  /// after it and no blank line between.
+  void end_section(std::size_t gap);
 
   /// Returns the gap after the last line that is not blank, old or new; gap 0 if there is none.
   std::size_t gap_after_text() const;
 
-  EditedText finish() const;
+  /// Returns the new text. To be called once, at the end.
+  EditedText finish();
 
  private:
-  struct OldLine {
-    std::string_view content;
-    std::string_view terminator;
-    std::optional<std::string> replacement = std::nullopt;
-    bool is_blank = false;
-    bool is_removed = false;
+  /// A new line: the old line that it replaces, or the gap that it is in, and where its content is
+  /// in contents_.
+  struct NewLine {
+    std::size_t position;
+    std::size_t offset;
+    std::size_t length;
   };
 
+  NewLine add_content(std::size_t position, std::string_view content);
+  std::string_view content_of_new(const NewLine& line) const;
+  bool is_blank_old(std::size_t line) const { return read_.lines[line].role == LineRole::Blank; }
+  bool has_text_inserted() const;
   bool has_text_before(std::size_t gap) const;
   bool has_text_after(std::size_t gap) const;
   bool has_blank_line_before(std::size_t gap) const;
   bool has_blank_line_after(std::size_t gap) const;
   std::size_t next_line(std::size_t gap) const;
 
-  std::vector<OldLine> lines_;
-  std::vector<std::vector<std::string>> gaps_;
-  std::string_view usual_terminator_ = "\n";
-  bool ends_without_terminator_ = false;
+  const ReadText& read_;
+  // Most lines of most texts stay, so only those that do not take memory, and of many new ones the
+  // contents are in one string.
+  std::vector<bool> is_removed_;
+  std::vector<NewLine> replaced_;
+  std::vector<NewLine> inserted_;
+  std::string contents_;
 };
 
 }  // namespace kelp::input::quill::lossless

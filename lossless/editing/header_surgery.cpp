@@ -1,5 +1,6 @@
 #include "editing/header_surgery.hpp"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -53,16 +54,13 @@ void HeaderSurgery::change_lines(EditedLines& lines) {
 }
 
 void HeaderSurgery::add_lines(EditedLines& lines) {
-  std::vector<std::string> added;
+  const auto is_added = [](const std::optional<std::size_t>& origin) { return !origin; };
+  if (std::none_of(origins_.begin(), origins_.end(), is_added)) return;
+  const std::size_t gap = positions_.empty() ? lines.begin_section(0) : end();
   for (std::size_t i = 0; i < origins_.size(); ++i) {
-    if (!origins_[i]) added.push_back(quoted_line(after_.commands[i]));
+    if (!origins_[i]) lines.insert(gap, quoted_line(after_.commands[i]));
   }
-  if (added.empty()) return;
-  if (positions_.empty()) {
-    lines.insert_section(0, std::move(added));
-    return;
-  }
-  for (std::string& line : added) lines.insert(end(), std::move(line));
+  if (positions_.empty()) lines.end_section(gap);
 }
 
 std::string HeaderSurgery::quoted_line(const HeaderCommand& command) {

@@ -22,24 +22,42 @@ using Reason = QuotingProblem::Reason;
 /// Whether a parameter is the last of its list, and so can end in an unclosed quote.
 enum class Place { BeforeOthers, Last };
 
+/// Returns the only command that a header line is read as, or nothing if there are none or more.
+std::optional<HeaderCommand> only_command(const std::string& line) {
+  QuillInput found = parse_string(line).input;
+  if (found.commands.size() != 1) return std::nullopt;
+  return std::move(found.commands.front());
+}
+
 /// Returns whether the header line that `written` gives is read as `wanted`.
 bool reads_back(const HeaderCommand& written, const HeaderCommand& wanted) {
-  const QuillInput found = parse_string(to_string(written)).input;
-  return found.commands.size() == 1 && is_equal(found.commands.front(), wanted);
+  const std::optional<HeaderCommand> found = only_command(to_string(written));
+  return found && is_equal(*found, wanted);
 }
 
 HeaderCommand assignment_of(std::string_view value) {
   return HeaderCommand("a", HeaderCommandKind::Assignment, std::string(value));
 }
 
-HeaderCommand list_of(const CommandParameter& parameter, Place place) {
-  HeaderCommand command("a", HeaderCommandKind::ParameterList, std::nullopt, {parameter});
+HeaderCommand list_of(CommandParameter parameter, Place place) {
+  HeaderCommand command("a", HeaderCommandKind::ParameterList);
+  command.parameters.push_back(std::move(parameter));
   if (place == Place::BeforeOthers) command.parameters.emplace_back("b");
   return command;
 }
 
-bool reads_back(const CommandParameter& written, const CommandParameter& wanted, Place place) {
-  return reads_back(list_of(written, place), list_of(wanted, place));
+/// A value may be long, so there are no more copies of it at a time than are needed.
+bool reads_back(CommandParameter written, const CommandParameter& wanted, Place place) {
+  const std::string line = to_string(list_of(std::move(written), place));
+  const std::optional<HeaderCommand> found = only_command(line);
+  return found && is_equal(*found, list_of(wanted, place));
+}
+
+/// The same for a value that is assigned.
+bool reads_back(const std::string& written, const std::string& wanted) {
+  const std::string line = to_string(assignment_of(written));
+  const std::optional<HeaderCommand> found = only_command(line);
+  return found && is_equal(*found, assignment_of(wanted));
 }
 
 std::string put_between(char quote, std::string_view value) {
@@ -49,18 +67,21 @@ std::string put_between(char quote, std::string_view value) {
   return out;
 }
 
-/// The three ways to write a value, in the order of preference.
-std::array<std::string, 3> candidates(std::string_view value) {
+/// The quotes to try around a value, after none at all.
+std::array<char, 2> quotes_for(std::string_view value) {
   const bool prefers_single = value.find('"') != npos && value.find('\'') == npos;
-  const char first = prefers_single ? '\'' : '"';
-  const char second = prefers_single ? '"' : '\'';
-  return {std::string(value), put_between(first, value), put_between(second, value)};
+  if (prefers_single) return {'\'', '"'};
+  return {'"', '\''};
 }
 
+/// Returns the first way to write a value that survives. Only one of them is in memory at a time.
 template <typename Survives>
 std::optional<std::string> first_candidate(std::string_view value, Survives survives) {
-  for (std::string& candidate : candidates(value)) {
-    if (survives(candidate)) return std::move(candidate);
+  std::string candidate(value);
+  if (survives(candidate)) return candidate;
+  for (const char quote : quotes_for(value)) {
+    candidate = put_between(quote, value);
+    if (survives(candidate)) return candidate;
   }
   return std::nullopt;
 }
@@ -126,10 +147,8 @@ void quote_assigned_value(QuotedCommand& quoted) {
     quoted.problems.push_back({Piece::Command, Reason::NoValue, quoted.command.name});
     return;
   }
-  const HeaderCommand wanted = assignment_of(*value);
-  std::optional<std::string> text = first_candidate(*value, [&](const std::string& candidate) {
-    return reads_back(assignment_of(candidate), wanted);
-  });
+  std::optional<std::string> text = first_candidate(
+      *value, [&](const std::string& candidate) { return reads_back(candidate, *value); });
   if (text) {
     value = std::move(text);
   } else {
@@ -179,10 +198,13 @@ QuotedCommand quote(const HeaderCommand& command) {
 }
 
 QuotedDocument quote(const QuillInput& input) {
-  QuotedDocument quoted{input, {}};
-  for (HeaderCommand& command : quoted.document.commands) {
+  QuotedDocument quoted;
+  quoted.document.geometry = input.geometry;
+  quoted.document.post_commands = input.post_commands;
+  quoted.document.commands.reserve(input.commands.size());
+  for (const HeaderCommand& command : input.commands) {
     QuotedCommand result = quote(command);
-    command = std::move(result.command);
+    quoted.document.commands.push_back(std::move(result.command));
     std::move(result.problems.begin(), result.problems.end(), std::back_inserter(quoted.problems));
   }
   return quoted;

@@ -32,21 +32,19 @@ std::size_t remove_post_lines(const ReadText& read, const TrackedDocument& docum
 
 void add_post_lines(const ReadText& read, const QuillInput& after, std::size_t kept,
                     EditedLines& lines) {
-  std::vector<std::string> added;
-  for (std::size_t i = kept; i < after.post_commands.size(); ++i)
-    added.push_back(to_string(after.post_commands[i]));
-  if (added.empty()) return;
-  const std::size_t gap = lines.gap_after_text();
-  if (std::none_of(read.lines.begin(), read.lines.end(), is_post_processing)) {
-    lines.insert_section(gap, std::move(added));
-    return;
-  }
-  for (std::string& line : added) lines.insert(gap, std::move(line));
+  const std::size_t end = after.post_commands.size();
+  if (kept >= end) return;
+  const bool begins_section =
+      std::none_of(read.lines.begin(), read.lines.end(), is_post_processing);
+  const std::size_t last = lines.gap_after_text();
+  const std::size_t gap = begins_section ? lines.begin_section(last) : last;
+  for (std::size_t i = kept; i < end; ++i) lines.insert(gap, to_string(after.post_commands[i]));
+  if (begins_section) lines.end_section(gap);
 }
 
 }  // namespace
 
-SurgicalEdit render(const ReadText& read, const TrackedDocument& document, double max_change) {
+NewText rewrite(const ReadText& read, const TrackedDocument& document) {
   const QuillInput& after = document.document();
   EditedLines lines(read);
   HeaderSurgery header(read, document);
@@ -59,11 +57,12 @@ SurgicalEdit render(const ReadText& read, const TrackedDocument& document, doubl
   add_post_lines(read, after, kept_post_lines, lines);
 
   EditedText edited = lines.finish();
-  SurgicalEdit result;
-  result.text = std::move(edited.text);
-  result.changes = std::move(edited.changes);
-  result.quoting_problems = header.problems();
-  result.proof = prove(result.text, after, max_change);
+  return {std::move(edited.text), std::move(edited.changes), header.problems()};
+}
+
+SurgicalEdit render(const ReadText& read, const TrackedDocument& document, double max_change) {
+  SurgicalEdit result{rewrite(read, document), {}};
+  result.proof = prove(result.text, document.document(), max_change);
   return result;
 }
 

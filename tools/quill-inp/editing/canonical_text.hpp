@@ -3,17 +3,28 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "kelp/input/quill/lossless/quoting.hpp"
 #include "quill-inp/editing/loss_policy.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/session/session.hpp"
 
 namespace kelp::input::quill::tool {
 
-/// Returns the canonical text of an input, with quotes around values that need them. Reports the
-/// reader's warnings, numbers that change and what is lost. Returns nothing, after an error, when
-/// the text loses what the policy does not allow.
-std::optional<std::string> make_canonical_text(Session& session, const ReadInput& input,
+/// The canonical text of a document, with quotes around values that need them, and what cannot be
+/// written in it.
+struct CanonicalText {
+  std::string text = {};
+  std::vector<lossless::QuotingProblem> problems = {};
+};
+
+CanonicalText canonical_text(const QuillInput& document);
+
+/// Returns the canonical text of an input. Reports the reader's warnings, numbers that change and
+/// what is lost. Returns nothing, after an error, when the text loses what the policy does not
+/// allow. Forgets the lines of the input, whose memory the proof needs.
+std::optional<std::string> make_canonical_text(Session& session, ReadInput& input,
                                                const LossPolicy& policy);
 
 }  // namespace kelp::input::quill::tool

@@ -43,27 +43,43 @@ std::size_t end_of_run(const std::vector<LineChange>& changes, std::size_t begin
   return end;
 }
 
-std::string_view content_of_change(const lossless::ReadText& read,
-                                   const lossless::SurgicalEdit& edit, const LineChange& change) {
-  return change.new_line ? lossless::content_of(edit.proof.lines[*change.new_line - 1], edit.text)
-                         : lossless::content_of(read.lines[*change.old_line - 1], read.text);
-}
+/// Finds lines of a text by their numbers, which have to come in ascending order.
+class LineSearch {
+ public:
+  explicit LineSearch(std::string_view text) : rest_(text) {}
+
+  /// Returns the line without its line end.
+  std::string_view find(std::size_t number) {
+    for (; number_ < number; ++number_) rest_.remove_prefix(rest_.find('\n') + 1);
+    const std::size_t end = rest_.find('\n');
+    std::string_view line = rest_.substr(0, end);
+    if (end != std::string_view::npos && !line.empty() && line.back() == '\r')
+      line.remove_suffix(1);
+    return line;
+  }
+
+ private:
+  std::string_view rest_;
+  std::size_t number_ = 1;
+};
 
 }  // namespace
 
-std::vector<ChangeNote> describe_changes(const ReadInput& input,
-                                         const lossless::SurgicalEdit& edit) {
+std::vector<ChangeNote> describe_changes(const ReadInput& input, const lossless::NewText& edited) {
   std::vector<ChangeNote> notes;
-  for (std::size_t begin = 0; begin < edit.changes.size();) {
-    const std::size_t end = end_of_run(edit.changes, begin);
-    const LineChange& change = edit.changes[begin];
+  LineSearch new_lines(edited.text);
+  for (std::size_t begin = 0; begin < edited.changes.size();) {
+    const std::size_t end = end_of_run(edited.changes, begin);
+    const LineChange& change = edited.changes[begin];
     const std::size_t first = number_of(change);
     std::string message = word_for(kind_of(change));
     if (end - begin > 1) {
       message += ", up to line " + std::to_string(first + (end - begin) - 1);
     } else {
       message += ": ";
-      message += content_of_change(input.read, edit, change);
+      message += change.new_line
+                     ? new_lines.find(first)
+                     : lossless::content_of(input.read.lines[first - 1], input.read.text);
     }
     notes.push_back({{input.name, first}, std::move(message)});
     begin = end;

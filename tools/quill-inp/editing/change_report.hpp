@@ -19,8 +19,7 @@ struct ChangeNote {
 /// Describes every line that an edit of an input changes, adds or removes: a single line with its
 /// text, and several lines of the same kind in a row as one range. Removed lines have their old
 /// numbers, all others their new ones.
-std::vector<ChangeNote> describe_changes(const ReadInput& input,
-                                         const lossless::SurgicalEdit& edit);
+std::vector<ChangeNote> describe_changes(const ReadInput& input, const lossless::NewText& edited);
 
 }  // namespace kelp::input::quill::tool
 

@@ -16,8 +16,8 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
+using lossless::NewText;
 using lossless::ReadText;
-using lossless::SurgicalEdit;
 using lossless::TrackedDocument;
 
 void report_notes(Session& session, const ReadInput& input, const EditReport& report) {
@@ -33,9 +33,9 @@ void report_notes(Session& session, const ReadInput& input, const EditReport& re
 
 /// Returns what changed or removed header lines say besides their commands. The other lines that
 /// change hold nothing more than what they were read as.
-std::vector<LineLoss> list_header_losses(const ReadText& read, const SurgicalEdit& edit) {
+std::vector<LineLoss> list_header_losses(const ReadText& read, const NewText& edited) {
   std::vector<LineLoss> losses;
-  for (const lossless::LineChange& change : edit.changes) {
+  for (const lossless::LineChange& change : edited.changes) {
     if (!change.old_line || read.lines[*change.old_line - 1].role != LineRole::Command) continue;
     if (const auto loss = find_line_loss(read, *change.old_line - 1)) losses.push_back(*loss);
   }
@@ -46,6 +46,13 @@ std::vector<LineLoss> list_header_losses(const ReadText& read, const SurgicalEdi
 std::string folder_of(const std::string& argument) {
   const std::size_t slash = argument.rfind('/');
   return slash == std::string::npos ? "." : argument.substr(0, slash + 1);
+}
+
+/// Gives back the memory of all that was needed only to make the new text: the proof needs as much.
+void forget_all_but_texts(ReadInput& input, NewText& edited) {
+  forget_lines(input);
+  input.read.result = ParseResult();
+  edited.changes = std::vector<lossless::LineChange>();
 }
 
 }  // namespace
@@ -73,41 +80,53 @@ ExitCode edit_files(Session& session, const EditOptions& options, const Edit& ed
                        });
 }
 
-EditedInput edit_input(Session& session, const std::string& name, const ReadInput& input,
-                       const Edit& edit, const LossPolicy& policy, EditNotes notes) {
-  TrackedDocument document(input.read.result.input);
-  EditReport report = edit(document);
+MadeEdit make_edit(Session& session, const std::string& name, const ReadInput& input,
+                   const Edit& edit, const LossPolicy& policy, EditNotes notes) {
+  MadeEdit made{ExitCode::Done, TrackedDocument(input.read.result.input)};
+  EditReport report = edit(made.document);
   if (notes == EditNotes::Told) report_notes(session, input, report);
   for (const MissingAnswer& missing : report.missing)
     session.reporter().note({name}, words(missing));
-  if (!report.missing.empty()) return {ExitCode::No, {}};
+  if (!report.missing.empty()) made.code = ExitCode::No;
+  if (made.code != ExitCode::Done) return made;
 
-  const auto doubts =
-      find_addition_doubts(input.read.result.input, document.document(), folder_of(input.name));
-  if (!accept_additions(session, name, doubts, policy)) return {ExitCode::Trouble, {}};
+  const auto doubts = find_addition_doubts(input.read.result.input, made.document.document(),
+                                           folder_of(input.name));
+  if (!accept_additions(session, name, doubts, policy)) made.code = ExitCode::Trouble;
+  if (made.code != ExitCode::Done) return made;
 
-  SurgicalEdit edited = lossless::render(input.read, document, policy.max_change);
-  if (notes == EditNotes::Told)
-    note_number_changes(session, name, edited.proof.comparison.number_changes);
-  const Losses losses{std::move(report.losses), list_header_losses(input.read, edited),
-                      edited.quoting_problems, edited.proof, document.document()};
-  if (!accept_losses(session, name, losses, policy)) return {ExitCode::Trouble, {}};
-  return {ExitCode::Done, std::move(edited)};
+  made.text = lossless::rewrite(input.read, made.document);
+  made.setting_losses = std::move(report.losses);
+  made.line_losses = list_header_losses(input.read, made.text);
+  return made;
+}
+
+bool accept_edit(Session& session, const std::string& name, MadeEdit& made,
+                 const LossPolicy& policy, EditNotes notes) {
+  const QuillInput& wanted = made.document.document();
+  const lossless::Proof proof = lossless::prove(made.text.text, wanted, policy.max_change);
+  if (notes == EditNotes::Told) note_number_changes(session, name, proof.comparison.number_changes);
+  const Losses losses{std::move(made.setting_losses), std::move(made.line_losses),
+                      std::move(made.text.quoting_problems), proof, wanted};
+  return accept_losses(session, name, losses, policy);
 }
 
 ExitCode edit_file(Session& session, const std::string& argument, const Edit& edit,
                    const Delivery& delivery, const LossPolicy& policy) {
-  const ReadInput input = read_for_delivery(session, argument, delivery);
+  ReadInput input = read_for_delivery(session, argument, delivery);
   if (!accept_as_input(session, input, policy)) return ExitCode::Trouble;
   report_warnings(session.reporter(), input.name, input.read.result);
-  const EditedInput edited = edit_input(session, input.name, input, edit, policy, EditNotes::Told);
-  if (edited.code != ExitCode::Done) return edited.code;
-  if (!accept_findings(session, argument, edited.edit.text, policy)) return ExitCode::Trouble;
+  MadeEdit made = make_edit(session, input.name, input, edit, policy, EditNotes::Told);
+  if (made.code != ExitCode::Done) return made.code;
   // If memory ran out after the file was written, the error would look as if it was not written. So
   // the notes, which can take much memory, are made first.
   std::vector<ChangeNote> notes;
-  if (delivery.in_place) notes = describe_changes(input, edited.edit);
-  const ExitCode code = deliver(session, input, edited.edit.text, delivery);
+  if (delivery.in_place) notes = describe_changes(input, made.text);
+  forget_all_but_texts(input, made.text);
+
+  if (!accept_edit(session, input.name, made, policy, EditNotes::Told)) return ExitCode::Trouble;
+  if (!accept_findings(session, argument, made.text.text, policy)) return ExitCode::Trouble;
+  const ExitCode code = deliver(session, input, made.text.text, delivery);
   for (const ChangeNote& note : notes) session.reporter().note(note.place, note.message);
   return code;
 }

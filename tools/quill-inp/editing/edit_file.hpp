@@ -12,6 +12,7 @@
 #include "quill-inp/editing/delivery.hpp"
 #include "quill-inp/editing/edit_report.hpp"
 #include "quill-inp/editing/loss_policy.hpp"
+#include "quill-inp/editing/losses.hpp"
 #include "quill-inp/process/exit_code.hpp"
 #include "quill-inp/session/input_source.hpp"
 
@@ -39,16 +40,25 @@ ExitCode edit_files(Session& session, const EditOptions& options, const Edit& ed
 /// Whether to tell of what is worth a note in an edit. For the second of two equal edits it is not.
 enum class EditNotes { Told, Untold };
 
-/// The text that an edit makes, unless there is something that forbids it; `code` is then not Done.
-struct EditedInput {
+/// A new text that is not proved yet, and what its proof is to be judged by. If something forbids
+/// the edit, `code` is not Done, and there is no text.
+struct MadeEdit {
   ExitCode code = ExitCode::Done;
-  lossless::SurgicalEdit edit = {};
+  lossless::TrackedDocument document;
+  lossless::NewText text = {};
+  std::vector<SettingLoss> setting_losses = {};
+  std::vector<LineLoss> line_losses = {};
 };
 
-/// Edits an input that was read, and reports, under `name`, what is missing, what is lost and what
-/// is refused.
-EditedInput edit_input(Session& session, const std::string& name, const ReadInput& input,
-                       const Edit& edit, const LossPolicy& policy, EditNotes notes);
+/// Edits an input that was read, and reports, under `name`, what is missing and what is refused.
+/// The result keeps views of the text of the input.
+MadeEdit make_edit(Session& session, const std::string& name, const ReadInput& input,
+                   const Edit& edit, const LossPolicy& policy, EditNotes notes);
+
+/// Proves the text of such an edit, for which nothing of the input but its text is needed. Returns
+/// whether it may be written; what is lost or refused is reported. To be called once.
+bool accept_edit(Session& session, const std::string& name, MadeEdit& made,
+                 const LossPolicy& policy, EditNotes notes);
 
 /// Reads an input, edits its document and delivers the whole new text or nothing. The answer is
 /// "no" when something is missing. Throws Trouble and UsageError.

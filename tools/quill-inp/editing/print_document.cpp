@@ -1,7 +1,9 @@
 #include "quill-inp/editing/print_document.hpp"
 
+#include <utility>
+
 #include "kelp/input/quill/lossless/proof.hpp"
-#include "kelp/input/quill/lossless/quoting.hpp"
+#include "quill-inp/editing/canonical_text.hpp"
 #include "quill-inp/editing/strictness.hpp"
 
 namespace kelp::input::quill::tool {
@@ -15,17 +17,16 @@ constexpr const char* name_of_output = "<stdout>";
 
 ExitCode print_document(Session& session, const std::string& name, const QuillInput& document,
                         const LossPolicy& policy, const OutputFile& output) {
-  lossless::QuotedDocument quoted = lossless::quote(document);
-  const std::string text = quoted.document.to_string();
-  const lossless::Proof proof = lossless::prove(text, document, policy.max_change);
+  CanonicalText canonical = canonical_text(document);
+  const lossless::Proof proof = lossless::prove(canonical.text, document, policy.max_change);
   note_number_changes(session, name, proof.comparison.number_changes);
-  const Losses losses{{}, {}, std::move(quoted.problems), proof, document};
+  const Losses losses{{}, {}, std::move(canonical.problems), proof, document};
   // Their lines are those of a text that is not printed, and `name` is not the name of that text.
   if (!accept_losses(session, name, losses, policy, LossLines::Hidden)) return ExitCode::Trouble;
   const std::string shown = output.path.value_or(name_of_output);
-  if (!accept_findings(session, shown, text, policy)) return ExitCode::Trouble;
+  if (!accept_findings(session, shown, canonical.text, policy)) return ExitCode::Trouble;
   report_warnings(session.reporter(), shown, proof.found);
-  write_output(session, output, text);
+  write_output(session, output, canonical.text);
   return ExitCode::Done;
 }
 

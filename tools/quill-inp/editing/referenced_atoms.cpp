@@ -24,7 +24,7 @@ std::optional<std::string> read_beginning(const std::string& path) {
   if (file.number() < 0 || fstat(file.number(), &state) != 0 || !S_ISREG(state.st_mode))
     return std::nullopt;
   try {
-    return read_to_end(file.number(), enough);
+    return read_to_end(file.number(), enough, 0);
   } catch (const Trouble&) {
     return std::nullopt;
   }

@@ -43,13 +43,15 @@ std::string joined_lines(const std::vector<std::string>& lines) {
 }
 
 std::optional<std::string> atom_lines(const std::vector<AtomRecord>& atoms) {
-  std::vector<std::string> lines;
-  lines.reserve(atoms.size());
+  if (atoms.empty()) return std::nullopt;
+  std::string text;
   for (const AtomRecord& atom : atoms) {
-    lines.push_back(atom.symbol + " " + lossless::shortest_text(atom.x) + " " +
-                    lossless::shortest_text(atom.y) + " " + lossless::shortest_text(atom.z));
+    text += text.empty() ? "" : "\n";
+    text += atom.symbol;
+    for (const double number : {atom.x, atom.y, atom.z})
+      text += " " + lossless::shortest_text(number);
   }
-  return lines.empty() ? std::nullopt : std::optional(joined_lines(lines));
+  return text;
 }
 
 std::optional<std::string> key_lines(const QuillInput& input) {
@@ -169,6 +171,14 @@ std::vector<std::size_t> find_post_commands(const QuillInput& input, const PostK
 
 std::optional<std::string> answer(const QuillInput& input, const Key& key) {
   return std::visit([&](const auto& any_key) { return find_answer(input, any_key); }, key);
+}
+
+bool has_answer(const QuillInput& input, const Key& key) {
+  const auto* command_key = std::get_if<CommandKey>(&key);
+  if (command_key == nullptr) return answer(input, key).has_value();
+  const HeaderCommand* command = find_command(input, *command_key);
+  if (command == nullptr || !command_key->parameter) return command != nullptr;
+  return find_parameter_index(*command, *command_key->parameter).has_value();
 }
 
 MissingAnswer find_missing(const QuillInput& input, std::string_view key_text, const Key& key) {

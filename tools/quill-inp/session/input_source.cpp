@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "quill-inp/files/file_place.hpp"
 #include "quill-inp/process/file_descriptor.hpp"
@@ -141,6 +142,13 @@ ReadInput read_for_replacing(Session& session, const std::string& argument,
   std::string content = read_regular_file(session, origin.file.number(), origin.state);
   return {session.shown_name(argument), lossless::read_text(std::move(content)), std::move(origin)};
 }
+
+ReadDocument read_document(Session& session, const std::string& argument) {
+  InputSource source = read_source(session, argument);
+  return {std::move(source.name), parse_string(source.content)};
+}
+
+void forget_lines(ReadInput& input) { input.read.lines = std::vector<LineRecord>(); }
 
 void require_apart_from_output(Session& session, const std::string& argument) {
   struct stat state {};

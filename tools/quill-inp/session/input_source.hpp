@@ -25,14 +25,25 @@ struct ReadInput {
   std::optional<FileOrigin> origin = std::nullopt;
 };
 
+/// The same without the text, where nothing but the document and the warnings is needed.
+struct ReadDocument {
+  std::string name = {};
+  ParseResult result = {};
+};
+
 /// Reads the file that `argument` names, or standard input for "-". A pipe that another program
 /// writes to is read, too. Throws Trouble when the file does not exist, when it is anything else,
 /// when it is larger than the session accepts, when it changes while it is read, when standard
 /// output goes into it, and when it cannot be read.
 InputSource read_source(Session& session, const std::string& argument);
 
-/// Reads such a file as a QUILL input. Throws as read_source() does.
+/// Read such a file as a QUILL input. They throw as read_source() does.
 ReadInput read_input(Session& session, const std::string& argument);
+ReadDocument read_document(Session& session, const std::string& argument);
+
+/// Gives back the memory of what the reader made of each line, which is that of the text or more.
+/// Text and document stay.
+void forget_lines(ReadInput& input);
 
 /// Reads such a file to replace it. Waits at most `patience` for other runs of this program that
 /// replace it. Throws as read_source() does, for standard input, and when the waiting is over.

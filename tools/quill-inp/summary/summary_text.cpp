@@ -19,24 +19,23 @@ namespace {
 
 constexpr std::size_t label_width = 14;
 
-/// Rows of a label and a text.
+/// Writes rows of a label and a text.
 class Rows {
  public:
-  explicit Rows(bool is_colored) : is_colored_(is_colored) {}
+  Rows(bool is_colored, const TextSink& sink) : is_colored_(is_colored), sink_(sink) {}
 
   void add(std::string_view label, std::string_view text, std::string_view color = label_color) {
-    text_ += "  ";
-    text_ += colored(label, color, is_colored_);
-    text_.append(label_width - label.size(), ' ');
-    text_ += shown_on_one_line(text);
-    text_ += '\n';
+    std::string row = "  ";
+    row += colored(label, color, is_colored_);
+    row.append(label_width - label.size(), ' ');
+    row += shown_on_one_line(text);
+    row += '\n';
+    sink_(row);
   }
-
-  const std::string& text() const { return text_; }
 
  private:
   bool is_colored_;
-  std::string text_ = {};
+  const TextSink& sink_;
 };
 
 /// Returns a command as it would be in a file, with quotes where they are needed.
@@ -124,16 +123,15 @@ void add_warning(Rows& rows, const DiagnosticParts& warning) {
 
 }  // namespace
 
-std::string summary_text(const std::string& name, const ParseResult& result,
-                         const SummaryStyle& style) {
-  Rows rows(style.is_colored);
+void write_summary_text(const std::string& name, const ParseResult& result,
+                        const SummaryStyle& style, const TextSink& sink) {
+  sink(colored(shown_on_one_line(name), name_color, style.is_colored) + "\n");
+  Rows rows(style.is_colored, sink);
   add_commands(rows, result.input);
   add_geometry(rows, result.input.geometry);
   for (const PostCommand& command : result.input.post_commands) add_post_command(rows, command);
-  if (style.has_warnings) {
-    for (const std::string& warning : result.warnings) add_warning(rows, split_diagnostic(warning));
-  }
-  return colored(shown_on_one_line(name), name_color, style.is_colored) + "\n" + rows.text();
+  if (!style.has_warnings) return;
+  for (const std::string& warning : result.warnings) add_warning(rows, split_diagnostic(warning));
 }
 
 }  // namespace kelp::input::quill::tool

@@ -7,18 +7,35 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
+using Lines = std::vector<std::string_view>;
+using Backwards = Lines::const_reverse_iterator;
 using Ids = std::vector<std::size_t>;
 using Known = std::unordered_map<std::string_view, std::size_t>;
 
 // The search takes time and memory for the square of this number.
 constexpr std::ptrdiff_t most_differences = 1000;
 
+/// How many lines two texts have in common at their beginning and, of the rest, at their end.
+struct Ends {
+  std::size_t prefix = 0;
+  std::size_t suffix = 0;
+};
+
+Ends common_ends(const Lines& old_lines, const Lines& new_lines) {
+  const auto begin =
+      std::mismatch(old_lines.begin(), old_lines.end(), new_lines.begin(), new_lines.end());
+  const auto end = std::mismatch(old_lines.rbegin(), Backwards(begin.first), new_lines.rbegin(),
+                                 Backwards(begin.second));
+  return {static_cast<std::size_t>(begin.first - old_lines.begin()),
+          static_cast<std::size_t>(end.first - old_lines.rbegin())};
+}
+
 /// Equal lines get equal numbers, so that the search does not have to compare texts.
-Ids number_lines(const std::vector<std::string_view>& lines, Known& known) {
+Ids number_lines(const Lines& lines, const Ends& ends, Known& known) {
   Ids ids;
-  ids.reserve(lines.size());
-  for (const std::string_view line : lines)
-    ids.push_back(known.emplace(line, known.size()).first->second);
+  ids.reserve(lines.size() - ends.prefix - ends.suffix);
+  for (std::size_t i = ends.prefix; i < lines.size() - ends.suffix; ++i)
+    ids.push_back(known.emplace(lines[i], known.size()).first->second);
   return ids;
 }
 
@@ -109,29 +126,21 @@ class GreedySearch {
 
 }  // namespace
 
-std::vector<MatchingRun> match_lines(const std::vector<std::string_view>& old_lines,
-                                     const std::vector<std::string_view>& new_lines) {
+std::vector<MatchingRun> match_lines(const Lines& old_lines, const Lines& new_lines) {
+  const Ends ends = common_ends(old_lines, new_lines);
+  // The numbers are needed only between the ends, and in most edits that is a small part.
   Known known;
-  Ids old_ids = number_lines(old_lines, known);
-  Ids new_ids = number_lines(new_lines, known);
-  const auto prefix_end =
-      std::mismatch(old_ids.begin(), old_ids.end(), new_ids.begin(), new_ids.end());
-  const auto prefix = static_cast<std::size_t>(prefix_end.first - old_ids.begin());
-  old_ids.erase(old_ids.begin(), prefix_end.first);
-  new_ids.erase(new_ids.begin(), prefix_end.second);
-  const auto suffix_begin =
-      std::mismatch(old_ids.rbegin(), old_ids.rend(), new_ids.rbegin(), new_ids.rend());
-  old_ids.erase(suffix_begin.first.base(), old_ids.end());
-  new_ids.erase(suffix_begin.second.base(), new_ids.end());
+  const Ids old_ids = number_lines(old_lines, ends, known);
+  const Ids new_ids = number_lines(new_lines, ends, known);
+  known.clear();
 
   std::vector<MatchingRun> runs;
-  append(runs, {0, 0, prefix});
+  append(runs, {0, 0, ends.prefix});
   std::vector<MatchingRun> middle = GreedySearch(old_ids, new_ids).run();
   std::reverse(middle.begin(), middle.end());
   for (const MatchingRun& run : middle)
-    append(runs, {prefix + run.old_begin, prefix + run.new_begin, run.length});
-  const std::size_t old_end = prefix + old_ids.size();
-  append(runs, {old_end, prefix + new_ids.size(), old_lines.size() - old_end});
+    append(runs, {ends.prefix + run.old_begin, ends.prefix + run.new_begin, run.length});
+  append(runs, {old_lines.size() - ends.suffix, new_lines.size() - ends.suffix, ends.suffix});
   runs.push_back({old_lines.size(), new_lines.size(), 0});
   return runs;
 }

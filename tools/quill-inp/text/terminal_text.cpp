@@ -112,6 +112,7 @@ std::size_t layout_length(std::string_view text) {
 
 std::string shown_on_one_line(std::string_view text) {
   std::string out;
+  out.reserve(text.size());  // most texts are shown as they are
   while (!text.empty()) text.remove_prefix(append_shown(out, text));
   return out;
 }

@@ -19,6 +19,7 @@ constexpr std::size_t context = 3;
 /// Cuts a text into lines that keep their "\n".
 Lines split_with_ends(std::string_view text) {
   Lines lines;
+  lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
   while (!text.empty()) {
     const std::size_t newline = text.find('\n');
     const std::size_t length = newline == std::string_view::npos ? text.size() : newline + 1;
@@ -83,6 +84,26 @@ void append_hunk(std::string& out, const Lines& old_lines, const Lines& new_line
     old_at = change->old_end;
   }
   append_lines(out, ' ', old_lines, old_at, old_at + after);
+}
+
+std::size_t size_of(const Lines& lines, std::size_t begin, std::size_t end) {
+  std::size_t size = 0;
+  for (std::size_t i = begin; i < end; ++i) size += lines[i].size() + 1;
+  return size;
+}
+
+/// Returns about how long the difference is, so that its memory does not have to grow: that of many
+/// large changes is as long as both texts.
+std::size_t size_of(const std::vector<Span>& changes, const Lines& old_lines,
+                    const Lines& new_lines) {
+  std::size_t size = 0;
+  for (const Span& change : changes) {
+    const std::size_t before = std::min(context, change.old_begin);
+    const std::size_t after = std::min(context, old_lines.size() - change.old_end);
+    size += size_of(old_lines, change.old_begin - before, change.old_end + after) +
+            size_of(new_lines, change.new_begin, change.new_end);
+  }
+  return size;
 }
 
 /// Without the tab, a name with a blank in it would end at the blank.
@@ -160,6 +181,7 @@ std::string unified_diff(std::string_view name, std::string_view old_text,
   std::string out;
   if (changes.empty()) return out;
   out += header_line("--- ", name) + header_line("+++ ", name);
+  out.reserve(out.size() + size_of(changes, old_lines, new_lines));
   const Span* const end = changes.data() + changes.size();
   for (const Span* first = changes.data(); first != end;) {
     const Span* last = first + 1;

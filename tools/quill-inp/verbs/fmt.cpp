@@ -25,7 +25,7 @@ constexpr Option files{"FILE", "", "The inputs"};
 
 ExitCode format(Session& session, const std::string& argument, const Delivery& delivery,
                 const LossPolicy& policy) {
-  const ReadInput input = read_for_delivery(session, argument, delivery);
+  ReadInput input = read_for_delivery(session, argument, delivery);
   const std::optional<std::string> text = make_canonical_text(session, input, policy);
   if (!text) return ExitCode::Trouble;
   if (!accept_findings(session, argument, *text, policy)) return ExitCode::Trouble;

@@ -128,12 +128,13 @@ ExitCode print_json(Session& session, const ReadInput& input, const Question& qu
 }
 
 ExitCode get_from_file(Session& session, const std::string& argument, const Question& question) {
-  const ReadInput input = read_input(session, argument);
+  ReadInput input = read_input(session, argument);
   report_warnings(session.reporter(), input.name, input.read.result);
   std::vector<Ambiguity> ambiguities;
   for (const TypedKey& key : question.keys)
     add_ambiguities(input.read.result.input, key.key, ambiguities);
   for (const Ambiguity& ambiguity : ambiguities) note_ambiguity(session, input, ambiguity);
+  forget_lines(input);
   const ExitCode code = question.as_json ? print_json(session, input, question)
                                          : print_lines(session, input, question);
   return worse_of(code, code_of(input.read.result, question.warnings));

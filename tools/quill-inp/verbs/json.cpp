@@ -16,11 +16,11 @@ namespace {
 constexpr Option files{"FILE", "", "The inputs"};
 
 ExitCode print_json(Session& session, const std::string& argument, Warnings warnings) {
-  const ReadInput input = read_input(session, argument);
-  report_warnings(session.reporter(), input.name, input.read.result);
-  write_document_json(input.read.result.input,
+  const ReadDocument input = read_document(session, argument);
+  report_warnings(session.reporter(), input.name, input.result);
+  write_document_json(input.result.input,
                       [&](std::string_view piece) { session.output().write(piece); });
-  return code_of(input.read.result, warnings);
+  return code_of(input.result, warnings);
 }
 
 ExitCode json(Session& session, const CLI::App& app) {

@@ -34,63 +34,66 @@ std::string padding(const std::string& text, std::size_t width) {
   return std::string(width - std::min(width, text.size()), ' ');
 }
 
-/// Returns what the reader made of each line, and how long the longest of these texts is.
-std::vector<std::string> describe_all(const lossless::ReadText& read, std::size_t& width) {
-  std::vector<std::string> descriptions;
-  descriptions.reserve(read.lines.size());
-  for (const LineRecord& line : read.lines) {
-    descriptions.push_back(lossless::describe({line.role, line.index}, read.result.input));
-    width = std::max(width, descriptions.back().size());
-  }
-  return descriptions;
+std::string describe(const LineRecord& line, const QuillInput& input) {
+  return lossless::describe({line.role, line.index}, input);
 }
 
-/// Returns every line: its number, what the reader made of it, and the line itself. A line that the
-/// reader dropped has the colour of warnings.
-std::string lines_text(const lossless::ReadText& read, bool is_colored) {
-  const std::size_t number_width = std::to_string(read.lines.size()).size();
+/// Returns how long the longest description of a line is.
+std::size_t description_width(const lossless::ReadText& read) {
   std::size_t width = 0;
-  const std::vector<std::string> descriptions = describe_all(read, width);
-  std::string text;
+  for (const LineRecord& line : read.lines)
+    width = std::max(width, describe(line, read.result.input).size());
+  return width;
+}
+
+/// Writes every line: its number, what the reader made of it, and the line itself. A line that the
+/// reader dropped has the colour of warnings.
+void write_lines(const lossless::ReadText& read, bool is_colored, Output& out) {
+  const std::size_t number_width = std::to_string(read.lines.size()).size();
+  const std::size_t width = description_width(read);
   for (std::size_t i = 0; i < read.lines.size(); ++i) {
-    const std::string content = shown_on_one_line(lossless::content_of(read.lines[i], read.text));
+    const LineRecord& line = read.lines[i];
+    const std::string content = shown_on_one_line(lossless::content_of(line, read.text));
     const std::string number = std::to_string(i + 1);
-    const bool is_dropped = read.lines[i].role == LineRole::Dropped;
-    text += padding(number, number_width) + colored(number, label_color, is_colored) + "  ";
-    text += colored(descriptions[i], warning_color, is_colored && is_dropped);
-    if (!content.empty()) text += padding(descriptions[i], width) + "  " + content;
-    text += '\n';
+    const std::string description = describe(line, read.result.input);
+    const bool is_dropped = line.role == LineRole::Dropped;
+    std::string text =
+        padding(number, number_width) + colored(number, label_color, is_colored) + "  ";
+    text += colored(description, warning_color, is_colored && is_dropped);
+    if (!content.empty()) text += padding(description, width) + "  ";
+    out.write_shown(text);
+    out.write_shown(content);
+    out.write_shown("\n");
   }
-  return text;
 }
 
 /// In what form to show an input.
 enum class Form { Text, Json, Lines };
 
-/// Shows an input as text.
-void show_to_a_person(Session& session, const ReadInput& input, Form form) {
-  const ParseResult& result = input.read.result;
-  const bool is_colored = wants_color(session.options().color, session.output().file());
-  session.output().begin_part();
-  if (form == Form::Text) {
-    session.output().write_shown(
-        summary_text(input.name, result, {is_colored, !session.options().is_quiet}));
-    return;
-  }
-  const std::string name = colored(shown_on_one_line(input.name), name_color, is_colored);
-  session.output().write_shown(name + "\n" + lines_text(input.read, is_colored));
-  report_warnings(session.reporter(), input.name, result);
+ExitCode show_lines(Session& session, const std::string& argument, Warnings warnings) {
+  const ReadInput input = read_input(session, argument);
+  Output& out = session.output();
+  const bool is_colored = wants_color(session.options().color, out.file());
+  out.begin_part();
+  out.write_shown(colored(shown_on_one_line(input.name), name_color, is_colored) + "\n");
+  write_lines(input.read, is_colored, out);
+  report_warnings(session.reporter(), input.name, input.read.result);
+  return code_of(input.read.result, warnings);
 }
 
 ExitCode show_one(Session& session, const std::string& argument, Form form, Warnings warnings) {
-  const ReadInput input = read_input(session, argument);
+  if (form == Form::Lines) return show_lines(session, argument, warnings);
+  const ReadDocument input = read_document(session, argument);
+  Output& out = session.output();
   if (form == Form::Json) {
-    write_summary_json(input.name, input.read.result,
-                       [&](std::string_view piece) { session.output().write(piece); });
+    write_summary_json(input.name, input.result, [&](std::string_view piece) { out.write(piece); });
   } else {
-    show_to_a_person(session, input, form);
+    out.begin_part();
+    const bool is_colored = wants_color(session.options().color, out.file());
+    write_summary_text(input.name, input.result, {is_colored, !session.options().is_quiet},
+                       [&](std::string_view piece) { out.write_shown(piece); });
   }
-  return code_of(input.read.result, warnings);
+  return code_of(input.result, warnings);
 }
 
 ExitCode show(Session& session, const CLI::App& app) {

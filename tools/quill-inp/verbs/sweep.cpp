@@ -209,16 +209,18 @@ ExitCode write_one(Session& session, const ReadInput& input, const Plan& plan,
   const auto edit = [&](lossless::TrackedDocument& document) {
     return plan.edit(number, document);
   };
-  const EditedInput edited = edit_input(session, entry.file, input, edit, request.policy,
-                                        number == 0 ? EditNotes::Told : EditNotes::Untold);
-  if (edited.code != ExitCode::Done) return edited.code;
-  if (!accept_findings(session, entry.file, edited.edit.text, request.policy))
+  const EditNotes notes = number == 0 ? EditNotes::Told : EditNotes::Untold;
+  MadeEdit made = make_edit(session, entry.file, input, edit, request.policy, notes);
+  if (made.code != ExitCode::Done) return made.code;
+  const std::string& text = made.text.text;
+  if (!accept_edit(session, entry.file, made, request.policy, notes) ||
+      !accept_findings(session, entry.file, text, request.policy))
     return ExitCode::Trouble;
   const WrittenFile written =
-      write_whole_file(entry.file, edited.edit.text, request.existing, FolderFlush::ByCaller);
+      write_whole_file(entry.file, text, request.existing, FolderFlush::ByCaller);
   for (const std::string& note : written.notes) session.reporter().note({entry.file}, note);
   if (written.is_written) session.note_change();
-  entry.sha256 = sha256_of(edited.edit.text);
+  entry.sha256 = sha256_of(text);
   return ExitCode::Done;
 }
 

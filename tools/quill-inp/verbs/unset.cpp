@@ -182,7 +182,7 @@ EditReport remove_keys(const std::vector<TypedKey>& keys, TrackedDocument& docum
   EditReport report;
   const QuillInput& input = document.document();
   for (const TypedKey& typed : keys) {
-    if (!answer(input, typed.key))
+    if (!has_answer(input, typed.key))
       report.missing.push_back(find_missing(input, typed.text, typed.key));
   }
   if (!report.missing.empty()) return report;

@@ -15,7 +15,6 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
-#include <vector>
 
 #include "kelp/input/quill/lines.hpp"
 #include "kelp/input/quill/lossless/comparison.hpp"
@@ -43,12 +42,11 @@ struct Explanation {
 
 /// The result of reading a text again. There is an explanation exactly when the proof does not
 /// hold. `comparison` has every difference, for callers that write the text anyway, and the numbers
-/// that changed. `found` and `lines` are what parse_lines() made of the text.
+/// that changed. `found` is what parse_string() made of the text.
 struct Proof {
   std::optional<Explanation> explanation = std::nullopt;  ///< the first reason
   Comparison comparison = {};                             ///< all that differs
   ParseResult found = {};                                 ///< what the text is read as
-  std::vector<LineRecord> lines = {};                     ///< of the text
 
   /// Whether the text says what is wanted.
   bool holds() const { return comparison.is_equal(); }

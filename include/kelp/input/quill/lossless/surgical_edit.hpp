@@ -34,10 +34,9 @@
 
 namespace kelp::input::quill::lossless {
 
-/// A text that says what an edited document says. All members are set even if the proof does not
-/// hold, so that a caller who accepts a loss can go on; `text` is then the best that can be
-/// written.
-struct SurgicalEdit {
+/// A text that is to say what an edited document says, with nothing proved yet. All members are set
+/// even if something cannot be written; `text` is then the best that can be written.
+struct NewText {
   /// The new text.
   std::string text = {};
   /// Every line that is not as before, in the order of the new text, with a removed line where it
@@ -47,12 +46,21 @@ struct SurgicalEdit {
   std::vector<LineChange> changes = {};
   /// Why pieces of changed header lines cannot be written; empty when all can.
   std::vector<QuotingProblem> quoting_problems = {};
+};
+
+/// Such a text with its proof, set even if the proof does not hold, so that a caller who accepts a
+/// loss can go on.
+struct SurgicalEdit : NewText {
   /// Whether `text` reads back as the document.
   Proof proof = {};
 };
 
 /// Changes the text of `read` so that it says what `document` says. `document` was made from the
-/// document of `read`. Numbers may change by up to `max_change`, see compare().
+/// document of `read`. The caller has to prove() the text: the two steps are apart for those who
+/// can give back the memory of `read` between them.
+KELP_QUILL_LOSSLESS_EXPORT NewText rewrite(const ReadText& read, const TrackedDocument& document);
+
+/// Does both steps. Numbers may change by up to `max_change`, see compare().
 KELP_QUILL_LOSSLESS_EXPORT SurgicalEdit render(const ReadText& read,
                                                const TrackedDocument& document,
                                                double max_change = 0.0);
