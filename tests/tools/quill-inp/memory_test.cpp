@@ -53,7 +53,7 @@ class Captured : public std::streambuf {
   std::string text() const { return {pbase(), pptr()}; }
 
  private:
-  std::array<char, 4096> data_{};
+  std::array<char, 16384> data_{};
 };
 
 /// What came of a call, and the numbers of its allocations, before the first file and in all.
@@ -189,6 +189,12 @@ const VerbRow verb_rows[] = {
     {"Diff", {"diff", "-", "a.qin"}, "#opt(maxiter=60, a)\n#b\n1 2\nO 0 0 0\nB 1 3\n"},
     {"DiffAsJson", {"diff", "--json", "-", "a.qin"}, "#opt(maxiter=60, a)\n#b\n1 2\nO 0 0 0\n"},
     {"Json", {"json", "-"}, every_line},
+    {"Hash", {"hash", "--allow-loss", "-"}, every_line},
+    {"Lint", {"lint", "-"}, every_line},
+    {"LintAsJson", {"lint", "--format=json", "-"}, every_line},
+    {"LintAsGithub", {"lint", "--format=github", "-"}, every_line},
+    {"LintWithStatistics", {"lint", "--statistics", "-"}, every_line},
+    {"LintThatShowsMends", {"lint", "--fix", "--diff", "-"}, every_line},
     {"FromJson", {"from-json", "--allow-loss", "-"}, every_member},
 };
 

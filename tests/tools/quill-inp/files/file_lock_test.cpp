@@ -43,15 +43,15 @@ class Holder {
 const char* const three_writers =
     "for name in a b c; do\n"
     "  ( for i in 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20; do\n"
-    "      quill-inp set -q -i job.qin opt.$name$i=$i || echo failed\n"
+    "      quill-inp set -q -i -j2 job.qin other.qin opt.$name$i=$i || echo failed\n"
     "    done ) &\n"
     "done\n"
     "wait\n";
 
-TEST(ThreeWritersOfOneFile, LoseNothing) {
+TEST(ThreeWritersOfTheSameFiles, LoseNothing) {
   use_memory_for_temporary_files();
   const TemporaryFolder folder;
-  folder.write("job.qin", "#opt(tight)\n\n0 1\n");
+  for (const char* name : {"job.qin", "other.qin"}) folder.write(name, "#opt(tight)\n\n0 1\n");
   EXPECT_EQ(run_shell(folder.path(), three_writers).out, "");
   std::string keys;
   std::string values;
@@ -61,8 +61,10 @@ TEST(ThreeWritersOfOneFile, LoseNothing) {
       values += std::to_string(i) + "\n";
     }
   }
-  EXPECT_EQ(run_shell(folder.path(), "quill-inp get job.qin" + keys).out, values);
-  EXPECT_EQ(names_in(folder.path()), std::vector<std::string>{"job.qin"});
+  for (const char* name : {"job.qin", "other.qin"})
+    EXPECT_EQ(run_shell(folder.path(), std::string("quill-inp get ") + name + keys).out, values)
+        << name;
+  EXPECT_EQ(names_in(folder.path()), (std::vector<std::string>{"job.qin", "other.qin"}));
 }
 
 TEST(FileLock, IsWaitedForOnlySoLong) {

@@ -21,6 +21,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
@@ -37,10 +38,10 @@ Function* find_next(const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-long calls = 0;
-bool corrupts = false;  // the call that follows, if it is a read
-bool ends = false;      // likewise
-bool plants = false;    // before the call that follows
+std::atomic<long> calls{0};  // of all threads
+bool corrupts = false;       // the call that follows, if it is a read
+bool ends = false;           // likewise
+bool plants = false;         // before the call that follows
 
 /// Runs a command as another program would be run, without this library.
 void run_command(const char* command) {
@@ -85,11 +86,12 @@ void plant(int folder, const char* name) {
 
 /// Returns whether the call has to fail. If so, sets errno.
 bool fails(const char* name) {
-  ++calls;
+  const long number_of_call = ++calls;
   append_to("QUILL_INP_CALL_LOG", name);
   const char* at = std::getenv("QUILL_INP_FAULT_AT");
   const char* fault = std::getenv("QUILL_INP_FAULT");
-  if (at == nullptr || fault == nullptr || std::strtol(at, nullptr, 10) != calls) return false;
+  if (at == nullptr || fault == nullptr || std::strtol(at, nullptr, 10) != number_of_call)
+    return false;
   constexpr char run[] = "run ";
   if (std::strncmp(fault, run, sizeof run - 1) == 0) run_command(fault + sizeof run - 1);
   corrupts = std::strcmp(fault, "corrupt") == 0;
@@ -110,7 +112,8 @@ bool is_standard_stream(int file) { return 0 <= file && file <= 2; }
 bool fails_on(const char* name, int file) { return !is_standard_stream(file) && fails(name); }
 
 mode_t mode_argument(int flags, va_list arguments) {
-  return (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+  const bool makes_file = (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE;
+  return makes_file ? va_arg(arguments, mode_t) : 0;
 }
 
 int open_at(const char* function, int folder, const char* name, int flags, mode_t mode) {
