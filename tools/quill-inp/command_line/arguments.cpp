@@ -37,6 +37,11 @@ bool looks_like_option(std::string_view word) {
   return !is_digit(word[1]) && !(word[1] == '.' && word.size() > 2 && is_digit(word[2]));
 }
 
+std::string describe_forgotten_value(const std::string& name, const std::string& value) {
+  return name + " needs a value; write '" + name + "=" + value + "' if '" + value +
+         "' is the value";
+}
+
 CLI::Option& add(CLI::App& app, const Option& option) {
   // An option without a variable for its values keeps them unchanged. All of them are kept, so that
   // the message about a second one is written here.
@@ -137,10 +142,7 @@ std::optional<std::string> find_forgotten_value(const CLI::App& app) {
       // The value of "--raw=--x" begins with the mark.
       if (result.substr(0, 1) == std::string(1, mark)) continue;
       const std::string value = unmarked(result);
-      const std::string name = option->get_name();
-      if (looks_like_option(value))
-        return name + " needs a value; write '" + name + "=" + value + "' if '" + value +
-               "' is the value";
+      if (looks_like_option(value)) return describe_forgotten_value(option->get_name(), value);
     }
   }
   return std::nullopt;
