@@ -32,6 +32,19 @@ std::string commands(std::size_t n) { return repeated("#opt(maxiter=50, tight)\n
 
 std::string post_lines(std::size_t n) { return "0 1\n" + repeated("S 1 2 1.5 10\n", n); }
 
+std::string parameters(std::size_t n) { return "#opt(" + repeated("maxiter=50, ", n) + "x)\n"; }
+
+std::string different_commands(std::size_t n) {
+  std::string text;
+  for (std::size_t i = 0; i < n; ++i) text += "#name" + std::to_string(i) + " = 1\n";
+  return text;
+}
+
+/// A line ends the atoms too early, and all others are raw text.
+std::string lost_atoms(std::size_t n) { return "0 1\nH 0 0 1,5\n" + repeated("C 0 0 1.5\n", n); }
+
+std::string lone_carriage_returns(std::size_t n) { return "#sp\n" + repeated("0 1\r", n); }
+
 /// A list as JSON has it, in an object that begins with `begin`.
 std::string json_list(std::string_view begin, std::string_view entry, std::size_t n,
                       std::string_view end) {
@@ -87,6 +100,19 @@ const Verb verbs[] = {
     {"JsonOfCommands", {"json", "-"}, commands, 3 * hundred},
     {"FromJsonOfAtoms", {"from-json", "-"}, json_atoms, 5 * hundred},
     {"FromJsonOfParameters", {"from-json", "-"}, json_parameters, 3 * hundred},
+    {"LintOfAtoms", {"lint", "--fail-on=never", "-"}, atoms, 5 * hundred},
+    {"LintOfLostAtoms", {"lint", "--fail-on=never", "-"}, lost_atoms, 5 * hundred},
+    {"LintOfPostLines", {"lint", "--fail-on=never", "-"}, post_lines, 5 * hundred},
+    {"LintOfCommands", {"lint", "--fail-on=never", "-"}, commands, 3 * hundred},
+    {"LintOfDifferentCommands",
+     {"lint", "--fail-on=never", "--format=json", "-"},
+     different_commands,
+     3 * hundred},
+    {"LintOfParameters",
+     {"lint", "--fail-on=never", "--format=sarif", "-"},
+     parameters,
+     3 * hundred},
+    {"LintOfCarriageReturns", {"lint", "--fail-on=never", "-"}, lone_carriage_returns, 3 * hundred},
 };
 
 Task task_of(const Verb& verb) {

@@ -1,4 +1,4 @@
-#include <utility>
+#include <algorithm>
 
 #include "lint/checks/checks.hpp"
 #include "lint/header_line.hpp"
@@ -41,12 +41,17 @@ Finding make_finding(const Source& source, std::string_view value, const QuotePa
 
 /// A comma between the quotes has cut the value into several entries, so the list is looked at
 /// from the "=" of an entry to the next typographic quote.
-std::string_view quoted_piece(std::string_view list, std::string_view value) {
-  const std::string_view rest = list.substr(static_cast<std::size_t>(value.data() - list.data()));
-  const std::vector<OddCharacter> odd = find_odd_characters(rest);
-  const bool begins = odd.size() >= 2 && odd[0].kind == OddKind::Quote && odd[0].offset == 0;
-  if (!begins || odd[1].kind != OddKind::Quote) return value;
-  return rest.substr(0, odd[1].offset + odd[1].length);
+std::string_view quoted_piece(const Source& source, std::string_view list, std::string_view value) {
+  const std::vector<OddCharacter>& odd = source.odd_characters();
+  const std::size_t begin = source.range_of(value).offset;
+  const auto first = std::lower_bound(
+      odd.begin(), odd.end(), begin,
+      [](const OddCharacter& character, std::size_t offset) { return character.offset < offset; });
+  const bool begins = first != odd.end() && first->offset == begin && first->kind == OddKind::Quote;
+  if (!begins || first + 1 == odd.end()) return value;
+  const OddCharacter& next = *(first + 1);
+  if (next.kind != OddKind::Quote || next.offset >= source.range_of(list).end()) return value;
+  return source.text().substr(begin, next.offset + next.length - begin);
 }
 
 }  // namespace
@@ -59,7 +64,7 @@ Findings check_typographic_quote(const Source& source) {
       findings.push_back(make_finding(source, pieces.value, *quotes));
     for (const ParameterPieces& entry : entries_of(pieces)) {
       if (!entry.value || entry.value->empty()) continue;
-      const std::string_view value = quoted_piece(pieces.list, *entry.value);
+      const std::string_view value = quoted_piece(source, pieces.list, *entry.value);
       if (const auto quotes = find_quotes(value))
         findings.push_back(make_finding(source, value, *quotes));
     }

@@ -5,9 +5,9 @@
 
 #include "lint/lint.hpp"
 #include "lint/wording.hpp"
+#include "quill-inp/text/character_index.hpp"
 #include "quill-inp/text/hexadecimal.hpp"
 #include "quill-inp/text/terminal_text.hpp"
-#include "quill-inp/text/utf8.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -51,34 +51,30 @@ std::string address_of(std::string_view path) {
   return address;
 }
 
-/// Returns how many characters a text has; a byte that is not part of one counts as one.
-std::size_t count_characters(std::string_view text) {
-  std::size_t count = 0;
-  for (; !text.empty(); ++count) {
-    const auto character = first_character(text);
-    text.remove_prefix(character ? character->length : 1);
-  }
-  return count;
-}
+/// A report, and where the characters of its text are.
+struct CountedReport {
+  const FileReport& report;
+  CharacterIndex characters;
+};
 
 /// Returns the column of a byte in code points, counted from 1. A place in the middle of a
 /// character counts as after it.
-std::size_t character_column(const FileReport& report, std::size_t line, std::size_t offset) {
-  const std::size_t start = report.read.lines[line - 1].offset;
-  return 1 + count_characters(std::string_view(report.read.text).substr(start, offset - start));
+std::size_t character_column(const CountedReport& counted, std::size_t line, std::size_t offset) {
+  const std::size_t start = counted.report.read.lines[line - 1].offset;
+  return 1 + counted.characters.count_before(offset) - counted.characters.count_before(start);
 }
 
-void write_region(JsonWriter& json, std::string_view name, const FileReport& report,
+void write_region(JsonWriter& json, std::string_view name, const CountedReport& counted,
                   const lint::Range& range) {
   json.member(name).begin_object(one_line);
-  const std::vector<LineRecord>& records = report.read.lines;
+  const std::vector<LineRecord>& records = counted.report.read.lines;
   if (!records.empty()) {
     const lint::TextPlace first = lint::place_of(range.offset, records);
     const lint::TextPlace last = lint::place_of(range.end(), records);
     write_count(json, "startLine", first.line);
-    write_count(json, "startColumn", character_column(report, first.line, range.offset));
+    write_count(json, "startColumn", character_column(counted, first.line, range.offset));
     write_count(json, "endLine", last.line);
-    write_count(json, "endColumn", character_column(report, last.line, range.end()));
+    write_count(json, "endColumn", character_column(counted, last.line, range.end()));
   }
   write_count(json, "byteOffset", range.offset);
   write_count(json, "byteLength", range.length);
@@ -91,35 +87,35 @@ void write_artifact(JsonWriter& json, const FileReport& report) {
   json.end_object();
 }
 
-void write_location(JsonWriter& json, const FileReport& report, const lint::Range& range,
+void write_location(JsonWriter& json, const CountedReport& counted, const lint::Range& range,
                     std::string_view role) {
   json.begin_object(one_line);
   json.member("physicalLocation").begin_object(one_line);
-  write_artifact(json, report);
-  write_region(json, "region", report, range);
+  write_artifact(json, counted.report);
+  write_region(json, "region", counted, range);
   json.end_object();
   if (!role.empty()) write_message(json, "message", role);
   json.end_object();
 }
 
-void write_replacement(JsonWriter& json, const FileReport& report, const lint::ByteEdit& edit) {
+void write_replacement(JsonWriter& json, const CountedReport& counted, const lint::ByteEdit& edit) {
   json.begin_object(one_line);
-  write_region(json, "deletedRegion", report, edit.range);
+  write_region(json, "deletedRegion", counted, edit.range);
   json.member("insertedContent").begin_object(one_line);
   json.member("text").text(edit.replacement);
   json.end_object();
   json.end_object();
 }
 
-void write_fix(JsonWriter& json, const FileReport& report, const lint::Finding& finding) {
+void write_fix(JsonWriter& json, const CountedReport& counted, const lint::Finding& finding) {
   json.member("fixes").begin_list(one_line);
   json.begin_object(one_line);
   write_message(json, "description", lint::words_of(finding).advice);
   json.member("artifactChanges").begin_list(one_line);
   json.begin_object(one_line);
-  write_artifact(json, report);
+  write_artifact(json, counted.report);
   json.member("replacements").begin_list(one_line);
-  for (const lint::ByteEdit& edit : finding.mend->edits) write_replacement(json, report, edit);
+  for (const lint::ByteEdit& edit : finding.mend->edits) write_replacement(json, counted, edit);
   json.end_list();
   json.end_object();
   json.end_list();
@@ -127,7 +123,7 @@ void write_fix(JsonWriter& json, const FileReport& report, const lint::Finding& 
   json.end_list();
 }
 
-void write_result(JsonWriter& json, const FileReport& report, const lint::Finding& finding) {
+void write_result(JsonWriter& json, const CountedReport& counted, const lint::Finding& finding) {
   const std::vector<lint::Rule>& rules = lint::all_rules();
   const lint::Rule* rule = lint::find_rule(finding.code);
   json.begin_object(one_line);
@@ -136,15 +132,15 @@ void write_result(JsonWriter& json, const FileReport& report, const lint::Findin
   json.member("level").text(level_of(rule->severity));
   write_message(json, "message", lint::words_of(finding).message);
   json.member("locations").begin_list(one_line);
-  write_location(json, report, finding.range, {});
+  write_location(json, counted, finding.range, {});
   json.end_list();
   if (!finding.related.empty()) {
     json.member("relatedLocations").begin_list(one_line);
     for (const lint::RelatedPlace& place : finding.related)
-      write_location(json, report, place.range, place.role);
+      write_location(json, counted, place.range, place.role);
     json.end_list();
   }
-  if (finding.mend) write_fix(json, report, finding);
+  if (finding.mend) write_fix(json, counted, finding);
   json.end_object();
 }
 
@@ -190,7 +186,8 @@ void write_sarif_form(const std::vector<FileReport>& reports, std::string_view v
   json.member("columnKind").text("unicodeCodePoints");
   json.member("results").begin_list(lines);
   for (const FileReport& report : reports) {
-    for (const lint::Finding& finding : report.findings) write_result(json, report, finding);
+    const CountedReport counted{report, CharacterIndex(report.read.text)};
+    for (const lint::Finding& finding : report.findings) write_result(json, counted, finding);
   }
   json.end_list();
   json.end_object();
