@@ -168,7 +168,7 @@ ExitCode for_each_file(Session& session, const ChosenFiles& files, const BatchOp
     const std::string& file = files.files[number];
     try {
       return action(one, file);
-    } catch (const Trouble&) {
+    } catch (const FolderTrouble&) {
       if (is_folder(file)) throw Trouble("is a folder; use --recursive to take the files in it");
       throw;
     }

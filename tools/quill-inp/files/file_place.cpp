@@ -65,8 +65,10 @@ FilePlace find_place(const std::string& path) {
 }
 
 void throw_not_regular(unsigned mode) {
-  throw Trouble("is " + std::string(kind_of_file(mode)) +
-                ", not a regular file; use '-' to read standard input");
+  const std::string message = "is " + std::string(kind_of_file(mode)) +
+                              ", not a regular file; use '-' to read standard input";
+  if (S_ISDIR(mode)) throw FolderTrouble(message);
+  throw Trouble(message);
 }
 
 void throw_cannot_open(const std::string& path, int error) {

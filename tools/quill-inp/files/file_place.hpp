@@ -18,7 +18,7 @@ struct FilePlace {
 /// Throws Trouble when the folder cannot be opened, and for links that lead in a circle.
 FilePlace find_place(const std::string& path);
 
-/// Throws the Trouble of a path that leads to a file that is not regular.
+/// Throws the Trouble, of a folder FolderTrouble, of a path that leads to no regular file.
 [[noreturn]] void throw_not_regular(unsigned mode);
 
 /// Throws the Trouble of a path that could not be opened because of this errno. Where the path

@@ -24,6 +24,12 @@ class Trouble : public std::runtime_error {
   std::optional<std::size_t> line_;
 };
 
+/// The trouble with a folder where a file is needed.
+class FolderTrouble : public Trouble {
+ public:
+  using Trouble::Trouble;
+};
+
 /// Ends the processing of a file because of trouble with another file, which was already reported.
 class ReportedTrouble : public std::exception {};
 
