@@ -10,7 +10,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
 . scripts/support/packages.sh
 
-need_packages "${build_packages[@]}" libbenchmark-dev
+need_packages "${tool_packages[@]}" libbenchmark-dev
 
 echo "Building in build/bench ..."
 build_preset bench

@@ -50,6 +50,13 @@ void RatioTable::compare(std::string_view what, const Work& subject, const Work&
   add_row(what, ratio.median, spread_text(ratio), at_most, plain_verdict(ratio.median, at_most));
 }
 
+void RatioTable::compare_elapsed(std::string_view what, const Work& subject, const Work& reference,
+                                 double at_most) {
+  if (!is_wanted(what)) return;
+  const TimeRatio ratio = time_ratio(subject, reference, rounds_, Clock::Wall);
+  add_row(what, ratio.median, spread_text(ratio), at_most, plain_verdict(ratio.median, at_most));
+}
+
 void RatioTable::compare_with_floor(std::string_view what, const Work& subject, const Work& floor,
                                     const Work& reference, double at_most) {
   constexpr double most_above_floor = 1.05;

@@ -19,8 +19,13 @@ class RatioTable {
   /// Adds the ratio of the times that `subject` and `reference` take.
   void compare(std::string_view what, const Work& subject, const Work& reference, double at_most);
 
-  /// The same where the subject does some work that no code can avoid. `floor` does only that work:
-  /// a ratio above `at_most` is also accepted if it is not above that of `floor`.
+  /// The same for the time that passes, where several threads work. Other programs on the machine
+  /// lengthen it.
+  void compare_elapsed(std::string_view what, const Work& subject, const Work& reference,
+                       double at_most);
+
+  /// The same as compare() where the subject does some work that no code can avoid. `floor` does
+  /// only that work: a ratio above `at_most` is also accepted if it is not above that of `floor`.
   void compare_with_floor(std::string_view what, const Work& subject, const Work& floor,
                           const Work& reference, double at_most);
 

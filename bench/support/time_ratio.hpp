@@ -15,10 +15,14 @@ struct TimeRatio {
   double upper_quartile;
 };
 
+/// What counts as time: that of the processor, for all threads together, or that which passes.
+enum class Clock { Processor, Wall };
+
 /// Times both in turns, so that other programs on the machine affect both in the same way, and
-/// compares only what was timed in the same round. Time is processor time. So that the work is not
-/// optimised away, pass its result to benchmark::DoNotOptimize.
-TimeRatio time_ratio(const Work& subject, const Work& reference, int rounds);
+/// compares only what was timed in the same round. So that the work is not optimised away, pass its
+/// result to benchmark::DoNotOptimize.
+TimeRatio time_ratio(const Work& subject, const Work& reference, int rounds,
+                     Clock clock = Clock::Processor);
 
 }  // namespace kelp::input::quill::bench
 
