@@ -102,8 +102,6 @@ const Verb verbs[] = {
     {"FromJsonOfParameters", {"from-json", "-"}, json_parameters, 3 * hundred},
     {"LintOfAtoms", {"lint", "--fail-on=never", "-"}, atoms, 5 * hundred},
     {"LintOfLostAtoms", {"lint", "--fail-on=never", "-"}, lost_atoms, 5 * hundred},
-    {"LintOfPostLines", {"lint", "--fail-on=never", "-"}, post_lines, 5 * hundred},
-    {"LintOfCommands", {"lint", "--fail-on=never", "-"}, commands, 3 * hundred},
     {"LintOfDifferentCommands",
      {"lint", "--fail-on=never", "--format=json", "-"},
      different_commands,
