@@ -79,8 +79,8 @@ template <typename Survives>
 std::optional<std::string> first_candidate(std::string_view value, Survives survives) {
   std::string candidate(value);
   if (survives(candidate)) return candidate;
-  for (const char quote : quotes_for(value)) {
-    candidate = put_between(quote, value);
+  for (const char mark : quotes_for(value)) {
+    candidate = put_between(mark, value);
     if (survives(candidate)) return candidate;
   }
   return std::nullopt;

@@ -75,7 +75,7 @@ std::optional<std::string> begin_of_pipe(int pipe) {
 }
 
 /// Reads a pipe that another program writes to, such as the shell's <(...).
-std::string read_pipe(Session& session, int pipe, const struct stat& state) {
+std::string read_pipe(const Session& session, int pipe, const struct stat& state) {
   std::optional<std::string> content = begin_of_pipe(pipe);
   if (!content) throw_not_regular(state.st_mode);
   const int flags = fcntl(pipe, F_GETFL);
