@@ -18,6 +18,7 @@ constexpr std::size_t signal_count = sizeof ending_signals / sizeof ending_signa
 // What the signal handler needs. It is changed only while the signals are held, so never while the
 // handler can run.
 ListedName* first_listed = nullptr;
+std::size_t reasons_to_catch = 0;
 struct sigaction former_actions[signal_count] = {};
 
 /// Lets the program get a signal as if nobody had caught it. What the program does then, it does
@@ -61,8 +62,16 @@ void leave_signals_alone() {
     sigaction(ending_signals[i], &former_actions[i], nullptr);
 }
 
+void begin_catching() {
+  if (reasons_to_catch++ == 0) catch_signals();
+}
+
+void end_catching() {
+  if (--reasons_to_catch == 0) leave_signals_alone();
+}
+
 void list(ListedName& name) {
-  if (first_listed == nullptr) catch_signals();
+  begin_catching();
   name.next = std::exchange(first_listed, &name);
 }
 
@@ -70,10 +79,20 @@ void take_off_list(const ListedName& name) {
   ListedName** link = &first_listed;
   while (*link != &name) link = &(*link)->next;
   *link = name.next;
-  if (first_listed == nullptr) leave_signals_alone();
+  end_catching();
 }
 
 }  // namespace
+
+CaughtSignals::CaughtSignals() noexcept {
+  const HeldSignals held;
+  begin_catching();
+}
+
+CaughtSignals::~CaughtSignals() {
+  const HeldSignals held;
+  end_catching();
+}
 
 ProvisionalName::ProvisionalName(int folder, std::string text) noexcept
     : name_{folder, std::move(text)} {

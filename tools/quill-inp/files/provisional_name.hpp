@@ -12,6 +12,17 @@ struct ListedName {
   ListedName* next = nullptr;
 };
 
+/// As long as an object lives, SIGINT, SIGTERM and SIGHUP are caught, and the listed names are
+/// removed on them. To hold the signals is not enough for a file that is created and then listed:
+/// another thread would still get one, and end the program before the name is in the list.
+class CaughtSignals {
+ public:
+  CaughtSignals() noexcept;
+  CaughtSignals(const CaughtSignals&) = delete;
+  CaughtSignals& operator=(const CaughtSignals&) = delete;
+  ~CaughtSignals();
+};
+
 /// The name of a new file in an open folder. Unless it is kept, the name is removed when the object
 /// is destroyed, and on SIGINT, SIGTERM and SIGHUP, which then have their usual effect.
 class ProvisionalName {

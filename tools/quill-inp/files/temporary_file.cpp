@@ -38,6 +38,7 @@ int create_new_file(int folder, std::string& name, mode_t mode) {
 }  // namespace
 
 TemporaryFile::TemporaryFile(int folder, mode_t mode) : folder_(folder), file_(-1) {
+  const CaughtSignals caught;
   const HeldSignals held;
   std::string chosen;
   const int number = create_new_file(folder, chosen, mode);

@@ -74,6 +74,17 @@ TEST_P(ProvisionalNames, AreRemovedOnASignalThatTheProgramThenGets) {
   EXPECT_EQ(names(), Names());
 }
 
+TEST_P(ProvisionalNames, AreWaitedForWithTheSignalsCaught) {
+  const Handler before = handler_of(GetParam());
+  {
+    const CaughtSignals caught;
+    EXPECT_NE(handler_of(GetParam()), before);
+    { const ProvisionalName name(number(), "a"); }
+    EXPECT_NE(handler_of(GetParam()), before) << "after a name came and went";
+  }
+  EXPECT_EQ(handler_of(GetParam()), before);
+}
+
 TEST_P(ProvisionalNames, LeaveTheErrorOfAnInterruptedCallAlone) {
   struct sigaction action {};
   action.sa_handler = [](int signal) { arrived = signal; };
