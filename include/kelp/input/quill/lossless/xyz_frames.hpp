@@ -42,7 +42,7 @@ struct XyzProblem {
     NoSuchFrame,   ///< the text has fewer frames
   };
 
-  Kind kind = Kind::NoCount;
+  Kind kind = Kind::NoCount;  ///< what is wrong
   /// The number, counted from 1, of the line with the problem. For a frame with too few atoms, it
   /// is that of its number of atoms; 0 where the problem is not in one line.
   std::size_t line = 0;
