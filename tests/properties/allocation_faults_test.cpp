@@ -65,6 +65,7 @@ TEST(AnEditThatRunsOutOfMemory, MayNotLeaveHalfOfItsWork) {
 }
 
 TEST(AnEdit, MayNotLoseABlock) {
+  // Then no program can tell its own lost blocks from those of the library.
   if (!failed_copies_are_freed()) GTEST_SKIP() << "this standard library loses blocks itself";
   std::unique_ptr<int> block;
   const EditOperation losing =

@@ -41,7 +41,7 @@ ExitCode edit_files(Session& session, const EditOptions& options, const Edit& ed
 enum class EditNotes { Told, Untold };
 
 /// A new text that is not proved yet, and what its proof is to be judged by. If something forbids
-/// the edit, `code` is not Done, and there is no text.
+/// the edit, `code` is not Done, and the text is empty.
 struct MadeEdit {
   ExitCode code = ExitCode::Done;
   lossless::TrackedDocument document;

@@ -33,7 +33,7 @@ std::vector<std::size_t> find_post_commands(const QuillInput& input, const PostK
 /// What a key asks for and the input does not have.
 struct MissingAnswer {
   enum class Kind {
-    Section,     // there is no such section or line
+    Section,     // the input has no such section or line
     Position,    // there are commands, but the number among all is too large
     PostNumber,  // there are lines of the kind, but the number is too large
     Command,     // no command has the name
@@ -48,7 +48,7 @@ struct MissingAnswer {
   std::optional<std::string> similar = std::nullopt;  // the nearest name in the input
 };
 
-/// Returns why there is no answer to a key. There must be none.
+/// Returns why there is no answer to a key. The key has none.
 MissingAnswer find_missing(const QuillInput& input, std::string_view key_text, const Key& key);
 
 /// Returns the same in words.

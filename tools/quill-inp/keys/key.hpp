@@ -68,7 +68,7 @@ struct Setting {
   std::string key_text = {};
   Key key = CommandKey{};
   std::optional<std::string> value = std::nullopt;
-  /// The command gets this name, and keeps all else; there is no value then.
+  /// The command gets this name, and keeps all else; the value is not used.
   std::optional<std::string> new_name = std::nullopt;
 };
 
