@@ -32,7 +32,7 @@ class EditedLines {
   void remove(std::size_t line) { is_removed_[line] = true; }
   void insert(std::size_t gap, std::string_view content);
 
-  /// Begins a new section in a gap and returns the gap for its lines. Where there is no blank line
+  /// Begins a new section in a gap and returns the gap for its lines. If no blank line is
   /// between them and the text before, an empty line is added.
   std::size_t begin_section(std::size_t gap);
 

@@ -3,9 +3,8 @@
 set -eu
 
 check=$(dirname "$0")/check_versions.sh
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-failures=0
+# shellcheck source=tests/rules/samples.sh
+. "$(dirname "$0")/samples.sh"
 
 # file PATH TEXT
 file() {
@@ -33,14 +32,9 @@ make_tree() {
 
 # judge accepted|refused WHAT [OPTION]
 judge() {
-  verdict=refused
   # The option is one word or none.
   # shellcheck disable=SC2086
-  if sh "$check" ${3:-} "$scratch" >/dev/null 2>&1; then verdict=accepted; fi
-  if [ "$verdict" != "$1" ]; then
-    echo "a tree is $verdict: $2 ${3:-}" >&2
-    failures=$((failures + 1))
-  fi
+  expect "$1" "$2 ${3:-}" sh "$check" ${3:-} "$scratch"
 }
 
 make_tree
@@ -109,5 +103,4 @@ file tests/package/installed_files/shared.txt 'runtime lib/libkelp_quill_inp.so.
 file tests/interface/exported/needed.txt 'quill-inp: libkelp_quill_inp.so.2'
 judge accepted 'after 1.0 the major version stands for the interface'
 
-if [ "$failures" -ne 0 ]; then exit 1; fi
-echo "every tree is judged as it should be"
+end_of_samples

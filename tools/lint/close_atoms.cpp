@@ -88,7 +88,7 @@ class CellTable {
     std::uint32_t next;
   };
 
-  /// Takes the higher cell along the axes of `corner`; false where there is no other one.
+  /// Takes the higher cell along the axes of `corner`; false if it is the same one.
   static bool move_to_corner(Cell& cell, const Cell& high, unsigned corner) {
     for (std::size_t axis = 0; axis < axes; ++axis) {
       if ((corner >> axis & 1U) == 0) continue;

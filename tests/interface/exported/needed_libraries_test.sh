@@ -6,9 +6,8 @@ set -eu
 
 compiler=$1
 check=$(dirname "$0")/needed_libraries.sh
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-failures=0
+# shellcheck source=tests/rules/samples.sh
+. "$(dirname "$0")/../../rules/samples.sh"
 
 # library NAME FLAG...: one with a single function, which the C library's start files make need it.
 library() {
@@ -24,12 +23,7 @@ library two "$scratch/libone.so"
 judge() {
   printf '%s\n' 'any: ld-linux-x86-64.so.2 libc.so.6 libgcc_s.so.1 libm.so.6 libstdc++.so.6' "$2" \
     >"$scratch/list"
-  verdict=refused
-  if sh "$check" "$scratch/list" "$scratch/libtwo.so" >/dev/null 2>&1; then verdict=accepted; fi
-  if [ "$verdict" != "$1" ]; then
-    echo "the line '$2' is $verdict" >&2
-    failures=$((failures + 1))
-  fi
+  expect "$1" "the line '$2'" sh "$check" "$scratch/list" "$scratch/libtwo.so"
 }
 
 judge accepted 'libtwo: libone.so.1'
@@ -40,5 +34,4 @@ judge refused 'libtwox: libone.so.1'
 judge refused 'xlibtwo: libone.so.1'
 judge refused ''
 
-if [ "$failures" -ne 0 ]; then exit 1; fi
-echo "every list is judged as it should be"
+end_of_samples

@@ -6,9 +6,8 @@ set -eu
 
 compiler=$1
 check=$(dirname "$0")/run_paths.sh
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-failures=0
+# shellcheck source=tests/rules/samples.sh
+. "$(dirname "$0")/../../rules/samples.sh"
 
 # judge accepted|refused RUN_PATH [OPTION]: a library with this run path, or none if it is empty.
 judge() {
@@ -16,14 +15,9 @@ judge() {
   mkdir "$scratch/folder"
   echo "int answer = 42;" |
     "$compiler" -shared -fPIC -x c++ - -o "$scratch/folder/answer.so" ${2:+"-Wl,-rpath,$2"}
-  verdict=refused
   # The option is one word or none.
   # shellcheck disable=SC2086
-  if sh "$check" ${3:-} "$scratch/folder" >/dev/null 2>&1; then verdict=accepted; fi
-  if [ "$verdict" != "$1" ]; then
-    echo "the run path '$2' is $verdict with ${3:-no option}" >&2
-    failures=$((failures + 1))
-  fi
+  expect "$1" "the run path '$2' with ${3:-no option}" sh "$check" ${3:-} "$scratch/folder"
 }
 
 # The linker replaces no name in a run path, the dynamic linker does.
@@ -45,10 +39,6 @@ judge refused '' --each
 
 rm -rf "$scratch/folder"
 mkdir "$scratch/folder"
-if sh "$check" "$scratch/folder" 2>/dev/null; then
-  echo "a folder without libraries is accepted" >&2
-  failures=$((failures + 1))
-fi
+expect refused 'a folder without libraries' sh "$check" "$scratch/folder"
 
-if [ "$failures" -ne 0 ]; then exit 1; fi
-echo "every run path is judged as it should be"
+end_of_samples

@@ -145,7 +145,7 @@ struct AddPostCommand {
   }
 };
 
-/// Nothing is changed where there is no command with this index.
+/// Changes nothing if the index is not below the number of commands.
 struct ReplaceCommand {
   std::size_t index = 0;
   HeaderCommand command;

@@ -91,7 +91,7 @@ constexpr const char* too_many =
 std::string parse_parameter(KeyCursor& cursor, std::string_view text) {
   std::string parameter = cursor.piece();
   if (core::text::trim(parameter).empty())
-    throw_bad_key(text, "there is no parameter name after '.'");
+    throw_bad_key(text, "a parameter name is missing after '.'");
   return parameter;
 }
 
@@ -100,7 +100,7 @@ CommandKey parse_command_key(std::string_view text) {
   KeyCursor cursor(text);
   CommandKey key;
   const std::string name = cursor.piece();
-  if (core::text::trim(name).empty()) throw_bad_key(text, "there is no name");
+  if (core::text::trim(name).empty()) throw_bad_key(text, "the name is missing");
   key.command = stored_command_name(name);
   if (cursor.consume('[')) key.occurrence = cursor.occurrence();
   if (cursor.consume('.')) key.parameter = parse_parameter(cursor, text);
@@ -180,7 +180,7 @@ Setting parse_setting(std::string_view text) {
   setting.key = parse_key(setting.key_text);
   const auto* key = std::get_if<CommandKey>(&setting.key);
   if (key != nullptr && !key->position && is_nameless(key->command))
-    throw_bad_key(setting.key_text, "there is no name");
+    throw_bad_key(setting.key_text, "the name is missing");
   if (equals != std::string_view::npos) setting.value = std::string(text.substr(equals + 1));
   return setting;
 }

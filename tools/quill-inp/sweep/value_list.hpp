@@ -18,7 +18,7 @@ struct ValueList {
 };
 
 /// Reads "opt.maxiter=[50,100]", or "model=m1" for a list of one. A backslash before a "," or a "\"
-/// makes it part of a value. Throws UsageError for a text that is no setting, and for an empty
+/// makes it part of a value. Throws UsageError for a text that is not a setting, and for an empty
 /// list.
 ValueList parse_value_list(const std::string& text);
 

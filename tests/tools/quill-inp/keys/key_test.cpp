@@ -97,12 +97,12 @@ constexpr std::string_view bad_number = "a number and ']' must follow '['";
 constexpr std::string_view bad_backslash = R"(a backslash goes before one of .[]=@\)";
 
 const BadRow bad_rows[] = {
-    {"NoText", "", "there is no name"},
-    {"BlanksOnly", " ", "there is no name"},
-    {"NoCommand", ".a", "there is no name"},
-    {"NoCommandBeforeANumber", "[1]", "there is no name"},
-    {"NoParameter", "a.", "there is no parameter name after '.'"},
-    {"BlankParameter", "a. ", "there is no parameter name after '.'"},
+    {"NoText", "", "the name is missing"},
+    {"BlanksOnly", " ", "the name is missing"},
+    {"NoCommand", ".a", "the name is missing"},
+    {"NoCommandBeforeANumber", "[1]", "the name is missing"},
+    {"NoParameter", "a.", "a parameter name is missing after '.'"},
+    {"BlankParameter", "a. ", "a parameter name is missing after '.'"},
     {"TwoDots", "a.b.c", too_many},
     {"NumberOfAParameter", "a.b[1]", too_many},
     {"TwoNumbers", "a[1][2]", too_many},
@@ -118,7 +118,7 @@ const BadRow bad_rows[] = {
     {"BackslashAtTheEnd", "a\\", bad_backslash},
     {"CommandsWithoutANumber", "@commands", "a number in brackets must follow '@commands'"},
     {"CommandsWithoutANumberInTheBrackets", "@commands[]", bad_number},
-    {"NoParameterOfAnyCommand", "@commands[1].", "there is no parameter name after '.'"},
+    {"NoParameterOfAnyCommand", "@commands[1].", "a parameter name is missing after '.'"},
     {"TextAfterAnyCommand", "@commands[1]x", too_many},
     {"ParameterOfABond", "@bond[1].x", too_many},
     {"TwoNumbersOfABond", "@bond[1][2]", too_many},

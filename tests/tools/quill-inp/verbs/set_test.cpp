@@ -37,7 +37,7 @@ std::string not_a_path(const std::string& option) {
 
 Outcome nameless(const std::string& key) {
   return usage_error("bad key '" + key +
-                     "': there is no name; a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or "
+                     "': the name is missing; a key is COMMAND, COMMAND.PARAMETER, COMMAND[N] or "
                      "COMMAND[N].PARAMETER, where N counts from 0, or begins with '@', such as "
                      "@charge, @bonds, @bond[N] or @commands[N]");
 }
