@@ -27,6 +27,9 @@ for folder in unit interface properties exactness; do ./libcxx.sh "$folder"; don
 step "the oldest compilers"
 ./check_compilers.sh
 
+step "the page for beginners, with the tool"
+../tests/docs/first_program.sh "$(cd .. && pwd)" "$(cd .. && pwd)/build/getting_started" g++ and-the-tool
+
 step "what is shipped: hardening, Debian packages, the same bytes from two folders"
 ./check_hardening.sh
 ./check_debian.sh
