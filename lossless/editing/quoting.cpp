@@ -170,6 +170,15 @@ bool is_known(HeaderCommandKind kind) {
          kind == HeaderCommandKind::ParameterList;
 }
 
+/// Whether every value of a command survives without quotes, the last one also with another
+/// parameter after it. For nearly every command this takes the place of a question for each value.
+bool needs_no_quotes(const HeaderCommand& command) {
+  if (!reads_back(command, command)) return false;
+  if (command.kind != HeaderCommandKind::ParameterList || command.parameters.empty()) return true;
+  const CommandParameter& last = command.parameters.back();
+  return reads_back(last, last, Place::BeforeOthers);
+}
+
 /// The problem when every value can be written but the line is still read differently.
 QuotingProblem problem_of(const HeaderCommand& command) {
   QuotingProblem problem;
@@ -190,6 +199,7 @@ QuotingProblem problem_of(const HeaderCommand& command) {
 
 QuotedCommand quote(const HeaderCommand& command) {
   QuotedCommand quoted{command, {}};
+  if (needs_no_quotes(command)) return quoted;
   if (command.kind == HeaderCommandKind::Assignment) quote_assigned_value(quoted);
   if (command.kind == HeaderCommandKind::ParameterList) quote_parameters(quoted);
   if (quoted.problems.empty() && !reads_back(quoted.command, command))

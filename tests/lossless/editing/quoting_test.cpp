@@ -291,6 +291,21 @@ TEST(ParameterQuoting, LeavesABareNameAlone) {
   EXPECT_EQ(quoted_parameter({"it's"}, Place::BeforeOthers), std::nullopt);
 }
 
+TEST(ParameterQuoting, DoesNotDependOnTheParametersBesideIt) {
+  std::vector<std::string> values;
+  for_each_text("a'\", ", 2, [&](const std::string& text) { values.push_back(text); });
+  for (const std::string& first : values) {
+    for (const std::string& last : values) {
+      const std::optional<std::string> text = quoted_parameter({"p", first}, Place::BeforeOthers);
+      const std::optional<std::string> last_text = quoted_parameter({"q", last}, Place::Last);
+      if (!text || !last_text) continue;
+      const HeaderCommand wanted("opt", HeaderCommandKind::ParameterList, std::nullopt,
+                                 {{"p", *text}, {"q", *last_text}});
+      EXPECT_EQ(quote(list("opt", {{"p", first}, {"q", last}})).command, wanted);
+    }
+  }
+}
+
 TEST(ParameterQuoting, FindsAWayForEveryValueThatHasOne) {
   // Whatever can be read from any text of up to six characters can be written, and what is written
   // reads back.

@@ -6,6 +6,17 @@
 
 namespace kelp::input::quill::tool {
 
+namespace {
+
+/// The text that was read says what the reader made of it, so only another text has to be read.
+lossless::Proof prove_canonical(const ReadInput& input, const std::string& text,
+                                double max_change) {
+  if (text == input.read.text) return {};
+  return lossless::prove(text, input.read.result.input, max_change);
+}
+
+}  // namespace
+
 CanonicalText canonical_text(const QuillInput& document) {
   lossless::QuotedDocument quoted = lossless::quote(document);
   return {quoted.document.to_string(), std::move(quoted.problems)};
@@ -20,7 +31,7 @@ std::optional<std::string> make_canonical_text(Session& session, ReadInput& inpu
   std::vector<LineLoss> line_losses = list_line_losses(input.read);
   forget_lines(input);
   CanonicalText canonical = canonical_text(document);
-  const lossless::Proof proof = lossless::prove(canonical.text, document, policy.max_change);
+  const lossless::Proof proof = prove_canonical(input, canonical.text, policy.max_change);
   note_number_changes(session, input.name, proof.comparison.number_changes);
   const Losses losses{{}, std::move(line_losses), std::move(canonical.problems), proof, document};
   if (!accept_losses(session, input.name, losses, policy)) return std::nullopt;
