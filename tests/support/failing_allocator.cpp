@@ -1,5 +1,6 @@
 #include "support/failing_allocator.hpp"
 
+#include <atomic>
 #include <cstddef>
 #include <cstdlib>
 #include <new>
@@ -10,9 +11,9 @@ namespace kelp::input::quill {
 namespace {
 
 struct Counts {
-  std::uint64_t asked_for;
+  std::atomic<std::uint64_t> asked_for;
+  std::atomic<std::int64_t> live;
   std::uint64_t failing;
-  std::int64_t live;
   bool is_window_open;
   Shortage shortage;
 };
@@ -22,9 +23,9 @@ Counts counts;
 
 bool must_fail() noexcept {
   if (!counts.is_window_open) return false;
-  ++counts.asked_for;
+  const std::uint64_t number = ++counts.asked_for;
   const bool lasts = counts.shortage == Shortage::Lasting && counts.failing != 0;
-  return lasts ? counts.asked_for >= counts.failing : counts.asked_for == counts.failing;
+  return lasts ? number >= counts.failing : number == counts.failing;
 }
 
 // The blocks come from malloc, so that the sanitizers watch them as any others.

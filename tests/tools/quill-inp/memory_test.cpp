@@ -3,89 +3,22 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cstdint>
 #include <filesystem>
-#include <istream>
 #include <map>
-#include <ostream>
-#include <streambuf>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "quill-inp/run.hpp"
-#include "support/failing_allocator.hpp"
 #include "support/temporary_folder.hpp"
 #include "tools/quill-inp/support/files.hpp"
+#include "tools/quill-inp/support/metered_call.hpp"
 
 namespace kelp::input::quill::tool {
 namespace {
 
 using Names = std::vector<std::string>;
-
-/// Standard input, which takes down how many allocations there were before it was read: what comes
-/// before belongs to the command line, and not to a file.
-class FirstFile : public std::streambuf {
- public:
-  FirstFile(const AllocationWindow& window, std::string text)
-      : window_(window), text_(std::move(text)) {}
-  std::uint64_t allocations_before() const { return allocations_before_; }
-
- private:
-  int_type underflow() override {
-    if (gptr() != nullptr) return traits_type::eof();
-    allocations_before_ = window_.allocations();
-    setg(text_.data(), text_.data(), text_.data() + text_.size());
-    return traits_type::to_int_type(*gptr());
-  }
-
-  const AllocationWindow& window_;
-  std::string text_;
-  std::uint64_t allocations_before_ = 0;
-};
-
-/// What is written, without allocating: a stream would take a failure of that for one to write.
-class Captured : public std::streambuf {
- public:
-  Captured() { setp(data_.data(), data_.data() + data_.size()); }
-  std::string text() const { return {pbase(), pptr()}; }
-
- private:
-  std::array<char, 16384> data_{};
-};
-
-/// What came of a call, and the numbers of its allocations, before the first file and in all.
-struct MeteredCall {
-  int code = -1;
-  std::string out = {};
-  std::string err = {};
-  std::uint64_t allocations_before = 0;
-  std::uint64_t allocations = 0;
-};
-
-/// Runs the program in this process, with one of its allocations failing, and perhaps all that
-/// follow; with 0, none.
-MeteredCall run_failing(const std::vector<std::string>& arguments, std::string input,
-                        std::uint64_t failing, Shortage shortage = Shortage::Short) {
-  Captured out_text;
-  Captured err_text;
-  std::ostream out(&out_text);
-  std::ostream err(&err_text);
-  MeteredCall call;
-  {
-    const AllocationWindow window(failing, shortage);
-    FirstFile in_text(window, std::move(input));
-    std::istream in(&in_text);
-    call.code = run(arguments, {in, out, err});
-    call.allocations_before = in_text.allocations_before();
-    call.allocations = window.allocations();
-  }
-  call.out = out_text.text();
-  call.err = err_text.text();
-  return call;
-}
 
 TEST(OutOfMemory, ForOneFileStopsNoOther) {
   const std::string input = "#a\n\n0 1\n";
@@ -148,6 +81,8 @@ struct VerbRow {
 
 class LastingShortage : public testing::TestWithParam<VerbRow> {};
 
+class BriefShortage : public testing::TestWithParam<VerbRow> {};
+
 /// Every kind of line, and one that is dropped.
 const std::string every_line =
     "#opt(maxiter=50, tight)\n#model=m1\n\n0 1\nO 0 0 0.117\nH 0 0.757 -0.469\nQ 0 0 0\n"
@@ -175,7 +110,6 @@ const VerbRow verb_rows[] = {
      {"get", "--json", "-", "opt", "@atoms", "@scans", "@formula", "@keys"},
      every_line},
     {"GetOfEveryKey", {"get", "-", "@keys", "@bonds", "@post_files"}, every_line},
-    {"Help", {"help", "set"}, ""},
     {"Set", {"set", "-", "opt.maxiter=100", "freq=a b", "@charge=1"}, every_line},
     {"SetOfAtoms", {"set", "--atoms", "-", "a.qin"}, "1\n\nHe 0 0 1\n"},
     {"Unset", {"unset", "-", "opt.tight", "model"}, every_line},
@@ -193,6 +127,7 @@ const VerbRow verb_rows[] = {
     {"Lint", {"lint", "-"}, every_line},
     {"LintAsJson", {"lint", "--format=json", "-"}, every_line},
     {"LintAsGithub", {"lint", "--format=github", "-"}, every_line},
+    {"LintAsSarif", {"lint", "--format=sarif", "-"}, every_line},
     {"LintWithStatistics", {"lint", "--statistics", "-"}, every_line},
     {"LintThatShowsMends", {"lint", "--fix", "--diff", "-"}, every_line},
     {"FromJson", {"from-json", "--allow-loss", "-"}, every_member},
@@ -220,20 +155,50 @@ void expect_end_with_message(const VerbRow& row, bool from_the_start) {
   }
 }
 
-TEST_P(LastingShortage, EndsTheProgramWithItsMessage) {
-  const TemporaryFolder folder;
-  VerbRow row = GetParam();
+/// Returns the row for a folder, to which the file that it names is written.
+VerbRow in_folder(const TemporaryFolder& folder, VerbRow row) {
   for (std::string& argument : row.arguments) {
     if (argument == "a.qin") argument = folder.write("a.qin", every_line);
   }
-  expect_end_with_message(row, false);
+  return row;
 }
+
+TEST_P(LastingShortage, EndsTheProgramWithItsMessage) {
+  const TemporaryFolder folder;
+  expect_end_with_message(in_folder(folder, GetParam()), false);
+}
+
+TEST_P(BriefShortage, IsToldOrChangesNothing) {
+  const TemporaryFolder folder;
+  const VerbRow row = in_folder(folder, GetParam());
+  const MeteredCall undisturbed = run_failing(row.arguments, row.input, 0);
+  int failures = 0;
+  for (std::uint64_t i = undisturbed.allocations_before + 1; i <= undisturbed.allocations; ++i) {
+    const MeteredCall call = run_failing(row.arguments, row.input, i);
+    if (call.err.find(" out of memory\n") != std::string::npos) {
+      ASSERT_EQ(call.code, 2) << i;
+      ++failures;
+      continue;
+    }
+    ASSERT_EQ(call.code, undisturbed.code) << i << '\n' << call.err;
+    ASSERT_EQ(call.out, undisturbed.out) << i;
+    ASSERT_EQ(call.err, undisturbed.err) << i;
+  }
+  EXPECT_GT(failures, 10);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, BriefShortage, testing::ValuesIn(verb_rows),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 INSTANTIATE_TEST_SUITE_P(Of, LastingShortage, testing::ValuesIn(verb_rows),
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST(LastingShortage, FromTheStartEndsTheProgramWithItsMessage) {
   expect_end_with_message({"", {"json", "-"}, "0 1\n"}, true);
+}
+
+TEST(LastingShortage, OfHelpEndsTheProgramWithItsMessage) {
+  expect_end_with_message({"", {"help", "set"}, ""}, true);
 }
 
 TEST(LastingShortage, LeavesNoFileBehindButTheOldOne) {

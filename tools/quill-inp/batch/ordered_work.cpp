@@ -4,6 +4,7 @@
 #include <condition_variable>
 #include <exception>
 #include <mutex>
+#include <new>
 #include <system_error>
 #include <thread>
 #include <vector>
@@ -31,6 +32,8 @@ class Workers {
       try {
         threads_.emplace_back([this] { work(); });
       } catch (const std::system_error&) {
+        return;
+      } catch (const std::bad_alloc&) {
         return;
       }
     }

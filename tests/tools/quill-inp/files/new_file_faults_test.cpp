@@ -14,6 +14,7 @@
 
 #include "support/temporary_folder.hpp"
 #include "tools/quill-inp/support/files.hpp"
+#include "tools/quill-inp/support/folder_texts.hpp"
 #include "tools/quill-inp/support/program.hpp"
 
 namespace kelp::input::quill::tool {
@@ -21,20 +22,10 @@ namespace {
 
 const bool is_in_memory = use_memory_for_temporary_files();
 
-/// What a folder holds: the texts of the files by their names.
-using Folder = std::map<std::string, std::string>;
-
-Folder files_of(const TemporaryFolder& folder) {
-  Folder files;
-  for (const std::string& name : names_in(folder.path()))
-    files[name] = content_of(folder.path(name));
-  return files;
-}
-
 /// Runs the program in a folder that holds `files`, with more in its environment, and changes them
 /// to what is there then.
 Outcome run_with(const std::vector<std::string>& arguments,
-                 const std::map<std::string, std::string>& environment, Folder& files) {
+                 const std::map<std::string, std::string>& environment, FolderTexts& files) {
   const TemporaryFolder folder;
   for (const auto& [name, text] : files) folder.write(name, text);
   Request request;
@@ -44,36 +35,24 @@ Outcome run_with(const std::vector<std::string>& arguments,
   request.environment.insert(
       {{"LD_PRELOAD", QUILL_INP_FAILING_CALLS}, {"ASAN_OPTIONS", "verify_asan_link_order=0"}});
   const Outcome outcome = run_program(request);
-  files = files_of(folder);
+  files = texts_in(folder.path());
   return outcome;
 }
 
 /// The same with a fault at one of the system calls.
 Outcome run_with_fault(const std::vector<std::string>& arguments, std::size_t call,
-                       const std::string& fault, Folder& files) {
+                       const std::string& fault, FolderTexts& files) {
   return run_with(
       arguments, {{"QUILL_INP_FAULT_AT", std::to_string(call)}, {"QUILL_INP_FAULT", fault}}, files);
 }
 
 /// Counts the system calls of a run that nothing disturbs, and changes the files to what it makes.
-std::size_t count_calls(const std::vector<std::string>& arguments, Folder& files) {
+std::size_t count_calls(const std::vector<std::string>& arguments, FolderTexts& files) {
   const TemporaryFolder logs;
   const std::string log = logs.write("log", "");
   EXPECT_EQ(run_with(arguments, {{"QUILL_INP_CALL_LOG", log}}, files).code, 0);
   const std::string calls = content_of(log);
   return static_cast<std::size_t>(std::count(calls.begin(), calls.end(), '\n'));
-}
-
-/// Expects of each file that it is as before or as after, and that there are no others.
-void expect_old_or_new(const Folder& files, const Folder& before, const Folder& after) {
-  for (const auto& [name, text] : files) {
-    const auto old_file = before.find(name);
-    const auto new_file = after.find(name);
-    const bool is_old = old_file != before.end() && old_file->second == text;
-    const bool is_new = new_file != after.end() && new_file->second == text;
-    EXPECT_TRUE(is_old || is_new) << name << ":\n" << text;
-  }
-  for (const auto& [name, text] : before) EXPECT_EQ(files.count(name), 1U) << name;
 }
 
 struct CallRow {
@@ -86,16 +65,16 @@ void PrintTo(const CallRow& row, std::ostream* stream) { *stream << row.name; }
 class WritingCall : public testing::TestWithParam<CallRow> {
  protected:
   /// "b.qin" has a mend that is safe.
-  const Folder before_ = {{"a.qin", water}, {"b.qin", "\xEF\xBB\xBF#opt\n0 1\nHe 0 0 0\n"}};
+  const FolderTexts before_ = {{"a.qin", water}, {"b.qin", "\xEF\xBB\xBF#opt\n0 1\nHe 0 0 0\n"}};
 };
 
 TEST_P(WritingCall, ThatFailsLeavesEveryFileOldOrNew) {
-  Folder after = before_;
+  FolderTexts after = before_;
   const std::size_t calls = count_calls(GetParam().arguments, after);
   ASSERT_NE(after, before_);
   int failures = 0;
   for (std::size_t call = 1; call <= calls; ++call) {
-    Folder files = before_;
+    FolderTexts files = before_;
     const Outcome outcome =
         run_with_fault(GetParam().arguments, call, "errno " + std::to_string(EIO), files);
     ASSERT_TRUE(outcome.code) << call;
@@ -112,10 +91,10 @@ TEST_P(WritingCall, ThatFailsLeavesEveryFileOldOrNew) {
 }
 
 TEST_P(WritingCall, ThatASignalEndsLeavesEveryFileOldOrNew) {
-  Folder after = before_;
+  FolderTexts after = before_;
   const std::size_t calls = count_calls(GetParam().arguments, after);
   for (std::size_t call = 1; call <= calls; ++call) {
-    Folder files = before_;
+    FolderTexts files = before_;
     EXPECT_EQ(run_with_fault(GetParam().arguments, call, "signal " + std::to_string(SIGTERM), files)
                   .signal,
               SIGTERM)
@@ -136,18 +115,18 @@ INSTANTIATE_TEST_SUITE_P(Of, WritingCall, testing::ValuesIn(calls_that_write),
 
 TEST(WritingOfManyFiles, ThatASignalEndsLeavesEveryFileOldOrNew) {
   std::vector<std::string> arguments = {"set", "-q", "-i", "-j2"};
-  Folder before;
+  FolderTexts before;
   for (int i = 0; i < 12; ++i) {
     const std::string name = std::to_string(i) + ".qin";
     before[name] = water;
     arguments.push_back(name);
   }
   arguments.emplace_back("model=m2");
-  Folder after = before;
+  FolderTexts after = before;
   const std::size_t calls = count_calls(arguments, after);
   ASSERT_EQ(after["0.qin"], changed_water());
   for (std::size_t call = 1; call < calls; call += 7) {
-    Folder files = before;
+    FolderTexts files = before;
     EXPECT_EQ(run_with_fault(arguments, call, "signal " + std::to_string(SIGINT), files).signal,
               SIGINT)
         << call;
