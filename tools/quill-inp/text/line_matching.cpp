@@ -64,6 +64,8 @@ class GreedySearch {
 
   /// Returns the runs from the last to the first, or none when there are too many differences.
   std::vector<MatchingRun> run() {
+    // A text without lines has none in common, and the search would find that out one by one.
+    if (old_ids_.empty() || new_ids_.empty()) return {};
     for (std::ptrdiff_t count = 0; count <= most_differences; ++count) {
       history_.emplace_back(&at(-count), &at(count) + 1);
       if (advance(count)) return trace_back(count);
