@@ -31,7 +31,7 @@ bool has_its_name(const FilePlace& place, const struct stat& state) {
 FileDescriptor open_in_place(const FilePlace& place, const std::string& path) {
   FileDescriptor file(
       open_in(place.folder.number(), place.name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW));
-  if (file.number() < 0) throw_cannot_open(path, errno);
+  if (file.number() < 0) throw_cannot_open(path, errno, Purpose::Replacing);
   return file;
 }
 

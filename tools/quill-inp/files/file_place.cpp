@@ -45,7 +45,7 @@ FilePlace split(int folder, const std::string& path, const std::string& whole_pa
   FileDescriptor opened(open_in(folder, parent, O_RDONLY | O_DIRECTORY));
   if (opened.number() < 0 && errno == EACCES)
     throw_system_trouble("the folder of the file cannot be opened", errno);
-  if (opened.number() < 0) throw_cannot_open(whole_path, errno);
+  if (opened.number() < 0) throw_cannot_open(whole_path, errno, Purpose::Replacing);
   std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
   if (name.empty() && !path.empty()) name = ".";
   return {std::move(opened), std::move(name)};
@@ -61,20 +61,25 @@ FilePlace find_place(const std::string& path) {
     if (!link) return place;
     place = split(place.folder.number(), *link, path);
   }
-  throw_cannot_open(path, ELOOP);
+  throw_cannot_open(path, ELOOP, Purpose::Replacing);
 }
 
-void throw_not_regular(unsigned mode) {
-  const std::string message = "is " + std::string(kind_of_file(mode)) +
-                              ", not a regular file; use '-' to read standard input";
+void throw_not_regular(unsigned mode, Purpose purpose) {
+  const char* const advice =
+      purpose == Purpose::Reading
+          ? ", not a regular file; use '-' to read standard input"
+          : ", and only a regular file can be changed in place; put the text into a file first, or "
+            "have the result printed instead";
+  const std::string message = "is " + std::string(kind_of_file(mode)) + advice;
   if (S_ISDIR(mode)) throw FolderTrouble(message);
   throw Trouble(message);
 }
 
-void throw_cannot_open(const std::string& path, int error) {
+void throw_cannot_open(const std::string& path, int error, Purpose purpose) {
   // Under /dev/fd there are links to open files without a name. A shell passes pipes in this way.
   struct stat state {};
-  if (stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode)) throw_not_regular(state.st_mode);
+  if (stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode))
+    throw_not_regular(state.st_mode, purpose);
   if (error == ENOENT && is_symbolic_link(path))
     throw Trouble("is a symbolic link to a file that does not exist");
   throw_system_trouble("cannot be opened", error);

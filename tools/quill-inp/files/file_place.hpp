@@ -18,12 +18,15 @@ struct FilePlace {
 /// Throws Trouble when the folder cannot be opened, and for links that lead in a circle.
 FilePlace find_place(const std::string& path);
 
+/// What a file is opened for: a pipe can be read, but no other file can be put in its place.
+enum class Purpose { Reading, Replacing };
+
 /// Throws the Trouble, of a folder FolderTrouble, of a path that leads to no regular file.
-[[noreturn]] void throw_not_regular(unsigned mode);
+[[noreturn]] void throw_not_regular(unsigned mode, Purpose purpose);
 
 /// Throws the Trouble of a path that could not be opened because of this errno. Where the path
 /// leads to something else than a file, the reason is that.
-[[noreturn]] void throw_cannot_open(const std::string& path, int error);
+[[noreturn]] void throw_cannot_open(const std::string& path, int error, Purpose purpose);
 
 }  // namespace kelp::input::quill::tool
 

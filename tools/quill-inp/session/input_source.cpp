@@ -23,7 +23,7 @@ namespace {
 }
 
 void require_regular(const struct stat& state, std::uint64_t limit) {
-  if (!S_ISREG(state.st_mode)) throw_not_regular(state.st_mode);
+  if (!S_ISREG(state.st_mode)) throw_not_regular(state.st_mode, Purpose::Reading);
   if (static_cast<std::uint64_t>(state.st_size) > limit) throw_too_large(limit);
 }
 
@@ -77,7 +77,7 @@ std::optional<std::string> begin_of_pipe(int pipe) {
 /// Reads a pipe that another program writes to, such as the shell's <(...).
 std::string read_pipe(const Session& session, int pipe, const struct stat& state) {
   std::optional<std::string> content = begin_of_pipe(pipe);
-  if (!content) throw_not_regular(state.st_mode);
+  if (!content) throw_not_regular(state.st_mode, Purpose::Reading);
   const int flags = fcntl(pipe, F_GETFL);
   if (flags < 0 || fcntl(pipe, F_SETFL, flags & ~O_NONBLOCK) != 0)
     throw_system_trouble("cannot be read", errno);
@@ -91,7 +91,7 @@ std::string read_file(Session& session, const std::string& path) {
   if (path.find('\0') != std::string::npos) throw Trouble("a file name cannot hold a NUL byte");
   // Not blocking, so that a pipe without a writer is refused at once.
   const FileDescriptor file(open_in(AT_FDCWD, path, O_RDONLY | O_NONBLOCK));
-  if (file.number() < 0) throw_cannot_open(path, errno);
+  if (file.number() < 0) throw_cannot_open(path, errno, Purpose::Reading);
   const struct stat state = state_of(file.number());
   if (S_ISFIFO(state.st_mode)) return read_pipe(session, file.number(), state);
   return read_regular_file(session, file.number(), state);
@@ -139,6 +139,7 @@ ReadInput read_for_replacing(Session& session, const std::string& argument,
     throw Trouble("standard input cannot be changed in place");
   }
   FileOrigin origin = open_for_replacing(argument, patience);
+  if (!S_ISREG(origin.state.st_mode)) throw_not_regular(origin.state.st_mode, Purpose::Replacing);
   std::string content = read_regular_file(session, origin.file.number(), origin.state);
   return {session.shown_name(argument), lossless::read_text(std::move(content)), std::move(origin)};
 }

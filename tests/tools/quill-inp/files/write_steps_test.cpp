@@ -97,9 +97,11 @@ TEST(FileThatBecameALink, IsNotFollowedWhereItIsRead) {
 
 TEST(FileThatBecameAPipe, IsRefusedAtOnceWhereItIsRead) {
   FaultyWrite write;
-  EXPECT_EQ(write.run_with_fault(opening(calls_of_a_write()), "run rm a.qin; mkfifo a.qin"),
-            ended(2, "",
-                  "a.qin: error: is a pipe, not a regular file; use '-' to read standard input\n"));
+  EXPECT_EQ(
+      write.run_with_fault(opening(calls_of_a_write()), "run rm a.qin; mkfifo a.qin"),
+      ended(2, "",
+            "a.qin: error: is a pipe, and only a regular file can be changed in place; put the "
+            "text into a file first, or have the result printed instead\n"));
 }
 
 }  // namespace

@@ -333,6 +333,29 @@ TEST(FilesThatAreNotRegular, AreRefused) {
             ended(2, "0 1\n", refusal_of_folder + refusal("pipe", "a pipe")));
 }
 
+std::string refusal_in_place(const std::string& name, const std::string& kind) {
+  return name + ": error: is " + kind +
+         ", and only a regular file can be changed in place; put the text into a file first, or "
+         "have the result printed instead\n";
+}
+
+TEST(FilesThatAreNotRegular, AreNotChangedInPlace) {
+  const TemporaryFolder folder;
+  ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0600), 0);
+  EXPECT_EQ(run_in(folder.path(), {"fmt", "-i", "pipe"}),
+            ended(2, "", refusal_in_place("pipe", "a pipe")));
+  EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "--fix", "pipe"}),
+            ended(2, "", refusal_in_place("pipe", "a pipe")));
+  EXPECT_EQ(run_in(folder.path(), {"set", "-i", "/dev/null", "model=m2"}),
+            ended(2, "", refusal_in_place("/dev/null", "a device")));
+  // A socket cannot even be opened.
+  EXPECT_EQ(
+      run_shell(folder.path(),
+                "/usr/bin/python3 -c \"import socket; socket.socket(socket.AF_UNIX).bind('s')\";"
+                " quill-inp fmt -i s"),
+      ended(2, refusal_in_place("s", "a socket"), ""));
+}
+
 TEST(PipesThatAProgramWritesTo, AreRead) {
   const TemporaryFolder folder;
   folder.write("a.qin", "0 1\n");
@@ -349,7 +372,7 @@ TEST(PipesThatAProgramWritesTo, AreRead) {
 TEST(PipesThatAProgramWritesTo, CannotBeChangedInPlace) {
   const TemporaryFolder folder;
   EXPECT_EQ(run_in(folder.path(), {"fmt", "-i", "/dev/fd/0"}, "0 1\n"),
-            ended(2, "", refusal("/dev/fd/0", "a pipe")));
+            ended(2, "", refusal_in_place("/dev/fd/0", "a pipe")));
 }
 
 TEST(UnreadableFiles, AreReportedAndTheOthersProcessed) {
