@@ -4,8 +4,8 @@
 #
 #   findings_test.sh PROGRAM SOURCE_DIR
 #
-# The schema is looked for in KELP_QUILL_INP_SARIF_DIR, or beside this tree; without it, and without
-# pre-commit, those checks are left out, and the last line says so.
+# KELP_QUILL_INP_SARIF_DIR names the folder of the schema. Without that variable, and without pre-commit,
+# those checks are left out, and the last line says so.
 set -euo pipefail
 export LC_ALL=C.UTF-8
 program=$1
@@ -30,9 +30,11 @@ for form in text json github sarif; do
   "$program" lint -q --fail-on=never --format=$form *.qin >"found.$form" || fail "lint --format=$form"
 done
 
-schema=${KELP_QUILL_INP_SARIF_DIR:-$source/../shared/data/sarif}/sarif-schema-2.1.0.json
-if [ -f "$schema" ] && python3 -c 'import jsonschema' 2>/dev/null; then
-  python3 - "$schema" <<'EOF' || fail 'SARIF is not as its schema says'
+if [ -n "${KELP_QUILL_INP_SARIF_DIR:-}" ]; then
+  schema=$KELP_QUILL_INP_SARIF_DIR/sarif-schema-2.1.0.json
+  [ -f "$schema" ] || fail "KELP_QUILL_INP_SARIF_DIR does not lead to the schema of SARIF: no file $schema"
+  # The Python of the system has the package that scripts/test.sh installs; another one may not.
+  /usr/bin/python3 - "$schema" <<'EOF' || fail 'SARIF is not as its schema says'
 import json, sys, jsonschema
 log = json.load(open("found.sarif"))
 jsonschema.validate(log, json.load(open(sys.argv[1])))
