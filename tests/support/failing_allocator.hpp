@@ -4,7 +4,8 @@
 #include <cstdint>
 
 // A program that is linked with failing_allocator.cpp allocates through a global operator new that
-// counts, and that fails on demand. The counts are those of the whole program, with all its threads.
+// counts, and that fails on demand. The counts are those of the whole program, with all its
+// threads.
 
 namespace kelp::input::quill {
 
@@ -12,8 +13,8 @@ namespace kelp::input::quill {
 enum class Shortage { Short, Lasting };
 
 /// From construction to destruction, counts the allocations and lets some of them throw
-/// std::bad_alloc. There is one window at a time, and only the thread that opened it is running then
-/// and when it is closed.
+/// std::bad_alloc. There is one window at a time, and only the thread that opened it is running
+/// then and when it is closed.
 class AllocationWindow {
  public:
   /// Lets allocation number `failing` fail, counted from 1, and all after it if the shortage lasts;
