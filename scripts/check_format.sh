@@ -3,6 +3,6 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-find include src sisters lossless tools examples tests bench fuzz -name '*.[ch]pp' -print0 |
+find include src sisters lossless tools python examples tests bench fuzz -name '*.[ch]pp' -print0 |
   xargs -0 clang-format-14 --dry-run -Werror
 echo "all sources are laid out as .clang-format says"

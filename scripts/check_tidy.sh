@@ -13,8 +13,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 need_packages "${test_packages[@]}" libbenchmark-dev clang clang-tidy
 
-if [ $# -eq 0 ]; then set -- src sisters lossless tools bench examples; fi
-cmake --preset clang -B build/tidy -DKELP_QUILL_INP_BUILD_BENCHMARKS=ON \
+if [ $# -eq 0 ]; then set -- src sisters lossless tools python bench examples; fi
+cmake --preset clang -B build/tidy -DKELP_QUILL_INP_BUILD_BENCHMARKS=ON -DKELP_QUILL_INP_BUILD_PYTHON=ON \
   -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
 find "$@" -name '*.cpp' ! -name '*_test.cpp' ! -name '*_windows.cpp' -print0 |
   xargs -0 -n 1 -P "$(nproc)" clang-tidy-14 --quiet -p build/tidy --warnings-as-errors='*'

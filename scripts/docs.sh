@@ -22,6 +22,7 @@ getting-started Start
 format Format
 editing Editing
 quill-inp Tool
+python Python
 findings Findings
 embedding Embedding
 packaging Packaging

@@ -37,4 +37,5 @@ build_packages=(g++ cmake ninja-build)
 tool_packages=("${build_packages[@]}" libcli11-dev nlohmann-json3-dev libutfcpp-dev libmd-dev
   libtomlplusplus-dev)
 test_packages=("${tool_packages[@]}" libgtest-dev libgmock-dev locales valgrind python3-jsonschema
-  pre-commit xz-utils)
+  pre-commit xz-utils pybind11-dev python3-dev python3-hypothesis python3-mypy python3-numpy
+  python3-pytest)

@@ -9,6 +9,7 @@
 //                    read and written (format_page_test.cpp)
 //   console          carried out in a shell, with what it prints (tests/tools/quill_inp)
 //   cmake, meson, sh built and run (first_program.sh, tests/package, and the scripts of CI)
+//   python           run, with what it prints (tests/python/documentation_test.py)
 //   toml             read as the choices of a project (tests/tools/quill-inp/findings)
 //   abnf             compared with the reader on many lines (grammar_test.cpp)
 
@@ -32,7 +33,7 @@ using Languages = std::set<std::string>;
 
 const std::map<std::string, Languages> languages_tried = {
     {"CONTRIBUTING.md", {"sh"}},
-    {"README.md", {"", "cmake", "console", "cpp", "sh", "text"}},
+    {"README.md", {"", "cmake", "console", "cpp", "python", "sh", "text"}},
     {"docs/architecture.md", {""}},
     {"docs/editing.md", {"cpp"}},
     {"docs/embedding.md", {"cpp"}},
@@ -41,6 +42,7 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
     {"docs/packaging.md", {"cmake", "cpp", "meson", "sh"}},
     {"docs/performance.md", {"text"}},
+    {"docs/python.md", {"python", "text"}},
     {"docs/quill-inp.md", {"console", "text", "toml"}},
 };
 

@@ -17,7 +17,7 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
 cd "$project"
-find include src sisters lossless tools -name '*.[ch]pp' | sort >"$scratch/files"
+find include src sisters lossless tools python -name '*.[ch]pp' | sort >"$scratch/files"
 if [ ! -s "$scratch/files" ]; then
   echo "there are no sources in $project" >&2
   exit 1
@@ -49,7 +49,7 @@ awk -v edges="$scratch/edges" '
     }
     return depth_known[room] = deepest + 1
   }
-  BEGIN { roots = split("include src/support src lossless tools", root, " ") }
+  BEGIN { roots = split("include src/support src lossless tools python", root, " ") }
   FILENAME == ARGV[1] {
     if ($0 ~ /^(#|$)/) next
     room = $1

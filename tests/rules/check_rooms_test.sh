@@ -24,9 +24,12 @@ make_project() {
   file sisters/one/own.cpp '#include "own.hpp"'
   file lossless/edit/text.cpp '#include "edit/text.hpp"'
   file lossless/edit/text.hpp '#include "kelp/a.hpp"'
+  file python/core/module.cpp '#include "core/tree.hpp"'
+  file python/core/tree.hpp '#include "kelp/a.hpp"'
   file tools/quill-inp/main.cpp '#include "quill-inp/verbs/verb.hpp"'
   file tools/quill-inp/verbs/verb.hpp '#include "kelp/a.hpp"'
   printf '%s\n' '# A table.' 'src/top: src/low' 'src/low: include' \
+    'python/core: include' \
     'tools/quill-inp: tools/quill-inp/verbs' 'tools/quill-inp/verbs: include' 'lossless: include' 'include:' \
     'sisters:' >"$scratch/table"
 }

@@ -1,0 +1,17 @@
+#include "core/bindings.hpp"
+
+PYBIND11_MODULE(_core, module) {
+  using namespace kelp::input::quill::python;
+
+  module.doc() = "What the Python package quill_inp is made of; use that.";
+  bind_parameter(module);
+  bind_command(module);
+  bind_atom(module);
+  bind_geometry(module);
+  bind_post_line(module);
+  bind_document(module);
+  bind_editor(module);
+  bind_builder(module);
+  bind_reader(module);
+  bind_lint(module);
+}

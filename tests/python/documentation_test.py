@@ -1,0 +1,38 @@
+"""The code blocks of the pages are run, and print what the pages show."""
+
+import contextlib
+import io
+import pathlib
+import re
+
+import pytest
+
+ROOT = pathlib.Path(__file__).parents[2]
+BLOCK = re.compile(r"^```python\n(.*?)^```\n(?:\n```text\n(.*?)^```\n)?", re.MULTILINE | re.DOTALL)
+
+
+@pytest.mark.parametrize("page", ["README.md", "docs/python.md"])
+def test_the_blocks_of_a_page_print_what_it_shows(page, monkeypatch):
+    monkeypatch.chdir(ROOT)
+    blocks = BLOCK.findall((ROOT / page).read_text(encoding="utf-8"))
+    assert blocks
+    names = {}
+    for code, shown in blocks:
+        printed = io.StringIO()
+        with contextlib.redirect_stdout(printed):
+            exec(compile(code, page, "exec"), names)
+        assert printed.getvalue() == shown or not shown
+
+
+def test_the_example_of_the_package_runs(tmp_path, monkeypatch, water_text):
+    import quill_inp
+
+    (tmp_path / "water.qin").write_text(water_text)
+    monkeypatch.chdir(tmp_path)
+    example = "\n".join(
+        line[4:] for line in quill_inp.__doc__.splitlines() if line.startswith("    ")
+    )
+    printed = io.StringIO()
+    with contextlib.redirect_stdout(printed):
+        exec(example, {})
+    assert printed.getvalue().endswith("S 1 3 1.5 10\n\n")
