@@ -54,7 +54,9 @@ void compare_lint(RatioTable& table, const ManyInputs& inputs) {
 }
 
 void compare_lint_with_reading(RatioTable& table) {
-  const std::string text = molecule(1'000'000).to_string();
+  const ParseResult ferrocene =
+      parse_file(KELP_QUILL_INP_EXAMPLE_INPUTS "/ferrocene_optimisation.qin");
+  const std::string text = side_by_side(ferrocene.input, 1'000'000).to_string();
   const Work lint_text = [&text] {
     benchmark::DoNotOptimize(lint::find_all(lossless::read_text(text), lint::Options()));
   };

@@ -100,6 +100,23 @@ QuillInput molecule(std::size_t atoms) {
   return QuillInput({optimisation(), assignment("model", "general-organic")}, atoms_block(atoms));
 }
 
+QuillInput side_by_side(const QuillInput& molecule, std::size_t atoms) {
+  constexpr double width = 12.0;
+  constexpr std::size_t in_a_row = 36;
+  QuillInput input(molecule);
+  std::vector<AtomRecord>& all = input.geometry.atoms;
+  all.clear();
+  for (std::size_t copy = 0; all.size() < atoms; ++copy) {
+    for (AtomRecord atom : molecule.geometry.atoms) {
+      atom.x += width * static_cast<double>(copy % in_a_row);
+      atom.y += width * static_cast<double>(copy / in_a_row % in_a_row);
+      atom.z += width * static_cast<double>(copy / (in_a_row * in_a_row));
+      all.push_back(std::move(atom));
+    }
+  }
+  return input;
+}
+
 QuillInput header_heavy(std::size_t lines) {
   QuillInput input({}, atoms_block(1));
   for (std::size_t i = 0; i < lines; ++i) input.commands.push_back(header_command(i));

@@ -13,6 +13,10 @@ namespace kelp::input::quill::bench {
 /// coordinates between -50 and 50.
 QuillInput molecule(std::size_t atoms);
 
+/// An input with at least this many atoms: copies of those of `molecule`, 12 apart in each
+/// direction, so that only atoms of one copy are near each other.
+QuillInput side_by_side(const QuillInput& molecule, std::size_t atoms);
+
 /// This many header lines, in turn flags, assignments and parameter lists, and one atom.
 QuillInput header_heavy(std::size_t lines);
 

@@ -1,9 +1,11 @@
 #include "lint/close_atoms.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 
 namespace kelp::input::quill::lint {
 
@@ -26,69 +28,80 @@ double distance(const Place& left, const Place& right) {
   return std::hypot(left[0] - right[0], left[1] - right[1], left[2] - right[2]);
 }
 
-/// Returns the number of the cell of this width that a coordinate is in. Coordinates so large that
-/// no two different ones are close each have a cell of their own.
-std::int64_t cell_number(double coordinate, double width) {
-  const double number = std::floor(coordinate / width);
-  if (std::fabs(number) < largest_cell) return static_cast<std::int64_t>(number);
+/// Returns the number of the cell that a coordinate, in widths of a cell, is in. Coordinates so
+/// large that no two different ones are close each have a cell of their own.
+std::int64_t cell_number(double coordinate) {
+  if (std::fabs(coordinate) < largest_cell) {
+    const auto number = static_cast<std::int64_t>(coordinate);
+    return number - (static_cast<double>(number) > coordinate ? 1 : 0);
+  }
   std::int64_t bits = 0;
   std::memcpy(&bits, &coordinate, sizeof bits);
   return bits;
 }
 
-Cell cell_of(const Place& place, double width) {
-  return {cell_number(place[0], width), cell_number(place[1], width), cell_number(place[2], width)};
-}
+constexpr unsigned bits_in_block = 3;  // a block has eight cells along each axis
 
-/// One multiplication for each axis and one for all: a table of many atoms is asked often.
+/// Cells of one block are beside each other in a table. Most atoms are near those of the lines
+/// before, and so their cells are found in the cache.
 std::uint64_t hash_of(const Cell& cell) {
-  const std::uint64_t bits = static_cast<std::uint64_t>(cell[0]) * 0x9E3779B97F4A7C15ULL ^
-                             static_cast<std::uint64_t>(cell[1]) * 0xC2B2AE3D27D4EB4FULL ^
-                             static_cast<std::uint64_t>(cell[2]) * 0x165667B19E3779F9ULL;
-  return (bits ^ (bits >> 32U)) * 0xFF51AFD7ED558CCDULL >> 20U;
+  constexpr std::uint64_t mask = (1U << bits_in_block) - 1;
+  constexpr std::uint64_t factors[axes] = {0x9E3779B97F4A7C15ULL, 0xC2B2AE3D27D4EB4FULL,
+                                           0x165667B19E3779F9ULL};
+  std::uint64_t in_block = 0;
+  std::uint64_t block = 0;
+  for (std::size_t axis = 0; axis < axes; ++axis) {
+    const auto number = static_cast<std::uint64_t>(cell[axis]);
+    in_block = in_block << bits_in_block | (number & mask);
+    block ^= (number >> bits_in_block) * factors[axis];
+  }
+  return ((block ^ (block >> 32U)) * 0xFF51AFD7ED558CCDULL >> 20U) ^ in_block;
 }
 
-/// Places by cell. A cell is twice as wide as the distance that counts, so a place that is close to
-/// another one is in one of two cells along each axis. Places in the table are not close to each
-/// other, so that a cell holds a few at most.
+/// Atoms by cell. A cell is four times as wide as the distance that counts, so an atom that is
+/// close to another one is in one of two cells along each axis, and mostly in the same. Atoms in
+/// the table are not close to each other, so that the number of those in a cell has a limit.
 class CellTable {
  public:
-  CellTable(std::size_t capacity, double limit) : limit_(limit), width_(2 * limit) {
+  CellTable(const std::vector<AtomRecord>& atoms, double limit)
+      : atoms_(atoms), limit_(limit), cells_per_unit_(1.0 / (4 * limit)) {
     std::size_t size = 16;
-    while (size < 2 * capacity) size *= 2;
-    heads_.assign(size, none);
-    entries_.reserve(capacity);
+    while (size < 2 * atoms.size()) size *= 2;
+    newest_.assign(size, none);
+    before_.resize(atoms.size());
   }
 
-  /// Returns the entry of a place that is closer to `place` than the limit, or a null pointer.
-  const std::size_t* find_close(const Place& place, double& found) const {
-    const Cell low = cell_of({place[0] - limit_, place[1] - limit_, place[2] - limit_}, width_);
-    const Cell high = cell_of({place[0] + limit_, place[1] + limit_, place[2] + limit_}, width_);
+  /// Returns the first atom in the table that is closer to `place` than the limit.
+  std::optional<std::size_t> find_close(const Place& place) const {
+    const Cell low = cell_of(place, -limit_);
+    const Cell high = cell_of(place, limit_);
+    std::uint32_t first = none;
     for (unsigned corner = 0; corner < 8; ++corner) {
       Cell cell = low;
-      if (!move_to_corner(cell, high, corner)) continue;
-      if (const std::size_t* atom = find_in(cell, place, found)) return atom;
+      if (move_to_corner(cell, high, corner)) first = std::min(first, first_in(cell, place));
     }
-    return nullptr;
+    if (first == none) return std::nullopt;
+    return first;
   }
 
   void insert(const Place& place, std::size_t atom) {
-    const Cell cell = cell_of(place, width_);
-    std::uint32_t& head = heads_[hash_of(cell) & (heads_.size() - 1)];
-    entries_.push_back({place, atom, head});
-    head = static_cast<std::uint32_t>(entries_.size() - 1);
+    std::uint32_t& newest = newest_[slot_of(cell_of(place, 0.0))];
+    before_[atom] = newest;
+    newest = static_cast<std::uint32_t>(atom);
   }
 
  private:
   static constexpr std::uint32_t none = 0xFFFFFFFF;
 
-  struct Entry {
-    Place place;
-    std::size_t atom;
-    std::uint32_t next;
-  };
+  Cell cell_of(const Place& place, double shift) const {
+    return {cell_number((place[0] + shift) * cells_per_unit_),
+            cell_number((place[1] + shift) * cells_per_unit_),
+            cell_number((place[2] + shift) * cells_per_unit_)};
+  }
 
-  /// Takes the higher cell along the axes of `corner`; false if it is the same one.
+  std::size_t slot_of(const Cell& cell) const { return hash_of(cell) & (newest_.size() - 1); }
+
+  /// Takes the higher cell along the axes of `corner`; false where there is no other one.
   static bool move_to_corner(Cell& cell, const Cell& high, unsigned corner) {
     for (std::size_t axis = 0; axis < axes; ++axis) {
       if ((corner >> axis & 1U) == 0) continue;
@@ -98,36 +111,35 @@ class CellTable {
     return true;
   }
 
-  const std::size_t* find_in(const Cell& cell, const Place& place, double& found) const {
-    std::uint32_t at = heads_[hash_of(cell) & (heads_.size() - 1)];
-    for (; at != none; at = entries_[at].next) {
-      const Place& other = entries_[at].place;
-      // Most entries are of other cells, and the exact distance takes long.
-      if (std::fabs(other[0] - place[0]) >= limit_ || std::fabs(other[1] - place[1]) >= limit_)
+  std::uint32_t first_in(const Cell& cell, const Place& place) const {
+    std::uint32_t first = none;
+    for (std::uint32_t at = newest_[slot_of(cell)]; at != none; at = before_[at]) {
+      const AtomRecord& other = atoms_[at];
+      // The exact distance takes long, and most atoms of a cell are not close.
+      if (std::fabs(other.x - place[0]) >= limit_ || std::fabs(other.y - place[1]) >= limit_)
         continue;
-      found = distance(other, place);
-      if (found < limit_) return &entries_[at].atom;
+      if (distance(place_of(other), place) < limit_) first = at;
     }
-    return nullptr;
+    return first;
   }
 
+  const std::vector<AtomRecord>& atoms_;
   double limit_;
-  double width_;
-  std::vector<std::uint32_t> heads_;
-  std::vector<Entry> entries_;
+  double cells_per_unit_;
+  std::vector<std::uint32_t> newest_;  // by cell, the atom that came last
+  std::vector<std::uint32_t> before_;  // by atom in the table, the one that came before it
 };
 
 }  // namespace
 
 std::vector<ClosePair> find_close_atoms(const std::vector<AtomRecord>& atoms, double limit) {
   std::vector<ClosePair> pairs;
-  CellTable table(atoms.size(), limit);
+  CellTable table(atoms, limit);
   for (std::size_t i = 0; i < atoms.size(); ++i) {
     const Place place = place_of(atoms[i]);
     if (!is_finite(place)) continue;
-    double found = 0.0;
-    if (const std::size_t* first = table.find_close(place, found)) {
-      pairs.push_back({*first, i, found});
+    if (const auto first = table.find_close(place)) {
+      pairs.push_back({*first, i, distance(place_of(atoms[*first]), place)});
     } else {
       table.insert(place, i);
     }

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -32,14 +33,18 @@ double distance(const AtomRecord& left, const AtomRecord& right) {
 }
 
 /// The atoms that are close to one before them, which was not close itself, by comparing all.
-std::vector<std::size_t> close_by_pairs(const std::vector<AtomRecord>& atoms, double limit) {
-  std::vector<std::size_t> close;
+std::vector<ClosePair> close_by_pairs(const std::vector<AtomRecord>& atoms, double limit) {
+  std::vector<ClosePair> close;
   std::vector<std::size_t> apart;
   for (std::size_t i = 0; i < atoms.size(); ++i) {
-    const bool is_close = std::any_of(apart.begin(), apart.end(), [&](std::size_t other) {
+    const auto first = std::find_if(apart.begin(), apart.end(), [&](std::size_t other) {
       return distance(atoms[other], atoms[i]) < limit;
     });
-    (is_close ? close : apart).push_back(i);
+    if (first == apart.end()) {
+      apart.push_back(i);
+    } else {
+      close.push_back({*first, i, distance(atoms[*first], atoms[i])});
+    }
   }
   return close;
 }
@@ -47,16 +52,17 @@ std::vector<std::size_t> close_by_pairs(const std::vector<AtomRecord>& atoms, do
 TEST(CloseAtoms, AreThoseThatComparingAllPairsFinds) {
   for (unsigned seed = 1; seed <= 20; ++seed) {
     const std::vector<AtomRecord> atoms = random_atoms(300, seed % 2 == 0 ? 1.0 : 2.0, seed);
-    std::vector<std::size_t> found;
-    for (const ClosePair& pair : find_close_atoms(atoms, 0.3)) {
-      EXPECT_LT(pair.first, pair.second);
-      EXPECT_EQ(pair.distance, distance(atoms[pair.first], atoms[pair.second]));
-      EXPECT_LT(pair.distance, 0.3);
-      found.push_back(pair.second);
-    }
-    EXPECT_FALSE(found.empty());
-    EXPECT_EQ(found, close_by_pairs(atoms, 0.3));
+    const std::vector<ClosePair> expected = close_by_pairs(atoms, 0.3);
+    EXPECT_FALSE(expected.empty());
+    EXPECT_EQ(find_close_atoms(atoms, 0.3), expected);
   }
+}
+
+TEST(CloseAtoms, AreFoundAmongSoManyThatCellsShareAPlaceOfTheTable) {
+  const std::vector<AtomRecord> atoms = random_atoms(4000, 20.0, 1);
+  const std::vector<ClosePair> expected = close_by_pairs(atoms, 0.3);
+  EXPECT_FALSE(expected.empty());
+  EXPECT_EQ(find_close_atoms(atoms, 0.3), expected);
 }
 
 TEST(CloseAtoms, AreNotThoseAtExactlyTheLimit) {
