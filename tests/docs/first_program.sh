@@ -78,5 +78,5 @@ HOME=$scratch/home bash -e "$scratch/session" >"$scratch/output" 2>"$scratch/log
 diff <(block console 1) "$scratch/output"
 
 # README.md has the same lines for the tool, and no others.
-awk '/^## At the shell$/ { here = 1 } /^```sh$/ && here { inside = 1; next } /^```/ && inside { exit }
+awk '/^## In the shell$/ { here = 1 } /^```sh$/ && here { inside = 1; next } /^```/ && inside { exit }
   inside' "$tree/README.md" | diff - <(block sh 4 | sed '/^cd /d; /^cp /d')
