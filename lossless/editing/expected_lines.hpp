@@ -8,8 +8,8 @@
 
 #include "kelp/input/quill/lossless/comparison.hpp"
 
-// The lines that a document is written as, one by one: the library's writer writes a coordinate
-// section as a whole. All lines come without their line ends.
+// The lines that a document is written as, one by one, since the library's writer writes only whole
+// coordinate sections. All lines come without their line ends.
 
 namespace kelp::input::quill::lossless {
 

@@ -7,8 +7,8 @@ namespace kelp::input::quill::lossless {
 /// since no text can hold it.
 bool is_equal_number(double left, double right);
 
-/// Returns how far apart two numbers are that are not equal: infinitely when one of them is
-/// infinite or not a number.
+/// Returns the distance of two numbers that are not equal: infinite if one of them is infinite or
+/// not a number.
 double distance(double left, double right);
 
 }  // namespace kelp::input::quill::lossless

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-// Numbers and quoted texts, as messages have them.
+// Numbers and quoted texts in the form that messages use.
 
 namespace kelp::input::quill::lossless {
 

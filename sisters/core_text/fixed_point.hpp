@@ -40,8 +40,8 @@ inline std::optional<std::int64_t> last_digits(std::string_view text, std::size_
 
 // fixed-point = *digit "." 1*digit
 
-/// The value of a fixed-point text of 8 to 16 bytes with the point among the first eight, as nearly
-/// every coordinate is. Nothing for any other text.
+/// The value of a fixed-point text of 8 to 16 bytes with the point among the first eight, which
+/// nearly every coordinate is. Nothing for any other text.
 inline std::optional<double> parse_fixed_point(std::string_view text) {
   // All digits together are an integer below 10^15, and the point divides it by a power of ten of
   // at most 10^15. Integers up to 2^53 are doubles, and dividing two doubles gives the double

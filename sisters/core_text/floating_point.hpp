@@ -6,7 +6,7 @@
 #include <string_view>
 #include <system_error>
 
-// The build defines it where the standard library reads no doubles; the two functions are alike.
+// The build defines it if the standard library cannot read doubles; the two functions do the same.
 #ifdef KELP_CORE_TEXT_READS_BY_FAST_FLOAT
 #include <fast_float/fast_float.h>
 #else

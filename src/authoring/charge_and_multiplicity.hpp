@@ -3,7 +3,7 @@
 
 #include "kelp/input/quill/document.hpp"
 
-// The editor and the builder both change these in place, the builder without a copy of its
+// The editor and the builder both change these in place; the builder does so without a copy of its
 // document.
 
 namespace kelp::input::quill {

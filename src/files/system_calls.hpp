@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-// What files are asked of the system, under the same names everywhere: system_calls_posix.cpp, or
-// system_calls_windows.cpp. A negative answer means that it failed. A call that a signal interrupts
-// is made again.
+// The system calls for files, under the same names on every system: system_calls_posix.cpp or
+// system_calls_windows.cpp. A negative result means that the call failed. A call that a signal
+// interrupts is made again.
 
 namespace kelp::input::quill {
 

@@ -11,8 +11,8 @@
 namespace kelp::input::quill {
 
 /// One kind of post-processing line: how it begins and how many tokens the reader accepts, keyword
-/// included. The reader and the writer share these rows, and whoever names a kind to people or to
-/// programs takes its words from here: a new kind is an enumerator and a row.
+/// included. The reader and the writer share these rows, and code that names a kind to people or to
+/// programs takes the words from here: a new kind is an enumerator and a row.
 struct PostLineShape {
   std::string_view keyword;  // in upper case; empty for raw text, which is any other line
   PostCommandKind kind;

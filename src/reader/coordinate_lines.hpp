@@ -30,14 +30,14 @@ bool parse_xyz_reference(std::string_view line, std::string& keyword, std::strin
 
 /// Reads a line of exactly four tokens, a symbol made of letters and three numbers, into an atom
 /// that was just made. The symbol is stored in its normal spelling and need not be an element's.
-/// Returns whether the line is one of an atom; if it is not, what is left in `atom` has no meaning.
-/// The atom is not returned, because one that has been written byte by byte is slow to move at
-/// once.
+/// Returns whether the line is an atom line; if it is not, the content of `atom` has no meaning.
+/// The atom is not returned, because moving an atom right after it was written byte by byte is
+/// slow.
 bool parse_atom_line(std::string_view line, AtomRecord& atom);
 
-/// Returns the token because of which a line is not one of an atom, as a view of it: the fifth one
+/// Returns, as a view of the line, the token because of which it is not an atom line: the fifth one
 /// of a line that has more than four, or else the first one of the wrong form. A line of fewer than
-/// four tokens gives the empty view at its end, and the line of an atom gives nothing.
+/// four tokens gives the empty view at its end, and an atom line gives nothing.
 std::optional<std::string_view> find_token_unlike_an_atom(std::string_view line);
 
 /// Returns what follows the first run of non-blank characters and the blanks after that run. The

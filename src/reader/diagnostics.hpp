@@ -8,7 +8,7 @@
 
 namespace kelp::input::quill {
 
-/// What the reader says of a line. Every message text of the reader is in this file.
+/// What the reader says about a line. Every message text of the reader is in this file.
 namespace message {
 inline constexpr std::string_view empty_header_command = "empty QUILL header command";
 inline constexpr std::string_view missing_parenthesis = "missing ')' in QUILL header command";
@@ -34,7 +34,7 @@ struct DiagnosticParts {
   std::string_view message = {};
 };
 
-/// Takes a diagnostic apart, which is what line_diagnostic() put together, or has no line.
+/// Takes apart a diagnostic, which line_diagnostic() made or which does not name a line.
 DiagnosticParts split_diagnostic(std::string_view diagnostic);
 
 /// Returns the diagnostic for an atom whose normalised symbol is not that of an element.

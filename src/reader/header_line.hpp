@@ -10,17 +10,17 @@
 
 namespace kelp::input::quill {
 
-/// Reads one header line, "#" and surrounding blanks included. Every line gives a command: what is
-/// wrong with it is appended to `warnings` under `line_number`, which counts from 1.
+/// Reads one header line, "#" and surrounding blanks included. Every line gives a command. Its
+/// faults are appended to `warnings` with `line_number`, which is counted from 1.
 HeaderCommand parse_header_command_line(std::string_view line, std::vector<std::string>& warnings,
                                         std::uint64_t line_number);
 
-/// Reads what stands between the parentheses. Commas between quotes do not separate; pieces that
-/// are empty or have no name are passed over.
+/// Reads the text between the parentheses. Commas between quotes do not separate; pieces that are
+/// empty or have no name are skipped.
 std::vector<CommandParameter> parse_parameter_list(std::string_view list);
 
-/// Returns `value` trimmed and, when it stands between two quotes of one kind, without these. What
-/// is between the quotes is not trimmed.
+/// Returns `value` trimmed and, if it is between two quotes of one kind, without these. The text
+/// between the quotes is not trimmed.
 std::string unquote_value(std::string value);
 
 }  // namespace kelp::input::quill

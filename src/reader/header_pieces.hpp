@@ -7,8 +7,9 @@
 
 #include "kelp/input/quill/document.hpp"
 
-// Where the pieces of a header line are. The reader makes a command of them, and whoever has to
-// point at one in the text, or must know what a line says besides its command, asks for the same.
+// Where the pieces of a header line are. The reader makes a command from them. Code that has to
+// point at a piece in the text, or needs to know what a line says besides its command, uses the
+// same pieces.
 
 namespace kelp::input::quill {
 

@@ -12,8 +12,8 @@
 
 namespace kelp::input::quill {
 
-/// Walks forward over the lines of a text that are not blank. Blank lines mean nothing anywhere in
-/// an input, so no section ever sees one. Each line is trimmed once, when the cursor reaches it.
+/// Walks forward over the lines of a text that are not blank. Blank lines have no meaning anywhere
+/// in an input, so no section ever gets one. Each line is trimmed once, when the cursor reaches it.
 class LineCursor {
  public:
   /// Begins at the first line of `text` that is not blank, or at the end.
@@ -28,10 +28,10 @@ class LineCursor {
 
   bool at_end() const { return index_ == lines_.size(); }
 
-  /// The line as it is in the text, without its terminator; not to be asked at the end.
+  /// The line as it is in the text, without its terminator; not to be called at the end.
   const std::string& line() const { return lines_[index_]; }
 
-  /// The line without outer blanks, never empty; not to be asked at the end.
+  /// The line without outer blanks, never empty; not to be called at the end.
   const std::string& trimmed() const { return trimmed_; }
 
   /// The number of the line in the text, blank lines included, counted from 1.
@@ -40,8 +40,8 @@ class LineCursor {
   /// How many lines there are from this one to the end, blank ones included.
   std::size_t remaining() const { return lines_.size() - index_; }
 
-  /// Takes the line for what it was read as, and moves on to the next line that is not blank, or to
-  /// the end. `index` is the position in the list that `role` names. Not to be called at the end.
+  /// Notes what the line was read as, and moves on to the next line that is not blank, or to the
+  /// end. `index` is the position in the list that `role` names. Not to be called at the end.
   void take(LineRole role, std::optional<std::size_t> index = std::nullopt) {
     if (records_ != nullptr) note(role, index);
     advance();

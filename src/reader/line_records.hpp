@@ -10,7 +10,7 @@
 namespace kelp::input::quill {
 
 /// Returns one blank record for each of `lines`, which split_lines() gave for `text`: where the
-/// line is and how it ends. Which line means what is for the reader to note.
+/// line is and how it ends. The reader notes the meaning of each line later.
 std::vector<LineRecord> locate_lines(std::string_view text, const std::vector<std::string>& lines);
 
 }  // namespace kelp::input::quill

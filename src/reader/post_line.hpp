@@ -9,8 +9,8 @@ namespace kelp::input::quill {
 
 /// Reads one post-processing line into a command that was just made, and returns whether the line
 /// gives one. A line with a known keyword and the number of tokens that goes with it, but with a
-/// malformed number, does not, nor does a blank line; what is left in `command` then has no
-/// meaning. Every other line gives a command, of kind `Raw` when it has no other form.
+/// malformed number, does not, nor does a blank line; the content of `command` then has no meaning.
+/// Every other line gives a command, of kind `Raw` when it has no other form.
 bool parse_post_line(std::string_view line, PostCommand& command);
 
 }  // namespace kelp::input::quill

@@ -5,9 +5,10 @@
 #include <limits>
 #include <string_view>
 
-// Texts of floating-point numbers, the same ones with every standard library and in every locale.
-// Each function writes at `out`, where there must be room for the longest text, and returns the end
-// of what it wrote. Infinities and NaNs are "inf" and "nan", after a "-" if their sign is negative.
+// Texts of floating-point numbers, which are the same with every standard library and in every
+// locale. Each function writes at `out`, where there must be room for the longest text, and returns
+// the end of what it wrote. Infinities and NaNs are "inf" and "nan", after a "-" if their sign is
+// negative.
 
 namespace kelp::input::quill {
 

@@ -20,7 +20,7 @@ class TextBuffer {
   /// Keeps a reference to the string.
   explicit TextBuffer(std::string& out) : out_(out) {}
 
-  /// Where the text begins, and its end as long as it is empty.
+  /// Where the text begins; also its end as long as it is empty.
   char* begin() { return text_.data(); }
 
   /// Returns where the next `size` characters can be written, which are at most `capacity`: at

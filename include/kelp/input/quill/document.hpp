@@ -11,7 +11,7 @@
 ///     input.has_command(" #OPT ");  // true
 ///     input.to_string();            // "#opt(maxiter=50)\n"
 ///
-/// All types are plain values that own what they hold. Strings are byte strings, kept exactly as
+/// All types are plain values that own their content. Strings are byte strings, kept exactly as
 /// given. Distinct documents may be used in distinct threads at the same time; one document may be
 /// read by several threads as long as none changes it. Functions throw only what the standard
 /// library throws when memory runs out, unless their comment says more.
@@ -245,7 +245,7 @@ struct QuillInput {
   /// `ts`, `freq`, `irc` or `scan`, of any kind.
   [[nodiscard]] KELP_QUILL_INP_EXPORT bool has_task_command() const;
 
-  /// Returns the stored name of every command, in document order, repeated names included.
+  /// Returns the stored name of every command, in document order, including repeated names.
   [[nodiscard]] KELP_QUILL_INP_EXPORT std::vector<std::string> command_names() const;
 
   /// Returns the first command whose name matches `name`, unchanged; if there is none, appends a

@@ -10,8 +10,8 @@
 ///         std::cerr << text.substr(line.offset, line.length) << '\n';
 ///     }
 ///
-/// For programs that show a text beside what it means, or that change some of its lines and leave
-/// the others alone. The reader itself notes the role of a line when it decides on it, so the
+/// For programs that show a text together with its meaning, or that change some of its lines and
+/// keep the others. The reader itself notes the role of a line when it decides on it, so the
 /// records cannot disagree with the document. Reading keeps no state; any number of threads may
 /// read at once.
 
@@ -25,9 +25,9 @@
 
 namespace kelp::input::quill {
 
-/// What a line is to the reader. The values never change.
+/// How the reader understands a line. The values never change.
 enum class LineRole {
-  Blank,                  ///< means nothing anywhere
+  Blank,                  ///< has no meaning anywhere
   Command,                ///< a header line, `commands[index]`
   ChargeAndMultiplicity,  ///< the two numbers of `geometry`
   Atom,                   ///< `geometry.atoms[index]`
@@ -57,8 +57,8 @@ struct ParsedLines {
   ParseResult result;  ///< exactly what parse_string() returns for the text
 
   /// One record for each line, in order: `lines[n - 1]` is the line that warnings call "Line n".
-  /// Together the records cover every byte of the text. An empty text has none, and a line end at
-  /// the end of the text begins no other line.
+  /// Together the records cover every byte of the text. An empty text has none, and after a line
+  /// end at the end of the text no other line begins.
   std::vector<LineRecord> lines;
 };
 

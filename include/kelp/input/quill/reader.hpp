@@ -9,9 +9,9 @@
 ///     for (const std::string& warning : result.warnings) std::cerr << warning << '\n';
 ///     std::cout << result.input.geometry.atoms.size() << " atoms\n";
 ///
-/// No text is refused: a line that cannot be understood is kept as text or becomes a warning that
-/// names it, and the lines after it are read as usual. Reading keeps no state; any number of
-/// threads may read at once.
+/// Any text can be read: a line that cannot be understood is kept as text, or is dropped with a
+/// warning that names it, and the lines after it are read as usual. Reading keeps no state; any
+/// number of threads may read at once.
 
 #include <string>
 #include <string_view>
@@ -35,8 +35,8 @@ struct ParseResult {
   std::string error;
 
   /// One complete message per problem, in the order of the lines: "Line 3: empty QUILL header
-  /// command", with lines counted from 1. One is about no line and comes last: "No QUILL coordinate
-  /// section found".
+  /// command", with lines counted from 1. One warning is not about a line and comes last: "No QUILL
+  /// coordinate section found".
   std::vector<std::string> warnings;
 
   ParseResult() = default;

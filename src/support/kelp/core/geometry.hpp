@@ -1,7 +1,8 @@
 #ifndef KELP_CORE_GEOMETRY_HPP
 #define KELP_CORE_GEOMETRY_HPP
 
-// A molecule in the form that the programs of the family exchange: plain data; a copy copies all.
+// A molecule in the form that the programs of the family exchange: plain data; a copy copies
+// everything.
 //
 //   const Geometry hydrogen{{{"H", 0.0, 0.0, 0.0}, {"H", 0.0, 0.0, 0.74}}};
 //

@@ -12,8 +12,9 @@
 
 namespace kelp::input::quill::lossless {
 
-/// Why a text is probably not a QUILL input. The reader takes any text, and most of a program or a
-/// picture would be raw text to it. Whoever writes such a text anew should ask before.
+/// Why a text is probably not a QUILL input. The reader accepts any text, and would read most of a
+/// program or a picture as raw text. A program that is to rewrite such a text should ask its user
+/// first.
 struct InputDoubt {
   /// What makes it improbable.
   enum class Kind {
@@ -26,12 +27,12 @@ struct InputDoubt {
     NoSections,  ///< there is text, but no header line and no coordinate section
   };
 
-  Kind kind = Kind::NoSections;                    ///< the first one that holds
+  Kind kind = Kind::NoSections;                    ///< the first reason that applies
   std::optional<std::size_t> line = std::nullopt;  ///< counted from 1, if the doubt is about one
 };
 
 /// Returns the first reason for which a text does not look like a QUILL input, or nothing if it
-/// does. A text of blank lines only is an input that says nothing.
+/// does. A text of only blank lines is an input without content.
 KELP_QUILL_LOSSLESS_EXPORT std::optional<InputDoubt> find_input_doubt(const ReadText& read);
 
 }  // namespace kelp::input::quill::lossless

@@ -10,7 +10,7 @@
 namespace kelp::input::quill::lossless {
 
 /// One line that is not as before. A changed line has both numbers, an added line only the new one,
-/// and a removed line only the old one. Numbers count from 1 in their own text.
+/// and a removed line only the old one. Lines are counted from 1 in their own text.
 struct LineChange {
   std::optional<std::size_t> old_line = std::nullopt;  ///< its number in the old text
   std::optional<std::size_t> new_line = std::nullopt;  ///< its number in the new text

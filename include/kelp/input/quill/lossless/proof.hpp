@@ -8,8 +8,8 @@
 ///     if (!proof.holds()) return refuse(words(proof, wanted));
 ///
 /// The text is read by the library's own reader and compared, member by member, with the document
-/// that is wanted. In the QUILL format, the reader can understand a text differently than its
-/// writer wanted. The explanation names the line where that happens and, if possible, how to avoid
+/// that is wanted. In the QUILL format, the reader can understand a text differently from what its
+/// author wanted. The explanation names the line where that happens and, if possible, how to avoid
 /// it.
 
 #include <cstddef>
@@ -29,7 +29,7 @@ struct Explanation {
     OtherPart,     ///< `line` would be read as `found` and not as `wanted`, or as nothing wanted
     OtherContent,  ///< `line` is read as the part it should be, with the difference `difference`
     MissingLine,   ///< no line is read as `wanted`
-    Difference,    ///< no line is to blame for the difference `difference`
+    Difference,    ///< no line is the cause of the difference `difference`
   };
 
   Kind kind = Kind::Difference;                    ///< says which members are set

@@ -9,8 +9,8 @@
 ///
 /// The library's writer quotes nothing, but its reader removes quotes, trims values, and splits
 /// lists at commas. A value that would change in this way is put between quotes: those that do not
-/// occur in it, and double quotes if neither do. Whether it is then read back unchanged is decided
-/// by asking the reader, never by rules written here.
+/// occur in it, and double quotes if neither do. The reader decides whether it is then read back
+/// unchanged, never rules written here.
 
 #include <string>
 #include <vector>
@@ -41,7 +41,7 @@ struct QuotingProblem {
   std::string value = {};                            ///< where the piece is a value
   HeaderCommandKind kind = HeaderCommandKind::Flag;  ///< of the command
   /// Whether the parameter could be written if it were the last one: a parameter with an unclosed
-  /// quote takes in the parameters after it.
+  /// quote includes the parameters after it.
   bool is_due_to_next_parameter = false;
 };
 

@@ -34,7 +34,7 @@
 
 namespace kelp::input::quill::lossless {
 
-/// A text that is to say what an edited document says, with nothing proved yet. All members are set
+/// A text that should say what an edited document says; this is not proved yet. All members are set
 /// even if something cannot be written; `text` is then the best that can be written.
 struct NewText {
   /// The new text.
@@ -56,8 +56,8 @@ struct SurgicalEdit : NewText {
 };
 
 /// Changes the text of `read` so that it says what `document` says. `document` was made from the
-/// document of `read`. The caller has to prove() the text: the two steps are apart for those who
-/// can give back the memory of `read` between them.
+/// document of `read`. The caller has to prove() the text: the two steps are separate so that a
+/// caller can free the memory of `read` between them.
 KELP_QUILL_LOSSLESS_EXPORT NewText rewrite(const ReadText& read, const TrackedDocument& document);
 
 /// Does both steps. Numbers may change by up to `max_change`, see compare().

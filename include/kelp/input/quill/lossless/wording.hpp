@@ -1,10 +1,10 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_WORDING_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_WORDING_HPP
 
-/// @file
-/// The words for people: for the parts of a document, for what differs and for what cannot be
-/// written. All other files pass facts on; only the words here are for reading. They hold bytes of
-/// documents unchanged, and have to be escaped before they are shown on a terminal.
+/// @file Messages for people: about the parts of a document, about what differs and about what
+/// cannot be written. All other files pass on facts; only the texts made here are for people. They
+/// contain bytes of documents unchanged, and have to be escaped before they are shown on a
+/// terminal.
 
 #include <cstdint>
 #include <string>
@@ -38,8 +38,8 @@ KELP_QUILL_LOSSLESS_EXPORT std::string words(const Difference& difference);
 /// that". `wanted` is the document that was to be proved.
 KELP_QUILL_LOSSLESS_EXPORT std::string words(const Proof& proof, const QuillInput& wanted);
 
-/// Returns why a text does not look like an input, and the cure if there is one, as a predicate:
-/// "does not look like a QUILL input: it has no header line and no coordinates".
+/// Returns why a text does not look like an input, and how to correct it, if that is possible, as a
+/// predicate: "does not look like a QUILL input: it has no header line and no coordinates".
 KELP_QUILL_LOSSLESS_EXPORT std::string words(const InputDoubt& doubt);
 
 /// Returns why a piece of a header command cannot be written.

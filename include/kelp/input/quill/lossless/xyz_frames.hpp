@@ -35,7 +35,7 @@ struct XyzProblem {
   /// What is wrong.
   enum class Kind {
     NoCount,       ///< the text does not begin with a number of atoms, 1 or more
-    NoNextCount,   ///< nor does the text after a frame, which is not blank
+    NoNextCount,   ///< the same, for the text after a frame, which is not blank
     TooFewAtoms,   ///< the text ends before the last atom of a frame
     NoAtom,        ///< a line of a frame does not begin with a symbol and three coordinates
     TextAfterEnd,  ///< there is more than the only frame
@@ -48,7 +48,7 @@ struct XyzProblem {
   std::size_t line = 0;
   std::size_t found = 0;   ///< how many atoms there are instead, or how many frames
   std::size_t wanted = 0;  ///< how many atoms a frame with too few of them should have
-  int frame = 0;           ///< the number of a frame that is not there
+  int frame = 0;           ///< the number of a frame that does not exist
 };
 
 /// What was read of an XYZ file: with a problem, the frames before it.
@@ -64,9 +64,9 @@ KELP_QUILL_LOSSLESS_EXPORT std::optional<std::size_t> find_xyz_count(std::string
 /// Reads every frame of a trajectory, at least one. Linear in the length of the text.
 KELP_QUILL_LOSSLESS_EXPORT XyzReading read_xyz_frames(std::string_view text);
 
-/// Reads one frame of a trajectory: `number` counts from 1, or from the end with a negative number,
-/// so that -1 is the last one; 0 names none. Of the other frames, only the number of atoms is read,
-/// and of what comes after the frame nothing, if the number counts from 1.
+/// Reads one frame of a trajectory: `number` counts from 1, or from the end if it is negative, so
+/// that -1 is the last one; 0 names none. Of the other frames, only the number of atoms is read; if
+/// `number` is positive, nothing after the frame is read.
 KELP_QUILL_LOSSLESS_EXPORT XyzReading read_xyz_frame(std::string_view text, int number);
 
 /// Reads the frame of a file that has only one.
