@@ -119,7 +119,7 @@ bool EditedLines::has_text_inserted() const {
                      [&](const NewLine& line) { return !is_blank(content_of_new(line)); });
 }
 
-/// Lines are inserted from the beginning to the end, so all that were already inserted are before.
+/// Lines are inserted from the beginning to the end, so all lines inserted earlier come before.
 bool EditedLines::has_text_before(std::size_t gap) const {
   if (has_text_inserted()) return true;
   for (std::size_t i = 0; i < gap; ++i) {

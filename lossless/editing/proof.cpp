@@ -16,7 +16,7 @@ class Walk {
  public:
   Walk(std::string_view text, const QuillInput& wanted, const Comparison& comparison)
       : text_(text), wanted_(wanted), parts_(list_parts(wanted)), comparison_(comparison) {
-    // Differences are in the order of the lines, so the walk meets the first of them first.
+    // Differences are in the order of the lines, so the walk reaches the first of them first.
     const std::vector<Difference>& all = comparison.differences;
     while (first_difference_ < all.size() && all[first_difference_].part.role == LineRole::Blank)
       ++first_difference_;
@@ -105,7 +105,7 @@ Proof prove(std::string_view text, const QuillInput& wanted, double max_change) 
   proof.found = parse_string(text);
   proof.comparison = compare(wanted, proof.found.input, max_change);
   if (proof.holds()) return proof;
-  // To know where the lines are takes memory, and nearly every proof holds without it.
+  // Knowing where the lines are takes memory, and nearly every proof holds without that.
   proof.found = ParseResult();
   ParsedLines parsed = parse_lines(text);
   proof.found = std::move(parsed.result);

@@ -22,7 +22,7 @@ using Reason = QuotingProblem::Reason;
 /// Whether a parameter is the last of its list, and so can end in an unclosed quote.
 enum class Place { BeforeOthers, Last };
 
-/// Returns the only command that a header line is read as, or nothing if there are none or more.
+/// Returns the command that a header line is read as, or nothing if there is not exactly one.
 std::optional<HeaderCommand> only_command(const std::string& line) {
   QuillInput found = parse_string(line).input;
   if (found.commands.size() != 1) return std::nullopt;
@@ -46,7 +46,7 @@ HeaderCommand list_of(CommandParameter parameter, Place place) {
   return command;
 }
 
-/// A value may be long, so there are no more copies of it at a time than are needed.
+/// A value may be long, so there are only as many copies of it at a time as are needed.
 bool reads_back(CommandParameter written, const CommandParameter& wanted, Place place) {
   const std::string line = to_string(list_of(std::move(written), place));
   const std::optional<HeaderCommand> found = only_command(line);
@@ -171,7 +171,8 @@ bool is_known(HeaderCommandKind kind) {
 }
 
 /// Whether every value of a command survives without quotes, the last one also with another
-/// parameter after it. For nearly every command this takes the place of a question for each value.
+/// parameter after it. For nearly every command, this makes a check of each single value
+/// unnecessary.
 bool needs_no_quotes(const HeaderCommand& command) {
   if (!reads_back(command, command)) return false;
   if (command.kind != HeaderCommandKind::ParameterList || command.parameters.empty()) return true;

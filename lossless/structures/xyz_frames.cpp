@@ -72,7 +72,7 @@ std::optional<AtomRecord> find_atom(std::string_view line) {
   return atom;
 }
 
-/// Passes over blank lines and returns whether a line is left.
+/// Skips blank lines and returns whether a line is left.
 bool find_next_frame(Lines& lines) {
   while (!lines.are_at_end()) {
     const Lines here = lines;
@@ -111,7 +111,7 @@ void set_too_few(XyzReading& reading, const Heading& heading, std::size_t found)
   reading.problem = XyzProblem{Kind::TooFewAtoms, heading.line, found, heading.atoms};
 }
 
-/// Passes over the atoms of a frame; returns whether it has them all.
+/// Skips the atoms of a frame; returns whether it has all of them.
 bool skip_atoms(Lines& lines, const Heading& heading, XyzReading& reading) {
   for (std::size_t found = 0; found < heading.atoms; ++found) {
     if (lines.are_at_end()) {
@@ -125,7 +125,8 @@ bool skip_atoms(Lines& lines, const Heading& heading, XyzReading& reading) {
 
 /// Takes the atoms of a frame into `reading`; returns whether it could.
 bool take_atoms(Lines& lines, const Heading& heading, XyzReading& reading) {
-  // What is missing is told before what is wrong, and no count makes room for more than there is.
+  // Missing atoms are reported before wrong ones, and a count never reserves room for more than
+  // there is.
   Lines ahead = lines;
   if (!skip_atoms(ahead, heading, reading)) return false;
   XyzFrame frame{{}, std::string(heading.comment), lines.number()};

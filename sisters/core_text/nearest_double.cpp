@@ -34,7 +34,7 @@ class CanonicalText {
 
  private:
   // The number halfway between two doubles has at most 768 significant digits: at worst it is an
-  // integer below 2^54 times 2^-1075. All numbers that begin with the same 768 digits therefore lie
+  // integer below 2^54 times 2^-1075. Therefore all numbers that begin with the same 768 digits are
   // on one side of it, except the one that ends there. A final "1" represents all further digits.
   static constexpr std::size_t most_digits = 768;
   static constexpr std::size_t most_behind_digits = std::string_view("1e-323").size();

@@ -12,7 +12,7 @@ namespace kelp::input::quill {
 
 namespace {
 
-/// The place in a list of what an index of 64 bits names; there are machines whose lists have less.
+/// The position in a list that a 64-bit index names; on some machines, positions have fewer bits.
 template <typename List>
 auto& at_index(List& list, std::uint64_t index) {
   return *(list.begin() + static_cast<std::ptrdiff_t>(index));

@@ -36,7 +36,7 @@ PlainFile::~PlainFile() {
 
 std::size_t PlainFile::size() const { return size_of_file(descriptor_); }
 
-// Reading and writing move the position in the file, so they are no functions of a constant file.
+// Reading and writing move the position in the file, so they are not functions of a constant file.
 // NOLINTNEXTLINE(readability-make-member-function-const)
 std::optional<std::size_t> PlainFile::read(char* bytes, std::size_t size) {
   const std::int64_t count = read_bytes(descriptor_, bytes, size);

@@ -19,7 +19,7 @@ bool begins_with(std::string_view text, std::string_view begin) {
 
 std::string line_diagnostic(std::uint64_t line_number, std::string_view message) {
   std::string text(prefix);
-  text += std::to_string(line_number);  // unlike a stream, to_string groups no digits
+  text += std::to_string(line_number);  // unlike a stream, to_string does not group digits
   text += separator;
   text += message;
   return text;

@@ -14,7 +14,7 @@ namespace {
 
 constexpr bool is_quote(char c) { return c == '"' || c == '\''; }
 
-/// An entry without a name leaves nothing, with or without a value.
+/// An entry without a name is dropped, with or without a value.
 void append_parameter(const ParameterPieces& entry, std::vector<CommandParameter>& parameters) {
   std::string name = text::trim(entry.name);
   if (name.empty()) return;

@@ -18,7 +18,7 @@ std::size_t find_separator(std::string_view list, std::size_t start) {
   std::size_t i = start;
   for (; i < list.size() && list[i] != ','; ++i) {
     if (!is_quote(list[i])) continue;
-    i = list.find(list[i], i + 1);  // the other kind of quote means nothing until this one closes
+    i = list.find(list[i], i + 1);  // the other kind of quote has no meaning until this one closes
     if (i == npos) return list.size();
   }
   return i;
@@ -38,7 +38,7 @@ std::size_t find_decisive(std::string_view body) {
                                   body.begin());
 }
 
-/// `body` ends in no blank, so whatever follows the parenthesis is text.
+/// `body` does not end in a blank, so everything after the parenthesis is text.
 HeaderPieces find_list_pieces(std::string_view body, std::size_t open) {
   HeaderPieces pieces{HeaderCommandKind::ParameterList, body.substr(0, open)};
   const std::size_t close = body.rfind(')');
@@ -52,7 +52,7 @@ HeaderPieces find_list_pieces(std::string_view body, std::size_t open) {
   return pieces;
 }
 
-/// Whether an entry has no name, and something that could be lost with it.
+/// Whether an entry has no name, but something that could be lost with it.
 bool is_nameless_value(const ParameterPieces& entry) {
   return entry.value && trimmed_view(entry.name).empty();
 }

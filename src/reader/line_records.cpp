@@ -6,7 +6,7 @@ namespace kelp::input::quill {
 
 namespace {
 
-/// Only "\n" and "\r\n" end a line, so the byte after its content tells which of them it is.
+/// Only "\n" and "\r\n" end a line, so the byte after the content tells which of them it is.
 std::size_t terminator_length_at(std::string_view text, std::size_t offset) {
   if (offset == text.size()) return 0;
   return text[offset] == '\r' ? 2 : 1;

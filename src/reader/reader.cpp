@@ -79,8 +79,8 @@ void read_atoms(LineCursor& cursor, ParseResult& result) {
     }
     cursor.take(LineRole::Atom, atoms.size() - 1);
   }
-  // Most inputs hold little but atoms, and then the room reserved was right. Where it was not, a
-  // document should not hold on to it for the rest of its life.
+  // Most inputs contain little except atoms, and then the reserved room was right. If it was not, a
+  // document should not keep it for the rest of its life.
   if (atoms.size() <= atoms.capacity() / 2) atoms.shrink_to_fit();
   if (!atoms.empty()) result.input.geometry.kind = GeometryKind::Atoms;
 }

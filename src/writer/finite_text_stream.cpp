@@ -13,7 +13,7 @@ namespace kelp::input::quill {
 
 namespace {
 
-/// What a stream prints numbers by; here it needs no stream.
+/// The facet by which streams print numbers; it is used here without a stream.
 class Printer : public std::num_put<char, char*> {};
 
 char* print(char* out, double value, std::ios_base::fmtflags notation, int precision) {
@@ -66,7 +66,7 @@ char* write_finite_general(char* out, double value, int digits) {
 }
 
 // The fewest digits that read back. For a few powers of two, whose neighbours below are nearer than
-// those above, this is a digit more than need be.
+// those above, this is one digit more than necessary.
 char* write_finite_shortest_scientific(char* out, double value) {
   constexpr int enough = std::numeric_limits<double>::max_digits10 - 1;
   int decimals = 0;

@@ -81,7 +81,7 @@ constexpr std::uint64_t right_justified(std::uint64_t digits, bool is_negative) 
          (first_digit >> 8) * sign;
 }
 
-/// Compilers make one or two stores of this where the byte order allows it.
+/// Compilers turn this into one or two stores if the byte order allows it.
 template <int count>
 void store_characters(char* out, std::uint64_t characters) {
   for (int i = 0; i < count; ++i) out[i] = static_cast<char>(characters >> (8 * i) & 0xFFU);

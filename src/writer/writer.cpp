@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t symbol_width = 3;
 constexpr std::size_t atom_line_size = symbol_width + 3 * coordinate_width + 1;
 
-// The most characters that each of these takes.
+// The largest number of characters that each of these takes.
 constexpr std::size_t charge_line_size = std::string_view("-2147483648 -2147483648\n").size();
 constexpr std::size_t blank_and_integer_size = std::string_view(" -2147483648").size();
 constexpr std::size_t blank_and_scan_value_size = std::string_view(" -1.23457e-308").size();

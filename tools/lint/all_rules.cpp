@@ -7,7 +7,7 @@ namespace kelp::input::quill::lint {
 
 namespace {
 
-// What several rules say of a line that is not an atom, although it was meant as one.
+// What several rules say about a line that is not an atom line, although it was meant as one.
 const std::string where_atoms_end =
     "{atoms|the atoms end after {atoms} atom|the atoms end after {atoms} atoms|there are no "
     "atoms}: ";

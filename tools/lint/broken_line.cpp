@@ -55,13 +55,13 @@ bool is_atomic_number(std::string_view token) {
   return std::all_of(token.begin(), token.end(), is_digit) && is_integer(token);
 }
 
-/// A first word that stands where a symbol should: a label, or the number of an element.
+/// A first word in the place of a symbol: a label, or the number of an element.
 bool has_label(const Tokens& tokens) {
   if (!has_coordinates(tokens, 1)) return false;
   return is_label(tokens[0]) || (tokens.size() == atom_tokens && is_atomic_number(tokens[0]));
 }
 
-/// The atom numbers of a constraint or scan are plain integers, and a coordinate seldom is one.
+/// The atom numbers of a constraint or scan are plain integers, and a coordinate is rarely one.
 bool has_coordinates_of_constraint(const Tokens& tokens) {
   return is_keyword(tokens[0]) && is_integer(tokens[1]) && is_integer(tokens[2]);
 }
@@ -72,7 +72,7 @@ bool is_malformed_post_line(const Tokens& tokens) {
   return shape != nullptr && shape->accepts(tokens.size()) && is_integer(tokens[1]);
 }
 
-/// A symbol and two numbers at least, and whatever else.
+/// A symbol and two numbers at least, and any other words.
 bool has_symbol(std::string_view line, const Tokens& tokens) {
   if (tokens.size() < 2 || is_malformed_post_line(tokens)) return false;
   if (atom_repair(line)) return true;
@@ -104,7 +104,7 @@ std::string_view token_of_charge_line(std::string_view line, const Tokens& token
   return tokens.size() > 2 ? tokens[2] : line.substr(line.size());
 }
 
-/// A word that should be several: there is a blank in it that the reader does not take for one.
+/// A word that should be several: it contains a blank that the reader does not take for one.
 std::string_view fused_token(const Tokens& tokens) {
   const auto token = std::find_if(tokens.begin(), tokens.end(), [](std::string_view each) {
     return !find_odd_characters(each).empty();
@@ -129,7 +129,7 @@ bool resembles_reference(std::string_view line) {
   return parse_xyz_reference(line, keyword, path) && !path.empty();
 }
 
-/// Whether the document has nothing of the line but its text.
+/// Whether the document contains only the text of the line.
 bool is_text_alone(const LineRecord& line, const QuillInput& input) {
   return line.role == LineRole::Dropped ||
          (line.role == LineRole::PostCommand &&

@@ -42,7 +42,7 @@ std::int64_t cell_number(double coordinate) {
 
 constexpr unsigned bits_in_block = 3;  // a block has eight cells along each axis
 
-/// Cells of one block are beside each other in a table. Most atoms are near those of the lines
+/// Cells of one block are next to each other in a table. Most atoms are near those of the lines
 /// before, and so their cells are found in the cache.
 std::uint64_t hash_of(const Cell& cell) {
   constexpr std::uint64_t mask = (1U << bits_in_block) - 1;
@@ -101,7 +101,7 @@ class CellTable {
 
   std::size_t slot_of(const Cell& cell) const { return hash_of(cell) & (newest_.size() - 1); }
 
-  /// Takes the higher cell along the axes of `corner`; false where there is no other one.
+  /// Takes the higher cell along the axes of `corner`; returns false if it is the same cell.
   static bool move_to_corner(Cell& cell, const Cell& high, unsigned corner) {
     for (std::size_t axis = 0; axis < axes; ++axis) {
       if ((corner >> axis & 1U) == 0) continue;

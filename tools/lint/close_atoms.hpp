@@ -17,8 +17,8 @@ struct ClosePair {
 
 /// Returns every atom that is closer than `limit` to an atom before it, with the first such atom.
 /// Atoms that were returned are not compared with those after them, so that many atoms in one place
-/// take no longer than as many in different ones: the time is linear in the number of atoms. Atoms
-/// with a coordinate that is not finite are close to none.
+/// take no longer than the same number in different places: the time is linear in the number of
+/// atoms. Atoms with a coordinate that is not finite are not close to any other.
 std::vector<ClosePair> find_close_atoms(const std::vector<AtomRecord>& atoms, double limit);
 
 }  // namespace kelp::input::quill::lint

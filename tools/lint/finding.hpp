@@ -22,7 +22,7 @@ struct Range {
   }
 };
 
-/// What a finding knows of its case, by the name under which its message asks for it.
+/// The facts of a finding, by the names that its message uses for them.
 struct Fact {
   std::string_view name;
   std::variant<std::int64_t, double, std::string> value;
@@ -42,7 +42,7 @@ struct RelatedPlace {
   std::string_view role;
 };
 
-/// Bytes of the text, and those to put in their place.
+/// Bytes of the text, and those that replace them.
 struct ByteEdit {
   Range range;
   std::string replacement;
@@ -55,14 +55,14 @@ struct Mend {
   bool is_safe = false;
 };
 
-/// Something that a text says and its author probably did not mean. The words for it are made by
-/// words_of(), of the row of the code in the table of rules and of the facts.
+/// Something that a text says and its author probably did not mean. words_of() makes its message
+/// from the row of the code in the table of rules and from the facts.
 struct Finding {
   Range range = {};
   std::vector<Fact> facts = {};
   std::vector<RelatedPlace> related = {};
   std::optional<Mend> mend = std::nullopt;
-  std::string_view code = {};  // set by whoever runs the checks
+  std::string_view code = {};  // set by the code that runs the checks
 };
 
 using Findings = std::vector<Finding>;

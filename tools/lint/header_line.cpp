@@ -11,7 +11,7 @@ namespace kelp::input::quill::lint {
 
 namespace {
 
-/// Names that mean something in every input, besides those of the tasks.
+/// Names that have a meaning in every input, besides those of the tasks.
 constexpr std::array<std::string_view, 2> names_of_settings = {"model", "device"};
 
 std::vector<std::string> known_names(const Options& options) {

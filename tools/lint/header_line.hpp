@@ -9,7 +9,7 @@
 #include "lint/source.hpp"
 #include "reader/header_pieces.hpp"
 
-// The pieces of header lines without the blanks around them, for rules that point at one.
+// The pieces of header lines without the blanks around them, for rules that point at a piece.
 
 namespace kelp::input::quill::lint {
 
@@ -18,14 +18,14 @@ inline const HeaderPieces& pieces_of(const Source& source, std::size_t index) {
   return source.header_pieces()[index];
 }
 
-/// Returns the entries of a parameter list, trimmed, empty ones included. A list that is blank has
-/// none.
+/// Returns the entries of a parameter list, trimmed, empty ones included. A blank list has no
+/// entries.
 std::vector<ParameterPieces> entries_of(const HeaderPieces& pieces);
 
 /// Returns the whole line of a command, for a finding without a better place.
 Range range_of_command(const Source& source, std::size_t index);
 
-/// Returns whether a name, in any letter case, means something in every input, or is one that the
+/// Returns whether a name, in any letter case, has a meaning in every input, or is one that the
 /// options add.
 bool is_known(std::string_view name, const Options& options);
 

@@ -20,7 +20,7 @@ std::string_view ascii_of(OddKind kind) {
   return kind == OddKind::Blank ? " " : "";
 }
 
-/// A comma between digits of a word that has neither another one nor a point.
+/// A comma between digits of a word that has no other comma and no point.
 bool has_decimal_comma(std::string_view token) {
   return resembles_number(token) && std::count(token.begin(), token.end(), ',') == 1 &&
          token.find('.') == std::string_view::npos;
@@ -40,7 +40,7 @@ bool is_atom_line(std::string_view line) {
   return !find_token_unlike_an_atom(line) && is_element(tokens_of(line).front());
 }
 
-/// A line that can be one of an atom becomes one if it is the first after the atoms.
+/// A line that has the form of an atom line becomes one if it is the first after the atoms.
 bool is_post_line(std::string_view line) {
   PostCommand command;
   if (!find_token_unlike_an_atom(line)) return false;

@@ -9,8 +9,8 @@
 
 #include "lint/finding.hpp"
 
-// What a line says once the characters in it that only look like ASCII are ASCII. Whether a repair
-// is one is decided by the readers of lines.
+// What a line says after the characters in it that only look like ASCII are replaced by ASCII. The
+// functions that read lines decide whether such a repair is right.
 
 namespace kelp::input::quill::lint {
 
@@ -18,12 +18,12 @@ namespace kelp::input::quill::lint {
 std::string with_edits(std::string_view line, const std::vector<ByteEdit>& edits,
                        std::size_t base = 0);
 
-/// Returns the edits that put "-" for other minus signs and a blank for other blanks, and take away
+/// Returns the edits that replace other minus signs by "-" and other blanks by a blank, and remove
 /// what is invisible. `base` is added to their offsets.
 std::vector<ByteEdit> ascii_edits(std::string_view line, std::size_t base = 0);
 
-/// Returns the edits after which a line is one of an atom of a known element: those above, and if
-/// it has four words, points for decimal commas. Nothing if there are none such.
+/// Returns the edits after which a line is an atom line with a known element: those above and, if
+/// it has four words, points instead of decimal commas. Returns nothing if this is not possible.
 std::optional<std::vector<ByteEdit>> atom_repair(std::string_view line, std::size_t base = 0);
 
 /// Returns the edits after which a line gives charge and multiplicity, or nothing.

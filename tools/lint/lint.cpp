@@ -30,7 +30,7 @@ bool keep_only_explanation(Findings& findings) {
   return true;
 }
 
-/// A finding about something that the text does not have is on no line.
+/// A finding about something that the text does not have is not on a line.
 bool is_on_a_line(const Finding& finding) { return finding.range.end() > 0; }
 
 /// Leaves out what a finding on the same line explains. If several on a line explain it, that of

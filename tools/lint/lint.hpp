@@ -1,15 +1,15 @@
 #ifndef KELP_INPUT_QUILL_LINT_LINT_HPP
 #define KELP_INPUT_QUILL_LINT_LINT_HPP
 
-// Finds what the reader silently made of a text that its author probably did not mean.
+// Finds what the reader understood differently from what the author of a text probably meant.
 //
 //   const lossless::ReadText read = lossless::read_text(text);
 //   for (const Finding& finding : find_all(read, Options()))
 //     std::cerr << place_of(finding.range.offset, read.lines).line << ": "
 //               << words_of(finding).message << '\n';
 //
-// A text is read once, by the library; what a line became is what the reader said. The functions
-// have no state, and any number of threads may call them at once.
+// A text is read once, by the library, and the reader's result says what each line became. The
+// functions have no state, and any number of threads may call them at once.
 
 #include <cstddef>
 #include <vector>
@@ -28,7 +28,7 @@ Findings find_all(const lossless::ReadText& read, const Options& options);
 /// Returns the findings of every rule, those that another one explains included.
 Findings find_unexplained(const lossless::ReadText& read, const Options& options);
 
-/// A place for people. Lines and columns count from 1, and columns count bytes.
+/// A place for people. Lines and columns are counted from 1, and columns count bytes.
 struct TextPlace {
   std::size_t line = 1;
   std::size_t column = 1;

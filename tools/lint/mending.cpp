@@ -19,7 +19,7 @@ bool is_apart(const ByteEdit& left, const ByteEdit& right) {
   return left.range.end() <= right.range.offset || right.range.end() <= left.range.offset;
 }
 
-/// Edits that were taken are apart, so the two beside the place of a new one are all it can touch.
+/// Edits that were taken do not overlap, so a new one can touch only the two next to its place.
 bool fits(const EditsByOffset& taken, const ByteEdit& edit) {
   const auto next = taken.lower_bound(edit.range.offset);
   if (next != taken.end() && !is_apart(edit, next->second)) return false;

@@ -23,7 +23,7 @@ struct MendedText {
 std::vector<ByteEdit> safe_edits(const Findings& findings, std::size_t& count);
 
 /// Mends a text, reads it again and mends what is then found, until nothing is left to mend.
-/// Findings for which `is_wanted` is false are left alone.
+/// Findings for which `is_wanted` is false are not mended.
 MendedText mend(std::string text, const Options& options,
                 const std::function<bool(const Finding&)>& is_wanted);
 

@@ -7,11 +7,12 @@
 
 namespace kelp::input::quill::lint {
 
-/// Characters beyond ASCII that look like a character with a meaning in an input, or like nothing.
+/// Characters outside ASCII that look like a character with a meaning in an input, or cannot be
+/// seen.
 enum class OddKind {
-  Blank,      // the no-break space and its like, which the reader takes for a letter
-  Invisible,  // without a width, byte order marks and marks of direction among them
-  Minus,      // the minus sign, and dashes that word processors put in its place
+  Blank,      // the no-break space and similar ones, which the reader takes for letters
+  Invisible,  // without a width, including byte order marks and marks of direction
+  Minus,      // the minus sign, and dashes that word processors write instead
   Quote,      // typographic double and single quotes
 };
 
@@ -22,7 +23,7 @@ struct OddCharacter {
   char32_t code_point = 0;
 };
 
-/// Returns these characters of a text, in their order. Bytes that are not UTF-8 are passed over.
+/// Returns these characters of a text, in their order. Bytes that are not UTF-8 are skipped.
 std::vector<OddCharacter> find_odd_characters(std::string_view text);
 
 }  // namespace kelp::input::quill::lint

@@ -5,8 +5,8 @@
 
 namespace kelp::input::quill::lint {
 
-/// Returns the page of a rule, which is the file of its code in docs/lint/, or nothing for a code
-/// without a page. The text lives as long as the program.
+/// Returns the page of a rule, which is the file with its code in docs/lint/, or the empty text for
+/// a code without a page. The text lives as long as the program.
 std::string_view page_of(std::string_view code);
 
 }  // namespace kelp::input::quill::lint

@@ -19,12 +19,12 @@ struct RoundedNumber {
 };
 
 /// Returns the coordinates and scan values that change when they are written and read again, in
-/// their order. Those that are not finite, and atoms of which the line would not be one, have no
-/// place here.
+/// their order. Those that are not finite, and atoms whose written line would not be an atom line,
+/// are left out.
 std::vector<RoundedNumber> rounded_numbers(const Source& source);
 
-/// Returns whether the line of an atom, as it is written, is one of the same symbol and three
-/// numbers. A large coordinate touches the one before it.
+/// Returns whether the line of an atom, as it is written, is an atom line with the same symbol and
+/// three numbers. A large coordinate touches the one before it.
 bool reads_back(const AtomRecord& atom);
 
 /// Returns where a number is in the text.

@@ -10,8 +10,8 @@ namespace kelp::input::quill::lint {
 
 class Source;
 
-/// How bad a finding is. An error means that the reader made something else of the text than its
-/// author can have meant; a warning, that this is likely; an info, that it is worth a look.
+/// How bad a finding is. An error means that the reader understood the text in a way that its
+/// author cannot have meant; a warning, that this is likely; an info, that it is worth a look.
 enum class Severity { Info, Warning, Error };
 
 /// What a rule looks at. Each group can be selected or ignored as one.
@@ -26,8 +26,8 @@ enum class Explains {
 
 /// How far the lines that a mend changes reach.
 enum class MendReach {
-  Line,  // the reader makes something else of this line alone
-  Rest,  // and of lines after it, which the unmended line had put into another section
+  Line,  // the reader understands only this line differently
+  Rest,  // and also lines after it, which were in another section because of the unmended line
 };
 
 /// One kind of finding. `message` and `advice` are templates for words_of(): "{name}" stands for a
@@ -52,7 +52,7 @@ std::string_view name_of(Group group);
 /// All groups, in the order of the enumeration.
 const std::vector<Group>& all_groups();
 
-/// The one table of rules, in the order of the codes. A code is never given to another rule.
+/// The only table of rules, in the order of the codes. A code is never given to another rule.
 const std::vector<Rule>& all_rules();
 
 /// Returns the rule of a code, in any letter case, or a null pointer.

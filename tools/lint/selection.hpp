@@ -9,13 +9,13 @@
 
 namespace kelp::input::quill::lint {
 
-/// Which rules count. Names are those of codes or of groups, in any letter case.
+/// Which rules are selected. Names are codes or names of groups, in any letter case.
 struct Selection {
-  std::vector<std::string> selected = {};  // none stands for all
-  std::vector<std::string> ignored = {};   // wins over `selected`
+  std::vector<std::string> selected = {};  // empty means all
+  std::vector<std::string> ignored = {};   // has priority over `selected`
 };
 
-/// Returns whether a rule counts.
+/// Returns whether a rule is selected.
 bool is_selected(std::string_view code, const Selection& selection);
 
 /// Returns whether a name is that of a rule or a group.
@@ -24,7 +24,7 @@ bool is_rule_or_group(std::string_view name);
 /// Returns the codes of all rules and the names of all groups.
 std::vector<std::string> rule_and_group_names();
 
-/// Removes the findings of rules that do not count.
+/// Removes the findings of rules that are not selected.
 void keep_selected(Findings& findings, const Selection& selection);
 
 }  // namespace kelp::input::quill::lint

@@ -28,13 +28,13 @@ struct ReferencedFile {
   std::string content = {};  // of a file that was read
 };
 
-/// What the checks know besides the text.
+/// What the checks use besides the text.
 struct Options {
   std::vector<std::string> known_commands = {};  // of the project, besides those of every input
   double max_change = 1e-6;                      // of a number when the text is written anew
 
-  /// The names of commands that other inputs use as well, in canonical form and sorted. The list
-  /// belongs to whoever makes the options.
+  /// The names of commands that other inputs use as well, in canonical form and sorted. The code
+  /// that makes the options owns the list.
   const std::vector<std::string>* other_names = nullptr;
 
   /// Finds a file by its path in the text. Without it, no rule looks at files.
@@ -47,8 +47,8 @@ struct Reference {
   std::optional<std::size_t> atoms = std::nullopt;
 };
 
-/// Everything that a check may look at: a text, what the reader made of it, and what several checks
-/// need of that. Keeps references to both arguments of its constructor.
+/// Everything that a check may use: a text, what the reader made of it, and what several checks
+/// need from that. Keeps references to both arguments of its constructor.
 class Source {
  public:
   Source(const lossless::ReadText& read, const Options& options);
@@ -83,13 +83,13 @@ class Source {
   /// The line of charge and multiplicity, of a document that has them.
   std::size_t charge_line() const { return charge_line_; }
 
-  /// The characters of the text that look like ASCII, or like nothing.
+  /// The characters of the text that look like ASCII, or cannot be seen.
   const std::vector<OddCharacter>& odd_characters() const { return odd_characters_; }
 
   /// The line that ended the coordinates although it looks like one of them, if there is one.
   const std::optional<BrokenLine>& broken_line() const { return broken_line_; }
 
-  /// One for each path of the coordinates; none without a way to read them.
+  /// One for each path of the coordinates; empty if the options cannot find files.
   const std::vector<Reference>& references() const { return references_; }
 
   /// Returns how many atoms the input has, inline or in the one file that it refers to; nothing if

@@ -35,7 +35,7 @@ std::size_t after_closing(std::string_view pattern, std::size_t open) {
   return pattern.size();
 }
 
-/// Cuts a choice at the bars that are in no braces of its own.
+/// Splits a choice at the bars that are not inside braces in it.
 std::vector<std::string_view> cut_choice(std::string_view choice) {
   std::vector<std::string_view> parts;
   std::size_t start = 0;
@@ -74,7 +74,7 @@ std::optional<std::string> fill_braces(std::string_view content, const std::vect
   return fill(*words, facts, false);
 }
 
-/// `has_choices` is false within a choice, which holds no other one.
+/// `has_choices` is false within a choice, which cannot contain another one.
 std::optional<std::string> fill(std::string_view pattern, const std::vector<Fact>& facts,
                                 bool has_choices) {
   std::string text;

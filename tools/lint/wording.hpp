@@ -7,7 +7,7 @@
 
 #include "lint/finding.hpp"
 
-// The words for findings. They are made last, and decide nothing.
+// The messages of findings. They are made last, and are not used for decisions.
 
 namespace kelp::input::quill::lint {
 

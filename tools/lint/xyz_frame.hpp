@@ -8,8 +8,8 @@
 namespace kelp::input::quill::lint {
 
 /// Returns how many atoms the first frame of an XYZ file has: a line with their number, a line of
-/// text, and a line for each atom with a symbol, or whatever stands for one, and three numbers.
-/// Nothing if the file does not begin with such a frame.
+/// text, and a line for each atom with a symbol, or some other word instead, and three numbers.
+/// Returns nothing if the file does not begin with such a frame.
 std::optional<std::size_t> count_atoms_of_first_frame(std::string_view content);
 
 }  // namespace kelp::input::quill::lint

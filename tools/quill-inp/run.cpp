@@ -68,7 +68,7 @@ std::vector<std::string> option_names(const CLI::App& app) {
   return names;
 }
 
-/// Returns the message of CLI11 about an option without its value, in the words of this program.
+/// Returns, in the words of this program, the message of CLI11 about an option without its value.
 std::string describe(const CLI::ArgumentMismatch& error) {
   const std::string text = error.what();
   return text.substr(0, text.find_first_of(": ")) + " needs a value";
@@ -94,8 +94,8 @@ void refuse_misplaced(const CLI::App& app) {
     throw UsageError(*complaint);
 }
 
-/// Returns the message about an argument that is missing. An option that was misspelled is told
-/// first: it may be why the argument is missing.
+/// Returns the message about an argument that is missing. A misspelled option is reported first: it
+/// may be the reason why the argument is missing.
 std::string describe(const CLI::RequiredError& error, const CommandLine& line) {
   for (const Verb& verb : line.verbs) {
     if (!verb.app->parsed()) continue;

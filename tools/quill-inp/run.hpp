@@ -15,7 +15,7 @@ namespace kelp::input::quill::tool {
 /// thrown.
 int run(const std::vector<std::string>& arguments, const StandardStreams& streams);
 
-/// Says that memory ran out, for which no memory is needed, and returns the exit code for that.
+/// Reports that memory ran out, without needing any memory, and returns the exit code for that.
 int report_out_of_memory(std::ostream& err);
 
 }  // namespace kelp::input::quill::tool

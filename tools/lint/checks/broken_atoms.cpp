@@ -20,7 +20,7 @@ std::optional<Edits> repair(const Source& source, std::size_t line, BrokenLine::
                                           : atom_repair(content, base);
 }
 
-/// The atoms after the line have the same fault, most of the time, and are mended with it.
+/// The atoms after the line usually have the same fault, and are mended with it.
 void add_repairs_of_lost_atoms(const Source& source, std::size_t first, Edits& edits) {
   for (std::size_t i = first; i < source.lines().size(); ++i) {
     if (source.lines()[i].role == LineRole::Blank) continue;
@@ -46,7 +46,7 @@ Fact fault_of(const Source& source, const BrokenLine& broken) {
   return text_fact(broken.token.data() == tokens[0].data() ? "symbol" : "word", broken.token);
 }
 
-/// The word that is to blame, or the last byte of a line that is too short.
+/// The word that is the cause, or the last byte of a line that is too short.
 Range range_of_fault(const Source& source, const BrokenLine& broken) {
   if (!broken.token.empty()) return source.range_of(broken.token);
   return {source.range_of(source.trimmed(broken.line)).end(), 0};

@@ -6,8 +6,8 @@
 namespace kelp::input::quill::lint {
 
 /// Returns a finding for the line that ended the coordinates, if it is of this kind: at the word
-/// that is to blame, with a safe mend if the line is one of an atom, or of charge and multiplicity,
-/// as soon as its characters are ASCII.
+/// that is the cause, with a safe mend if the line would be an atom line, or one of charge and
+/// multiplicity, with ASCII characters.
 Findings find_broken_atoms(const Source& source, BrokenLine::Kind kind);
 
 }  // namespace kelp::input::quill::lint

@@ -3,8 +3,8 @@
 
 #include "lint/source.hpp"
 
-// One function for each rule, in a file of its own. Each returns what it finds in a text, in the
-// order of the places, without the code, which the table of rules has.
+// One function for each rule, each in its own file. Each returns what it finds in a text, in the
+// order of the places, without the code, which is in the table of rules.
 
 namespace kelp::input::quill::lint {
 

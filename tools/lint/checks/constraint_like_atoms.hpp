@@ -6,9 +6,10 @@
 namespace kelp::input::quill::lint {
 
 /// Returns a finding for each of the last lines of the atoms that has the keyword of a constraint
-/// or a scan in place of a symbol, and three different numbers from 1 on that could be those of
-/// atoms. Atoms before them must be written otherwise, or end with a blank line. Of these lines,
-/// those that begin with "A" are no atoms at all; `wants_elements` tells which ones to return.
+/// or a scan instead of a symbol, and three different numbers from 1 on that could be those of
+/// atoms. Atoms before them must be written in another form, or end with a blank line. With
+/// `wants_elements`, returns those whose keyword is the symbol of an element, and otherwise those
+/// that begin with "A".
 Findings find_constraint_like_atoms(const Source& source, bool wants_elements);
 
 }  // namespace kelp::input::quill::lint

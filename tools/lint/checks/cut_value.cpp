@@ -7,7 +7,7 @@ namespace kelp::input::quill::lint {
 
 namespace {
 
-/// How many parentheses are open at the end of a value. Within quotes they mean nothing.
+/// How many parentheses are open at the end of a value. Within quotes they have no meaning.
 std::ptrdiff_t open_parentheses(std::string_view value) {
   const bool is_quoted = value.size() >= 2 && value.front() == value.back() &&
                          (value.front() == '"' || value.front() == '\'');

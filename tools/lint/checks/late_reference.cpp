@@ -6,8 +6,8 @@
 
 namespace kelp::input::quill::lint {
 
-// After a trajectory, and after a line that kept the coordinates from beginning, other rules say
-// more.
+// After a trajectory, and after a line that prevented the coordinates from beginning, other rules
+// say more.
 Findings check_late_reference(const Source& source) {
   Findings findings;
   const bool is_explained =

@@ -10,7 +10,7 @@ namespace {
 bool is_blank(std::string_view text) { return core::text::split_whitespace(text).empty(); }
 
 /// Returns the positions of the carriage returns in a line that have text after them on the line.
-/// Those that have none end the line together with its line end, and do no harm.
+/// Those without such text end the line together with its line end, and are harmless.
 std::vector<std::size_t> find_returns(std::string_view line) {
   std::vector<std::size_t> found;
   for (std::size_t at = line.find('\r'); at != std::string_view::npos; at = line.find('\r', at + 1))

@@ -7,7 +7,8 @@
 
 namespace kelp::input::quill::lint {
 
-/// Returns one finding for all of these numbers, at the first of them, or none for no numbers.
+/// Returns one finding for all of these numbers, at the first of them, or none if there are no
+/// numbers.
 Findings find_lost_digits(const Source& source, const std::vector<RoundedNumber>& numbers);
 
 }  // namespace kelp::input::quill::lint

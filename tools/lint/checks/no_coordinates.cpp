@@ -2,7 +2,7 @@
 
 namespace kelp::input::quill::lint {
 
-// The line that kept the coordinates from beginning says more than this.
+// The finding about the line that prevented the coordinates from beginning says more than this.
 Findings check_no_coordinates(const Source& source) {
   const GeometryBlock& geometry = source.input().geometry;
   const bool has_section =

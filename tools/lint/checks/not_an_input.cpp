@@ -13,7 +13,7 @@ bool has_section(const QuillInput& input) {
 
 bool is_raw(const PostCommand& command) { return command.kind == PostCommandKind::Raw; }
 
-/// Whether a line is meant for an input: one of an atom, in whatever form, or a typed one.
+/// Whether a line is meant for an input: an atom line in any form, or a line of a known kind.
 bool has_line_of_an_input(const Source& source) {
   const auto& commands = source.input().post_commands;
   if (!std::all_of(commands.begin(), commands.end(), is_raw)) return true;
@@ -21,7 +21,8 @@ bool has_line_of_an_input(const Source& source) {
                      [&](std::size_t line) { return resembles_atom_line(source.content(line)); });
 }
 
-/// Lines of "#" are comments in many other languages, so they alone make no input.
+/// Lines of "#" are comments in many other languages, so a text with only such lines is not an
+/// input.
 bool has_known_command(const QuillInput& input) {
   return input.has_task_command() || input.has_command("model") || input.has_command("device");
 }

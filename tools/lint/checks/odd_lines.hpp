@@ -7,7 +7,7 @@
 namespace kelp::input::quill::lint {
 
 /// Returns a finding for each line with characters of this kind, at the first of them. It has a
-/// safe mend where a keyword is one as soon as all odd characters of the line are ASCII.
+/// safe mend if replacing all odd characters of the line by ASCII makes a keyword.
 Findings find_odd_lines(const Source& source, OddKind kind);
 
 }  // namespace kelp::input::quill::lint

@@ -5,7 +5,7 @@
 
 namespace kelp::input::quill::lint {
 
-/// Returns a finding for the path of each reference of which `is_found` holds.
+/// Returns a finding for the path of each reference for which `is_found` returns true.
 Findings find_references(const Source& source, bool (*is_found)(const Reference&));
 
 }  // namespace kelp::input::quill::lint

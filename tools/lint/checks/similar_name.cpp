@@ -8,7 +8,7 @@ namespace kelp::input::quill::lint {
 
 namespace {
 
-/// A name that other inputs use as well is spelled as it is meant.
+/// A name that other inputs also use is spelled as intended.
 std::optional<std::string> find_similar(const std::string& name, const Options& options) {
   const std::vector<std::string>* others = options.other_names;
   if (name.empty() || is_known(name, options)) return std::nullopt;

@@ -7,8 +7,8 @@ namespace {
 
 bool is_quote(char c) { return c == '"' || c == '\''; }
 
-/// Returns the position of the quote in an entry that no other one closes, or the end. An
-/// apostrophe within a word is none, but to the reader it is.
+/// Returns the position of the quote in an entry that is not closed by another one, or the end. An
+/// apostrophe within a word is not meant as a quote, but the reader takes it for one.
 std::size_t find_unclosed_quote(std::string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (!is_quote(text[i])) continue;

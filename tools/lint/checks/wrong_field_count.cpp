@@ -12,8 +12,8 @@ namespace {
 
 using Tokens = std::vector<std::string_view>;
 
-/// The shape of a line that has a keyword and looks as if it was meant: a number after it, or
-/// nothing at all. "A note" is text.
+/// The shape of a line that has a keyword which is probably intended: a number after it, or nothing
+/// at all. "A note" is text.
 const PostLineShape* find_meant_shape(const Tokens& tokens) {
   const PostLineShape* shape = find_post_line_shape(core::text::to_upper_copy(tokens[0]));
   const bool is_meant = tokens.size() == 1 || is_number(tokens[1]);
@@ -37,7 +37,7 @@ std::string words_of_count(std::size_t count) {
 
 }  // namespace
 
-// A line that ended the atoms, and those like atoms after it, are that rule's.
+// Another rule reports a line that ended the atoms, and the lines after it that look like atoms.
 Findings check_wrong_field_count(const Source& source) {
   Findings findings;
   for (std::size_t i = 0; i < source.post_lines().size(); ++i) {

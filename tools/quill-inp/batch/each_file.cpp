@@ -20,7 +20,8 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// What one file of many has to itself. All that is written for it waits here for its turn.
+/// What one file of many does not share with the others. Everything that is written for it waits
+/// here for its turn.
 struct FileRun {
   Transcript transcript = {};
   Output output;
@@ -44,7 +45,7 @@ void replay(Session& session, const FileRun& run) {
   }
 }
 
-/// The files of one call, one after another or side by side.
+/// The files of one call, one after another or several at once.
 class Batch {
  public:
   Batch(Session& session, const std::vector<std::string>& files, const BatchOptions& options,
@@ -57,7 +58,8 @@ class Batch {
         shows_progress_(files.size() > 1 && session.is_watched()) {}
 
   ExitCode run() {
-    // A progress line has to go before anything is written, so the file cannot write on its own.
+    // A progress line has to be removed before anything is written, so the file cannot write by
+    // itself.
     if (files_.size() > 1 && (options_.threads > 1 || shows_progress_)) {
       run_side_by_side();
     } else {
@@ -97,7 +99,7 @@ class Batch {
     }
   }
 
-  /// Keeps no run if there is not even the memory to tell that there is none left.
+  /// Keeps no run if there is not even enough memory to report that memory ran out.
   void work(std::size_t number) {
     const std::string& file = files_[number];
     try {

@@ -20,7 +20,7 @@ namespace kelp::input::quill::tool {
 
 /// Carries `action` out for a file and returns its exit code. If it throws, that is reported with
 /// the file's name, and the code is ExitCode::Trouble. There are two exceptions: a ReportedTrouble
-/// was reported already, and a UsageError, which is not about a file, is thrown on.
+/// was reported already, and a UsageError, which is not about a file, is thrown again.
 ExitCode for_file(Session& session, const std::string& argument,
                   const std::function<ExitCode()>& action);
 
@@ -42,7 +42,7 @@ struct BatchOptions {
 /// the files, and is the same for every number of threads. If standard output goes into one of the
 /// files, that is reported and no file is processed.
 ///
-/// On a terminal, a line on standard error tells how far the work is if it takes longer than a
+/// On a terminal, a line on standard error shows the progress if the work takes longer than a
 /// second, and the counts at the end.
 ExitCode for_each_file(Session& session, const ChosenFiles& files, const BatchOptions& options,
                        const FileAction& action);

@@ -18,7 +18,8 @@ namespace {
 
 constexpr const char* default_pattern = "*.qin";
 
-/// Takes the names out of a list. An empty line, which a list made by hand may have, names no file.
+/// Takes the names out of a list. An empty line, which a list made by hand may have, does not name
+/// a file.
 void append_listed(std::string_view list, char end, std::vector<std::string>& files) {
   while (!list.empty()) {
     const std::size_t size = std::min(list.find(end), list.size());
@@ -58,8 +59,8 @@ void append_folder(Session& session, const std::string& folder,
   chosen.files.insert(chosen.files.end(), found.begin(), found.end());
 }
 
-/// Keeps the first of several names that lead to the same file. Two hard links are two files: what
-/// is put in the place of one leaves the other as it was.
+/// Keeps the first of several names that lead to the same file. Two hard links are two files: if
+/// one is replaced, the other stays as it was.
 void keep_each_once(std::vector<std::string>& files) {
   std::set<std::string> paths;
   const auto is_repeated = [&](const std::string& file) {

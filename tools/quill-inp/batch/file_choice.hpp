@@ -17,7 +17,7 @@ struct FileChoice {
   std::vector<std::string> patterns = {};          // for these files; empty: "*.qin"
   std::optional<std::string> list = std::nullopt;  // a file with more files, one on each line
   bool list_has_nul_ends = false;                  // a NUL ends each name in it, and not a line end
-  bool takes_each_once = false;                    // passes over further names of the same path
+  bool takes_each_once = false;                    // skips other names of the same path
 };
 
 /// The files, in the order in which they are processed: those of the list, then those of the

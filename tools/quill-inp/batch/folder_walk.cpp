@@ -23,7 +23,7 @@ bool matches(const std::string& below_folder, const std::vector<std::string>& pa
   });
 }
 
-/// What is in a folder, the last name first: as a stack has it.
+/// The content of a folder, the last name first, as a stack needs it.
 std::vector<fs::directory_entry> entries_of(const std::string& folder, std::error_code& error) {
   std::vector<fs::directory_entry> entries;
   for (fs::directory_iterator i(folder, error); !error && i != fs::directory_iterator();

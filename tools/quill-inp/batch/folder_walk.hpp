@@ -11,10 +11,10 @@ namespace kelp::input::quill::tool {
 bool is_folder(const std::string& path);
 
 /// Returns the paths of all files in a folder and the folders in it that match one of the patterns,
-/// sorted by their names. A pattern as those of a shell is compared with the name of a file, or, if
-/// there is a "/" in it, with the path below the folder. Links to folders and hidden folders are
-/// passed over; a hidden file matches only a pattern that begins with a dot. `tell_failure` is
-/// called for a folder that cannot be read, with its path and the error.
+/// sorted by their names. A pattern like those of a shell is compared with the name of a file, or,
+/// if there is a "/" in it, with the path below the folder. Links to folders and hidden folders are
+/// skipped; a hidden file matches only a pattern that begins with a dot. `tell_failure` is called
+/// for a folder that cannot be read, with its path and the error.
 std::vector<std::string> find_files(
     const std::string& folder, const std::vector<std::string>& patterns,
     const std::function<void(const std::string&, int)>& tell_failure);

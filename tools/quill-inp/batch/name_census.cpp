@@ -18,10 +18,10 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-// Nobody writes a longer header, and this file may be anything.
+// Nobody writes a longer header, and the file may contain anything.
 constexpr std::uint64_t longest_header = std::uint64_t{64} * 1024;
 
-// A header takes less time than it takes to hand it from one thread to another.
+// Reading a header takes less time than passing it from one thread to another.
 constexpr std::size_t files_in_a_piece = 32;
 
 using Names = std::vector<std::string>;

@@ -7,8 +7,8 @@
 namespace kelp::input::quill::tool {
 
 /// Returns the names of commands, in canonical form and sorted, that at least two of these files
-/// use: names that are meant as they are spelled. Only the headers of regular files are read, on so
-/// many threads; files that cannot be read, and standard input, have no names here.
+/// use: these are probably spelled as intended. Only the headers of regular files are read, on this
+/// number of threads; files that cannot be read, and standard input, add no names.
 std::vector<std::string> names_in_several_files(const std::vector<std::string>& files,
                                                 unsigned threads);
 

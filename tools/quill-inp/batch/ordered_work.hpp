@@ -14,15 +14,15 @@ struct OrderedWork {
   std::function<void()> pass_time = {};           // on the calling thread, while it waits
 };
 
-/// The most pieces that are begun and not delivered, for so many threads: what is ready waits for
-/// the pieces before it, and must not fill the memory. A piece may so use the room of the piece
-/// that comes this many before it.
+/// The largest number of pieces that are begun and not delivered, for this number of threads: what
+/// is ready waits for the pieces before it, and must not fill the memory. So a piece may use the
+/// room of the piece that is this number of pieces before it.
 std::size_t window_of(unsigned threads);
 
-/// Does all pieces of work on so many threads, 1 or more, and delivers them in the order of their
-/// numbers. When a piece throws, the pieces before it are delivered, those that are begun are
-/// ended, no others are begun, and the exception is thrown on. `deliver` may throw, too. If the
-/// system gives fewer threads, they do all the work.
+/// Does all pieces of work on this number of threads, 1 or more, and delivers them in the order of
+/// their numbers. When a piece throws, the pieces before it are delivered, those that are begun are
+/// finished, no others are begun, and the exception is thrown again. `deliver` may throw, too. If
+/// the system gives fewer threads, they do all the work.
 void do_in_order(const OrderedWork& pieces, unsigned threads);
 
 }  // namespace kelp::input::quill::tool

@@ -7,8 +7,8 @@
 
 namespace kelp::input::quill::tool {
 
-/// A line on a terminal that tells how far the work is, and that is written over again and again.
-/// It is shown when the work takes longer than a second, and then at most ten times in a second.
+/// A line on a terminal that shows the progress, and that is overwritten again and again. It is
+/// shown when the work takes longer than a second, and then at most ten times in a second.
 class ProgressLine {
  public:
   using Time = std::chrono::steady_clock::time_point;

@@ -9,7 +9,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// How the files of a call fared.
+/// The results for the files of a call, counted.
 struct Tally {
   std::size_t files = 0;
   std::size_t changed = 0;
@@ -21,7 +21,7 @@ struct Tally {
 };
 
 /// Returns the counts in words: "10,000 files, 37 changed, 2 refused", with another word for
-/// "changed". How many had no match or were refused is left out when none was.
+/// "changed". The numbers without a match and refused are left out if they are 0.
 std::string words(const Tally& tally, std::string_view changed);
 
 /// Returns a number with commas between its thousands.

@@ -9,7 +9,7 @@ Transcript::Transcript()
       err_buffer_(pieces_, false),
       out_stream_(&out_buffer_),
       err_stream_(&err_buffer_) {
-  // A stream takes an exception of its buffer for a failed write, unless it is told to pass it on.
+  // A stream treats an exception of its buffer as a failed write, unless it is set to pass it on.
   out_stream_.exceptions(std::ios_base::badbit);
   err_stream_.exceptions(std::ios_base::badbit);
 }

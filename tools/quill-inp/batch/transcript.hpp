@@ -9,7 +9,7 @@
 namespace kelp::input::quill::tool {
 
 /// What was written to standard output and standard error for one file, in the order in which it
-/// was written, so that it can be written later as if nothing had come between.
+/// was written, so that it can be written later in the same order.
 class Transcript {
  public:
   Transcript();

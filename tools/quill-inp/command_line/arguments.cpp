@@ -16,7 +16,7 @@ namespace {
 
 constexpr char mark = '\0';
 
-// Marks, for the help, an argument that must be there, but not always as an argument.
+// Marks, in the help, an argument that is required, but can also be given in another way.
 constexpr const char* several_files = "...";
 
 /// Whether the argument is an option with its value, even if that is empty: "--raw=".
@@ -24,7 +24,7 @@ bool has_attached_value(std::string_view argument) {
   return argument.substr(0, 2) == "--" && argument.find('=') != std::string_view::npos;
 }
 
-/// Whether CLI11 would give the argument a meaning of its own.
+/// Whether CLI11 would give the argument a special meaning.
 bool needs_mark(std::string_view argument) {
   return argument.substr(0, 1) == "[" || argument == "++";
 }

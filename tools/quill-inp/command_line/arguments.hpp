@@ -62,8 +62,8 @@ void add_attached_value(CLI::App& app, const Option& option);
 void begin_group(CLI::App& app, const std::string& heading);
 
 /// Returns a complaint about the first option whose value looks like an option and was not attached
-/// with "=": then the value was forgotten, and the next option taken for it. "-", "-1" and "-.5" do
-/// not look like options.
+/// with "=": then the value was forgotten, and the next option was taken for the value. "-", "-1"
+/// and "-.5" do not look like options.
 std::optional<std::string> find_forgotten_value(const CLI::App& app);
 
 /// Return whether an argument or option was given, its value if it was given, and all of its

@@ -12,25 +12,24 @@
 
 namespace kelp::input::quill::tool {
 
-/// Adds --recursive, --glob, --files-from, --null and --jobs to a verb, in a group of their own.
+/// Adds --recursive, --glob, --files-from, --null and --jobs to a verb, in a separate group.
 void add_file_options(CLI::App& verb);
 
 /// Adds --jobs alone.
 void add_jobs_option(CLI::App& verb);
 
-/// Returns whether --files-from names a file with the names of files, so that the command line need
-/// not have any.
+/// Returns whether --files-from names a file with the names of files, so that none are needed on
+/// the command line.
 bool has_file_list(const CLI::App& verb);
 
-/// Returns whether options may make files of something else than the words: --files-from, or
-/// --recursive.
+/// Returns whether files may come from something other than the words: --files-from or --recursive.
 bool has_other_files(const CLI::App& verb);
 
 /// Returns the choice of files that these options make, with the files and folders that are named
 /// as arguments. Throws UsageError for options that need another one, and for no file at all.
 FileChoice read_file_choice(const CLI::App& verb, std::vector<std::string> arguments);
 
-/// Reads --jobs. Throws UsageError for a number that is none.
+/// Reads --jobs. Throws UsageError for a text that is not a number.
 BatchOptions read_batch_options(const CLI::App& verb);
 
 }  // namespace kelp::input::quill::tool

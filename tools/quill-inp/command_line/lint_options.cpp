@@ -34,7 +34,7 @@ FailOn parse_fail_on(const std::string& name) {
                    suggestion(name, fail_on_names()));
 }
 
-/// Cuts the values of an option at their commas.
+/// Splits the values of an option at their commas.
 std::vector<std::string> parse_names(const CLI::App& verb, const Option& option) {
   std::vector<std::string> names;
   for (const std::string& value : values_of(verb, option)) {

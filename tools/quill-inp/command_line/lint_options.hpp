@@ -24,7 +24,7 @@ struct LintOptions {
 /// Adds --format, --fail-on, --select, --ignore and --statistics to a verb.
 void add_lint_options(CLI::App& verb);
 
-/// Reads these options. Throws UsageError for values that mean nothing.
+/// Reads these options. Throws UsageError for values without a meaning.
 LintOptions read_lint_options(const CLI::App& verb);
 
 }  // namespace kelp::input::quill::tool

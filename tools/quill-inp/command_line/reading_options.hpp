@@ -7,16 +7,16 @@
 
 namespace kelp::input::quill::tool {
 
-/// What a verb makes of the warnings of the reader.
+/// What a verb does about the warnings of the reader.
 enum class Warnings {
   DoNotCount,
   AreANo,  // the exit code is 1
 };
 
-/// Adds --strict to a verb that reads inputs and writes none.
+/// Adds --strict to a verb that reads inputs and does not write any.
 void add_reading_options(CLI::App& verb);
 
-/// Returns what --strict says of warnings.
+/// Returns what --strict says about warnings.
 Warnings read_warnings_option(const CLI::App& verb);
 
 /// Returns the exit code of an input that was read, as far as its warnings decide it.

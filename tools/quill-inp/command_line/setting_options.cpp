@@ -35,7 +35,7 @@ Setting read_replacement(const std::string& text) {
   return setting;
 }
 
-/// A file that is not there is more probably a setting whose "=" was forgotten.
+/// A word that does not name an existing file is probably a setting whose "=" was forgotten.
 const std::string& require_file(const std::string& word) {
   std::error_code ignored;
   if (word == "-" || std::filesystem::exists(word, ignored)) return word;

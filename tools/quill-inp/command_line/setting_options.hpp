@@ -20,11 +20,11 @@ struct FilesAndSettings {
 
 /// Returns the files, and the settings in the order of the command line. The first word is a file,
 /// unless other options name files and it is a setting. Of the others, a word with a "=" is a
-/// setting, and a word without one is a file, which must be there: it may be a setting whose "="
+/// setting, and a word without one is a file, which must exist: the word may be a setting whose "="
 /// was forgotten. Throws UsageError for such a word, and for bad settings.
 FilesAndSettings read_files_and_settings(const CLI::App& verb);
 
-/// Returns whether only what is there already is to be set.
+/// Returns whether only what already exists is to be set.
 bool sets_only_existing(const CLI::App& verb);
 
 }  // namespace kelp::input::quill::tool

@@ -10,7 +10,8 @@
 
 namespace kelp::input::quill::tool {
 
-/// Why something that is added to an input can hardly be meant: no structure is like that.
+/// Why something that is added to an input is very probably a mistake: structures are not like
+/// that.
 struct AdditionDoubt {
   enum class Kind {
     NumberBelowOne,       // `line` names the atom `number`

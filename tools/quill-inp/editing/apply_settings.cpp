@@ -52,7 +52,7 @@ class Settings {
   EditReport take_report() { return std::move(report_); }
 
  private:
-  /// Whether the key names something that is not there and is not to be created.
+  /// Whether the key names something that does not exist and must not be created.
   bool is_missing(const Setting& setting, const CommandKey& key,
                   const HeaderCommand* command) const {
     if (command == nullptr) {

@@ -8,7 +8,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// The text that was read says what the reader made of it, so only another text has to be read.
+/// What the reader made of the old text is known, so only a different text has to be read.
 lossless::Proof prove_canonical(const ReadInput& input, const std::string& text,
                                 double max_change) {
   if (text == input.read.text) return {};

@@ -31,8 +31,8 @@ void report_notes(Session& session, const ReadInput& input, const EditReport& re
   for (const Ambiguity& ambiguity : report.ambiguities) note_ambiguity(session, input, ambiguity);
 }
 
-/// Returns what changed or removed header lines say besides their commands. The other lines that
-/// change hold nothing more than what they were read as.
+/// Returns what changed or removed header lines say besides their commands. Other lines that change
+/// contain only what they were read as.
 std::vector<LineLoss> list_header_losses(const ReadText& read, const NewText& edited) {
   std::vector<LineLoss> losses;
   for (const lossless::LineChange& change : edited.changes) {
@@ -48,7 +48,8 @@ std::string folder_of(const std::string& argument) {
   return slash == std::string::npos ? "." : argument.substr(0, slash + 1);
 }
 
-/// Gives back the memory of all that was needed only to make the new text: the proof needs as much.
+/// Frees the memory of everything that was needed only to make the new text: the proof needs as
+/// much.
 void forget_all_but_texts(ReadInput& input, NewText& edited) {
   forget_lines(input);
   input.read.result = ParseResult();

@@ -37,10 +37,11 @@ EditOptions read_edit_options(const CLI::App& verb, const std::vector<std::strin
 /// Makes the same edit in every file. It may be called for several files at once.
 ExitCode edit_files(Session& session, const EditOptions& options, const Edit& edit);
 
-/// Whether to tell of what is worth a note in an edit. For the second of two equal edits it is not.
+/// Whether to print the notes about an edit. For the second of two equal edits they are not
+/// printed.
 enum class EditNotes { Told, Untold };
 
-/// A new text that is not proved yet, and what its proof is to be judged by. If something forbids
+/// A new text that is not proved yet, and what is needed to judge its proof. If something forbids
 /// the edit, `code` is not Done, and the text is empty.
 struct MadeEdit {
   ExitCode code = ExitCode::Done;
@@ -55,8 +56,8 @@ struct MadeEdit {
 MadeEdit make_edit(Session& session, const std::string& name, const ReadInput& input,
                    const Edit& edit, const LossPolicy& policy, EditNotes notes);
 
-/// Proves the text of such an edit, for which nothing of the input but its text is needed. Returns
-/// whether it may be written; what is lost or refused is reported. To be called once.
+/// Proves the text of such an edit. Only the text of the input is needed for that. Returns whether
+/// it may be written; what is lost or refused is reported. To be called once.
 bool accept_edit(Session& session, const std::string& name, MadeEdit& made,
                  const LossPolicy& policy, EditNotes notes);
 

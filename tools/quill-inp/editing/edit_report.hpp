@@ -25,8 +25,9 @@ struct EditNote {
   std::optional<std::size_t> command = std::nullopt;  // into the commands that were read
 };
 
-/// What to report about an edit of a document: what was lost without being asked for, what the edit
-/// needs and the document does not have, notes, and keys that fit several parts of the document.
+/// What to report about an edit of a document: what was lost although nobody asked for it, what the
+/// edit needs and the document does not have, notes, and keys that fit several parts of the
+/// document.
 struct EditReport {
   std::vector<SettingLoss> losses = {};
   std::vector<MissingAnswer> missing = {};

@@ -23,7 +23,7 @@ constexpr Option max_change{"--max-change", "NUMBER",
 
 constexpr Option strict{"--strict", "", "Refuse a text in which lint finds an error"};
 
-// If nearly everything in a text differs, a message for every number would be of no use.
+// If nearly everything in a text differs, a message for every number would not be useful.
 constexpr std::size_t most_losses_told = 20;
 
 double parse_max_change(const std::string& text) {

@@ -42,8 +42,8 @@ struct LineLoss {
 std::optional<LineLoss> find_line_loss(const lossless::ReadText& read, std::size_t index);
 
 /// Returns what is lost when all lines are written again from the document: what each of them
-/// loses, and the blank lines between lines of raw text, of which nobody but its author knows what
-/// they mean. Other blank lines are layout. Blank lines in a row are one loss.
+/// loses, and the blank lines between lines of raw text, whose meaning only the author knows. Other
+/// blank lines are layout. Blank lines in a row are one loss.
 std::vector<LineLoss> list_line_losses(const lossless::ReadText& read);
 
 /// All that a new text would lose.

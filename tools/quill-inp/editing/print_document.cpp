@@ -21,7 +21,8 @@ ExitCode print_document(Session& session, const std::string& name, const QuillIn
   const lossless::Proof proof = lossless::prove(canonical.text, document, policy.max_change);
   note_number_changes(session, name, proof.comparison.number_changes);
   const Losses losses{{}, {}, std::move(canonical.problems), proof, document};
-  // Their lines are those of a text that is not printed, and `name` is not the name of that text.
+  // Their line numbers are those of a text that is not printed, and `name` is not the name of that
+  // text.
   if (!accept_losses(session, name, losses, policy, LossLines::Hidden)) return ExitCode::Trouble;
   const std::string shown = output.path.value_or(name_of_output);
   if (!accept_findings(session, shown, canonical.text, policy)) return ExitCode::Trouble;

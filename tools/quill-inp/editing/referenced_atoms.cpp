@@ -14,10 +14,11 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// More than any first line of an XYZ file takes.
+/// Longer than any first line of an XYZ file.
 constexpr std::uint64_t enough = 255;
 
-/// Returns the beginning of a regular file. Other files are not opened for long: a pipe would wait.
+/// Returns the beginning of a regular file. Other files are closed at once: reading a pipe would
+/// wait.
 std::optional<std::string> read_beginning(const std::string& path) {
   const FileDescriptor file(open_in(AT_FDCWD, path, O_RDONLY | O_NONBLOCK));
   struct stat state {};

@@ -9,10 +9,10 @@
 
 namespace kelp::input::quill::tool {
 
-/// Returns whether a text may be written or printed: unless the policy is strict, always, and
-/// otherwise when the linter finds no error in it. The first error is reported with its line and
-/// its code. `argument` names the input, in whose project the text belongs. Throws Trouble when the
-/// file with the choices of the project cannot be used.
+/// Returns whether a text may be written or printed: always, unless the policy is strict; then, if
+/// the linter finds no error in it. The first error is reported with its line and its code.
+/// `argument` names the input, in whose project the text belongs. Throws Trouble when the file with
+/// the choices of the project cannot be used.
 bool accept_findings(Session& session, const std::string& argument, std::string_view text,
                      const LossPolicy& policy);
 

@@ -10,7 +10,7 @@
 #include "quill-inp/editing/edit_report.hpp"
 #include "quill-inp/editing/losses.hpp"
 
-// The words for the report about an edit. They decide nothing.
+// The messages of the report about an edit. They are not used for decisions.
 
 namespace kelp::input::quill::tool {
 
@@ -21,13 +21,13 @@ struct LossWords {
   std::optional<std::size_t> line = std::nullopt;
 };
 
-/// Returns the words for the losses, in the order of their members, but for at most `most` of them.
+/// Returns the words for at most `most` of the losses, in the order of their members.
 std::vector<LossWords> words(const Losses& losses, std::size_t most);
 
 std::string words(const EditNote& note);
 
-/// Returns why something that was added can hardly be meant: "'B 5 9' names atom 9, but there are
-/// only 3 atoms".
+/// Returns why something that was added is very probably a mistake: "'B 5 9' names atom 9, but
+/// there are only 3 atoms".
 std::string words(const AdditionDoubt& doubt);
 
 /// Returns what else a key fits: the commands on the lines with these numbers, of which there is

@@ -62,7 +62,7 @@ std::optional<std::string> find_attribute(int file, const std::string& name) {
 bool copy_attribute(const std::string& name, int from, int to) {
   const std::optional<std::string> value = find_attribute(from, name);
   if (!value) return false;
-  // The system sets some for every new file, and does not let a user do that.
+  // The system sets some for every new file, but does not let a user set them.
   if (find_attribute(to, name) == value) return true;
   return fsetxattr(to, name.c_str(), value->data(), value->size(), 0) == 0;
 }

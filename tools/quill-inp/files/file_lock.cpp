@@ -35,8 +35,8 @@ bool means_no_locks(int error) {
 
 void wait_for_lock(int file, std::chrono::steady_clock::time_point deadline,
                    milliseconds patience) {
-  // There is no call that waits for a limited time. A signal that ends the waiting would reach
-  // other threads.
+  // No system call waits for a limited time, and a signal that ends the waiting could reach other
+  // threads.
   milliseconds pause = shortest_pause;
   while (flock(file, LOCK_EX | LOCK_NB) != 0) {
     if (means_no_locks(errno)) return;

@@ -7,9 +7,9 @@ namespace kelp::input::quill::tool {
 
 /// Locks an open file against other runs of this program, and against other threads that have
 /// opened it, too. The lock lasts until the file is closed, also if the program is killed. Waits
-/// for the lock until the deadline; `patience` is how long that was from the beginning. Does
-/// nothing where the file system has no locks. Throws Trouble when the deadline has passed, and
-/// when the system fails.
+/// for the lock until the deadline; `patience` is the whole time that it may wait. Does nothing if
+/// the file system has no locks. Throws Trouble when the deadline has passed, and when the system
+/// fails.
 void wait_for_lock(int file, std::chrono::steady_clock::time_point deadline,
                    std::chrono::milliseconds patience);
 

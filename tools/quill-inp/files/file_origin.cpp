@@ -26,8 +26,8 @@ bool has_its_name(const FilePlace& place, const struct stat& state) {
   return false;
 }
 
-/// Not blocking, so that a pipe without a writer is refused at once. If a link has taken the place
-/// of the file, it is not followed.
+/// Not blocking, so that a pipe without a writer is refused at once. If the file was replaced by a
+/// link, the link is not followed.
 FileDescriptor open_in_place(const FilePlace& place, const std::string& path) {
   FileDescriptor file(
       open_in(place.folder.number(), place.name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW));
@@ -40,8 +40,7 @@ FileDescriptor open_in_place(const FilePlace& place, const std::string& path) {
 FileOrigin open_for_replacing(const std::string& path, std::chrono::milliseconds patience) {
   FilePlace place = find_place(path);
   const auto deadline = std::chrono::steady_clock::now() + patience;
-  // Whoever held the lock has put another file in the place of this one, which is then the one to
-  // read.
+  // The process that held the lock replaced this file by another one, which then has to be read.
   for (;;) {
     FileDescriptor file = open_in_place(place, path);
     struct stat state = state_of(file.number());

@@ -11,9 +11,9 @@
 namespace kelp::input::quill::tool {
 
 /// The file that a text is read from and that is then to be replaced, with its state before it was
-/// read. Folder and file are open, and `name`, which is no symbolic link, is the file's name in the
-/// folder. So renaming a folder in its path puts no other file in its place, and the length of the
-/// path does not matter. As long as the object lives, other runs of this program that want to
+/// read. Folder and file are open, and `name`, which is not a symbolic link, is the file's name in
+/// the folder. So renaming a folder in its path does not lead to another file, and the length of
+/// the path does not matter. As long as the object lives, other runs of this program that want to
 /// replace the file have to wait.
 struct FileOrigin {
   FileDescriptor folder = FileDescriptor(-1);
@@ -23,7 +23,7 @@ struct FileOrigin {
 };
 
 /// Opens the file that a path leads to, after all symbolic links, and locks it. If another run
-/// holds the lock, waits for it, at most this long. The state is that of after the waiting. A file
+/// holds the lock, waits for it, at most this long. The state is the one after the waiting. A file
 /// that is not regular is opened, but not locked. Throws Trouble when the file cannot be opened or
 /// locked.
 FileOrigin open_for_replacing(const std::string& path, std::chrono::milliseconds patience);

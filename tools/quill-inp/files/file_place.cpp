@@ -76,7 +76,7 @@ void throw_not_regular(unsigned mode, Purpose purpose) {
 }
 
 void throw_cannot_open(const std::string& path, int error, Purpose purpose) {
-  // Under /dev/fd there are links to open files without a name. A shell passes pipes in this way.
+  // The links in /dev/fd lead to open files without a name. A shell passes pipes in this way.
   struct stat state {};
   if (stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode))
     throw_not_regular(state.st_mode, purpose);

@@ -7,7 +7,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// Where a file is: its folder, which is open, and its name there, which is no symbolic link.
+/// Where a file is: its folder, which is open, and its name there, which is not a symbolic link.
 struct FilePlace {
   FileDescriptor folder;
   std::string name;
@@ -18,14 +18,15 @@ struct FilePlace {
 /// Throws Trouble when the folder cannot be opened, and for links that lead in a circle.
 FilePlace find_place(const std::string& path);
 
-/// What a file is opened for: a pipe can be read, but no other file can be put in its place.
+/// What a file is opened for: a pipe can be read, but cannot be replaced by another file.
 enum class Purpose { Reading, Replacing };
 
-/// Throws the Trouble, of a folder FolderTrouble, of a path that leads to no regular file.
+/// Throws Trouble about a path that does not lead to a regular file; FolderTrouble if it leads to a
+/// folder.
 [[noreturn]] void throw_not_regular(unsigned mode, Purpose purpose);
 
-/// Throws the Trouble of a path that could not be opened because of this errno. Where the path
-/// leads to something else than a file, the reason is that.
+/// Throws Trouble about a path that could not be opened because of this errno. If the path leads to
+/// something other than a file, that is given as the reason.
 [[noreturn]] void throw_cannot_open(const std::string& path, int error, Purpose purpose);
 
 }  // namespace kelp::input::quill::tool

@@ -9,7 +9,7 @@ namespace kelp::input::quill::tool {
 /// `what`.
 void flush_file(int file, const char* what);
 
-/// Waits until the names in an open folder are on disk: a new name is there only when its folder
+/// Waits until the names in an open folder are on disk: a new name is on disk only when its folder
 /// is. Some file systems cannot flush folders. Throws Trouble when it fails.
 void flush_folder(int folder);
 

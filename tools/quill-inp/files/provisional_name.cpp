@@ -21,8 +21,8 @@ ListedName* first_listed = nullptr;
 std::size_t reasons_to_catch = 0;
 struct sigaction former_actions[signal_count] = {};
 
-/// Lets the program get a signal as if nobody had caught it. What the program does then, it does
-/// before this returns, if it goes on at all.
+/// Lets the program get a signal as if it was not caught. The effect of the signal comes before
+/// this returns, if the program continues at all.
 void pass_on(int signal) {
   for (std::size_t i = 0; i < signal_count; ++i) {
     if (ending_signals[i] == signal) sigaction(signal, &former_actions[i], nullptr);
@@ -37,7 +37,7 @@ void pass_on(int signal) {
 
 extern "C" void remove_listed_names(int signal) {
   const int error = errno;
-  // The other threads would go on to make files, and to change the list.
+  // Otherwise, the other threads would continue to create files and to change the list.
   const HeldThreads held;
   for (const ListedName* name = first_listed; name != nullptr; name = name->next)
     unlinkat(name->folder, name->text.c_str(), 0);
@@ -48,11 +48,12 @@ extern "C" void remove_listed_names(int signal) {
 void catch_signals() {
   struct sigaction action {};
   action.sa_handler = remove_listed_names;
-  // A second of these signals waits for the first: its handler would wait for that one for ever.
+  // A second signal of these waits for the first: otherwise its handler would wait for the first
+  // handler for ever.
   action.sa_mask = ending_signal_set();
   for (std::size_t i = 0; i < signal_count; ++i) {
     sigaction(ending_signals[i], nullptr, &former_actions[i]);
-    // An ignored signal stays ignored: under nohup, the program has to go on.
+    // An ignored signal stays ignored: under nohup, the program has to continue.
     if (former_actions[i].sa_handler != SIG_IGN) sigaction(ending_signals[i], &action, nullptr);
   }
 }

@@ -13,8 +13,8 @@ struct ListedName {
 };
 
 /// As long as an object lives, SIGINT, SIGTERM and SIGHUP are caught, and the listed names are
-/// removed on them. To hold the signals is not enough for a file that is created and then listed:
-/// another thread would still get one, and end the program before the name is in the list.
+/// removed on them. Holding the signals is not enough for a file that is created and then listed:
+/// another thread could still get one, which would end the program before the name is in the list.
 class CaughtSignals {
  public:
   CaughtSignals() noexcept;

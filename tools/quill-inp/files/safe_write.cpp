@@ -25,8 +25,8 @@ namespace {
   throw Trouble("was changed by somebody else after it was read; nothing was written");
 }
 
-/// Throws for a system call that failed on the name of the file. Some errors mean that the name is
-/// not that of the file any more. All others say nothing about the file.
+/// Throws for a system call that failed on the name of the file. Some errors mean that the file
+/// does not have this name any more. All others give no information about the file.
 [[noreturn]] void throw_lost(int error) {
   if (error == ENOENT || error == ENOTDIR || error == ELOOP) throw_changed();
   throw_system_trouble("cannot be examined again, nothing was written", error);
@@ -108,9 +108,9 @@ void place(Backup& backup) {
   }
 }
 
-/// Puts the file in the place of the target and gives the backup, if there is one, its name. Either
-/// both is done or nothing, so that a failed call can be repeated. The backup gets its name first,
-/// so that the old text has a name at every moment.
+/// Replaces the target by the file and gives the backup, if there is one, its name. Either both is
+/// done or nothing, so that a failed call can be repeated. The backup gets its name first, so that
+/// the old text has a name at every moment.
 void place(TemporaryFile& file, std::optional<Backup>& backup, const FileOrigin& target) {
   const HeldSignals held;
   std::optional<ProvisionalName> backup_name;

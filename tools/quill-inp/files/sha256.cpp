@@ -1,7 +1,7 @@
 #include "quill-inp/files/sha256.hpp"
 
-// libmd is on every Debian system, since dpkg needs it. It has one small library without others
-// behind it, so the program starts as fast as before.
+// libmd is on every Debian system, since dpkg needs it. It is one small library that needs no
+// others, so the program starts as fast as before.
 #include <sha2.h>
 
 #include <cstdint>

@@ -61,7 +61,7 @@ bool TemporaryFile::take_free_name(const std::string& name) {
   if (errno == EEXIST) return false;
   if (errno != EPERM && errno != ENOTSUP)
     throw_system_trouble("the backup '" + name + "' cannot be made", errno);
-  // Some file systems have no links. There, a check of the name before the rename has to do.
+  // Some file systems have no links. There, a check of the name before the rename has to suffice.
   struct stat state {};
   if (fstatat(folder_, name.c_str(), &state, AT_SYMLINK_NOFOLLOW) == 0) return false;
   take_place_of(name);

@@ -19,13 +19,13 @@ namespace kelp::input::quill::tool {
 namespace {
 
 constexpr std::chrono::seconds longest_wait{60};  // for other runs of this program
-constexpr mode_t mode_of_new_files = 0666;        // less the bits of the user's mask
+constexpr mode_t mode_of_new_files = 0666;        // without the bits of the user's mask
 
 [[noreturn]] void throw_exists() {
   throw Trouble("exists already and holds another text; use --force to replace it");
 }
 
-/// Replaces the text of a file that is there, if it is another one.
+/// Replaces the text of an existing file, if the new text is different.
 WrittenFile replace(const std::string& path, std::string_view text, ExistingFile existing) {
   const FileOrigin origin = open_for_replacing(path, longest_wait);
   if (!S_ISREG(origin.state.st_mode)) throw Trouble("exists already and is not a regular file");
@@ -42,7 +42,7 @@ void fill(int file, std::string_view text) {
     throw Trouble("the new file does not hold what was written to it");
 }
 
-/// Gives a file without a name its name. Returns false where the system cannot do that.
+/// Gives a file without a name its name. Returns false if the system cannot do that.
 bool give_name(int file, int folder, const std::string& name) {
   const std::string link = "/proc/self/fd/" + std::to_string(file);
   if (linkat(AT_FDCWD, link.c_str(), folder, name.c_str(), AT_SYMLINK_FOLLOW) == 0) return true;
@@ -50,7 +50,7 @@ bool give_name(int file, int folder, const std::string& name) {
   return false;
 }
 
-/// Returns false where the system has no files without a name.
+/// Returns false if the system has no files without a name.
 bool create_without_name(int folder, const std::string& name, std::string_view text) {
 #if defined(O_TMPFILE)
   const FileDescriptor file(open_in(folder, ".", O_TMPFILE | O_RDWR, mode_of_new_files));

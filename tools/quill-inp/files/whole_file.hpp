@@ -1,8 +1,8 @@
 #ifndef KELP_INPUT_QUILL_TOOL_FILES_WHOLE_FILE_HPP
 #define KELP_INPUT_QUILL_TOOL_FILES_WHOLE_FILE_HPP
 
-// Writes a file that need not be there yet. At every moment, even if the program is killed, there
-// is either no file, or the whole text that was there before, or the whole new text.
+// Writes a file that need not exist yet. At every moment, even if the program is killed, there is
+// either no file, or the whole text that was there before, or the whole new text.
 
 #include <string>
 #include <string_view>
@@ -10,7 +10,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// What to do about a file that is there already and holds another text.
+/// What to do about a file that already exists and holds another text.
 enum class ExistingFile { IsRefused, IsReplaced };
 
 /// Whether to wait until the name of a new file is on disk, or to leave that to the caller, who

@@ -14,7 +14,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// What the files of a call have to say together. Several threads may add to it at once.
+/// What is reported about all files of a call together. Several threads may add to it at once.
 class CollectedReports {
  public:
   /// Adds the report of the file that `argument` names. It is kept whole only if `keeps_report`.

@@ -9,7 +9,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// From which severity on a finding makes the answer "no". Nothing stands for never.
+/// The lowest severity of a finding that makes the exit code 1. An empty value means never.
 using FailOn = std::optional<lint::Severity>;
 
 /// Returns what the name of a severity, or "never", says, or nothing for another name.

@@ -7,7 +7,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// Returns findings as the commands by which a log marks lines of a change: one line for each,
+/// Returns findings as the commands that mark lines of a change in a log: one line for each,
 /// "::error file=job.qin,line=4,col=7,title=QL104::message".
 std::string github_form(const FileReport& report);
 

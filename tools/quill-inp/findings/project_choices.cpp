@@ -95,7 +95,7 @@ toml::table parse(std::string_view text, const std::string& name) {
   }
 }
 
-/// Returns the path of the nearest file upwards from a folder, or the empty path.
+/// Returns the path of the file in a folder or in the nearest folder above it, or the empty path.
 fs::path find_file(fs::path folder) {
   for (;;) {
     std::error_code error;

@@ -31,11 +31,11 @@ struct ProjectChoices {
 
 /// Reads the text of such a file, which is called `name` in messages. Throws Trouble, which names
 /// the file and the line, for a text that is not TOML, for a key that is unknown (with the nearest
-/// one that is not), and for a value that means nothing.
+/// one that is not), and for a value without a meaning.
 ProjectChoices parse_project_choices(std::string_view text, const std::string& name);
 
-/// Finds the choices for inputs: those of the file that is nearest upwards from the folder of the
-/// input. It is looked for once for each folder. Several threads may ask at once.
+/// Finds the choices for inputs: those of the file in the folder of the input or in the nearest
+/// folder above it. It searches once for each folder. Several threads may ask at once.
 class ProjectFinder {
  public:
   /// Returns the choices for the input at `path`; "-" is in the current folder. They are empty if

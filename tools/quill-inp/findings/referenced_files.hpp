@@ -9,7 +9,7 @@
 namespace kelp::input::quill::tool {
 
 /// Finds a file that an input refers to, by its path from `folder`, which is empty for the current
-/// folder. A file larger than `limit`, and all but regular files, are not read. Throws nothing.
+/// folder. Only regular files are read, and only up to the size `limit`. Throws nothing.
 lint::ReferencedFile find_referenced_file(const std::string& folder, const std::string& path,
                                           std::uint64_t limit);
 

@@ -10,8 +10,8 @@
 namespace kelp::input::quill::tool {
 
 /// Writes the findings of all files as one log of the format SARIF 2.1.0. Its columns count code
-/// points, and its regions have bytes too. Paths are relative addresses, escaped where they must
-/// be.
+/// points, and its regions have bytes too. Paths are relative addresses, escaped where that is
+/// necessary.
 void write_sarif_form(const std::vector<FileReport>& reports, std::string_view version,
                       const JsonWriter::Sink& sink);
 

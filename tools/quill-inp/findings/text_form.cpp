@@ -25,7 +25,7 @@ std::string_view color_of(lint::Severity severity) {
 /// Whether a byte continues a character of UTF-8.
 bool continues_character(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
 
-/// Returns how many characters a text has that is shown.
+/// Returns how many characters a shown text has.
 std::size_t count_characters(std::string_view shown) {
   return static_cast<std::size_t>(
       std::count_if(shown.begin(), shown.end(), [](char c) { return !continues_character(c); }));

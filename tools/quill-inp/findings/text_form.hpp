@@ -9,7 +9,7 @@ namespace kelp::input::quill::tool {
 
 /// Returns findings for people, each as "path:line:column: severity: message [code]", the line with
 /// carets under the place, and what to do. Columns count bytes; the carets are under the
-/// characters. A long line is shown in part. Bytes that a terminal would obey are escaped.
+/// characters. A long line is shown in part. Bytes that would control a terminal are escaped.
 std::string text_form(const FileReport& report, bool is_colored);
 
 }  // namespace kelp::input::quill::tool

@@ -2,7 +2,7 @@
 #define KELP_INPUT_QUILL_TOOL_FORMATS_DOCUMENT_FORM_HPP
 
 // The form of the JSON of a document, as tables: which members an object may have, what each must
-// be, and where it goes. The reader walks over them and knows nothing of documents.
+// be, and where it goes. The reader goes through these tables and knows nothing about documents.
 
 #include <cstddef>
 #include <cstdint>

@@ -16,7 +16,7 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
-/// Before the first entry of a list, so that counting up gives the first one.
+/// The value before the first entry of a list, so that adding 1 gives the first index.
 constexpr std::size_t before_first = std::numeric_limits<std::size_t>::max();
 
 /// Puts the pieces of a JSON text into a document, each when it comes.
@@ -35,7 +35,7 @@ class DocumentReader : public JsonListener {
 
   void begin_member(const std::string& name) override {
     if (is_in_bytes_) {
-      // The bytes are the only member: any before them, or another, is of something else.
+      // The bytes are the only member: with any other member, the object is something else.
       if (name != bytes_member || has_bytes_) throw_expected(text_form());
       return;
     }

@@ -16,7 +16,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-/// Walks over a text and counts how much of it was read. The JSON library says where it is only
+/// Goes through a text and counts how much of it was read. The JSON library tells its position only
 /// when it finds an error itself.
 class CountedBytes {
  public:
@@ -75,7 +75,8 @@ class Events {
 
   bool null() { return pass_on({}); }
   bool boolean(bool truth) { return pass_on({JsonScalar::Kind::Truth, truth, 0.0, std::string()}); }
-  /// The library reads a number as a signed integer only if it has a sign, and loses that of "-0".
+  /// The library reads a number as a signed integer only if it has a sign, and loses the sign of
+  /// "-0".
   bool number_integer(std::int64_t number) {
     return pass_on(number_scalar(number == 0 ? -0.0 : static_cast<double>(number)));
   }

@@ -18,15 +18,15 @@ namespace kelp::input::quill::tool {
 ///   json.end_object();
 ///   json.finish();  // {"symbol": "He"}
 ///
-/// Memory is allocated only when the writer is made: a text that was begun is not left half written
-/// because memory runs out.
+/// Memory is allocated only when the writer is made, so a text is not left half written because
+/// memory runs out.
 class JsonWriter {
  public:
   /// Takes a piece of the text; never a part of a character.
   using Sink = std::function<void(std::string_view)>;
 
-  /// How the entries of a list or an object are written: each on a line of its own, which is for
-  /// those that are in nothing else or in others of this layout; or with blanks between them.
+  /// How the entries of a list or an object are written: each on its own line, which is only for
+  /// the outermost ones and for those in others of this layout; or with blanks between them.
   enum class Layout { Lines, OneLine };
 
   explicit JsonWriter(Sink sink);

@@ -23,8 +23,8 @@ struct Ambiguity {
 
 bool operator==(const Ambiguity& left, const Ambiguity& right);
 
-/// Adds what else a key fits to a list that holds each entry once. A key with a number names one
-/// command only.
+/// Adds what else a key fits to a list in which each entry occurs once. A key with a number names
+/// one command only.
 void add_ambiguities(const QuillInput& input, const Key& key, std::vector<Ambiguity>& ambiguities);
 
 }  // namespace kelp::input::quill::tool

@@ -20,7 +20,8 @@ namespace kelp::input::quill::tool {
 /// comes after their keyword, with all digits. Returns nothing if the input does not have it.
 std::optional<std::string> answer(const QuillInput& input, const Key& key);
 
-/// Returns whether there is an answer, without making it: that of a long list takes much memory.
+/// Returns whether there is an answer, without making it: the answer for a long list takes much
+/// memory.
 bool has_answer(const QuillInput& input, const Key& key);
 
 /// Returns the command that a key names, or that has the parameter it names; a null pointer if
@@ -48,7 +49,7 @@ struct MissingAnswer {
   std::optional<std::string> similar = std::nullopt;  // the nearest name in the input
 };
 
-/// Returns why there is no answer to a key. The key has none.
+/// Returns why there is no answer to a key. To be called only for such a key.
 MissingAnswer find_missing(const QuillInput& input, std::string_view key_text, const Key& key);
 
 /// Returns the same in words.

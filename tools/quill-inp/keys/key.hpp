@@ -68,7 +68,7 @@ struct Setting {
   std::string key_text = {};
   Key key = CommandKey{};
   std::optional<std::string> value = std::nullopt;
-  /// The command gets this name, and keeps all else; the value is not used.
+  /// The command gets this name and keeps everything else; the value is not used.
   std::optional<std::string> new_name = std::nullopt;
 };
 
@@ -77,7 +77,7 @@ bool has_value(std::string_view setting);
 
 /// Reads a setting. The first "=" without a backslash before it ends the key; the value is all text
 /// after it, unchanged. Throws as parse_key() does, and for a command without a name: an input may
-/// have one, but nobody wants to make one.
+/// contain one, but nobody wants to create one.
 Setting parse_setting(std::string_view text);
 
 /// Returns how the keys that begin with "@" are written, "@charge" and so on, without numbers.

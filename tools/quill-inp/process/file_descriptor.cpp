@@ -46,7 +46,8 @@ std::string read_to_end(int file, std::uint64_t limit, std::uint64_t expected) {
   while (content.size() <= limit) {
     const std::size_t size = content.size();
     const std::size_t prepared = content.capacity() - size;
-    // What a read may fill is filled with zeros first. That costs more than reading a small file.
+    // The memory for a read is filled with zeros first. That takes longer than reading a small
+    // file.
     const std::uint64_t wanted = prepared > 0 ? prepared - 1 : usual_chunk;
     const auto room = static_cast<std::size_t>(std::min(wanted, limit - size)) + 1;
     content.resize(size + room);

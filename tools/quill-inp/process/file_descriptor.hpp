@@ -39,7 +39,7 @@ int open_in(int folder, const std::string& name, int flags, unsigned mode = 0);
 /// `failure`.
 struct stat state_of(int file, const char* failure = "cannot be examined");
 
-/// So many bytes are read at once when nobody knows how many there are.
+/// The number of bytes that are read at once if the size is not known.
 inline constexpr std::uint64_t usual_chunk = std::uint64_t{256} * 1024;
 
 /// Reads from the current position to the end of the file, but at most `limit` bytes and one more,

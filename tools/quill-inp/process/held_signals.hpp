@@ -5,15 +5,15 @@
 
 namespace kelp::input::quill::tool {
 
-/// The signals that a user or the system ends a program with, and that leave it time to clean up.
+/// The signals by which a user or the system ends a program, and which leave it time to clean up.
 inline constexpr int ending_signals[] = {SIGINT, SIGTERM, SIGHUP};
 
 /// Returns the same signals as a set.
 sigset_t ending_signal_set();
 
 /// Holds these signals back as long as the object lives, so that no signal comes between steps that
-/// belong together. Objects may be nested. Of several threads only one has such an object at a
-/// time; the others wait for it, as a signal handler does with HeldThreads.
+/// belong together. Objects may be nested. Only one thread has such an object at a time; other
+/// threads wait for it, as a signal handler does with HeldThreads.
 class HeldSignals {
  public:
   HeldSignals();

@@ -19,7 +19,7 @@ struct StandardStreams {
 };
 
 /// Returns the streams of the process. Call it once, before any file is opened. It makes failures
-/// to write (a closed pipe, a file at its size limit) come back as errors, which the exit code then
+/// to write (a closed pipe, a file at its size limit) return errors, which the exit code then
 /// reports, instead of ending the process. It also takes the descriptors 0, 1 and 2 if they are
 /// free. In a process that was started without one of them, the next file that is opened, perhaps
 /// an input, would get its number, and messages would be written into it. Writing to standard

@@ -15,7 +15,7 @@ enum class ColorMode {
   Never,
 };
 
-/// Returns the mode of a name, "auto", "always" or "never", or nothing for another name.
+/// Returns the mode with a name ("auto", "always" or "never"), or nothing for another name.
 std::optional<ColorMode> find_color_mode(std::string_view name);
 
 /// Returns these names.

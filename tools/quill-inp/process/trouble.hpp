@@ -10,9 +10,9 @@
 namespace kelp::input::quill::tool {
 
 /// Why one file could not be processed. The other files of the call still are. The message does not
-/// name the file; the caller that reports it adds the name. It may hold bytes that a terminal would
-/// obey. `line` is the number, counted from 1, of the line of the file that it is about, if it is
-/// about one.
+/// name the file; the caller that reports it adds the name. It may contain bytes that would control
+/// a terminal. `line` is the number, counted from 1, of the line of the file that it is about, if
+/// it is about one.
 class Trouble : public std::runtime_error {
  public:
   explicit Trouble(const std::string& message, std::optional<std::size_t> line = std::nullopt)

@@ -54,7 +54,7 @@ std::string read_regular_file(Session& session, int file, const struct stat& sta
   return content;
 }
 
-/// Whether a pipe has something to read, or somebody wrote to it and went.
+/// Whether a pipe has something to read, or a writer closed it.
 bool is_ready(int pipe) {
   struct pollfd state {};
   state.fd = pipe;
@@ -62,11 +62,11 @@ bool is_ready(int pipe) {
   return poll(&state, 1, 0) != 0;
 }
 
-/// Returns the first bytes of a pipe that was opened without blocking, none if there are none yet,
-/// and nothing if nobody writes to it: then there is nothing to read and no sign of an end.
+/// Returns the first bytes of a pipe that was opened without blocking, an empty text if there are
+/// none yet, and nothing if no writer has opened it: then there are no bytes and no sign of an end.
 std::optional<std::string> begin_of_pipe(int pipe) {
   if (is_ready(pipe)) return std::string();
-  // A writer may come, write and go between any two of these calls.
+  // A writer may open, write and close the pipe between any two of these calls.
   char first = 0;
   const ssize_t count = read(pipe, &first, 1);
   if (count > 0) return std::string(1, first);

@@ -25,7 +25,7 @@ struct ReadInput {
   std::optional<FileOrigin> origin = std::nullopt;
 };
 
-/// The same without the text, where nothing but the document and the warnings is needed.
+/// The same without the text, if only the document and the warnings are needed.
 struct ReadDocument {
   std::string name = {};
   ParseResult result = {};
@@ -41,8 +41,8 @@ InputSource read_source(Session& session, const std::string& argument);
 ReadInput read_input(Session& session, const std::string& argument);
 ReadDocument read_document(Session& session, const std::string& argument);
 
-/// Gives back the memory of what the reader made of each line, which is that of the text or more.
-/// Text and document stay.
+/// Frees the memory for what the reader made of each line, which is as much as the text takes, or
+/// more. Text and document stay.
 void forget_lines(ReadInput& input);
 
 /// Reads such a file to replace it. Waits at most `patience` for other runs of this program that

@@ -22,15 +22,15 @@ class Output {
   /// The descriptor, if there is one.
   std::optional<int> file() const { return file_; }
 
-  /// Writes data byte for byte, but escapes bytes that a terminal would obey if it is a terminal.
+  /// Writes data byte for byte; on a terminal, escapes bytes that would control it.
   void write(std::string_view data);
 
-  /// Writes text for people. Except for colours, it must not hold anything that a terminal would
-  /// obey.
+  /// Writes text for people. Except for colours, it must not contain anything that would control a
+  /// terminal.
   void write_shown(std::string_view text);
 
-  /// Begins a text that an empty line parts from the text before it. For the first one, no line is
-  /// written, but has_begun_part() tells that there may be a text before it, in another Output.
+  /// Begins a text that an empty line separates from the text before it. For the first one, no line
+  /// is written, but has_begun_part() tells that there may be a text before it, in another Output.
   void begin_part();
   bool has_begun_part() const { return has_begun_part_; }
 

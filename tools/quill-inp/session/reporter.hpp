@@ -17,8 +17,9 @@ struct Place {
   std::optional<std::size_t> line = std::nullopt;
 };
 
-/// Writes messages, "path:line: warning: message", one line each. Bytes that a terminal would obey
-/// are escaped. Failures of the stream are ignored: the exit code still says what happened.
+/// Writes messages, "path:line: warning: message", one line each. Bytes that would control a
+/// terminal are escaped. Failures of the stream are ignored: the exit code still says what
+/// happened.
 class Reporter {
  public:
   /// A quiet reporter writes no warnings and notes.

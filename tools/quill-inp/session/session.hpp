@@ -53,7 +53,7 @@ class Session {
   /// Takes standard input from a session, for a file that is not the first to ask for it.
   void forbid_standard_input() { has_taken_input_ = true; }
 
-  /// Note that the file that is processed was changed, say whether it was, and forget that.
+  /// Note that the current file was changed, return whether it was, and forget it.
   void note_change() { has_changed_ = true; }
   bool has_noted_change() const { return has_changed_; }
   void forget_change() { has_changed_ = false; }

@@ -12,9 +12,9 @@ namespace kelp::input::quill::tool {
 /// The header commands of an input, sorted by their purpose.
 struct CommandRoles {
   std::vector<const HeaderCommand*> tasks = {};      // what to compute
-  std::optional<std::string> model = std::nullopt;   // as InputEditor::model() has it
-  std::optional<std::string> device = std::nullopt;  // as InputEditor::device() has it
-  std::vector<const HeaderCommand*> others = {};     // the rest, a second model line among it
+  std::optional<std::string> model = std::nullopt;   // as InputEditor::model() returns it
+  std::optional<std::string> device = std::nullopt;  // as InputEditor::device() returns it
+  std::vector<const HeaderCommand*> others = {};     // the rest, including a second model line
 };
 
 /// Sorts the commands of `input`. The result has pointers into `input`.

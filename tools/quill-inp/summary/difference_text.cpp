@@ -11,7 +11,7 @@ namespace {
 
 using Kind = InputDifference::Kind;
 
-/// What comes before the values of a difference. Lines speak for themselves.
+/// The text before the values of a difference. Whole lines need none.
 std::string subject_of(const InputDifference& difference) {
   const std::string number = difference.number ? std::to_string(*difference.number) : "";
   switch (difference.kind) {

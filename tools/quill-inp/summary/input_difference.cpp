@@ -18,7 +18,8 @@ namespace {
 
 using Kind = InputDifference::Kind;
 
-/// Which entry of the second list each of the first one is, and the entries that no other one is.
+/// The entries of the second list that match those of the first one, and the entries without a
+/// match.
 struct Matches {
   std::vector<std::optional<std::size_t>> of_before = {};
   std::vector<std::size_t> only_after = {};
@@ -79,7 +80,7 @@ bool is_same(double left, double right) {
   return left == right || (std::isnan(left) && std::isnan(right));
 }
 
-/// Returns how far two coordinates are apart: infinitely if only one of them is a finite number.
+/// Returns the distance of two coordinates: infinite if only one of them is a finite number.
 double distance(double left, double right) {
   if (is_same(left, right)) return 0.0;
   const double difference = left - right;
@@ -90,7 +91,7 @@ double distance(const AtomRecord& left, const AtomRecord& right) {
   const double x = distance(left.x, right.x);
   const double y = distance(left.y, right.y);
   const double z = distance(left.z, right.z);
-  // The function for three arguments makes a NaN of an infinite one.
+  // The function for three arguments gives a NaN for an infinite one.
   return std::hypot(std::hypot(x, y), z);
 }
 

@@ -10,11 +10,11 @@
 #include "quill-inp/formats/json_writer.hpp"
 
 // What differs in the meaning of two inputs. Layout, quotes, the letter case of names, and a line
-// of charge and multiplicity that says what is assumed without it have no part in that.
+// of charge and multiplicity that says what is assumed without it do not count.
 
 namespace kelp::input::quill::tool {
 
-/// One thing that differs. What it is about is in `name` and `number`, as far as its kind has them.
+/// One thing that differs. `name` and `number` say what it is about, as far as its kind has them.
 /// `before` and `after` are empty where an input does not have it; both are for an order and a
 /// move.
 struct InputDifference {
@@ -48,12 +48,13 @@ struct InputDifferences {
   std::vector<InputDifference> first = {};
 };
 
-/// So many differences are kept. Nobody reads more, and two large inputs can differ everywhere.
+/// The number of differences that are kept. Nobody reads more, and two large inputs can differ
+/// everywhere.
 inline constexpr std::size_t most_differences = 1000;
 
 /// Compares two inputs. Commands and parameters are matched by their names, the second of a name
 /// with the second, atoms and references by their numbers, and post-processing lines by what they
-/// say, so that one more does not make all that follow differ.
+/// say, so that one additional line does not make all lines after it differ.
 InputDifferences find_differences(const QuillInput& before, const QuillInput& after);
 
 /// Returns the differences for people, one on a line: "-" for what only the first input has, "+"

@@ -19,10 +19,10 @@ struct SummaryStyle {
   bool has_warnings = true;
 };
 
-/// Writes what a person wants to know of the input that was read from `name`: a line with the
+/// Writes what a person wants to know about the input that was read from `name`: a line with the
 /// name, and one line for each task, the model, the device, other commands, charge and
 /// multiplicity, the geometry with its composition, each file, constraint, scan and raw line, and
-/// each warning if they are wanted. Bytes that a terminal would obey are escaped.
+/// each warning if they are wanted. Bytes that would control a terminal are escaped.
 void write_summary_text(const std::string& name, const ParseResult& result,
                         const SummaryStyle& style, const TextSink& sink);
 

@@ -127,7 +127,7 @@ void write_warning(JsonWriter& json, const DiagnosticParts& warning) {
 
 void write_summary_json(const std::string& name, const ParseResult& result,
                         const JsonWriter::Sink& sink) {
-  // All that takes memory is made before the first byte is written.
+  // Everything that takes memory is made before the first byte is written.
   const CommandRoles roles = sort_commands(result.input);
   const Composition composition = hill_composition(result.input.geometry.atoms);
   const std::string formula = to_formula(composition);

@@ -42,8 +42,8 @@ void append_row(std::string& text, const ManifestEntry& row) {
   text += '\n';
 }
 
-/// The names of members can be any text, but those of JsonWriter are letters. So the values are a
-/// list of pairs.
+/// Keys can be any text, but JsonWriter's names of members are letters. So the values are a list of
+/// pairs.
 void append_object(std::string& text, const std::vector<std::string>& keys,
                    const ManifestEntry& entry) {
   JsonWriter json([&](std::string_view piece) { text += piece; });

@@ -13,8 +13,8 @@ namespace kelp::input::quill::tool {
 using NameFields = std::vector<std::pair<std::string, std::string>>;
 
 /// Returns the name that a pattern such as "jobs/{name}-{opt.maxiter}.qin" makes with these fields;
-/// "{{" and "}}" are braces. Throws UsageError for an unknown field, a brace without its partner,
-/// and a value that has a "/" and would be taken for a folder.
+/// "{{" and "}}" are braces. Throws UsageError for an unknown field, a brace without the other one
+/// of its pair, and a value that has a "/" and would be taken for a folder.
 std::string make_name(std::string_view pattern, const NameFields& fields);
 
 /// Returns the last part of a path without what follows its last dot: "water" for "in/water.qin".

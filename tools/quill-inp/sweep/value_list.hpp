@@ -10,7 +10,7 @@
 
 namespace kelp::input::quill::tool {
 
-/// A key and the values that it is to have, one after another.
+/// A key and the values that it gets, one after another.
 struct ValueList {
   std::string key_text = {};
   Key key = CommandKey{};

@@ -7,8 +7,8 @@
 
 namespace kelp::input::quill::tool {
 
-/// Counts the characters of a text from its beginning to any place, without going there each time.
-/// Keeps the view.
+/// Counts the characters of a text from its beginning to any place, without reading all of them
+/// each time. Keeps the view.
 class CharacterIndex {
  public:
   explicit CharacterIndex(std::string_view text);

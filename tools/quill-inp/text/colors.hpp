@@ -6,8 +6,8 @@
 
 namespace kelp::input::quill::tool {
 
-// The colours of texts for people, as a terminal is told to change to them. What has one meaning
-// has one colour in all verbs.
+// The colours of texts for people, as the codes that a terminal understands. The same meaning has
+// the same colour in all verbs.
 inline constexpr std::string_view error_color = "\x1b[1;31m";
 inline constexpr std::string_view warning_color = "\x1b[1;35m";
 inline constexpr std::string_view note_color = "\x1b[1;36m";

@@ -12,7 +12,7 @@ using Backwards = Lines::const_reverse_iterator;
 using Ids = std::vector<std::size_t>;
 using Known = std::unordered_map<std::string_view, std::size_t>;
 
-// The search takes time and memory for the square of this number.
+// The time and memory of the search grow with the square of this number.
 constexpr std::ptrdiff_t most_differences = 1000;
 
 /// How many lines two texts have in common at their beginning and, of the rest, at their end.

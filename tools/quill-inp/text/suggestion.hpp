@@ -9,9 +9,9 @@
 namespace kelp::input::quill::tool {
 
 /// Returns the name that the user probably wanted to type: the one with the fewest letters changed,
-/// left out, added or swapped with their neighbour, without regard to letter case; the first of
-/// several. Returns nothing when even that one has more than one mistake for every three letters of
-/// `word`, or of the name.
+/// left out, added or swapped with their neighbour, ignoring letter case; the first of several.
+/// Returns nothing when even that one has more than one mistake for every three letters of `word`,
+/// or of the name.
 std::optional<std::string> nearest_name(std::string_view word,
                                         const std::vector<std::string>& names);
 

@@ -17,8 +17,8 @@ struct Range {
   char32_t last;
 };
 
-/// What a terminal obeys, what cannot be seen, and what looks like a blank but is none to the
-/// reader.
+/// What controls a terminal, what cannot be seen, and what looks like a blank but is not one for
+/// the reader.
 constexpr Range not_shown[] = {
     {0x00, 0x1F},        // control characters of ASCII
     {0x7F, 0xA0},        // DEL, the control characters of Unicode, CSI among them, a blank
@@ -73,7 +73,7 @@ void append_escape(std::string& out, char32_t code_point) {
       break;
   }
   // JSON is shown on a terminal, too, and should still be JSON. Its writer escapes what comes
-  // before the blank. All else gets the escapes that JSON has, surrogate pairs included.
+  // before the blank. Everything else gets the escapes that JSON has, including surrogate pairs.
   if (code_point < ' ') {
     out += "\\x";
     append_hexadecimal(out, code_point, 2);

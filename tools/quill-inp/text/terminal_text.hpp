@@ -5,10 +5,10 @@
 //
 //   shown_on_one_line("a\x1b[2Jb");  // a\x1b[2Jb, as eight visible characters
 //
-// A terminal obeys control characters: it clears the screen, moves the cursor, changes its title,
-// or shows the text after a directional override in another order. The author of an input must not
-// be able to do that, so such bytes are shown as escapes. So are characters that nobody can see, or
-// tell from a blank: the reader takes them for text. All other bytes are shown unchanged, even a
+// Control characters make a terminal clear the screen, move the cursor, change its title, or show
+// the text after a directional override in another order. The author of an input must not be able
+// to do that, so such bytes are shown as escapes. So are characters that cannot be seen or look
+// like a blank: the reader takes them for text. All other bytes are shown unchanged, even a
 // backslash: the result is for people, and cannot be turned back into the bytes.
 
 #include <string>

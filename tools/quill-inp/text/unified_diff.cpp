@@ -16,7 +16,7 @@ using Lines = std::vector<std::string_view>;
 
 constexpr std::size_t context = 3;
 
-/// Cuts a text into lines that keep their "\n".
+/// Splits a text into lines that keep their "\n".
 Lines split_with_ends(std::string_view text) {
   Lines lines;
   lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
@@ -117,7 +117,8 @@ std::string header_line(std::string_view sign, std::string_view name) {
 
 bool is_changed(std::string_view line) { return line.front() == '-' || line.front() == '+'; }
 
-/// Whether a line belongs to the changed lines around it: it is one, or says how the last one ends.
+/// Whether a line belongs to the changed lines around it: it is one of them, or says how the last
+/// one ends.
 bool is_of_change(std::string_view line) { return is_changed(line) || line.front() == '\\'; }
 
 constexpr std::string_view dos_end = "\r\n";

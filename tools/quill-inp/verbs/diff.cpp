@@ -25,7 +25,7 @@ constexpr Option files{"FILE", "", "The two inputs"};
 constexpr Option as_json{"--json", "", "Print the differences as JSON"};
 constexpr Option for_git{"--git", "", "Take the arguments that git gives to a diff command"};
 
-constexpr const char* no_file = "/dev/null";  // which git names for a file that is not there
+constexpr const char* no_file = "/dev/null";  // which git names for a file that does not exist
 
 /// The two inputs, and the names by which they are shown.
 struct Pair {
@@ -50,8 +50,8 @@ Pair pair_of(const Session& session, const std::vector<std::string>& words) {
   return {words[0], words[1], session.shown_name(words[0]), session.shown_name(words[1])};
 }
 
-/// Reads an input, and tells of its warnings if they count; what git names for no file is an empty
-/// one.
+/// Reads an input, and reports its warnings if they count; the name that git uses for no file gives
+/// an empty input.
 ExitCode read_one(Session& session, const std::string& argument, bool is_of_git, Warnings warnings,
                   QuillInput& input) {
   if (is_of_git && argument == no_file) return ExitCode::Done;

@@ -20,7 +20,7 @@ ExitCode from_json(Session& session, const CLI::App& app) {
   const OutputFile output = read_output_file(app);
   return for_file(session, argument, [&] {
     InputSource source = read_source(session, argument);
-    // The text, which may be large, is given back before the next one is made.
+    // The text, which may be large, is freed before the next one is made.
     const QuillInput document = document_from_json(std::exchange(source.content, std::string()));
     return print_document(session, source.name, document, policy, output);
   });

@@ -100,7 +100,7 @@ ExitCode print_lines(Session& session, const ReadInput& input, const Question& q
   return code;
 }
 
-/// Prints the answers to all keys, each with its key. One that is missing is there as such.
+/// Prints the answers to all keys, each with its key. A missing answer is printed as missing.
 ExitCode print_json(Session& session, const ReadInput& input, const Question& question) {
   JsonWriter json([&](std::string_view piece) { session.output().write(piece); });
   json.begin_object(JsonWriter::Layout::OneLine);

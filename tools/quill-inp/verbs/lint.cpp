@@ -80,7 +80,7 @@ FailOn fail_on_for(const LintCall& call, const ProjectChoices& project) {
   return project.fail_on.value_or(default_fail_on);
 }
 
-/// Where mended texts go: a file that will be written is locked from before it is read.
+/// Where mended texts go. A file that will be written is locked before it is read.
 Delivery delivery_of_mends(const LintCall& call) {
   Delivery delivery;
   delivery.as_diff = call.fixes && call.shows_diff;
@@ -120,7 +120,7 @@ class Linter {
   CollectedReports& reports() { return reports_; }
 
  private:
-  /// Mends a file in place, or shows how, and goes on with its new text.
+  /// Mends a file in place, or shows the changes, and continues with its new text.
   ExitCode mend_file(Session& session, ReadInput& input, const lint::Options& options,
                      const lint::Selection& selection, const Delivery& delivery) const {
     const auto is_wanted = [&](const lint::Finding& finding) {
@@ -157,7 +157,7 @@ class Linter {
   ProjectFinder projects_ = {};
 };
 
-/// Prints what is about all files together.
+/// Prints what concerns all files together.
 void print_summary(Session& session, Linter& linter, const LintCall& call,
                    const std::vector<std::string>& arguments) {
   if (call.shows_diff) return;
@@ -178,7 +178,7 @@ ExitCode lint_files(Session& session, const CLI::App& app) {
   call.shows_diff = is_given(app, diff);
   if (call.shows_diff && !call.fixes) throw UsageError("--diff needs --fix");
   BatchOptions batch = read_batch_options(app);
-  batch.counted = nullptr;  // the last line has other ones
+  batch.counted = nullptr;  // the last line has other counts
   FileChoice choice = read_file_choice(app, values_of(app, files));
   choice.takes_each_once = call.fixes && !call.shows_diff;
   const ChosenFiles chosen = choose_files(session, choice);

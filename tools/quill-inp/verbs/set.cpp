@@ -23,7 +23,7 @@ constexpr const char* example =
     "all words before --xyz, which takes the words after it as paths. Only the lines that have\n"
     "to change are changed.";
 
-/// Reads the geometry, which may be in a file of its own, and makes the edits.
+/// Reads the geometry, which may be in a separate file, and makes the edits.
 ExitCode set_in_files(Session& session, const CLI::App& app, const FilesAndSettings& given) {
   const NewNames new_names = sets_only_existing(app) ? NewNames::Missing : NewNames::Created;
   const EditOptions options = read_edit_options(app, given.files);

@@ -51,7 +51,7 @@ constexpr Option frames{"--frames", "", "With --atoms, take every frame of a tra
 constexpr Option force{"--force", "", "Replace files that hold another text"};
 constexpr Option manifest{"--manifest", "FILE", "List names, SHA-256 and values: TSV, or .jsonl"};
 
-/// A structure, and where it is from.
+/// A structure, and where it comes from.
 struct Structure {
   std::string file = {};
   std::size_t frame = 1;
@@ -237,7 +237,8 @@ ExitCode write_all(Session& session, const ReadInput& input, const Plan& plan,
         return write_one(one, input, plan, request, number, entries[number]);
       });
   for (const std::string& folder : folders) flush_folder(folder);
-  // The list names only files that hold what it says. So it is written last, and if all is well.
+  // The list names only files that contain what it says. So it is written last, and only if nothing
+  // failed.
   if (code == ExitCode::Done && request.manifest) {
     write_whole_file(*request.manifest,
                      manifest_text(*request.manifest, plan.manifest_keys(), entries),

@@ -159,8 +159,8 @@ AskedParameters list_asked_parameters(const Request& request, const QuillInput& 
   return asked;
 }
 
-/// Notes the parameters that are still there and have the name of a removed one: what the user
-/// wanted to end may still have an effect.
+/// Notes the remaining parameters that have the name of a removed one: what the user wanted to
+/// remove may still have an effect.
 std::vector<EditNote> note_parameters_left(const AskedParameters& asked,
                                            const TrackedDocument& document) {
   std::vector<EditNote> notes;

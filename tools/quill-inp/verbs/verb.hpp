@@ -15,8 +15,8 @@
 
 namespace kelp::input::quill::tool {
 
-/// A verb: its part of the command line, and the action after that was read. `action` throws
-/// UsageError for options that cannot be used together.
+/// A verb: its part of the command line, and the action to carry out after that was read. `action`
+/// throws UsageError for options that cannot be used together.
 struct Verb {
   CLI::App* app = nullptr;
   ExitCode (*action)(Session&, const CLI::App&) = nullptr;
