@@ -22,7 +22,7 @@ if(KELP_QUILL_INP_BUILD_TOOLS)
   include(cmake/install_tool.cmake)
 endif()
 
-# What README.md links to is installed beside it.
+# What README.md links to is installed next to it.
 install(FILES CONTRIBUTING.md SECURITY.md
   DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
 install(DIRECTORY editors

@@ -1,7 +1,7 @@
 """Prepares a Markdown page for the site: page_filter.py PAGE.md
 
 In the tree, pages link to one another by relative path and to a heading by the name that Markdown
-viewers give it ("format.md#the-header"). On the site all pages stand in one folder, and headings
+viewers give it ("format.md#the-header"). On the site all pages are in one folder, and headings
 need names that are unique in it. A link to something that does not exist ends the build. Comments
 are left out.
 """

@@ -3,8 +3,7 @@
 //
 //   cpp              compiled and run (extract_code.cpp)
 //   text, none       after cpp, what that prints; in README.md, the reader's diagnostics of an
-//   input;
-//                    in other places a drawing
+//                    input; in other places a drawing
 //   qin, diagnostics, written
 //                    read and written (format_page_test.cpp)
 //   console          carried out in a shell, with what it prints (tests/tools/quill_inp)
@@ -97,7 +96,7 @@ std::string located(const std::string& path, const std::string& diagnostic) {
          "\n";
 }
 
-TEST(Pages, ShowWhatTheReaderSaysOfTheCarelessInput) {
+TEST(Pages, ShowWhatTheReaderSaysAboutTheCarelessInput) {
   const std::string path = "examples/inputs/careless.qin";
   std::string said;
   for (const std::string& warning : parse_string(content_of_page(path)).warnings)

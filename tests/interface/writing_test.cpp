@@ -11,7 +11,7 @@ namespace kelp::input::quill {
 
 namespace {
 
-/// One job that scans a distance; its geometry holds paths beside the atoms.
+/// One job that scans a distance; its geometry has paths as well as atoms.
 QuillInput water_scan(GeometryKind kind) {
   return {
       {{"opt"},

@@ -206,7 +206,7 @@ void write_odd_files(const TemporaryFolder& folder) {
   folder.write("element_numbers.xyz", "2\nnumbers\n6 0.0 0.0 0.0\n8 0.0 0.0 1.128\n");
 }
 
-TEST(XyzCorpus, IsReadAsItsLinesStand) {
+TEST(XyzCorpus, IsReadLineByLine) {
   const TemporaryFolder odd_files;
   write_odd_files(odd_files);
   EXPECT_EQ(check_folder(odd_files.path()), 5U);

@@ -7,11 +7,11 @@
 
 namespace kelp::input::quill {
 
-/// All that holds for any text: what is read, that the layout does not matter, and what is written
-/// of it. Throws a Violation.
+/// Everything that is true for any text: what is read, that the layout does not matter, and what is
+/// written from it. Throws a Violation.
 void check_text(std::string_view text);
 
-/// All that holds for any document. Throws a Violation.
+/// Everything that is true for any document. Throws a Violation.
 void check_document(const QuillInput& document);
 
 }  // namespace kelp::input::quill

@@ -1,4 +1,4 @@
-// What holds for every document and every edit holds for some thousand that chance makes.
+// Checks what is true for every document and every edit on some thousand random ones.
 
 #include <gtest/gtest.h>
 

@@ -14,7 +14,7 @@
 
 namespace kelp::input::quill::obvious {
 
-/// A header command and what there is to say of its line.
+/// A header command and what is to be said about its line.
 struct HeaderLine {
   HeaderCommand command;
   std::vector<std::string> warnings;

@@ -33,7 +33,7 @@ void check_post_commands(std::string_view text, const ParseResult& result);
 void check_result(std::string_view text, const ParseResult& result);
 
 /// The records of the lines cover every byte of the text, in order, and are those that counting
-/// gives; the result beside them is that of parse_string().
+/// gives; the result together with them is that of parse_string().
 void check_lines(std::string_view text, const ParsedLines& parsed);
 
 /// The document and the warnings do not depend on blanks around lines, on the kind of line ends, on

@@ -21,8 +21,8 @@ bool is_same_special(double left, double right) {
   return left == right && std::signbit(left) == std::signbit(right);
 }
 
-/// Six decimals are within half a millionth; beyond 2^32 the doubles lie further apart than that,
-/// and reading may take the one beside.
+/// Six decimals are within half a millionth; beyond 2^32 the doubles are further apart than that,
+/// and reading may give a neighbour.
 bool is_near(double written, double read) {
   if (!std::isfinite(written) || !std::isfinite(read)) return is_same_special(written, read);
   const double magnitude = std::fabs(written);

@@ -1,5 +1,5 @@
-// What holds for every input holds for the inputs that come with the library, whole, cut short and
-// with a byte changed, and for everything that the fuzzers keep.
+// Checks what is true for every input on the inputs that come with the library, whole, cut short
+// and with a byte changed, and for everything that the fuzzers keep.
 
 #include <gtest/gtest.h>
 

@@ -6,7 +6,8 @@
 #include "kelp/input/quill/quill.hpp"
 #include "properties/reading.hpp"
 
-// What holds for any document and the text that was written of it. Every check throws a Violation.
+// What is true for any document and the text that was written from it. Every check throws a
+// Violation.
 
 namespace kelp::input::quill {
 

@@ -11,7 +11,7 @@
 
 namespace kelp::input::quill {
 
-/// Whether a string stands inside its object, and moves with it, or on the heap.
+/// Whether a string is stored inside its object, and moves with it, or on the heap.
 enum class Length { Short, Long };
 
 /// Whether the document's vectors must move their elements for one more, or have room for it.

@@ -6,7 +6,7 @@
 
 #include "kelp/input/quill/quill.hpp"
 
-// Documents of which every string stands on the heap, so that to copy any of them takes memory.
+// Documents in which every string is on the heap, so that copying any of them takes memory.
 
 namespace kelp::input::quill {
 

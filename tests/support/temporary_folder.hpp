@@ -13,8 +13,8 @@
 
 namespace kelp::input::quill {
 
-/// An empty folder of its own in the system's place for temporary files. It goes, with all that is
-/// in it, when the object does.
+/// A new empty folder in the system's folder for temporary files. It is removed, with everything in
+/// it, when the object is destroyed.
 class TemporaryFolder {
  public:
   TemporaryFolder() : path_(make_new_folder()) {}

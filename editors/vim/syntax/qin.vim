@@ -2,8 +2,8 @@
 " Language: QUILL inputs
 "
 " Every line is an item that says which lines may follow it, as the library reads them: the header,
-" charge and multiplicity, coordinates, post-processing lines. So "A 2 1 3" right behind inline
-" atoms is shown as the atom that it is, and "#opt" behind the header as text.
+" charge and multiplicity, coordinates, post-processing lines. So "A 2 1 3" right after inline
+" atoms is shown as the atom that it is, and "#opt" after the header as text.
 
 if exists('b:current_syntax')
   finish

@@ -291,7 +291,7 @@ TEST(ParameterQuoting, LeavesABareNameAlone) {
   EXPECT_EQ(quoted_parameter({"it's"}, Place::BeforeOthers), std::nullopt);
 }
 
-TEST(ParameterQuoting, DoesNotDependOnTheParametersBesideIt) {
+TEST(ParameterQuoting, DoesNotDependOnTheOtherParameters) {
   std::vector<std::string> values;
   for_each_text("a'\", ", 2, [&](const std::string& text) { values.push_back(text); });
   for (const std::string& first : values) {

@@ -7,7 +7,7 @@
 
 #include "lossless/properties/edits.hpp"
 
-// What holds for any text and any edits. The expectations do not use the code under test: the
+// What is true for any text and any edits. The expectations do not use the code under test: the
 // editor gives the wanted document, cutting at "\n" gives the lines, and the equality of the tests
 // decides what is equal.
 

@@ -1,5 +1,5 @@
-// What holds for the findings of any text, on the inputs that come with the library, on everything
-// that the fuzzers keep, and on the inputs of the pages with odd bytes in every place.
+// Checks what is true for the findings of any text, on the inputs that come with the library, on
+// everything that the fuzzers keep, and on the inputs of the pages with odd bytes in every place.
 
 #include <gtest/gtest.h>
 

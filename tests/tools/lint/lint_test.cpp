@@ -117,7 +117,7 @@ TEST(KnownNames, AreThoseOfTheProjectAndOfOtherInputs) {
   EXPECT_THAT(codes_of(find_all(read, options)), testing::IsEmpty());
 }
 
-TEST(LargestChange, DecidesWhichRuleSpeaks) {
+TEST(LargestChange, DecidesWhichRuleApplies) {
   const lossless::ReadText read = lossless::read_text("#opt\n0 1\nHe 0 0 0.1234564\n");
   Options options;
   EXPECT_THAT(codes_of(find_all(read, options)), testing::ElementsAre("QL504"));

@@ -44,16 +44,16 @@ TEST_P(PageOfARule, HasItsTitleAndTheOtherHeadingsInTheirOrder) {
   EXPECT_EQ(page().substr(page().size() - 2), ".\n");
 }
 
-TEST_P(PageOfARule, ShowsABadInputThatDrawsThisRuleAlone) {
+TEST_P(PageOfARule, ShowsABadInputWithFindingsOfThisRuleOnly) {
   EXPECT_THAT(codes_of(findings_of(bad())), testing::ElementsAre(GetParam().code))
       << with_marks(bad(), findings_of(bad()));
 }
 
-TEST_P(PageOfARule, ShowsAMendedInputThatDrawsNoRule) {
+TEST_P(PageOfARule, ShowsAMendedInputWithoutFindings) {
   EXPECT_EQ(with_marks(mended(), findings_of(mended())), mended());
 }
 
-TEST_P(PageOfARule, SaysOfASafeMendThatItIs) {
+TEST_P(PageOfARule, SaysWhetherTheMendIsSafe) {
   const Findings findings = findings_of(bad());
   const bool is_mended =
       !findings.empty() && findings.front().mend && findings.front().mend->is_safe;

@@ -50,7 +50,7 @@ TEST(OutOfMemory, ForOneFileStopsNoOther) {
   }
 }
 
-TEST(OutOfMemory, LeavesTheOldTextAloneOrTheNewTextBesideItsBackup) {
+TEST(OutOfMemory, LeavesTheOldTextOrTheNewTextWithItsBackup) {
   const std::string input = "1\n\nHe 0 0 1\n";
   const std::string old_text = "0 1\nHe 0 0 0\n";
   const std::string new_text = "0 1\nHe       0.000000      0.000000      1.000000\n";
@@ -201,7 +201,7 @@ TEST(LastingShortage, OfHelpEndsTheProgramWithItsMessage) {
   expect_end_with_message({"", {"help", "set"}, ""}, true);
 }
 
-TEST(LastingShortage, LeavesNoFileBehindButTheOldOne) {
+TEST(LastingShortage, LeavesNoFileExceptTheOldOne) {
   const std::string old_text = "0 1\nHe 0 0 0\n";
   const std::string input = "1\n\nHe 0 0 1\n";
   const TemporaryFolder folder;

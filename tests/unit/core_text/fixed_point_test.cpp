@@ -45,13 +45,13 @@ TEST(FixedPoint, TakesEightToSixteenBytesWithThePointAmongTheFirstEightAndNotAtT
   }
 }
 
-TEST(FixedPoint, LeavesTextsWithoutAPoint) {
+TEST(FixedPoint, DoesNotReadTextsWithoutAPoint) {
   for (std::size_t size = shortest; size <= longest; ++size) {
     EXPECT_EQ(read_within_digits(std::string(size, '7')), std::nullopt) << size;
   }
 }
 
-TEST(FixedPoint, LeavesTextsWithAnythingButDigitsBesideThePoint) {
+TEST(FixedPoint, DoesNotReadTextsWithOtherCharactersThanDigitsAndAPoint) {
   for (std::size_t size = shortest; size <= longest; ++size) {
     for (std::size_t point = 0; point <= last_place_of_point; ++point) {
       for (std::size_t place = 0; place < size; ++place) {

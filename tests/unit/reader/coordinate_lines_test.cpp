@@ -119,7 +119,7 @@ void PrintTo(const TextRow& row, std::ostream* out) { *out << testing::PrintToSt
 
 class OtherLine : public testing::TestWithParam<TextRow> {};
 
-TEST_P(OtherLine, IsNoReferenceAndChangesNothing) {
+TEST_P(OtherLine, IsNotAReferenceAndChangesNothing) {
   std::string keyword = "before";
   std::string path = "before";
   EXPECT_FALSE(parse_xyz_reference(GetParam().line, keyword, path));

@@ -26,7 +26,7 @@ std::string bytes_of_size(std::size_t size) {
   return bytes;
 }
 
-TEST(FileContent, IsEveryByteAsItStands) {
+TEST(FileContent, IsEveryByteUnchanged) {
   const TemporaryFolder folder;
   const std::string content = every_byte() + "\r\n\r\n\n" + every_byte();
   EXPECT_EQ(read_file_content(folder.write("bytes", content)), content);

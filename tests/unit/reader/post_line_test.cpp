@@ -138,7 +138,7 @@ void PrintTo(const RawRow& row, std::ostream* out) { *out << testing::PrintToStr
 
 class RawLine : public testing::TestWithParam<RawRow> {};
 
-TEST_P(RawLine, IsKeptAsItStands) {
+TEST_P(RawLine, IsKeptUnchanged) {
   EXPECT_EQ(read_post_line(GetParam().line), raw(GetParam().line));
 }
 

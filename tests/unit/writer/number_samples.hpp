@@ -26,7 +26,7 @@ std::vector<double> short_decimals();
 /// converted in integers and both borders of their range.
 std::vector<double> every_small_exponent();
 
-/// Numbers that lie exactly half-way between two millionths.
+/// Numbers that are exactly half-way between two millionths.
 std::vector<double> exact_ties();
 
 /// The doubles closest to a half-way point between two millionths, with their neighbours.

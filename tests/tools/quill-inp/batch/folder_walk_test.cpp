@@ -65,7 +65,7 @@ TEST_F(FolderWalk, KeepsTheFolderAsItIsSpelled) {
             Names{folder_.path("b") + "/z.qin"});
 }
 
-TEST_F(FolderWalk, TellsOfAFolderThatCannotBeRead) {
+TEST_F(FolderWalk, ReportsAFolderThatCannotBeRead) {
   std::vector<std::pair<std::string, int>> failures;
   const Names files =
       find_files(folder_.path("none"), {"*"},

@@ -23,7 +23,8 @@
 namespace kelp::input::quill::tool {
 namespace {
 
-/// The text of a line that the reader keeps beside its meaning does not count for the comparison.
+/// The text of a line, which the reader keeps in addition to its meaning, does not count in the
+/// comparison.
 QuillInput without_lines(QuillInput input) {
   for (PostCommand& command : input.post_commands) {
     if (command.kind != PostCommandKind::Raw) command.raw_text.clear();

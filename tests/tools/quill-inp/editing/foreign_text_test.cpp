@@ -1,5 +1,5 @@
-// Files that are no inputs, as they lie about in the folder of a job: no verb that writes changes
-// them unless it is told to.
+// Files that are not inputs, such as there may be in the folder of a job: no verb that writes
+// changes them unless it is told to.
 
 #include <gtest/gtest.h>
 

@@ -30,7 +30,7 @@ TEST_P(FolderThatCannotBeFlushed, IsNotAnErrorWhereTheFileSystemCannotDoThat) {
   EXPECT_EQ(write.content(), changed_water());
 }
 
-TEST_P(FolderThatCannotBeFlushed, IsOfNoHelpToAFileThatCannotBe) {
+TEST_P(FolderThatCannotBeFlushed, DoesNotExcuseAFileThatCannotBe) {
   const std::vector<std::string> calls = calls_of_a_write();
   FaultyWrite write;
   EXPECT_EQ(

@@ -68,7 +68,7 @@ TEST(HardLinks, AreNotBrokenUnlessAsked) {
   EXPECT_EQ(content_of(folder.path("other")), water);
 }
 
-TEST(Backup, KeepsTheOldTextBesideTheFile) {
+TEST(Backup, KeepsTheOldTextNextToTheFile) {
   const TemporaryFolder folder;
   const std::string path = folder.write("a.qin", water);
   EXPECT_EQ(run_in(folder.path(), {"set", "-q", "-i", "--backup", "a.qin", "model=m2"}),
@@ -98,7 +98,7 @@ TEST(Backup, IsGoneWhenFilesMayNotGrowAndNotInTheWayOfTheNext) {
   EXPECT_EQ(content_of(path + ".bak"), water);
 }
 
-TEST(Backup, IsBesideTheFileThatALinkLeadsTo) {
+TEST(Backup, IsNextToTheFileThatALinkLeadsTo) {
   const TemporaryFolder folder;
   ASSERT_EQ(mkdir(folder.path("real").c_str(), 0755), 0);
   folder.write("real/job.qin", water);

@@ -31,7 +31,7 @@ TEST(Write, KilledAtAnyCallLeavesTheOldOrTheNewText) {
   }
 }
 
-TEST(Write, KilledAtAnyCallLeavesTheOldOrTheNewTextBesideABackup) {
+TEST(Write, KilledAtAnyCallLeavesTheOldOrTheNewTextWithABackup) {
   const std::vector<std::string> calls = calls_of_a_write(true);
   for (std::size_t call = 1; call <= calls.size(); ++call) {
     FaultyWrite write(true);

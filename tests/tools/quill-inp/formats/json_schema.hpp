@@ -7,7 +7,7 @@ namespace kelp::input::quill::tool {
 
 /// Returns whether `value` is valid under `schema`, whose root is the schema itself. Knows the
 /// keywords that the published schema uses; one that it does not know throws std::runtime_error, so
-/// that none is passed over.
+/// that none is ignored.
 bool is_valid(const nlohmann::json& value, const nlohmann::json& schema);
 
 }  // namespace kelp::input::quill::tool

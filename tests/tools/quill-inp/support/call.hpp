@@ -20,11 +20,11 @@ struct Call {
 
 inline void PrintTo(const Call& call, std::ostream* stream) { *stream << call.name; }
 
-/// Returns the outcome of a call that is refused for what its message says of a line of a file.
+/// Returns the outcome of a call that is refused, with a message about a line of a file.
 Outcome refused_at(const std::string& name, int line, const std::string& message);
 
-/// Runs the call in a folder of its own, which holds the files below and nothing else, and expects
-/// its outcome, and that the call left all of them as they were.
+/// Runs the call in a separate folder, which contains only the files below, and expects its
+/// outcome, and that the call did not change any of them.
 ///
 ///   water.qin     canonical: an optimisation, a model, charge and multiplicity, three atoms
 ///   by_hand.qin   the same in a layout of its own, with quotes, DOS line ends and no last line end

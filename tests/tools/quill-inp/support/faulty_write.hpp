@@ -17,8 +17,8 @@ namespace kelp::input::quill::tool {
 inline constexpr unsigned mode = 0640;
 inline constexpr const char* backup_name = "a.qin.bak";
 
-/// A file in a folder of its own, and a program that is told to change it, one of whose system
-/// calls can be made to fail.
+/// A file in a separate folder, and a program that is told to change it. One of its system calls
+/// can be made to fail.
 class FaultyWrite {
  public:
   explicit FaultyWrite(bool keeps_backup = false);
@@ -50,8 +50,8 @@ class FaultyWrite {
   /// The names in the folder, without that of the file.
   std::vector<std::string> others() const;
 
-  /// The expected names after a call that could clean up: a backup beside the new text, if it was
-  /// asked for, and nothing beside the old text.
+  /// The expected names after a call that could clean up: a backup next to the new text, if it was
+  /// asked for, and nothing next to the old text.
   std::vector<std::string> others_wanted() const;
 
   /// Whether no file in the folder gives anybody more rights than the target does.

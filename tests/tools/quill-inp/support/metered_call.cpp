@@ -33,7 +33,7 @@ class FirstFile : public std::streambuf {
   std::uint64_t allocations_before_ = 0;
 };
 
-/// What is written, without allocating: a stream would take a failure of that for one to write.
+/// What is written, without allocating: a stream would treat a failed allocation as a failed write.
 class Captured : public std::streambuf {
  public:
   Captured() { setp(data_.data(), data_.data() + data_.size()); }

@@ -193,7 +193,7 @@ TEST(LintOfSeveralFiles, KnowsTheNamesThatTwoOfThemUse) {
                   "quill-inp: note: 3 files read, 1 with findings\n"));
 }
 
-TEST(LintOfReferences, LooksBesideTheInput) {
+TEST(LintOfReferences, LooksInTheFolderOfTheInput) {
   const TemporaryFolder folder;
   std::filesystem::create_directories(folder.path("jobs/structures"));
   folder.write("jobs/he.xyz", "1\n\nHe 0 0 0\n");
