@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Changes the sources of the libraries, and those of the tool that edit, write and convert, at one
 # point at a time and says how many of the changes the tests notice. Fails when fewer than 96 in 100 of
-# the libraries or 90 in 100 of the tool and of the library for front ends are noticed, and when one is not that is not listed with its
-# reason in tests/mutation/equivalent.txt.
+# the libraries or 90 in 100 of the tool and of the library for front ends are noticed, and when a
+# change that is not noticed is not listed with its reason in tests/mutation/equivalent.txt.
 #
 #   scripts/mutate.sh                        every change, some hours on two cores
 #   scripts/mutate.sh src sisters            those of the libraries, half an hour

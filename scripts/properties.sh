@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs the tests of what holds for every input, and says how many they are and how many statements
+# Runs the tests of what is true for every input, and says how many they are and how many statements
 # about inputs they have checked.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
