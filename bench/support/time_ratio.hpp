@@ -8,7 +8,7 @@ namespace kelp::input::quill::bench {
 using Work = std::function<void()>;
 
 /// How long one work takes, as a multiple of another: the median over all rounds, and the two
-/// values between which half of the rounds lie.
+/// values between which half of the rounds are.
 struct TimeRatio {
   double median;
   double lower_quartile;

@@ -16,7 +16,8 @@ namespace kelp::input::quill::python {
 /// Returns three doubles for each atom.
 py::bytearray positions_of(const std::vector<AtomRecord>& atoms);
 
-/// Returns the atomic number of each atom as a 64-bit integer, and 0 for what is no element.
+/// Returns the atomic number of each atom as a 64-bit integer, and 0 for a symbol that is not an
+/// element's.
 py::bytearray numbers_of(const std::vector<AtomRecord>& atoms);
 
 py::list symbols_of(const std::vector<AtomRecord>& atoms);

@@ -10,8 +10,8 @@ namespace kelp::input::quill::python {
 namespace py = pybind11;
 
 /// Declares a class of which only C++ makes objects. Otherwise `Class.__new__(Class)` and a class
-/// derived from it would give objects that no constructor saw, and a use of one would read memory
-/// that nobody wrote.
+/// derived from it would give objects without a call of a constructor, and using one would read
+/// memory that was never written.
 template <typename T>
 py::class_<T, std::shared_ptr<T>> sealed_class(py::module_& module, const char* name) {
   py::class_<T, std::shared_ptr<T>> declared(

@@ -12,7 +12,7 @@
 // stand for parts of it.
 //
 // All functions but the bodies of `reading` run while the interpreter is locked. A change also
-// waits until no thread reads the document without that lock, so that a long reading may go on
+// waits until no thread reads the document without that lock, so that a long read can continue
 // while other threads run Python.
 
 namespace kelp::input::quill::python {

@@ -49,7 +49,7 @@ struct NewText {
 };
 
 /// Such a text with its proof, set even if the proof does not hold, so that a caller who accepts a
-/// loss can go on.
+/// loss can continue.
 struct SurgicalEdit : NewText {
   /// Whether `text` reads back as the document.
   Proof proof = {};
