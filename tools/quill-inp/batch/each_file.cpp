@@ -145,6 +145,19 @@ class Batch {
   ExitCode worst_ = ExitCode::Done;
 };
 
+/// The texts of the other files would be written into an input that is also the output.
+ExitCode require_all_apart_from_output(Session& session, const std::vector<std::string>& files) {
+  ExitCode code = ExitCode::Done;
+  for (const std::string& file : files) {
+    const auto require_apart = [&] {
+      require_apart_from_output(session, file);
+      return ExitCode::Done;
+    };
+    code = worse_of(code, for_file(session, file, require_apart));
+  }
+  return code;
+}
+
 }  // namespace
 
 ExitCode for_file(Session& session, const std::string& argument,
@@ -179,16 +192,10 @@ ExitCode for_each_file(Session& session, const ChosenFiles& files, const BatchOp
 
 ExitCode for_each_number(Session& session, const ChosenFiles& files, const BatchOptions& options,
                          const NumberedAction& action) {
-  // The texts of the other files would be written into this input, too.
-  ExitCode code = ExitCode::Done;
-  for (const std::string& file : files.files) {
-    const auto require_apart = [&] {
-      require_apart_from_output(session, file);
-      return ExitCode::Done;
-    };
-    code = worse_of(code, for_file(session, file, require_apart));
+  if (session.output().goes_into_regular_file()) {
+    const ExitCode code = require_all_apart_from_output(session, files.files);
+    if (code != ExitCode::Done) return code;
   }
-  if (code != ExitCode::Done) return code;
   return worse_of(files.code, Batch(session, files.files, options, action).run());
 }
 

@@ -7,6 +7,7 @@
 #include <map>
 #include <set>
 #include <string_view>
+#include <unordered_set>
 
 #include "kelp/core/text.hpp"
 #include "kelp/input/quill/reader.hpp"
@@ -25,6 +26,7 @@ constexpr std::uint64_t longest_header = std::uint64_t{64} * 1024;
 constexpr std::size_t files_in_a_piece = 32;
 
 using Names = std::vector<std::string>;
+using Counts = std::map<std::string, std::size_t>;  // of files, by the name that they use
 
 std::string read_beginning(const std::string& path) {
   // Not blocking, so that a pipe without a writer has no names.
@@ -52,22 +54,24 @@ std::string_view header_of(std::string_view text) {
   return text.substr(0, end);
 }
 
-/// Adds the names that a file uses, each once.
-void append_names(const std::string& path, Names& names) {
+/// Counts the names that a file uses, each once.
+void count_names(const std::string& path, Counts& counts) {
   if (path == "-") return;
   std::set<std::string> own;
   for (const std::string& name :
        parse_string(header_of(read_beginning(path))).input.command_names())
     own.insert(normalize_command_name(name));
-  names.insert(names.end(), own.begin(), own.end());
+  for (const std::string& name : own) ++counts[name];
 }
 
-/// Counts in how many files each name is.
+/// Counts in how many files each name is. Keeps pointers to the names of the files.
 class Census {
  public:
-  explicit Census(const std::vector<std::string>& files) : files_(files.begin(), files.end()) {
-    std::sort(files_.begin(), files_.end());
-    files_.erase(std::unique(files_.begin(), files_.end()), files_.end());
+  explicit Census(const std::vector<std::string>& files) {
+    std::unordered_set<std::string_view> known;
+    for (const std::string& file : files) {
+      if (known.insert(file).second) files_.push_back(&file);
+    }
   }
 
   void take(unsigned threads) {
@@ -101,22 +105,22 @@ class Census {
     do_in_order(pieces, threads);
   }
 
-  Names& found_in(std::size_t piece) { return found_[piece % found_.size()]; }
+  Counts& found_in(std::size_t piece) { return found_[piece % found_.size()]; }
 
   void read_piece(std::size_t number) {
-    Names names;
+    Counts counts;
     const std::size_t end = std::min(files_.size(), (number + 1) * files_in_a_piece);
-    for (std::size_t i = number * files_in_a_piece; i < end; ++i) append_names(files_[i], names);
-    found_in(number) = std::move(names);
+    for (std::size_t i = number * files_in_a_piece; i < end; ++i) count_names(*files_[i], counts);
+    found_in(number) = std::move(counts);
   }
 
   void count_piece(std::size_t number) {
-    for (const std::string& name : found_in(number)) ++counts_[name];
+    for (const auto& [name, count] : found_in(number)) counts_[name] += count;
   }
 
-  std::vector<std::string> files_;
-  std::vector<Names> found_ = {};  // of the pieces, by their numbers within the window
-  std::map<std::string, std::size_t> counts_ = {};
+  std::vector<const std::string*> files_ = {};  // each once
+  std::vector<Counts> found_ = {};              // of the pieces, by their numbers within the window
+  Counts counts_ = {};
 };
 
 }  // namespace

@@ -14,6 +14,7 @@ namespace kelp::input::quill::tool {
 namespace {
 
 constexpr std::size_t window_of_a_thread = 16;
+constexpr std::size_t pieces_of_a_window = 4;  // in so many turns it is delivered
 constexpr std::chrono::milliseconds time_to_wait{100};
 
 /// Whether a piece is done, and what it threw.
@@ -59,6 +60,7 @@ class Workers {
       const std::lock_guard<std::mutex> lock(mutex_);
       done_[i % done_.size()] = {};
       delivered_ = i + 1;
+      --waiting_;
       may_begin_.notify_one();
     }
   }
@@ -79,12 +81,21 @@ class Workers {
       }
       lock.lock();
       done_[number % done_.size()] = {true, error};
-      is_done_.notify_one();
+      ++waiting_;
+      if (error || is_worth_waking()) is_done_.notify_one();
       if (next_ == pieces_.count) may_begin_.notify_all();
     }
   }
 
   bool is_over() const { return is_stopped_ || next_ == pieces_.count; }
+
+  /// To wake the calling thread for a small piece takes longer than the piece, so several wait for
+  /// it. It looks by itself after a while, too.
+  bool is_worth_waking() const {
+    const bool are_several = waiting_ >= done_.size() / pieces_of_a_window;
+    return (are_several || delivered_ + waiting_ == pieces_.count) &&
+           done_[delivered_ % done_.size()].is_done;
+  }
 
   std::exception_ptr wait_for(std::size_t number) {
     std::unique_lock<std::mutex> lock(mutex_);
@@ -104,6 +115,7 @@ class Workers {
   std::vector<Done> done_;     // of the pieces from delivered_ on
   std::size_t next_ = 0;       // to begin
   std::size_t delivered_ = 0;  // so many
+  std::size_t waiting_ = 0;    // so many are done and not delivered
   bool is_stopped_ = false;
   std::vector<std::thread> threads_ = {};
 };

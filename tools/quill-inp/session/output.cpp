@@ -58,6 +58,11 @@ bool Output::goes_into(const struct stat& file) const {
          state.st_dev == file.st_dev && state.st_ino == file.st_ino;
 }
 
+bool Output::goes_into_regular_file() const {
+  struct stat state {};
+  return file_ && fstat(*file_, &state) == 0 && S_ISREG(state.st_mode);
+}
+
 std::optional<std::string> Output::find_failure() {
   if (!has_written_) return std::nullopt;
   errno = 0;

@@ -42,6 +42,9 @@ class Output {
   /// terminal or /dev/null, may be read and written at the same time.
   bool goes_into(const struct stat& file) const;
 
+  /// Returns whether data goes into any regular file.
+  bool goes_into_regular_file() const;
+
   /// Returns why some data could not be written, or nothing if all of it was.
   std::optional<std::string> find_failure();
 

@@ -98,6 +98,19 @@ TEST(OrderedWork, PassesTimeWhileItWaits) {
   EXPECT_TRUE(has_waited);
 }
 
+TEST(OrderedWork, DeliversTheFirstPieceWhileAnotherOneTakesLong) {
+  std::atomic<bool> is_delivered{false};
+  OrderedWork pieces;
+  pieces.count = 2;
+  pieces.work = [&](std::size_t number) {
+    while (number == 1 && !is_delivered) std::this_thread::yield();
+  };
+  pieces.deliver = [&](std::size_t) { is_delivered = true; };
+  pieces.pass_time = [] {};
+  do_in_order(pieces, 2);
+  EXPECT_TRUE(is_delivered);
+}
+
 TEST(OrderedWork, DoesNothingForNothing) {
   OrderedWork pieces;
   do_in_order(pieces, 2);
