@@ -18,6 +18,9 @@ void bind_editor(pybind11::module_& module);
 void bind_builder(pybind11::module_& module);
 void bind_reader(pybind11::module_& module);
 void bind_lint(pybind11::module_& module);
+void bind_losses(pybind11::module_& module);
+void bind_text_edit(pybind11::module_& module);
+void bind_document_json(pybind11::module_& module);
 
 }  // namespace kelp::input::quill::python
 

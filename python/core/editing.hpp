@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/handles.hpp"
+#include "core/text_edit.hpp"
 #include "kelp/input/quill/editor.hpp"
 
 namespace kelp::input::quill::python {
@@ -46,12 +47,18 @@ auto edit(const Document& document, Touches touches, Operation operation) {
   return operation(editing.editor());
 }
 
-/// Asks the editor.
-template <typename Question>
-auto ask(const Document& document, Question question) {
-  return edit(document, Touches::Nothing,
-              [&](const InputEditor& editor) { return question(editor); });
+/// Calls it for a text under edit, of which no object shows an entry.
+template <typename Operation>
+auto edit(TextEdit& text, Touches, Operation operation) {
+  return operation(text.document);
 }
+
+/// Which entries go when an atom is added: all, if they are no atoms.
+inline Touches touches_of_added_atom(const Document& document) {
+  const bool are_atoms = document.tree->input.geometry.kind == GeometryKind::Atoms;
+  return are_atoms ? Touches::Nothing : Touches::Atoms;
+}
+inline Touches touches_of_added_atom(const TextEdit&) { return Touches::Nothing; }
 
 }  // namespace kelp::input::quill::python
 

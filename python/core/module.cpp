@@ -14,4 +14,7 @@ PYBIND11_MODULE(_core, module) {
   bind_builder(module);
   bind_reader(module);
   bind_lint(module);
+  bind_losses(module);
+  bind_text_edit(module);
+  bind_document_json(module);
 }

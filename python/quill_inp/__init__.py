@@ -24,6 +24,7 @@ from quill_inp._atom import AtomRecord
 from quill_inp._builder import InputBuilder
 from quill_inp._command import CommandParameter, HeaderCommand, find_parameter_index
 from quill_inp._document import QuillInput, normalize_command_name
+from quill_inp._edit import TextEdit, edit
 from quill_inp._editor import InputEditor
 from quill_inp._geometry import GeometryBlock
 from quill_inp._kinds import (
@@ -34,6 +35,7 @@ from quill_inp._kinds import (
     Severity,
 )
 from quill_inp._lint import Finding, lint
+from quill_inp._losses import LossError
 from quill_inp._parts import PartList
 from quill_inp._post_command import PostCommand
 from quill_inp._reader import (
@@ -62,6 +64,7 @@ __all__ = [
     "InputWarning",
     "LineRecord",
     "LineRole",
+    "LossError",
     "ParseResult",
     "ParsedLines",
     "PartList",
@@ -69,6 +72,8 @@ __all__ = [
     "PostCommandKind",
     "QuillInput",
     "Severity",
+    "TextEdit",
+    "edit",
     "find_parameter_index",
     "lines",
     "lint",

@@ -9,6 +9,7 @@ from quill_inp._document import (
     QuillInput as QuillInput,
     normalize_command_name as normalize_command_name,
 )
+from quill_inp._edit import TextEdit as TextEdit, edit as edit
 from quill_inp._editor import InputEditor as InputEditor
 from quill_inp._geometry import GeometryBlock as GeometryBlock
 from quill_inp._kinds import (
@@ -19,6 +20,7 @@ from quill_inp._kinds import (
     Severity as Severity,
 )
 from quill_inp._lint import Finding as Finding, lint as lint
+from quill_inp._losses import LossError as LossError
 from quill_inp._parts import PartList as PartList
 from quill_inp._post_command import PostCommand as PostCommand
 from quill_inp._reader import (
@@ -47,6 +49,7 @@ __all__ = [
     "InputWarning",
     "LineRecord",
     "LineRole",
+    "LossError",
     "ParseResult",
     "ParsedLines",
     "PartList",
@@ -54,6 +57,8 @@ __all__ = [
     "PostCommandKind",
     "QuillInput",
     "Severity",
+    "TextEdit",
+    "edit",
     "find_parameter_index",
     "lines",
     "lint",

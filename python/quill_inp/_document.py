@@ -9,6 +9,10 @@ from quill_inp._parts import Part, list_member, part_of
 from quill_inp._post_command import PostCommand
 
 
+# How much a number may change when it is written with six decimals.
+MAX_CHANGE = 1e-6
+
+
 def take_command(value):
     """Returns what C++ holds of a command."""
     return part_of(HeaderCommand, value)
@@ -95,6 +99,33 @@ class QuillInput(Part):
         """Returns the canonical text. Nothing is quoted or escaped."""
         return self._part.text()
 
+    def sha256(self):
+        """Returns the SHA-256 of the canonical text, with quotes around values that need them: what
+        `quill-inp hash` prints for the document. Raises LossError if no text says what the document
+        says.
+        """
+        import hashlib
+
+        text = _core.proved_text(self._part, MAX_CHANGE, False)
+        return hashlib.sha256(text.encode("utf-8", "surrogateescape")).hexdigest()
+
+    def to_dict(self):
+        """Returns the document as the JSON of `quill-inp json`, in dicts and lists. Nothing is lost:
+        a str that is not UTF-8 becomes {"bytes": "6869ff"}, a number that is not finite its name.
+        """
+        import json
+
+        return json.loads(_core.json_of(self._part))
+
+    @classmethod
+    def from_dict(cls, members):
+        """Returns the document that such a dict describes. Raises ValueError, with the place, for a
+        dict of another form; unknown members are refused.
+        """
+        import json
+
+        return cls._of(_core.document_from_json(json.dumps(members, allow_nan=False)))
+
     def write_file(self, path):
         """Creates or truncates the file at `path` and writes the canonical text into it. Raises
         OSError when the file cannot be opened; later errors, such as a full disk, are not reported.
@@ -105,7 +136,14 @@ class QuillInput(Part):
         return f"QuillInput({self.commands!r}, {self.geometry!r}, {self.post_commands!r})"
 
     def __reduce__(self):
-        return type(self), (list(self.commands), self.geometry, list(self.post_commands))
+        return _from_pickle, (type(self), 1, _core.json_of(self._part))
+
+
+def _from_pickle(kind, version, text):
+    """Returns the document of a pickle. Pickles of every version must be read by all later ones."""
+    if version != 1:
+        raise ValueError(f"a pickle of version {version}, which is newer than this package")
+    return kind._of(_core.document_from_json(text))
 
 
 def normalize_command_name(name):

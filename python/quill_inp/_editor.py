@@ -11,8 +11,8 @@ from quill_inp._parts import part_of
 from quill_inp._post_command import PostCommand
 
 
-class InputEditor:
-    """Owns a document and changes it by named operations.
+class Operations:
+    """Changes a document by named operations.
 
     Command names are compared without regard to letter case, blanks around them and one leading `#`,
     parameter names without regard to letter case and blanks around them. Arguments are stored exactly
@@ -20,23 +20,7 @@ class InputEditor:
     it is not an error when there is nothing to remove. Occurrences count from 0.
     """
 
-    __module__ = "quill_inp"
     __slots__ = ("_part",)
-
-    def __init__(self, input):
-        self._part = part_of(QuillInput, input).copy()
-
-    def document(self):
-        """Returns the document of the editor itself: what is changed there is changed here."""
-        return QuillInput._of(self._part)
-
-    def to_string(self):
-        """Returns the document's canonical text."""
-        return self._part.text()
-
-    def write_file(self, path):
-        """Writes the canonical text into a file, as QuillInput.write_file()."""
-        self._part.write_file(os.fsencode(path))
 
     def has_command(self, name):
         """Returns whether at least one command has this name."""
@@ -193,3 +177,25 @@ class InputEditor:
     def set_post_file(self, path):
         """Appends the line `POST path`; earlier ones stay."""
         _core.set_post_file(self._part, os.fsdecode(path))
+
+
+class InputEditor(Operations):
+    """Owns a document and changes it by named operations."""
+
+    __module__ = "quill_inp"
+    __slots__ = ()
+
+    def __init__(self, input):
+        self._part = part_of(QuillInput, input).copy()
+
+    def document(self):
+        """Returns the document of the editor itself: what is changed there is changed here."""
+        return QuillInput._of(self._part)
+
+    def to_string(self):
+        """Returns the document's canonical text."""
+        return self._part.text()
+
+    def write_file(self, path):
+        """Writes the canonical text into a file, as QuillInput.write_file()."""
+        self._part.write_file(os.fsencode(path))

@@ -67,6 +67,20 @@ TEST(TrackedDocument, HasRemovedNoLineThatNobodyMarked) {
   EXPECT_FALSE(document.is_post_command_removed(3));
 }
 
+TEST(TrackedDocument, RemovesEveryPostProcessingLineAtAnyTime) {
+  const QuillInput before = input_of_a_scan();
+  TrackedDocument document(before);
+  document.add_bond_constraint(1, 2);
+  document.clear_post_commands();
+  EXPECT_TRUE(document.document().post_commands.empty());
+  document.add_bond_constraint(3, 4);
+  document.clear_post_commands();
+  EXPECT_TRUE(document.document().post_commands.empty());
+  document.clear_post_commands();
+  for (std::size_t index = 0; index < before.post_commands.size(); ++index)
+    EXPECT_TRUE(document.is_post_command_removed(index));
+}
+
 }  // namespace
 
 }  // namespace kelp::input::quill::lossless

@@ -31,17 +31,6 @@ void report_notes(Session& session, const ReadInput& input, const EditReport& re
   for (const Ambiguity& ambiguity : report.ambiguities) note_ambiguity(session, input, ambiguity);
 }
 
-/// Returns what changed or removed header lines say besides their commands. Other lines that change
-/// contain only what they were read as.
-std::vector<LineLoss> list_header_losses(const ReadText& read, const NewText& edited) {
-  std::vector<LineLoss> losses;
-  for (const lossless::LineChange& change : edited.changes) {
-    if (!change.old_line || read.lines[*change.old_line - 1].role != LineRole::Command) continue;
-    if (const auto loss = find_line_loss(read, *change.old_line - 1)) losses.push_back(*loss);
-  }
-  return losses;
-}
-
 /// The folder that paths in an input are relative to.
 std::string folder_of(const std::string& argument) {
   const std::size_t slash = argument.rfind('/');

@@ -42,6 +42,16 @@ std::vector<LineLoss> list_line_losses(const lossless::ReadText& read) {
   return losses;
 }
 
+std::vector<LineLoss> list_header_losses(const lossless::ReadText& read,
+                                         const lossless::NewText& edited) {
+  std::vector<LineLoss> losses;
+  for (const lossless::LineChange& change : edited.changes) {
+    if (!change.old_line || read.lines[*change.old_line - 1].role != LineRole::Command) continue;
+    if (const auto loss = find_line_loss(read, *change.old_line - 1)) losses.push_back(*loss);
+  }
+  return losses;
+}
+
 std::size_t Losses::count() const {
   const std::size_t of_text = settings.size() + lines.size() + quoting.size();
   if (!proof.explanation) return of_text;

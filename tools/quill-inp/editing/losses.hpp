@@ -10,6 +10,7 @@
 #include "kelp/input/quill/lossless/proof.hpp"
 #include "kelp/input/quill/lossless/quoting.hpp"
 #include "kelp/input/quill/lossless/read_text.hpp"
+#include "kelp/input/quill/lossless/surgical_edit.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -45,6 +46,11 @@ std::optional<LineLoss> find_line_loss(const lossless::ReadText& read, std::size
 /// loses, and the blank lines between lines of raw text, whose meaning only the author knows. Other
 /// blank lines are layout. Blank lines in a row are one loss.
 std::vector<LineLoss> list_line_losses(const lossless::ReadText& read);
+
+/// Returns what changed or removed header lines say besides their commands. Other lines that change
+/// contain only what they were read as.
+std::vector<LineLoss> list_header_losses(const lossless::ReadText& read,
+                                         const lossless::NewText& edited);
 
 /// All that a new text would lose.
 struct Losses {

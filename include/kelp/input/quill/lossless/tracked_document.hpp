@@ -4,6 +4,7 @@
 /// @file
 /// A document that is edited together with its text.
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -23,9 +24,17 @@ class TrackedDocument : private InputEditor {
   /// Begins to edit a document, which the text that is to be changed was read as.
   KELP_QUILL_LOSSLESS_EXPORT explicit TrackedDocument(QuillInput input);
 
+  using InputEditor::add_angle_constraint;
+  using InputEditor::add_atom;
+  using InputEditor::add_atom_constraint;
+  using InputEditor::add_bond_constraint;
   using InputEditor::add_command;
+  using InputEditor::add_dihedral_constraint;
   using InputEditor::add_post_command;
+  using InputEditor::add_scan;
   using InputEditor::clear_charge_and_multiplicity;
+  using InputEditor::get_assignment;
+  using InputEditor::get_parameter;
   using InputEditor::remove_parameter;
   using InputEditor::set_assignment;
   using InputEditor::set_charge_and_multiplicity;
@@ -34,7 +43,9 @@ class TrackedDocument : private InputEditor {
   using InputEditor::set_geometry;
   using InputEditor::set_model;
   using InputEditor::set_parameter;
+  using InputEditor::set_post_file;
   using InputEditor::set_task;
+  using InputEditor::set_xyz_file;
   using InputEditor::set_xyz_files;
   using InputEditor::set_xyz_trajectory;
 
@@ -48,6 +59,13 @@ class TrackedDocument : private InputEditor {
   /// Removes post-processing lines. `is_removed` has an entry for each line of the document before
   /// all edits. To be called at most once, and before lines are added.
   KELP_QUILL_LOSSLESS_EXPORT void remove_post_commands(std::vector<bool> is_removed);
+
+  /// Removes every post-processing line, those that were added included. May be called at any time.
+  void clear_post_commands() {
+    const std::size_t count =
+        std::max(document().post_commands.size(), is_post_command_removed_.size());
+    remove_post_commands(std::vector<bool>(count, true));
+  }
 
   /// Returns the document as it is now. The reference stays valid as long as this object.
   const QuillInput& document() const { return InputEditor::document(); }
