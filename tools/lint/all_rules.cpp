@@ -1,4 +1,4 @@
-#include <string>
+#include <iterator>
 
 #include "lint/checks/checks.hpp"
 #include "lint/rule.hpp"
@@ -8,24 +8,28 @@ namespace kelp::input::quill::lint {
 namespace {
 
 // What several rules say about a line that is not an atom line, although it was meant as one.
-const std::string where_atoms_end =
-    "{atoms|the atoms end after {atoms} atom|the atoms end after {atoms} atoms|there are no "
-    "atoms}: ";
-const std::string lost_atoms =
-    "[; {lost|one further line that looks like an atom is|{lost} further lines that look like "
-    "atoms are} kept as raw text]";
-const std::string labelled_atom =
-    where_atoms_end + "'{token}' is not a symbol made of letters" + lost_atoms;
-const std::string numbered_atom =
-    where_atoms_end + "the line begins with the number '{token}', and has five words" + lost_atoms;
-const std::string ended_atoms =
+// Macros put texts together before the program starts.
+#define WHERE_ATOMS_END                                                              \
+  "{atoms|the atoms end after {atoms} atom|the atoms end after {atoms} atoms|there " \
+  "are no atoms}: "
+#define LOST_ATOMS                                                                       \
+  "[; {lost|one further line that looks like an atom is|{lost} further lines that look " \
+  "like atoms are} kept as raw text]"
+
+constexpr std::string_view labelled_atom =
+    WHERE_ATOMS_END "'{token}' is not a symbol made of letters" LOST_ATOMS;
+constexpr std::string_view numbered_atom =
+    WHERE_ATOMS_END "the line begins with the number '{token}', and has five words" LOST_ATOMS;
+constexpr std::string_view ended_atoms =
     "{atoms|this line ended the atoms after {atoms} atom|this line ended the atoms after {atoms} "
     "atoms|this line kept the atoms from beginning}: ['{word}' is not a number]['{symbol}' is not "
     "a symbol made of letters]['{extra}' is a fifth word][{missing|a number is missing|{missing} "
-    "numbers are missing}]" +
-    lost_atoms;
+    "numbers are missing}]" LOST_ATOMS;
 
-const std::vector<Rule> rules = {
+#undef WHERE_ATOMS_END
+#undef LOST_ATOMS
+
+constexpr Rule rules[] = {
     // The file as a whole, and its bytes.
     {"QL001", Severity::Error, Group::File, "a byte order mark before the first line",
      "the text begins with a byte order mark, which the reader takes for letters of the first line",
@@ -229,6 +233,9 @@ const std::vector<Rule> rules = {
 
 }  // namespace
 
-const std::vector<Rule>& all_rules() { return rules; }
+const std::vector<Rule>& all_rules() {
+  static const std::vector<Rule> all(std::begin(rules), std::end(rules));
+  return all;
+}
 
 }  // namespace kelp::input::quill::lint

@@ -35,7 +35,7 @@ std::size_t after_closing(std::string_view pattern, std::size_t open) {
   return pattern.size();
 }
 
-/// Splits a choice at the bars that are not inside braces in it.
+/// Cuts a choice at the bars that are in no braces of its own.
 std::vector<std::string_view> cut_choice(std::string_view choice) {
   std::vector<std::string_view> parts;
   std::size_t start = 0;
@@ -59,40 +59,52 @@ std::optional<std::string_view> chosen_words(const std::vector<std::string_view>
   return parts[count == 1 ? 1 : 2];
 }
 
-std::optional<std::string> fill(std::string_view pattern, const std::vector<Fact>& facts,
-                                bool has_choices);
+using Words = std::optional<std::string>;
 
-/// Returns what stands for the content of a pair of braces.
-std::optional<std::string> fill_braces(std::string_view content, const std::vector<Fact>& facts,
-                                       bool has_choices) {
-  const std::vector<std::string_view> parts = cut_choice(content);
-  const Fact* fact = find_fact(facts, parts[0]);
-  if (fact == nullptr) return std::nullopt;
-  if (parts.size() == 1 || !has_choices) return std::visit(ValueText(), fact->value);
-  const auto words = chosen_words(parts, std::get<std::int64_t>(fact->value));
-  if (!words) return std::nullopt;
-  return fill(*words, facts, false);
-}
+/// Returns what takes the place of a bracket's content, or nothing if a fact for it is missing.
+using Fill = Words (*)(std::string_view content, const std::vector<Fact>& facts);
 
-/// `has_choices` is false within a choice, which cannot contain another one.
-std::optional<std::string> fill(std::string_view pattern, const std::vector<Fact>& facts,
-                                bool has_choices) {
+/// Replaces all braces in a pattern, and its brackets unless they are plain characters there.
+/// Returns nothing if a fact for a brace is missing; brackets whose fact is missing are left out.
+Words fill_each(std::string_view pattern, const std::vector<Fact>& facts, Fill braces,
+                Fill brackets) {
   std::string text;
   for (std::size_t i = 0; i < pattern.size();) {
-    if (pattern[i] != '{' && pattern[i] != '[') {
+    const bool is_bracket = brackets != nullptr && pattern[i] == '[';
+    if (pattern[i] != '{' && !is_bracket) {
       text += pattern[i++];
       continue;
     }
     const std::size_t end = after_closing(pattern, i);
     const std::string_view content = pattern.substr(i + 1, end - i - 2);
-    const bool is_optional = pattern[i] == '[';
-    const auto words =
-        is_optional ? fill(content, facts, has_choices) : fill_braces(content, facts, has_choices);
-    if (!words && !is_optional) return std::nullopt;
+    const Words words = (is_bracket ? brackets : braces)(content, facts);
+    if (!words && !is_bracket) return std::nullopt;
     text += words.value_or("");
     i = end;
   }
   return text;
+}
+
+Words fill_value(std::string_view name, const std::vector<Fact>& facts) {
+  const Fact* fact = find_fact(facts, name);
+  if (fact == nullptr) return std::nullopt;
+  return std::visit(ValueText(), fact->value);
+}
+
+/// The words of a choice hold values only.
+Words fill_value_or_choice(std::string_view content, const std::vector<Fact>& facts) {
+  const std::vector<std::string_view> parts = cut_choice(content);
+  if (parts.size() == 1) return fill_value(content, facts);
+  const Fact* fact = find_fact(facts, parts[0]);
+  if (fact == nullptr) return std::nullopt;
+  const auto words = chosen_words(parts, std::get<std::int64_t>(fact->value));
+  if (!words) return std::nullopt;
+  return fill_each(*words, facts, fill_value, nullptr);
+}
+
+/// What may be left out holds no brackets of its own.
+Words fill_optional(std::string_view content, const std::vector<Fact>& facts) {
+  return fill_each(content, facts, fill_value_or_choice, nullptr);
 }
 
 }  // namespace
@@ -104,7 +116,7 @@ FindingWords words_of(const Finding& finding) {
 }
 
 std::string filled(std::string_view pattern, const std::vector<Fact>& facts) {
-  return fill(pattern, facts, true).value_or("");
+  return fill_each(pattern, facts, fill_value_or_choice, fill_optional).value_or("");
 }
 
 }  // namespace kelp::input::quill::lint

@@ -13,8 +13,8 @@ namespace kelp::input::quill::lint {
 namespace {
 
 std::string name_of_character(char32_t code_point) {
-  char text[16];
-  std::snprintf(text, sizeof text, "U+%04X", static_cast<unsigned>(code_point));
+  char text[16];  // the longest is U+10FFFF
+  static_cast<void>(std::snprintf(text, sizeof text, "U+%04X", static_cast<unsigned>(code_point)));
   return text;
 }
 

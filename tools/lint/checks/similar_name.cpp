@@ -13,7 +13,7 @@ std::optional<std::string> find_similar(const std::string& name, const Options& 
   const std::vector<std::string>* others = options.other_names;
   if (name.empty() || is_known(name, options)) return std::nullopt;
   if (others && std::binary_search(others->begin(), others->end(), name)) return std::nullopt;
-  if (const auto known = meant_name(name, options)) return known;
+  if (auto known = meant_name(name, options)) return known;
   return others ? tool::nearest_name(name, *others) : std::nullopt;
 }
 
