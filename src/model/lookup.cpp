@@ -4,6 +4,7 @@
 
 #include "kelp/core/text.hpp"
 #include "kelp/input/quill/document.hpp"
+#include "model/parameter_name.hpp"
 #include "model/task_names.hpp"
 
 namespace kelp::input::quill {
@@ -11,8 +12,6 @@ namespace kelp::input::quill {
 namespace text = kelp::core::text;
 
 namespace {
-
-std::string parameter_key(std::string_view name) { return text::to_lower_copy(text::trim(name)); }
 
 bool has_canonical_name(const HeaderCommand& command, std::string_view canonical_name) {
   return normalize_command_name(command.name) == canonical_name;
@@ -49,9 +48,9 @@ std::string normalize_command_name(std::string_view name) {
 
 std::optional<std::uint64_t> find_parameter_index(const HeaderCommand& command,
                                                   std::string_view name) {
-  const std::string key = parameter_key(name);
+  const std::string key = normalize_parameter_name(name);
   for (std::size_t i = 0; i < command.parameters.size(); ++i) {
-    if (parameter_key(command.parameters[i].name) == key) return i;
+    if (normalize_parameter_name(command.parameters[i].name) == key) return i;
   }
   return std::nullopt;
 }

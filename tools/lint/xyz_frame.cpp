@@ -1,10 +1,9 @@
 #include "lint/xyz_frame.hpp"
 
 #include <algorithm>
-#include <string>
 #include <vector>
 
-#include "kelp/core/text.hpp"
+#include "kelp/input/quill/lossless/xyz_frames.hpp"
 #include "lint/tokens.hpp"
 
 namespace kelp::input::quill::lint {
@@ -13,23 +12,29 @@ namespace {
 
 constexpr std::size_t lines_before_atoms = 2;
 
-bool is_atom(const std::string& line) {
+bool is_atom(std::string_view line) {
   const std::vector<std::string_view> tokens = tokens_of(line);
   return tokens.size() >= 4 && std::all_of(tokens.begin() + 1, tokens.begin() + 4, is_number);
+}
+
+/// Returns the first line of a text, and removes it there.
+std::string_view take_line(std::string_view& text) {
+  const std::size_t end = std::min(text.find('\n'), text.size());
+  const std::string_view line = text.substr(0, end);
+  text.remove_prefix(std::min(end + 1, text.size()));
+  return line;
 }
 
 }  // namespace
 
 std::optional<std::size_t> count_atoms_of_first_frame(std::string_view content) {
-  const std::vector<std::string> lines = core::text::split_lines(content);
-  int count = 0;
-  if (lines.empty() || !core::text::try_parse_int(core::text::trim(lines.front()), count))
-    return std::nullopt;
-  const auto atoms = static_cast<std::size_t>(std::max(count, 0));
-  if (atoms == 0 || lines.size() < lines_before_atoms + atoms) return std::nullopt;
-  const auto first = lines.begin() + lines_before_atoms;
-  if (!std::all_of(first, first + count, is_atom)) return std::nullopt;
-  return atoms;
+  const std::optional<std::size_t> count = lossless::find_xyz_count(content);
+  if (!count) return std::nullopt;
+  for (std::size_t i = 0; i < lines_before_atoms; ++i) take_line(content);
+  for (std::size_t i = 0; i < *count; ++i) {
+    if (content.empty() || !is_atom(take_line(content))) return std::nullopt;
+  }
+  return count;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -66,7 +66,9 @@ void keep_each_once(std::vector<std::string>& files) {
   const auto is_repeated = [&](const std::string& file) {
     std::error_code error;
     const std::filesystem::path path = std::filesystem::canonical(file, error);
-    return file != "-" && !error && !paths.insert(path.string()).second;
+    // The system would see only the part before the NUL.
+    const bool is_a_name = file != "-" && file.find('\0') == std::string::npos;
+    return is_a_name && !error && !paths.insert(path.string()).second;
   };
   std::vector<std::string> kept;
   for (std::string& file : files) {

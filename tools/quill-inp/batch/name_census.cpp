@@ -1,19 +1,18 @@
 #include "quill-inp/batch/name_census.hpp"
 
-#include <fcntl.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <map>
+#include <mutex>
+#include <optional>
 #include <set>
 #include <string_view>
-#include <unordered_set>
+#include <utility>
 
 #include "kelp/core/text.hpp"
 #include "kelp/input/quill/reader.hpp"
 #include "quill-inp/batch/ordered_work.hpp"
-#include "quill-inp/process/file_descriptor.hpp"
-#include "quill-inp/process/trouble.hpp"
+#include "quill-inp/process/regular_file.hpp"
 
 namespace kelp::input::quill::tool {
 
@@ -28,20 +27,6 @@ constexpr std::size_t files_in_a_piece = 32;
 using Names = std::vector<std::string>;
 using Counts = std::map<std::string, std::size_t>;  // of files, by the name that they use
 
-std::string read_beginning(const std::string& path) {
-  // Not blocking, so that a pipe without a writer has no names.
-  const FileDescriptor file(open_in(AT_FDCWD, path, O_RDONLY | O_NONBLOCK));
-  struct stat state {};
-  const bool is_regular =
-      file.number() >= 0 && fstat(file.number(), &state) == 0 && S_ISREG(state.st_mode);
-  if (!is_regular) return {};
-  try {
-    return read_to_end(file.number(), longest_header, static_cast<std::uint64_t>(state.st_size));
-  } catch (const Trouble&) {
-    return {};  // this is reported when the whole file is read
-  }
-}
-
 /// Returns the lines up to the first one that is not part of a header.
 std::string_view header_of(std::string_view text) {
   std::size_t end = 0;
@@ -54,25 +39,17 @@ std::string_view header_of(std::string_view text) {
   return text.substr(0, end);
 }
 
-/// Counts the names that a file uses, each once.
-void count_names(const std::string& path, Counts& counts) {
-  if (path == "-") return;
-  std::set<std::string> own;
-  for (const std::string& name :
-       parse_string(header_of(read_beginning(path))).input.command_names())
-    own.insert(normalize_command_name(name));
-  for (const std::string& name : own) ++counts[name];
+std::set<std::string> names_in_header(std::string_view text) {
+  std::set<std::string> names;
+  for (const std::string& name : parse_string(header_of(text)).input.command_names())
+    names.insert(normalize_command_name(name));
+  return names;
 }
 
-/// Counts in how many files each name is. Keeps pointers to the names of the files.
+/// Counts in how many files each name is. A file counts once, whatever it is called.
 class Census {
  public:
-  explicit Census(const std::vector<std::string>& files) {
-    std::unordered_set<std::string_view> known;
-    for (const std::string& file : files) {
-      if (known.insert(file).second) files_.push_back(&file);
-    }
-  }
+  explicit Census(const std::vector<std::string>& files) : files_(files) {}
 
   void take(unsigned threads) {
     found_.resize(window_of(threads));
@@ -110,16 +87,31 @@ class Census {
   void read_piece(std::size_t number) {
     Counts counts;
     const std::size_t end = std::min(files_.size(), (number + 1) * files_in_a_piece);
-    for (std::size_t i = number * files_in_a_piece; i < end; ++i) count_names(*files_[i], counts);
+    for (std::size_t i = number * files_in_a_piece; i < end; ++i) count_names(files_[i], counts);
     found_in(number) = std::move(counts);
+  }
+
+  /// Counts the names of a file, each once. Another thread may do so for other files.
+  void count_names(const std::string& path, Counts& counts) {
+    if (path == "-") return;
+    const std::optional<FileBeginning> beginning = read_beginning(path, longest_header);
+    if (!beginning || !is_first(beginning->identity)) return;
+    for (const std::string& name : names_in_header(beginning->text)) ++counts[name];
+  }
+
+  bool is_first(const std::pair<dev_t, ino_t>& identity) {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return counted_.insert(identity).second;
   }
 
   void count_piece(std::size_t number) {
     for (const auto& [name, count] : found_in(number)) counts_[name] += count;
   }
 
-  std::vector<const std::string*> files_ = {};  // each once
-  std::vector<Counts> found_ = {};              // of the pieces, by their numbers within the window
+  const std::vector<std::string>& files_;
+  std::mutex mutex_;
+  std::set<std::pair<dev_t, ino_t>> counted_ = {};
+  std::vector<Counts> found_ = {};  // of the pieces, by their numbers within the window
   Counts counts_ = {};
 };
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <system_error>
 
+#include "model/task_names.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/file_options.hpp"
 #include "quill-inp/process/trouble.hpp"
@@ -27,7 +28,9 @@ Setting read_replacement(const std::string& text) {
   Setting setting = parse_setting(text);
   const auto* key = std::get_if<CommandKey>(&setting.key);
   const std::string name = stored_command_name(setting.value.value_or(""));
-  if (key == nullptr || key->parameter || is_nameless(name))
+  const bool is_task = key != nullptr && !key->parameter &&
+                       (key->position || is_task_name(normalize_command_name(key->command)));
+  if (!is_task || is_nameless(name))
     throw UsageError("--replace-task takes two names of tasks, such as 'sp=opt', not '" + text +
                      "'");
   setting.value.reset();

@@ -25,10 +25,6 @@ class Settings {
       set_special(setting, *special);
       return;
     }
-    if (std::holds_alternative<PostKey>(setting.key)) {
-      throw UsageError("'" + setting.key_text +
-                       "' cannot be set; 'unset' removes such lines, and 'add' adds them");
-    }
     const auto& key = std::get<CommandKey>(setting.key);
     const HeaderCommand* command = find_command(input(), key);
     if (is_missing(setting, key, command)) {
@@ -72,10 +68,6 @@ class Settings {
   const QuillInput& input() const { return document_.document(); }
 
   void set_special(const Setting& setting, SpecialKey key) {
-    if (key != SpecialKey::Charge && key != SpecialKey::Multiplicity) {
-      throw UsageError("'" + setting.key_text +
-                       "' cannot be set to a value; use --atoms, --xyz or --trajectory");
-    }
     if (!setting.value)
       throw UsageError("'" + setting.key_text + "' cannot be set without a value");
     if (new_names_ == NewNames::Missing && !input().geometry.has_charge_and_multiplicity) {

@@ -119,8 +119,9 @@ std::string folder_of(const std::string& path) {
 
 ProjectChoices choices_for_folder(const std::string& folder) {
   std::error_code error;
-  const fs::path absolute = folder.empty() ? fs::current_path(error) : fs::absolute(folder, error);
-  const std::string file = error ? std::string() : find_file(absolute).string();
+  // Without "..", whose parent by name would be a folder below.
+  const fs::path canonical = fs::canonical(folder.empty() ? "." : folder, error);
+  const std::string file = error ? std::string() : find_file(canonical).string();
   return file.empty() ? ProjectChoices() : parse_project_choices(read_text(file), file);
 }
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-#include "kelp/core/text.hpp"
+#include "model/parameter_name.hpp"
 #include "quill-inp/keys/answer.hpp"
 
 namespace kelp::input::quill::tool {
@@ -21,15 +21,11 @@ std::vector<std::size_t> list_other_commands(const QuillInput& input, std::size_
   return others;
 }
 
-std::string folded(const std::string& parameter) {
-  return core::text::to_lower_copy(core::text::trim(parameter));
-}
-
 std::size_t count_later_parameters(const HeaderCommand& command, std::size_t used) {
-  const std::string name = folded(command.parameters[used].name);
+  const std::string name = normalize_parameter_name(command.parameters[used].name);
   std::size_t count = 0;
   for (std::size_t i = used + 1; i < command.parameters.size(); ++i)
-    count += folded(command.parameters[i].name) == name ? 1U : 0U;
+    count += normalize_parameter_name(command.parameters[i].name) == name ? 1U : 0U;
   return count;
 }
 

@@ -27,13 +27,41 @@ std::string command_answer(const HeaderCommand& command) {
   return to_string(nameless).substr(1);
 }
 
-std::optional<std::string> find_answer(const QuillInput& input, const CommandKey& key) {
+bool has_entry(const QuillInput& input, const CommandKey& key) {
   const HeaderCommand* command = find_command(input, key);
-  if (command == nullptr) return std::nullopt;
-  if (!key.parameter) return command_answer(*command);
-  const std::optional<std::uint64_t> index = find_parameter_index(*command, *key.parameter);
-  if (!index) return std::nullopt;
-  return command->parameters[*index].value.value_or(no_value);
+  if (command == nullptr || !key.parameter) return command != nullptr;
+  return find_parameter_index(*command, *key.parameter).has_value();
+}
+
+bool has_entry(const QuillInput& input, SpecialKey key) {
+  const GeometryBlock& geometry = input.geometry;
+  switch (key) {
+    case SpecialKey::Charge:
+    case SpecialKey::Multiplicity:
+      return geometry.has_charge_and_multiplicity;
+    case SpecialKey::Geometry:
+      return geometry.kind != GeometryKind::None;
+    case SpecialKey::Files:
+      return !geometry.xyz_files.empty();
+    case SpecialKey::Atoms:
+    case SpecialKey::Formula:
+    case SpecialKey::AtomCount:
+      return !geometry.atoms.empty();
+    case SpecialKey::Keys:
+      return !input.commands.empty();
+  }
+  return false;
+}
+
+bool has_entry(const QuillInput& input, const PostKey& key) {
+  return !find_post_commands(input, key).empty();
+}
+
+std::string answer_of(const QuillInput& input, const CommandKey& key) {
+  const HeaderCommand& command = *find_command(input, key);
+  if (!key.parameter) return command_answer(command);
+  const std::uint64_t index = find_parameter_index(command, *key.parameter).value();
+  return command.parameters[index].value.value_or(no_value);
 }
 
 std::string joined_lines(const std::vector<std::string>& lines) {
@@ -42,8 +70,7 @@ std::string joined_lines(const std::vector<std::string>& lines) {
   return text;
 }
 
-std::optional<std::string> atom_lines(const std::vector<AtomRecord>& atoms) {
-  if (atoms.empty()) return std::nullopt;
+std::string atom_lines(const std::vector<AtomRecord>& atoms) {
   std::string text;
   for (const AtomRecord& atom : atoms) {
     text += text.empty() ? "" : "\n";
@@ -54,39 +81,27 @@ std::optional<std::string> atom_lines(const std::vector<AtomRecord>& atoms) {
   return text;
 }
 
-std::optional<std::string> key_lines(const QuillInput& input) {
-  const std::vector<std::string> keys = list_keys(input);
-  return keys.empty() ? std::nullopt : std::optional(joined_lines(keys));
-}
-
-std::optional<std::string> find_answer(const QuillInput& input, SpecialKey key) {
+std::string answer_of(const QuillInput& input, SpecialKey key) {
   const GeometryBlock& geometry = input.geometry;
-  const bool has_numbers = geometry.has_charge_and_multiplicity;
   switch (key) {
     case SpecialKey::Charge:
-      return has_numbers ? std::optional(std::to_string(geometry.charge)) : std::nullopt;
+      return std::to_string(geometry.charge);
     case SpecialKey::Multiplicity:
-      return has_numbers ? std::optional(std::to_string(geometry.multiplicity)) : std::nullopt;
+      return std::to_string(geometry.multiplicity);
     case SpecialKey::Geometry:
-      return geometry.kind == GeometryKind::None
-                 ? std::nullopt
-                 : std::optional(std::string(name_of(geometry.kind)));
+      return std::string(name_of(geometry.kind));
     case SpecialKey::Files:
-      return geometry.xyz_files.empty() ? std::nullopt
-                                        : std::optional(joined_lines(geometry.xyz_files));
+      return joined_lines(geometry.xyz_files);
     case SpecialKey::Atoms:
       return atom_lines(geometry.atoms);
     case SpecialKey::Formula:
-      return geometry.atoms.empty() ? std::nullopt
-                                    : std::optional(to_formula(hill_composition(geometry.atoms)));
+      return to_formula(hill_composition(geometry.atoms));
     case SpecialKey::AtomCount:
-      return geometry.kind == GeometryKind::Atoms
-                 ? std::optional(std::to_string(geometry.atoms.size()))
-                 : std::nullopt;
+      return std::to_string(geometry.atoms.size());
     case SpecialKey::Keys:
-      return key_lines(input);
+      return joined_lines(list_keys(input));
   }
-  return std::nullopt;
+  return {};
 }
 
 /// Returns what a line says after its keyword.
@@ -99,11 +114,11 @@ std::string post_answer(const PostCommand& command) {
   return text;
 }
 
-std::optional<std::string> find_answer(const QuillInput& input, const PostKey& key) {
+std::string answer_of(const QuillInput& input, const PostKey& key) {
   std::vector<std::string> lines;
   for (const std::size_t index : find_post_commands(input, key))
     lines.push_back(post_answer(input.post_commands[index]));
-  return lines.empty() ? std::nullopt : std::optional(joined_lines(lines));
+  return joined_lines(lines);
 }
 
 std::uint64_t count_commands(const QuillInput& input, const std::string& name) {
@@ -169,16 +184,13 @@ std::vector<std::size_t> find_post_commands(const QuillInput& input, const PostK
   return indexes;
 }
 
-std::optional<std::string> answer(const QuillInput& input, const Key& key) {
-  return std::visit([&](const auto& any_key) { return find_answer(input, any_key); }, key);
+bool has_answer(const QuillInput& input, const Key& key) {
+  return std::visit([&](const auto& any_key) { return has_entry(input, any_key); }, key);
 }
 
-bool has_answer(const QuillInput& input, const Key& key) {
-  const auto* command_key = std::get_if<CommandKey>(&key);
-  if (command_key == nullptr) return answer(input, key).has_value();
-  const HeaderCommand* command = find_command(input, *command_key);
-  if (command == nullptr || !command_key->parameter) return command != nullptr;
-  return find_parameter_index(*command, *command_key->parameter).has_value();
+std::optional<std::string> answer(const QuillInput& input, const Key& key) {
+  if (!has_answer(input, key)) return std::nullopt;
+  return std::visit([&](const auto& any_key) { return answer_of(input, any_key); }, key);
 }
 
 MissingAnswer find_missing(const QuillInput& input, std::string_view key_text, const Key& key) {

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,86 +18,76 @@ namespace {
 
 using Layout = JsonWriter::Layout;
 
-bool write_found(JsonWriter& json, const QuillInput& input, const CommandKey& key) {
-  const HeaderCommand* command = find_command(input, key);
-  if (command == nullptr) return false;
+void write_found(JsonWriter& json, const QuillInput& input, const CommandKey& key) {
+  const HeaderCommand& command = *find_command(input, key);
   if (!key.parameter) {
     json.member("command");
-    write(json, *command);
-    return true;
+    write(json, command);
+    return;
   }
-  const std::optional<std::uint64_t> index = find_parameter_index(*command, *key.parameter);
-  if (!index) return false;
+  const std::uint64_t index = find_parameter_index(command, *key.parameter).value();
   json.member("parameter");
-  write(json, command->parameters[*index]);
-  return true;
+  write(json, command.parameters[index]);
 }
 
-bool write_charge_line(JsonWriter& json, const GeometryBlock& geometry, std::int32_t number) {
-  if (geometry.has_charge_and_multiplicity) json.member("value").integer(number);
-  return geometry.has_charge_and_multiplicity;
-}
-
-bool write_texts(JsonWriter& json, std::string_view name, const std::vector<std::string>& texts) {
-  if (texts.empty()) return false;
+void write_texts(JsonWriter& json, std::string_view name, const std::vector<std::string>& texts) {
   json.member(name).begin_list(Layout::OneLine);
   for (const std::string& text : texts) json.text(text);
   json.end_list();
-  return true;
 }
 
-bool write_atoms(JsonWriter& json, const std::vector<AtomRecord>& atoms) {
-  if (atoms.empty()) return false;
+void write_atoms(JsonWriter& json, const std::vector<AtomRecord>& atoms) {
   json.member("atoms").begin_list(Layout::OneLine);
   for (const AtomRecord& atom : atoms) write(json, atom);
   json.end_list();
-  return true;
 }
 
-bool write_found(JsonWriter& json, const QuillInput& input, SpecialKey key) {
+void write_found(JsonWriter& json, const QuillInput& input, SpecialKey key) {
   const GeometryBlock& geometry = input.geometry;
-  const bool has_atoms = !geometry.atoms.empty();
   switch (key) {
     case SpecialKey::Charge:
-      return write_charge_line(json, geometry, geometry.charge);
+      json.member("value").integer(geometry.charge);
+      break;
     case SpecialKey::Multiplicity:
-      return write_charge_line(json, geometry, geometry.multiplicity);
+      json.member("value").integer(geometry.multiplicity);
+      break;
     case SpecialKey::Geometry:
-      if (geometry.kind != GeometryKind::None) json.member("value").text(name_of(geometry.kind));
-      return geometry.kind != GeometryKind::None;
+      json.member("value").text(name_of(geometry.kind));
+      break;
     case SpecialKey::Files:
-      return write_texts(json, "paths", geometry.xyz_files);
+      write_texts(json, "paths", geometry.xyz_files);
+      break;
     case SpecialKey::Atoms:
-      return write_atoms(json, geometry.atoms);
+      write_atoms(json, geometry.atoms);
+      break;
     case SpecialKey::Formula:
-      if (has_atoms) json.member("value").text(to_formula(hill_composition(geometry.atoms)));
-      return has_atoms;
+      json.member("value").text(to_formula(hill_composition(geometry.atoms)));
+      break;
     case SpecialKey::AtomCount:
-      if (has_atoms) json.member("value").integer(static_cast<std::int64_t>(geometry.atoms.size()));
-      return has_atoms;
+      json.member("value").integer(static_cast<std::int64_t>(geometry.atoms.size()));
+      break;
     case SpecialKey::Keys:
-      return write_texts(json, "keys", list_keys(input));
+      write_texts(json, "keys", list_keys(input));
+      break;
   }
-  return false;
 }
 
-bool write_found(JsonWriter& json, const QuillInput& input, const PostKey& key) {
-  const std::vector<std::size_t> indexes = find_post_commands(input, key);
-  if (indexes.empty()) return false;
+void write_found(JsonWriter& json, const QuillInput& input, const PostKey& key) {
   json.member("lines").begin_list(Layout::OneLine);
-  for (const std::size_t index : indexes) {
+  for (const std::size_t index : find_post_commands(input, key)) {
     const PostCommand& command = input.post_commands[index];
     const bool is_raw = command.kind == PostCommandKind::Raw;
     write(json, command, is_raw ? RawText::Written : RawText::LeftOut);
   }
   json.end_list();
-  return true;
 }
 
 }  // namespace
 
 bool write_answer(JsonWriter& json, const QuillInput& input, const Key& key) {
-  return std::visit([&](const auto& any_key) { return write_found(json, input, any_key); }, key);
+  if (!has_answer(input, key)) return false;
+  std::visit([&](const auto& any_key) { write_found(json, input, any_key); }, key);
+  return true;
 }
 
 }  // namespace kelp::input::quill::tool

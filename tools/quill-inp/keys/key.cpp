@@ -6,6 +6,7 @@
 
 #include "kelp/core/text.hpp"
 #include "kelp/input/quill/document.hpp"
+#include "model/parameter_name.hpp"
 #include "model/post_line_shapes.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/text/suggestion.hpp"
@@ -154,6 +155,19 @@ std::size_t find_equals_sign(std::string_view text) {
   return std::string_view::npos;
 }
 
+void require_settable(const Setting& setting) {
+  const auto* special = std::get_if<SpecialKey>(&setting.key);
+  if (special != nullptr && *special != SpecialKey::Charge &&
+      *special != SpecialKey::Multiplicity) {
+    throw UsageError("'" + setting.key_text +
+                     "' cannot be set to a value; use --atoms, --xyz or --trajectory");
+  }
+  if (std::holds_alternative<PostKey>(setting.key)) {
+    throw UsageError("'" + setting.key_text +
+                     "' cannot be set; 'unset' removes such lines, and 'add' adds them");
+  }
+}
+
 }  // namespace
 
 std::string stored_command_name(std::string_view typed) {
@@ -182,7 +196,12 @@ Setting parse_setting(std::string_view text) {
   if (key != nullptr && !key->position && is_nameless(key->command))
     throw_bad_key(setting.key_text, "the name is missing");
   if (equals != std::string_view::npos) setting.value = std::string(text.substr(equals + 1));
+  require_settable(setting);
   return setting;
+}
+
+std::string compared_parameter_name(std::string_view name) {
+  return normalize_parameter_name(name);
 }
 
 std::vector<std::string> special_key_names() {

@@ -76,9 +76,14 @@ struct Setting {
 bool has_value(std::string_view setting);
 
 /// Reads a setting. The first "=" without a backslash before it ends the key; the value is all text
-/// after it, unchanged. Throws as parse_key() does, and for a command without a name: an input may
-/// contain one, but nobody wants to create one.
+/// after it, unchanged. Throws as parse_key() does, for a key that only has answers, such as
+/// "@formula" and "@bonds", and for a command without a name: an input may contain one, but nobody
+/// wants to create one.
 Setting parse_setting(std::string_view text);
+
+/// Returns the form of a parameter's name that is the same for all spellings that lead to the same
+/// parameter.
+std::string compared_parameter_name(std::string_view name);
 
 /// Returns how the keys that begin with "@" are written, "@charge" and so on, without numbers.
 std::vector<std::string> special_key_names();

@@ -4,7 +4,7 @@
 #include <map>
 #include <set>
 
-#include "kelp/core/text.hpp"
+#include "model/parameter_name.hpp"
 #include "quill-inp/keys/key.hpp"
 
 namespace kelp::input::quill::tool {
@@ -25,7 +25,7 @@ void add_parameters(const HeaderCommand& command, const std::string& key,
                     std::vector<std::string>& keys) {
   std::set<std::string> names;
   for (const CommandParameter& parameter : command.parameters) {
-    const std::string name = core::text::to_lower_copy(core::text::trim(parameter.name));
+    const std::string name = normalize_parameter_name(parameter.name);
     if (!name.empty() && names.insert(name).second)
       keys.push_back(key + "." + escaped_name(parameter.name));
   }

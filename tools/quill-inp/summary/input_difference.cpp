@@ -9,6 +9,7 @@
 
 #include "editing/phrases.hpp"
 #include "kelp/input/quill/writer.hpp"
+#include "model/parameter_name.hpp"
 #include "quill-inp/formats/document_names.hpp"
 #include "quill-inp/text/line_matching.hpp"
 
@@ -36,16 +37,23 @@ struct Matches {
   }
 };
 
+std::string compared_name(const HeaderCommand& command) {
+  return normalize_command_name(command.name);
+}
+
+std::string compared_name(const CommandParameter& parameter) {
+  return normalize_parameter_name(parameter.name);
+}
+
 /// Matches entries by their names, the second of a name with the second.
 template <typename T>
 Matches match_names(const std::vector<T>& before, const std::vector<T>& after) {
   std::map<std::string, std::vector<std::size_t>> places;
-  for (std::size_t i = after.size(); i-- > 0;)
-    places[normalize_command_name(after[i].name)].push_back(i);
+  for (std::size_t i = after.size(); i-- > 0;) places[compared_name(after[i])].push_back(i);
   Matches matches;
   std::vector<bool> is_matched(after.size());
   for (const T& entry : before) {
-    std::vector<std::size_t>& left = places[normalize_command_name(entry.name)];
+    std::vector<std::size_t>& left = places[compared_name(entry)];
     matches.of_before.push_back(left.empty() ? std::nullopt : std::optional(left.back()));
     if (left.empty()) continue;
     is_matched[left.back()] = true;

@@ -77,6 +77,10 @@ ExitCode diff(Session& session, const CLI::App& app) {
   constexpr std::size_t words_of_git = 7;
   const std::vector<std::string> words = values_of(app, files);
   const bool is_of_git = is_given(app, for_git);
+  const Warnings warnings = read_warnings_option(app);
+  if (is_of_git && warnings == Warnings::AreANo)
+    throw UsageError(
+        "--git and --strict cannot be used together: git stops at any exit code but 0");
   if (is_of_git && words.size() < words_of_git) {
     // The two sides of a merge that is not finished have no content to compare.
     if (words.size() != 1) throw UsageError("--git takes the arguments that git gives");
@@ -86,7 +90,6 @@ ExitCode diff(Session& session, const CLI::App& app) {
   const Pair pair = is_of_git ? pair_of_git(words) : pair_of(session, words);
   QuillInput before;
   QuillInput after;
-  const Warnings warnings = read_warnings_option(app);
   const ExitCode of_before = read_one(session, pair.before, is_of_git, warnings, before);
   const ExitCode of_after = read_one(session, pair.after, is_of_git, warnings, after);
   const ExitCode code = worse_of(of_before, of_after);

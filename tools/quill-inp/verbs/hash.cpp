@@ -116,8 +116,8 @@ ExitCode check_all(Session& session, const ChosenFiles& lists, const BatchOption
                    const LossPolicy& policy) {
   Expected expected;
   const ExitCode code =
-      for_each_file(session, lists, BatchOptions(), [&](Session& one, const std::string& list) {
-        add_lines(read_source(one, list).content, expected);
+      for_each_number(session, lists, BatchOptions(), [&](Session& one, std::size_t number) {
+        add_lines(read_source(one, lists.files[number]).content, expected);
         return ExitCode::Done;
       });
   const ChosenFiles chosen{std::move(expected.files), code};

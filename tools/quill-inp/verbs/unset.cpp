@@ -7,7 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "kelp/core/text.hpp"
 #include "kelp/input/quill/lossless/tracked_document.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
@@ -68,7 +67,7 @@ Removal to_removal(const QuillInput& input, const CommandKey& key) {
   if (key.position) removal.occurrence = count_same_before(input, *command);
   if (key.parameter) {
     removal.occurrence = removal.occurrence.value_or(0);
-    removal.parameter = core::text::to_lower_copy(core::text::trim(*key.parameter));
+    removal.parameter = compared_parameter_name(*key.parameter);
   }
   return removal;
 }

@@ -145,6 +145,14 @@ TEST(ManyFiles, AreTakenFromALine) {
             ended(2, "", "list: error: cannot be opened: No such file or directory\n"));
 }
 
+TEST(ManyFiles, AreRefusedIfANameHoldsANulByte) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "#model = m1\n0 1\n");
+  EXPECT_EQ(run_in(folder.path(), {"set", "-i", "-q", "--files-from=-", "model=m1"},
+                   std::string("a.qin\na.qin\0x\n", 14)),
+            ended(2, "", "a.qin\\x00x: error: a file name cannot hold a NUL byte\n"));
+}
+
 TEST(ManyFiles, AreTakenFromTheListThatAProgramPrints) {
   const TemporaryFolder folder;
   std::filesystem::create_directory(folder.path("jobs"));

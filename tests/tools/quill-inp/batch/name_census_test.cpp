@@ -2,7 +2,9 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <string>
@@ -44,6 +46,27 @@ TEST_P(NamesInSeveralFiles, CountAFileThatIsNamedTwiceOnce) {
   add("#a\n");
   files_.push_back(files_.front());
   EXPECT_THAT(found(), IsEmpty());
+}
+
+TEST_P(NamesInSeveralFiles, CountAFileUnderTwoSpellingsOnce) {
+  add("#a\n");
+  files_.push_back(folder_.path(".") + "/0.qin");
+  EXPECT_THAT(found(), IsEmpty());
+}
+
+TEST_P(NamesInSeveralFiles, LeaveThePipeOfAWriterClosed) {
+  const std::string pipe = folder_.path("pipe");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  // This end would let a writer begin, and lose it again.
+  const int notice = inotify_init1(IN_NONBLOCK);
+  ASSERT_GE(inotify_add_watch(notice, pipe.c_str(), IN_OPEN), 0);
+  files_ = {pipe};
+  add("#a\n");
+  add("#a\n");
+  EXPECT_THAT(found(), ElementsAre("a"));
+  inotify_event event = {};
+  EXPECT_EQ(read(notice, &event, sizeof event), -1) << "the pipe was opened";
+  close(notice);
 }
 
 TEST_P(NamesInSeveralFiles, PassOverWhatIsNotARegularFile) {

@@ -95,6 +95,18 @@ TEST(ProjectFinder, TakesTheNearestFileUpwards) {
   EXPECT_THAT(finder.choices_for(folder.path("job.qin")).known_commands, ElementsAre("outer"));
 }
 
+TEST(ProjectFinder, LooksUpwardsFromTheFolderThatAPathLeadsTo) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directories(folder.path("below"));
+  std::filesystem::create_directory_symlink(folder.path("below"), folder.path("link"));
+  folder.write(".quill-inp.toml", "known-commands = ['outer']\n");
+  folder.write("below/.quill-inp.toml", "known-commands = ['inner']\n");
+  ProjectFinder finder;
+  EXPECT_THAT(finder.choices_for(folder.path("below/../job.qin")).known_commands,
+              ElementsAre("outer"));
+  EXPECT_THAT(finder.choices_for(folder.path("link/job.qin")).known_commands, ElementsAre("inner"));
+}
+
 TEST(ProjectFinder, LooksOnceForAFolder) {
   const TemporaryFolder folder;
   const std::string file = folder.write(".quill-inp.toml", "known-commands = ['grid']\n");

@@ -41,6 +41,8 @@ const Row rows[] = {
     {"OrderAndOneRemoved", "#a\n#b\n#c\n", "#c\n#b\n", "- #a\n! the order of the commands\n"},
     {"Parameters", "#opt(a=1, b, c=x, d)\n", "#opt(a=2, c, d, e=5)\n",
      "! #opt: a=1 -> a=2\n- #opt: b\n! #opt: c=x -> c\n+ #opt: e=5\n"},
+    {"AParameterWithAHash", "#opt(#x=1)\n", "#opt(x=1)\n", "- #opt: #x=1\n+ #opt: x=1\n"},
+    {"ACommandWithAHash", "##opt\n", "#opt\n", ""},
     {"OrderOfParameters", "#opt(a, b)\n", "#opt(b, a)\n", "! #opt: the order of the parameters\n"},
     {"AValueThatIsEmpty", "#opt(a)\n", "#opt(a='')\n", "! #opt: a -> a=\n"},
     {"ChargeAndMultiplicity", "#sp\n0 1\nHe 0 0 0\n", "#sp\n-1 2\nHe 0 0 0\n",

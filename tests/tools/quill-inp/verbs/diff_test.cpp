@@ -76,6 +76,12 @@ const Call calls[] = {
      ended(2, "",
            "quill-inp: error: --git takes the arguments that git gives\n"
            "quill-inp: note: see 'quill-inp diff --help'\n")},
+    {"ForGitWithWarningsThatCount",
+     {"diff", "--git", "--strict", "p.qin", "bare.qin", "0", "0", "bare.qin", "0", "0"},
+     ended(2, "",
+           "quill-inp: error: --git and --strict cannot be used together: git stops at any exit "
+           "code but 0\n"
+           "quill-inp: note: see 'quill-inp diff --help'\n")},
     {"ForGitSaysDoneAlthoughTheyDiffer",
      {"diff", "--git", "p.qin", "bare.qin", "0", "0", "-", "0", "0", "and", "more"},
      ended(0, "--- a/p.qin\n+++ b/p.qin\n+ #freq\n", ""),

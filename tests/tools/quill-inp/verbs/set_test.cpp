@@ -316,6 +316,13 @@ const Call calls[] = {
     {"ATaskInPlaceOfNothing",
      {"set", "water.qin", "--replace-task", "sp"},
      usage_error("--replace-task takes two names of tasks, such as 'sp=opt', not 'sp'")},
+    {"ATaskInPlaceOfACommandThatIsNone",
+     {"set", "water.qin", "--replace-task", "model=opt"},
+     usage_error("--replace-task takes two names of tasks, such as 'sp=opt', not 'model=opt'")},
+    {"ATaskInPlaceOfACommandByItsPosition",
+     {"set", "-", "--replace-task", "@commands[1]=opt"},
+     ended(0, "#model=a\n#opt(x=1)\n0 1\n", ""),
+     "#model=a\n#sp(x=1)\n0 1\n"},
     {"ATaskInPlaceOfAParameter",
      {"set", "water.qin", "--replace-task", "opt.tight=loose"},
      usage_error(
