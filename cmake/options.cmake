@@ -5,7 +5,8 @@ option(KELP_QUILL_INP_BUNDLED_SISTERS "Build the text and element libraries from
 option(KELP_QUILL_INP_BUILD_EXAMPLES "Build the example programs" OFF)
 option(KELP_QUILL_INP_BUILD_TOOLS "Build quill-inp (needs CLI11, libmd, nlohmann-json and utf8cpp)" OFF)
 option(KELP_QUILL_INP_BUILD_PYTHON
-  "Build the Python package (needs pybind11, Python and what the tool needs)" OFF)
+  "Build the Python package (needs pybind11, nlohmann-json and utf8cpp)" OFF)
+set(KELP_QUILL_INP_PYTHON_DIR "" CACHE STRING "Folder for the extension of the Python package, for setup.py")
 option(KELP_QUILL_INP_BUILD_TESTS "Build the tests (needs GoogleTest and the examples)" OFF)
 option(KELP_QUILL_INP_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
 option(KELP_QUILL_INP_BUILD_FUZZERS "Build the fuzz targets, or programs that replay their inputs" OFF)

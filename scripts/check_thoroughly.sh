@@ -30,7 +30,8 @@ step "the oldest compilers"
 step "the page for beginners, with the tool"
 ../tests/docs/first_program.sh "$(cd .. && pwd)" "$(cd .. && pwd)/build/getting_started" g++ and-the-tool
 
-step "what is shipped: hardening, Debian packages, the same bytes from two folders"
+step "what is shipped: a wheel, hardening, Debian packages, the same bytes from two folders"
+./check_python_wheel.sh
 ./check_hardening.sh
 ./check_debian.sh
 ./check_reproducible.sh

@@ -4,6 +4,7 @@ PYBIND11_MODULE(_core, module) {
   using namespace kelp::input::quill::python;
 
   module.doc() = "What the Python package quill_inp is made of; use that.";
+  module.attr("version") = KELP_QUILL_INP_VERSION;
   bind_parameter(module);
   bind_command(module);
   bind_atom(module);

@@ -20,6 +20,7 @@ change of it changes the document. As soon as entries of that list are removed, 
 their own, with what they held.
 """
 
+from quill_inp import _core
 from quill_inp._atom import AtomRecord
 from quill_inp._builder import InputBuilder
 from quill_inp._command import CommandParameter, HeaderCommand, find_parameter_index
@@ -50,6 +51,8 @@ from quill_inp._reader import (
     parse_string,
     read,
 )
+
+__version__ = _core.version
 
 __all__ = [
     "AtomRecord",

@@ -36,6 +36,8 @@ from quill_inp._reader import (
     read as read,
 )
 
+__version__: str
+
 __all__ = [
     "AtomRecord",
     "CommandParameter",
