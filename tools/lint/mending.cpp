@@ -46,19 +46,21 @@ std::vector<ByteEdit> safe_edits(const Findings& findings, std::size_t& count) {
   return edits;
 }
 
-MendedText mend(std::string text, const Options& options,
+MendedText mend(lossless::ReadText read, const Options& options,
                 const std::function<bool(const Finding&)>& is_wanted) {
-  MendedText mended{std::move(text)};
+  MendedText mended{std::move(read)};
   for (;;) {
-    const lossless::ReadText read = lossless::read_text(mended.text);
-    Findings findings = find_all(read, options);
+    Findings findings = find_all(mended.read, options);
     findings.erase(std::remove_if(findings.begin(), findings.end(),
                                   [&](const Finding& finding) { return !is_wanted(finding); }),
                    findings.end());
     std::size_t count = 0;
     const std::vector<ByteEdit> edits = safe_edits(findings, count);
     if (edits.empty()) return mended;
-    mended.text = with_edits(mended.text, edits);
+    std::string text = with_edits(mended.read.text, edits);
+    findings = Findings();
+    mended.read = lossless::ReadText();
+    mended.read = lossless::read_text(std::move(text));
     mended.count += count;
   }
 }

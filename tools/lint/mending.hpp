@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "kelp/input/quill/lossless/read_text.hpp"
 #include "lint/finding.hpp"
 #include "lint/source.hpp"
 
@@ -13,7 +14,7 @@ namespace kelp::input::quill::lint {
 
 /// A text after its mends, and how many findings were mended.
 struct MendedText {
-  std::string text = {};
+  lossless::ReadText read = {};
   std::size_t count = 0;
 };
 
@@ -23,8 +24,9 @@ struct MendedText {
 std::vector<ByteEdit> safe_edits(const Findings& findings, std::size_t& count);
 
 /// Mends a text, reads it again and mends what is then found, until nothing is left to mend.
-/// Findings for which `is_wanted` is false are not mended.
-MendedText mend(std::string text, const Options& options,
+/// Findings for which `is_wanted` is false are not mended. Only one text is kept at a time with
+/// what the reader made of it, which takes much more memory.
+MendedText mend(lossless::ReadText read, const Options& options,
                 const std::function<bool(const Finding&)>& is_wanted);
 
 }  // namespace kelp::input::quill::lint

@@ -67,11 +67,11 @@ const Row rows[] = {
 class Mending : public testing::TestWithParam<Row> {};
 
 TEST_P(Mending, ChangesTheseBytes) {
-  const MendedText once = mend(GetParam().text, Options(), every);
-  EXPECT_EQ(once.text, GetParam().mended);
+  const MendedText once = mend(lossless::read_text(GetParam().text), Options(), every);
+  EXPECT_EQ(once.read.text, GetParam().mended);
   EXPECT_EQ(once.count, GetParam().count);
-  const MendedText twice = mend(once.text, Options(), every);
-  EXPECT_EQ(twice.text, once.text);
+  const MendedText twice = mend(once.read, Options(), every);
+  EXPECT_EQ(twice.read.text, once.read.text);
   EXPECT_EQ(twice.count, 0U);
 }
 
@@ -80,7 +80,9 @@ INSTANTIATE_TEST_SUITE_P(Table, Mending, testing::ValuesIn(rows),
 
 TEST(MendingOfSome, LeavesTheOthersAlone) {
   const auto is_number = [](const Finding& finding) { return finding.code == "QL217"; };
-  EXPECT_EQ(mend("#opt(a=\u22121, b=\u2018c\u2019)\n0 1\nHe 0 0 0\n", Options(), is_number).text,
+  EXPECT_EQ(mend(lossless::read_text("#opt(a=\u22121, b=\u2018c\u2019)\n0 1\nHe 0 0 0\n"),
+                 Options(), is_number)
+                .read.text,
             "#opt(a=-1, b=\u2018c\u2019)\n0 1\nHe 0 0 0\n");
 }
 

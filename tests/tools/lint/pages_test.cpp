@@ -59,7 +59,7 @@ TEST_P(PageOfARule, SaysWhetherTheMendIsSafe) {
       !findings.empty() && findings.front().mend && findings.front().mend->is_safe;
   if (is_mended) {
     const auto every = [](const Finding&) { return true; };
-    EXPECT_EQ(mend(bad(), options_of_pages(), every).text, mended());
+    EXPECT_EQ(mend(lossless::read_text(bad()), options_of_pages(), every).read.text, mended());
   }
   EXPECT_EQ(page().find("\nYes, `--fix` makes it.") != std::string_view::npos, is_mended);
 }

@@ -21,7 +21,7 @@ namespace {
 using Names = std::vector<std::string>;
 
 TEST(OutOfMemory, ForOneFileStopsNoOther) {
-  const std::string input = "#a\n\n0 1\n";
+  const std::string input = "#a(b, c=d, e=f)\n\n0 1\n";
   const TemporaryFolder folder;
   const std::vector<std::pair<std::string, std::string>> files = {
       {"<stdin>", input},

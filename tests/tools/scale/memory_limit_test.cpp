@@ -52,12 +52,14 @@ std::vector<std::string> arguments_of(const Verb& verb, const std::string& path)
 }
 
 /// Atoms by hand that are not close to one another, which the linter would find.
-std::string text_of_atoms() {
+std::string text_of_atoms(std::string_view blanks = "   ") {
   std::string text = "#opt\n#model = m2\n\n0 1\n";
   for (int i = 0; i < 20000; ++i) {
     text += "C";
-    for (const int place : {i % 30, i / 30 % 30, i / 900})
-      text += "   " + std::to_string(2.0 * place);
+    for (const int place : {i % 30, i / 30 % 30, i / 900}) {
+      text += blanks;
+      text += std::to_string(2.0 * place);
+    }
     text += "\n";
   }
   return text;
@@ -70,7 +72,8 @@ class VerbMemory : public testing::TestWithParam<Verb> {
 
   void expect_for_atoms(std::int64_t times) const {
     const std::string by_hand = text_of_atoms();
-    for (const std::string& text : {by_hand, parse_string(by_hand).input.to_string()}) {
+    for (const std::string& text :
+         {by_hand, text_of_atoms(" "), parse_string(by_hand).input.to_string()}) {
       const std::int64_t peak = peak_for(text);
       EXPECT_LE(peak, times * static_cast<std::int64_t>(text.size()) + GetParam().fixed)
           << static_cast<double>(peak) / static_cast<double>(text.size()) << " times a text of "
@@ -146,11 +149,13 @@ TEST_P(LinterMemory, IsAtMostEightTimesATextOfAtomsWithoutFindings) { expect_for
 const Verb rereading_verbs[] = {
     {"LintThatMends", {"lint", "--fix"}},
     {"SetThatIsStrict", {"set", "--strict"}, {"model=m1"}},
+    {"FmtThatIsStrict", {"fmt", "--strict"}},
+    {"HashThatIsStrict", {"hash", "--strict"}},
 };
 
 class RereadingMemory : public VerbMemory {};
 
-TEST_P(RereadingMemory, IsAtMostTwelveTimesATextOfAtoms) { expect_for_atoms(12); }
+TEST_P(RereadingMemory, IsAtMostEightTimesATextOfAtoms) { expect_for_atoms(8); }
 
 void PrintTo(const Verb& verb, std::ostream* out) { *out << verb.name; }
 
@@ -179,18 +184,22 @@ TEST(MemoryOfManyFiles, IsThatOfOne) {
   EXPECT_LE(get(4), get(1) + small_change);
 }
 
-TEST(MemoryOfManyFiles, OfASweepIsAtMostTwelveTimesATextOfAtoms) {
+TEST(MemoryOfManyFiles, OfASweepIsAtMostEightTimesATextOfAtoms) {
   const TemporaryFolder folder;
-  const std::string text = text_of_atoms();
-  const std::string path = folder.write("a.qin", text);
-  CallEnd end;
-  const std::int64_t peak = peak_of([&] {
-    end = call_in_memory(
-        {"sweep", path, "opt.maxiter=[1,2,3]", "-o", folder.path() + "/{number}.qin", "-j1"});
-  });
-  EXPECT_EQ(end.code, 0);
-  EXPECT_LE(peak, 12 * static_cast<std::int64_t>(text.size()) + for_one_call)
-      << static_cast<double>(peak) / static_cast<double>(text.size());
+  for (const std::string& text : {text_of_atoms(), text_of_atoms(" ")}) {
+    for (const char* const option : {"--quiet", "--strict"}) {
+      const std::string path = folder.write("a.qin", text);
+      const std::string pattern = folder.path() + "/{number}" + option + ".qin";
+      CallEnd end;
+      const std::int64_t peak = peak_of([&] {
+        end = call_in_memory(
+            {"sweep", path, "opt.maxiter=[1,2,3]", "-o", pattern, "-j1", "--force", option});
+      });
+      EXPECT_EQ(end.code, 0);
+      EXPECT_LE(peak, 8 * static_cast<std::int64_t>(text.size()) + for_one_call)
+          << static_cast<double>(peak) / static_cast<double>(text.size()) << ' ' << option;
+    }
+  }
 }
 
 TEST(VerbMemory, OfNewAndOfSetIsAtMostEightTimesTheAtomsThatTheyWrite) {

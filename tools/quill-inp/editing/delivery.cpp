@@ -105,6 +105,10 @@ void require_one_text(const Delivery& delivery, const FileChoice& files) {
   if (delivery.output.path && !is_one) throw UsageError("--output takes the text of one FILE");
 }
 
+bool needs_old_text(const Delivery& delivery) {
+  return delivery.as_diff || delivery.replace.backup_suffix;
+}
+
 ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_text,
                  const Delivery& delivery) {
   if (delivery.as_check || delivery.as_diff)

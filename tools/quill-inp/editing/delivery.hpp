@@ -42,6 +42,9 @@ ReadInput read_for_delivery(Session& session, const std::string& argument,
 /// Throws UsageError if one file is to take the texts of several.
 void require_one_text(const Delivery& delivery, const FileChoice& files);
 
+/// Returns whether the old text of a file is needed for more than to tell that it is another one.
+bool needs_old_text(const Delivery& delivery);
+
 /// Delivers the new text of a file: prints it, writes it in place of the old one, or prints whether
 /// and how it differs. The answer is "no" if it differs. The session notes a file that was changed.
 /// Throws Trouble when that fails.

@@ -37,14 +37,6 @@ std::string folder_of(const std::string& argument) {
   return slash == std::string::npos ? "." : argument.substr(0, slash + 1);
 }
 
-/// Frees the memory of everything that was needed only to make the new text: the proof needs as
-/// much.
-void forget_all_but_texts(ReadInput& input, NewText& edited) {
-  forget_lines(input);
-  input.read.result = ParseResult();
-  edited.changes = std::vector<lossless::LineChange>();
-}
-
 }  // namespace
 
 void add_edit_options(CLI::App& verb) {
@@ -91,6 +83,12 @@ MadeEdit make_edit(Session& session, const std::string& name, const ReadInput& i
   return made;
 }
 
+void forget_all_but_texts(ReadInput& input, MadeEdit& made) {
+  forget_lines(input);
+  input.read.result = ParseResult();
+  made.text.changes = std::vector<lossless::LineChange>();
+}
+
 bool accept_edit(Session& session, const std::string& name, MadeEdit& made,
                  const LossPolicy& policy, EditNotes notes) {
   const QuillInput& wanted = made.document.document();
@@ -112,9 +110,10 @@ ExitCode edit_file(Session& session, const std::string& argument, const Edit& ed
   // the notes, which can take much memory, are made first.
   std::vector<ChangeNote> notes;
   if (delivery.in_place) notes = describe_changes(input, made.text);
-  forget_all_but_texts(input, made.text);
+  forget_all_but_texts(input, made);
 
   if (!accept_edit(session, input.name, made, policy, EditNotes::Told)) return ExitCode::Trouble;
+  made.document = TrackedDocument(QuillInput());
   if (!accept_findings(session, argument, made.text.text, policy)) return ExitCode::Trouble;
   const ExitCode code = deliver(session, input, made.text.text, delivery);
   for (const ChangeNote& note : notes) session.reporter().note(note.place, note.message);

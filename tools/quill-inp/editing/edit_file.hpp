@@ -56,6 +56,10 @@ struct MadeEdit {
 MadeEdit make_edit(Session& session, const std::string& name, const ReadInput& input,
                    const Edit& edit, const LossPolicy& policy, EditNotes notes);
 
+/// Frees the memory of everything that was needed only to make the new text: the proof needs as
+/// much.
+void forget_all_but_texts(ReadInput& input, MadeEdit& made);
+
 /// Proves the text of such an edit. Only the text of the input is needed for that. Returns whether
 /// it may be written; what is lost or refused is reported. To be called once.
 bool accept_edit(Session& session, const std::string& name, MadeEdit& made,

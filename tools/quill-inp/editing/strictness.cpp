@@ -1,5 +1,7 @@
 #include "quill-inp/editing/strictness.hpp"
 
+#include <utility>
+
 #include "lint/lint.hpp"
 #include "lint/selection.hpp"
 #include "lint/wording.hpp"
@@ -7,13 +9,13 @@
 
 namespace kelp::input::quill::tool {
 
-bool accept_findings(Session& session, const std::string& argument, std::string_view text,
-                     const LossPolicy& policy) {
-  if (!policy.is_strict) return true;
+namespace {
+
+bool accept_read_text(Session& session, const std::string& argument,
+                      const lossless::ReadText& read) {
   const ProjectChoices project = ProjectFinder().choices_for(argument);
   lint::Options options;
   options.known_commands = project.known_commands;
-  const lossless::ReadText read = lossless::read_text(std::string(text));
   for (const lint::Finding& finding : lint::find_all(read, options)) {
     const bool is_error = lint::find_rule(finding.code)->severity == lint::Severity::Error;
     if (!is_error || !lint::is_selected(finding.code, {{}, project.ignored})) continue;
@@ -24,6 +26,17 @@ bool accept_findings(Session& session, const std::string& argument, std::string_
     return false;
   }
   return true;
+}
+
+}  // namespace
+
+bool accept_findings(Session& session, const std::string& argument, std::string& text,
+                     const LossPolicy& policy) {
+  if (!policy.is_strict) return true;
+  lossless::ReadText read = lossless::read_text(std::move(text));
+  const bool is_accepted = accept_read_text(session, argument, read);
+  text = std::move(read.text);
+  return is_accepted;
 }
 
 }  // namespace kelp::input::quill::tool

@@ -151,6 +151,9 @@ ReadDocument read_document(Session& session, const std::string& argument) {
 
 void forget_lines(ReadInput& input) { input.read.lines = std::vector<LineRecord>(); }
 
+// An empty string that is assigned leaves the memory where it is.
+void forget_text(ReadInput& input) { std::string().swap(input.read.text); }
+
 void require_apart_from_output(Session& session, const std::string& argument) {
   struct stat state {};
   const std::optional<int> file = session.input_file();

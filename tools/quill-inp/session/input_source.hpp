@@ -45,6 +45,9 @@ ReadDocument read_document(Session& session, const std::string& argument);
 /// more. Text and document stay.
 void forget_lines(ReadInput& input);
 
+/// The same for the text, where nothing that is still needed has views of it.
+void forget_text(ReadInput& input);
+
 /// Reads such a file to replace it. Waits at most `patience` for other runs of this program that
 /// replace it. Throws as read_source() does, for standard input, and when the waiting is over.
 ReadInput read_for_replacing(Session& session, const std::string& argument,

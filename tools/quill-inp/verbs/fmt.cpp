@@ -26,7 +26,8 @@ constexpr Option files{"FILE", "", "The inputs"};
 ExitCode format(Session& session, const std::string& argument, const Delivery& delivery,
                 const LossPolicy& policy) {
   ReadInput input = read_for_delivery(session, argument, delivery);
-  const std::optional<std::string> text = make_canonical_text(session, input, policy);
+  const OldText old_text = needs_old_text(delivery) ? OldText::Kept : OldText::Forgotten;
+  std::optional<std::string> text = make_canonical_text(session, input, policy, old_text);
   if (!text) return ExitCode::Trouble;
   if (!accept_findings(session, argument, *text, policy)) return ExitCode::Trouble;
   const ExitCode code = deliver(session, input, *text, delivery);

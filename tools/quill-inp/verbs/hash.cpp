@@ -61,7 +61,7 @@ std::string unescaped(std::string_view name) {
 std::optional<std::string> hash_of(Session& session, const std::string& argument,
                                    const LossPolicy& policy) {
   ReadInput input = read_input(session, argument);
-  const std::optional<std::string> text = make_canonical_text(session, input, policy);
+  std::optional<std::string> text = make_canonical_text(session, input, policy, OldText::Forgotten);
   if (!text || !accept_findings(session, argument, *text, policy)) return std::nullopt;
   return sha256_of(*text);
 }

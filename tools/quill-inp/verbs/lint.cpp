@@ -126,12 +126,15 @@ class Linter {
     const auto is_wanted = [&](const lint::Finding& finding) {
       return lint::is_selected(finding.code, selection);
     };
-    lint::MendedText mended = lint::mend(input.read.text, options, is_wanted);
-    if (mended.count == 0) return ExitCode::Done;
-    const ExitCode code = deliver(session, input, mended.text, delivery);
-    if (call_.shows_diff) return code;
-    session.reporter().note({input.name}, counted(mended.count, "finding") + " mended");
-    input.read = lossless::read_text(std::move(mended.text));
+    std::string old_text = input.read.text;
+    lint::MendedText mended = lint::mend(std::move(input.read), options, is_wanted);
+    input.read = {std::move(old_text), {}, {}};
+    const bool is_mended = mended.count > 0;
+    const ExitCode code =
+        is_mended ? deliver(session, input, mended.read.text, delivery) : ExitCode::Done;
+    if (is_mended && !call_.shows_diff)
+      session.reporter().note({input.name}, counted(mended.count, "finding") + " mended");
+    input.read = std::move(mended.read);
     return code;
   }
 

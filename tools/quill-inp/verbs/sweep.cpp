@@ -203,19 +203,23 @@ std::set<std::string> make_folders(const std::vector<std::string>& names) {
   return folders;
 }
 
-/// Makes and writes the input with this number.
-ExitCode write_one(Session& session, const ReadInput& input, const Plan& plan,
+/// Makes and writes the input with this number. The template is read for each input, since to keep
+/// what the reader makes of it takes several times the memory of its text.
+ExitCode write_one(Session& session, const InputSource& source, const Plan& plan,
                    const Request& request, std::size_t number, ManifestEntry& entry) {
   const auto edit = [&](lossless::TrackedDocument& document) {
     return plan.edit(number, document);
   };
   const EditNotes notes = number == 0 ? EditNotes::Told : EditNotes::Untold;
+  ReadInput input{source.name, lossless::read_text(source.content)};
   MadeEdit made = make_edit(session, entry.file, input, edit, request.policy, notes);
   if (made.code != ExitCode::Done) return made.code;
-  const std::string& text = made.text.text;
-  if (!accept_edit(session, entry.file, made, request.policy, notes) ||
-      !accept_findings(session, entry.file, text, request.policy))
-    return ExitCode::Trouble;
+  forget_all_but_texts(input, made);
+  if (made.line_losses.empty()) forget_text(input);
+  std::string& text = made.text.text;
+  if (!accept_edit(session, entry.file, made, request.policy, notes)) return ExitCode::Trouble;
+  made.document = lossless::TrackedDocument(QuillInput());
+  if (!accept_findings(session, entry.file, text, request.policy)) return ExitCode::Trouble;
   const WrittenFile written =
       write_whole_file(entry.file, text, request.existing, FolderFlush::ByCaller);
   for (const std::string& note : written.notes) session.reporter().note({entry.file}, note);
@@ -224,7 +228,7 @@ ExitCode write_one(Session& session, const ReadInput& input, const Plan& plan,
   return ExitCode::Done;
 }
 
-ExitCode write_all(Session& session, const ReadInput& input, const Plan& plan,
+ExitCode write_all(Session& session, const InputSource& source, const Plan& plan,
                    const Request& request) {
   ChosenFiles files;
   files.files = list_names(plan);
@@ -234,7 +238,7 @@ ExitCode write_all(Session& session, const ReadInput& input, const Plan& plan,
     entries[i] = {files.files[i], {}, plan.manifest_values(i)};
   const ExitCode code =
       for_each_number(session, files, request.batch, [&](Session& one, std::size_t number) {
-        return write_one(one, input, plan, request, number, entries[number]);
+        return write_one(one, source, plan, request, number, entries[number]);
       });
   for (const std::string& folder : folders) flush_folder(folder);
   // The list names only files that contain what it says. So it is written last, and only if nothing
@@ -251,11 +255,13 @@ ExitCode sweep(Session& session, const CLI::App& app) {
   const Request request = read_request(app);
   const std::string argument = *value_of(app, template_file);
   return for_file(session, argument, [&] {
-    const ReadInput input = read_input(session, argument);
+    ReadInput input = read_input(session, argument);
     if (!accept_as_input(session, input, request.policy)) return ExitCode::Trouble;
     report_warnings(session.reporter(), input.name, input.read.result);
     const Plan plan(request, read_all_structures(session, request), input.name);
-    return write_all(session, input, plan, request);
+    const InputSource source{std::move(input.name), std::move(input.read.text)};
+    input = ReadInput();
+    return write_all(session, source, plan, request);
   });
 }
 
