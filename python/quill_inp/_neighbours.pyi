@@ -1,0 +1,13 @@
+from collections.abc import Iterable
+
+from numpy.typing import ArrayLike
+
+from quill_inp._document import QuillInput
+
+class NotCarriedWarning(UserWarning): ...
+
+def warn_of_losses(receiver: str, losses: Iterable[str], stacklevel: int = ...) -> None: ...
+def document_of(
+    symbols: Iterable[str], positions: ArrayLike, charge: int, multiplicity: int
+) -> QuillInput: ...
+def whole_number(name: str, value: float) -> int: ...
