@@ -233,9 +233,6 @@ constexpr Rule rules[] = {
 
 }  // namespace
 
-const std::vector<Rule>& all_rules() {
-  static const std::vector<Rule> all(std::begin(rules), std::end(rules));
-  return all;
-}
+RuleTable all_rules() { return {std::begin(rules), std::end(rules)}; }
 
 }  // namespace kelp::input::quill::lint

@@ -30,10 +30,10 @@ const std::vector<Group>& all_groups() {
 
 const Rule* find_rule(std::string_view code) {
   const std::string wanted = core::text::to_upper_copy(code);
-  const std::vector<Rule>& rules = all_rules();
-  const auto rule =
+  const RuleTable rules = all_rules();
+  const Rule* rule =
       std::find_if(rules.begin(), rules.end(), [&](const Rule& row) { return row.code == wanted; });
-  return rule == rules.end() ? nullptr : &*rule;
+  return rule == rules.end() ? nullptr : rule;
 }
 
 }  // namespace kelp::input::quill::lint

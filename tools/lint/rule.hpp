@@ -52,8 +52,22 @@ std::string_view name_of(Group group);
 /// All groups, in the order of the enumeration.
 const std::vector<Group>& all_groups();
 
+/// Rules in a row. They are part of the program, so a pointer to one always stays valid.
+class RuleTable {
+ public:
+  using value_type = Rule;
+
+  constexpr RuleTable(const Rule* begin, const Rule* end) : begin_(begin), end_(end) {}
+  constexpr const Rule* begin() const { return begin_; }
+  constexpr const Rule* end() const { return end_; }
+
+ private:
+  const Rule* begin_;
+  const Rule* end_;
+};
+
 /// The only table of rules, in the order of the codes. A code is never given to another rule.
-const std::vector<Rule>& all_rules();
+RuleTable all_rules();
 
 /// Returns the rule of a code, in any letter case, or a null pointer.
 const Rule* find_rule(std::string_view code);

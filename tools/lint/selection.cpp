@@ -28,7 +28,7 @@ bool is_selected(std::string_view code, const Selection& selection) {
 }
 
 bool is_rule_or_group(std::string_view name) {
-  const std::vector<Rule>& rules = all_rules();
+  const RuleTable rules = all_rules();
   return std::any_of(rules.begin(), rules.end(),
                      [&](const Rule& rule) { return names_rule(std::string(name), rule); });
 }

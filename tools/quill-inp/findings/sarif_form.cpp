@@ -124,11 +124,10 @@ void write_fix(JsonWriter& json, const CountedReport& counted, const lint::Findi
 }
 
 void write_result(JsonWriter& json, const CountedReport& counted, const lint::Finding& finding) {
-  const std::vector<lint::Rule>& rules = lint::all_rules();
   const lint::Rule* rule = lint::find_rule(finding.code);
   json.begin_object(one_line);
   json.member("ruleId").text(rule->code);
-  write_count(json, "ruleIndex", static_cast<std::size_t>(rule - rules.data()));
+  write_count(json, "ruleIndex", static_cast<std::size_t>(rule - lint::all_rules().begin()));
   json.member("level").text(level_of(rule->severity));
   write_message(json, "message", lint::words_of(finding).message);
   json.member("locations").begin_list(one_line);
