@@ -45,6 +45,7 @@ bool print_table(const Options& options) {
   add_writing_ratios(table);
   add_small_job_ratios(table);
   add_builder_ratios(table);
+  add_start_ratios(table);
   add_tool_ratios(table);
   return table.all_met();
 }

@@ -13,6 +13,7 @@ void add_writing_ratios(RatioTable& table);
 void add_heap_ratios(RatioTable& table);
 void add_small_job_ratios(RatioTable& table);
 void add_builder_ratios(RatioTable& table);
+void add_start_ratios(RatioTable& table);
 void add_tool_ratios(RatioTable& table);
 
 }  // namespace kelp::input::quill::bench
