@@ -76,7 +76,8 @@ struct argument_caster {
 template <>
 struct type_caster<kelp::input::quill::python::Text>
     : argument_caster<kelp::input::quill::python::Text, kelp::input::quill::python::text_from> {
-  static handle cast(const kelp::input::quill::python::Text& text, return_value_policy, handle) {
+  static handle cast(const kelp::input::quill::python::Text& text, return_value_policy /*policy*/,
+                     handle /*parent*/) {
     return kelp::input::quill::python::to_python(text.bytes).release();
   }
 };

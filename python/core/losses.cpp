@@ -65,6 +65,6 @@ std::string proved_text_of(const QuillInput& document, const Tolerance& toleranc
   return text;
 }
 
-void bind_losses(py::module_&) { py::register_exception_translator(&translate); }
+void bind_losses(py::module_& /*module*/) { py::register_exception_translator(&translate); }
 
 }  // namespace kelp::input::quill::python

@@ -135,6 +135,11 @@ class QuillInput(Part):
     def __repr__(self):
         return f"QuillInput({self.commands!r}, {self.geometry!r}, {self.post_commands!r})"
 
+    def _repr_html_(self):
+        from quill_inp._notebook import to_html
+
+        return to_html(self)
+
     def __reduce__(self):
         return _from_pickle, (type(self), 1, _core.json_of(self._part))
 

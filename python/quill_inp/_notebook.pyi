@@ -1,0 +1,3 @@
+from quill_inp._document import QuillInput
+
+def to_html(document: QuillInput) -> str: ...
