@@ -60,13 +60,17 @@ def _value(atoms, indices):
     """Returns what a constraint of these atoms fixes, in angstroms or degrees, or None where it is
     not defined or ASE has no derivative of it. For one atom it is 0.
     """
+    if len(indices) == 1:
+        return 0.0
+    if not all(map(math.isfinite, atoms.positions[indices].flat)):
+        return None
     try:
-        if len(indices) == 4:
-            return float(atoms.get_dihedral(*indices))
+        if len(indices) == 2:
+            return float(atoms.get_distance(*indices)) or None
         if len(indices) == 3:
             angle = float(atoms.get_angle(*indices))
             return angle if math.sin(math.radians(angle)) > 1e-6 else None
-        return float(atoms.get_distance(*indices)) if len(indices) == 2 else 0.0
+        return float(atoms.get_dihedral(*indices))
     except ZeroDivisionError:
         return None
 

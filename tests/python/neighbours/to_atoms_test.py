@@ -80,14 +80,26 @@ def test_constraints_with_the_wrong_number_of_atoms_are_named():
     assert atoms.constraints == []
 
 
-def test_angles_without_a_derivative_and_dihedrals_about_them_are_named():
-    lines = "B 1 2\nA 1 2 3\nD 1 2 3 4\n"
+@pytest.mark.parametrize(
+    ("first", "bonds", "named"),
+    [
+        ("0 0 -1.16", 2, "'A 1 2 3', 'D 1 2 3 4'"),
+        ("0 0 0", 1, "'B 1 2', 'A 1 2 3', 'D 1 2 3 4'"),
+        ("0 nan 0", 1, "'B 1 2', 'A 1 2 3', 'D 1 2 3 4'"),
+        ("0 0 inf", 1, "'B 1 2', 'A 1 2 3', 'D 1 2 3 4'"),
+    ],
+)
+def test_values_without_a_derivative_are_named(first, bonds, named):
     document = quill_inp.loads(
-        "0 1\nO 0 0 -1.16\nC 0 0 0\nO 0 0 1.16\nHe 1 0 2\n\n" + lines
+        f"0 1\nO {first}\nC 0 0 0\nO 0 0 1.16\nHe 1 0 2\n\n"
+        "B 1 2\nA 1 2 3\nD 1 2 3 4\nB 2 3\nC 1\n"
     )
     atoms, message = losses(quill_inp.ase.to_atoms, document)
-    assert message == "ASE has no place for: 'A 1 2 3', 'D 1 2 3 4'"
-    assert [len(one.bonds) for one in atoms.constraints] == [1]
+    assert message == f"ASE has no place for: {named}"
+    fixed, internal = atoms.constraints
+    assert fixed.get_indices().tolist() == [0]
+    assert [1.16, [1, 2]] in internal.bonds
+    assert len(internal.bonds) == bonds and not internal.angles and not internal.dihedrals
 
 
 def test_symbols_that_are_no_element_become_x_and_are_named_once():
