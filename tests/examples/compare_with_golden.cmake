@@ -1,11 +1,15 @@
 # Runs PROGRAM with ARGUMENTS in FOLDER, by EMULATOR if there is one, and compares what it prints and
 # writes, and its exit status, with the files of the folder GOLDEN: stdout, stderr, status, and output
-# if it writes a file.
+# if it writes a file. KELP_QUILL_INP_COPIED_INPUT in the environment names the input that output is a
+# copy of before.
 # A golden file that is missing is a failure. With KELP_QUILL_INP_REFRESH_GOLDEN in the environment
 # the golden files are replaced instead, to be reviewed as a difference before they are committed.
 
 file(REMOVE_RECURSE "${SCRATCH}")
 file(MAKE_DIRECTORY "${SCRATCH}")
+if(DEFINED ENV{KELP_QUILL_INP_COPIED_INPUT})
+  configure_file("${FOLDER}/$ENV{KELP_QUILL_INP_COPIED_INPUT}" "${SCRATCH}/output" COPYONLY)
+endif()
 string(REPLACE "@OUTPUT@" "${SCRATCH}/output" ARGUMENTS "${ARGUMENTS}")
 execute_process(
   COMMAND ${EMULATOR} "${PROGRAM}" ${ARGUMENTS}

@@ -5,6 +5,7 @@
 #include "kelp/core/text.hpp"
 
 #include "quill-inp/command_line/arguments.hpp"
+#include "quill-inp/files/written_files.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/text/unified_diff.hpp"
 
@@ -109,7 +110,7 @@ bool needs_old_text(const Delivery& delivery) {
   return delivery.as_diff || delivery.replace.backup_suffix;
 }
 
-ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_text,
+ExitCode deliver(Session& session, ReadInput& input, std::string_view new_text,
                  const Delivery& delivery) {
   if (delivery.as_check || delivery.as_diff)
     return tell_difference(session, input, new_text, delivery);
@@ -117,10 +118,10 @@ ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_
     write_output(session, delivery.output, new_text);
     return ExitCode::Done;
   }
-  for (const std::string& note :
-       replace_content(input.origin.value(), input.read.text, new_text, delivery.replace))
+  if (new_text == input.read.text) return ExitCode::Done;
+  for (const std::string& note : replace_text(input.file.value(), new_text, delivery.replace))
     session.reporter().note({input.name}, note);
-  if (new_text != input.read.text) session.note_change();
+  session.note_change();
   return ExitCode::Done;
 }
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "kelp/input/quill/lossless/file_replacement.hpp"
 #include "quill-inp/batch/file_choice.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/editing/output_file.hpp"
-#include "quill-inp/files/safe_write.hpp"
 #include "quill-inp/process/exit_code.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/session/session.hpp"
@@ -20,8 +20,8 @@ struct Delivery {
   bool in_place = false;
   bool as_diff = false;
   bool as_check = false;  // only whether there is anything to change
-  ReplaceOptions replace = {};
-  std::chrono::seconds patience = std::chrono::seconds(60);  // with other runs, when in place
+  lossless::ReplaceOptions replace = {};
+  std::chrono::seconds patience = std::chrono::seconds(60);  // with other programs
   OutputFile output = {};
 };
 
@@ -48,7 +48,7 @@ bool needs_old_text(const Delivery& delivery);
 /// Delivers the new text of a file: prints it, writes it in place of the old one, or prints whether
 /// and how it differs. The answer is "no" if it differs. The session notes a file that was changed.
 /// Throws Trouble when that fails.
-ExitCode deliver(Session& session, const ReadInput& input, std::string_view new_text,
+ExitCode deliver(Session& session, ReadInput& input, std::string_view new_text,
                  const Delivery& delivery);
 
 }  // namespace kelp::input::quill::tool

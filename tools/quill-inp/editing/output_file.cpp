@@ -1,6 +1,6 @@
 #include "quill-inp/editing/output_file.hpp"
 
-#include "quill-inp/files/whole_file.hpp"
+#include "quill-inp/files/written_files.hpp"
 #include "quill-inp/process/trouble.hpp"
 
 namespace kelp::input::quill::tool {
@@ -33,9 +33,10 @@ void write_output(Session& session, const OutputFile& output, std::string_view t
     return;
   }
   try {
-    const WrittenFile written = write_whole_file(
-        *output.path, text,
-        output.may_be_replaced ? ExistingFile::IsReplaced : ExistingFile::IsRefused);
+    const WrittenFile written =
+        write_file(*output.path, text,
+                   output.may_be_replaced ? lossless::ExistingFile::IsReplaced
+                                          : lossless::ExistingFile::IsRefused);
     for (const std::string& note : written.notes) session.reporter().note({*output.path}, note);
     if (written.is_written) session.note_change();
   } catch (const Trouble& trouble) {

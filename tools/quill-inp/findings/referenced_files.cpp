@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <utility>
 
-#include "quill-inp/process/file_descriptor.hpp"
+#include "files/file_descriptor.hpp"
 #include "quill-inp/process/trouble.hpp"
 
 namespace kelp::input::quill::tool {
@@ -23,12 +23,12 @@ lint::ReferencedFile unreadable(std::string reason) {
   return {State::Unreadable, std::move(reason), {}};
 }
 
-lint::ReferencedFile read_open_file(const FileDescriptor& file, std::uint64_t limit) {
-  const struct stat state = state_of(file.number());
+lint::ReferencedFile read_open_file(const lossless::FileDescriptor& file, std::uint64_t limit) {
+  const struct stat state = lossless::state_of(file.number());
   if (S_ISDIR(state.st_mode)) return unreadable("it is a folder");
   if (!S_ISREG(state.st_mode)) return unreadable("it is not a regular file");
   std::string content =
-      read_to_end(file.number(), limit, static_cast<std::uint64_t>(state.st_size));
+      lossless::read_to_end(file.number(), limit, static_cast<std::uint64_t>(state.st_size));
   if (content.size() > limit) return unreadable("it is too large, see --max-size");
   return {State::Read, {}, std::move(content)};
 }
@@ -39,14 +39,15 @@ lint::ReferencedFile find_referenced_file(const std::string& folder, const std::
                                           std::uint64_t limit) {
   if (path.find('\0') != std::string::npos) return {};
   // Not blocking, so that a pipe without a writer is refused at once.
-  const FileDescriptor file(open_in(AT_FDCWD, joined(folder, path), O_RDONLY | O_NONBLOCK));
+  const lossless::FileDescriptor file(
+      lossless::open_in(AT_FDCWD, joined(folder, path), O_RDONLY | O_NONBLOCK));
   const int error = errno;
   if (file.number() < 0 && (error == ENOENT || error == ENOTDIR)) return {};
   if (file.number() < 0) return unreadable(system_message(error));
   try {
     return read_open_file(file, limit);
-  } catch (const Trouble& trouble) {
-    return unreadable(trouble.what());
+  } catch (const lossless::FileError& failed) {
+    return unreadable(failed.what());
   }
 }
 

@@ -9,8 +9,11 @@
 #include <utility>
 #include <vector>
 
-#include "quill-inp/files/file_place.hpp"
-#include "quill-inp/process/file_descriptor.hpp"
+#include "files/failure.hpp"
+#include "files/file_descriptor.hpp"
+#include "files/file_state.hpp"
+#include "quill-inp/files/file_advice.hpp"
+#include "quill-inp/files/written_files.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/text/counted.hpp"
 
@@ -18,12 +21,24 @@ namespace kelp::input::quill::tool {
 
 namespace {
 
+using lossless::FileDescriptor;
+using lossless::open_in;
+using lossless::read_to_end;
+using lossless::state_of;
+
+[[noreturn]] void throw_not_regular(mode_t mode) {
+  lossless::FileFailure failure;
+  failure.kind = lossless::FileFailure::Kind::NotRegular;
+  failure.type = lossless::type_of(mode);
+  throw_trouble(failure, Purpose::Reading);
+}
+
 [[noreturn]] void throw_too_large(std::uint64_t limit) {
   throw Trouble("is larger than " + counted(limit, "byte") + ", see --max-size");
 }
 
 void require_regular(const struct stat& state, std::uint64_t limit) {
-  if (!S_ISREG(state.st_mode)) throw_not_regular(state.st_mode, Purpose::Reading);
+  if (!S_ISREG(state.st_mode)) throw_not_regular(state.st_mode);
   if (static_cast<std::uint64_t>(state.st_size) > limit) throw_too_large(limit);
 }
 
@@ -50,7 +65,7 @@ std::string read_regular_file(Session& session, int file, const struct stat& sta
   require_regular(state, limit);
   require_apart_from_output(session, state);
   std::string content = read_at_most(file, state, limit);
-  if (!is_same_state(state, state_of(file))) throw Trouble("changed while it was read");
+  if (!lossless::is_same_state(state, state_of(file))) throw Trouble("changed while it was read");
   return content;
 }
 
@@ -77,7 +92,7 @@ std::optional<std::string> begin_of_pipe(int pipe) {
 /// Reads a pipe that another program writes to, such as the shell's <(...).
 std::string read_pipe(const Session& session, int pipe, const struct stat& state) {
   std::optional<std::string> content = begin_of_pipe(pipe);
-  if (!content) throw_not_regular(state.st_mode, Purpose::Reading);
+  if (!content) throw_not_regular(state.st_mode);
   const int flags = fcntl(pipe, F_GETFL);
   if (flags < 0 || fcntl(pipe, F_SETFL, flags & ~O_NONBLOCK) != 0)
     throw_system_trouble("cannot be read", errno);
@@ -91,7 +106,7 @@ std::string read_file(Session& session, const std::string& path) {
   if (path.find('\0') != std::string::npos) throw Trouble("a file name cannot hold a NUL byte");
   // Not blocking, so that a pipe without a writer is refused at once.
   const FileDescriptor file(open_in(AT_FDCWD, path, O_RDONLY | O_NONBLOCK));
-  if (file.number() < 0) throw_cannot_open(path, errno, Purpose::Reading);
+  if (file.number() < 0) throw_trouble(lossless::find_open_failure(path, errno), Purpose::Reading);
   const struct stat state = state_of(file.number());
   if (S_ISFIFO(state.st_mode)) return read_pipe(session, file.number(), state);
   return read_regular_file(session, file.number(), state);
@@ -123,8 +138,12 @@ std::string read_standard_input(Session& session) {
 }  // namespace
 
 InputSource read_source(Session& session, const std::string& argument) {
-  return {session.shown_name(argument),
-          argument == "-" ? read_standard_input(session) : read_file(session, argument)};
+  try {
+    return {session.shown_name(argument),
+            argument == "-" ? read_standard_input(session) : read_file(session, argument)};
+  } catch (const lossless::FileError& error) {
+    throw_trouble(error.failure(), Purpose::Reading);
+  }
 }
 
 ReadInput read_input(Session& session, const std::string& argument) {
@@ -138,10 +157,11 @@ ReadInput read_for_replacing(Session& session, const std::string& argument,
     static_cast<void>(session.take_standard_input());
     throw Trouble("standard input cannot be changed in place");
   }
-  FileOrigin origin = open_for_replacing(argument, patience);
-  if (!S_ISREG(origin.state.st_mode)) throw_not_regular(origin.state.st_mode, Purpose::Replacing);
-  std::string content = read_regular_file(session, origin.file.number(), origin.state);
-  return {session.shown_name(argument), lossless::read_text(std::move(content)), std::move(origin)};
+  require_apart_from_output(session, argument);
+  lossless::FileToReplace file =
+      open_for_replacing(argument, {patience, session.options().max_size});
+  std::string text = file.take_text();
+  return {session.shown_name(argument), lossless::read_text(std::move(text)), std::move(file)};
 }
 
 ReadDocument read_document(Session& session, const std::string& argument) {

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "kelp/input/quill/lossless/file_replacement.hpp"
 #include "kelp/input/quill/lossless/read_text.hpp"
-#include "quill-inp/files/file_origin.hpp"
 #include "quill-inp/session/session.hpp"
 
 namespace kelp::input::quill::tool {
@@ -22,7 +22,7 @@ struct InputSource {
 struct ReadInput {
   std::string name = {};
   lossless::ReadText read = {};
-  std::optional<FileOrigin> origin = std::nullopt;
+  std::optional<lossless::FileToReplace> file = std::nullopt;
 };
 
 /// The same without the text, if only the document and the warnings are needed.
@@ -48,8 +48,8 @@ void forget_lines(ReadInput& input);
 /// The same for the text, where nothing that is still needed has views of it.
 void forget_text(ReadInput& input);
 
-/// Reads such a file to replace it. Waits at most `patience` for other runs of this program that
-/// replace it. Throws as read_source() does, for standard input, and when the waiting is over.
+/// Reads such a file to replace it. Waits at most `patience` for other programs that replace it.
+/// Throws as read_source() does, for standard input, and when the waiting is over.
 ReadInput read_for_replacing(Session& session, const std::string& argument,
                              std::chrono::milliseconds patience);
 

@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-#include "quill-inp/process/file_descriptor.hpp"
+#include "files/file_descriptor.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/text/terminal_text.hpp"
 #include "quill-inp/text/unified_diff.hpp"
@@ -17,7 +17,7 @@ namespace {
 /// reported only then. Closing a copy of the descriptor is enough to see that.
 int try_closing(int file) {
   const int copy = dup(file);
-  return copy < 0 ? errno : FileDescriptor(copy).close();
+  return copy < 0 ? errno : lossless::FileDescriptor(copy).close();
 }
 
 }  // namespace

@@ -16,9 +16,8 @@
 #include "quill-inp/editing/apply_settings.hpp"
 #include "quill-inp/editing/edit_file.hpp"
 #include "quill-inp/editing/strictness.hpp"
-#include "quill-inp/files/flush.hpp"
 #include "quill-inp/files/sha256.hpp"
-#include "quill-inp/files/whole_file.hpp"
+#include "quill-inp/files/written_files.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/session/input_source.hpp"
 #include "quill-inp/sweep/manifest.hpp"
@@ -66,7 +65,7 @@ struct Request {
   Combination combination = Combination::Product;
   std::vector<std::string> structure_files = {};
   bool has_frames = false;
-  ExistingFile existing = ExistingFile::IsRefused;
+  lossless::ExistingFile existing = lossless::ExistingFile::IsRefused;
   std::optional<std::string> manifest = std::nullopt;
   LossPolicy policy = {};
   BatchOptions batch = {};
@@ -86,7 +85,7 @@ Request read_request(const CLI::App& app) {
   if (request.has_frames && request.structure_files.empty())
     throw UsageError("--frames needs --atoms");
   if (request.lists.empty() && request.structure_files.empty()) throw UsageError("nothing to vary");
-  if (is_given(app, force)) request.existing = ExistingFile::IsReplaced;
+  if (is_given(app, force)) request.existing = lossless::ExistingFile::IsReplaced;
   request.manifest = value_of(app, manifest);
   request.policy = read_loss_policy(app);
   request.batch = read_batch_options(app);
@@ -194,7 +193,7 @@ std::vector<std::string> list_names(const Plan& plan) {
 
 std::set<std::string> make_folders(const std::vector<std::string>& names) {
   std::set<std::string> folders;
-  for (const std::string& name : names) folders.insert(folder_of_path(name));
+  for (const std::string& name : names) folders.insert(lossless::folder_of_path(name));
   for (const std::string& folder : folders) {
     std::error_code error;
     std::filesystem::create_directories(folder, error);
@@ -221,7 +220,7 @@ ExitCode write_one(Session& session, const InputSource& source, const Plan& plan
   made.document = lossless::TrackedDocument(QuillInput());
   if (!accept_findings(session, entry.file, text, request.policy)) return ExitCode::Trouble;
   const WrittenFile written =
-      write_whole_file(entry.file, text, request.existing, FolderFlush::ByCaller);
+      write_file(entry.file, text, request.existing, lossless::FolderFlush::ByCaller);
   for (const std::string& note : written.notes) session.reporter().note({entry.file}, note);
   if (written.is_written) session.note_change();
   entry.sha256 = sha256_of(text);
@@ -244,9 +243,8 @@ ExitCode write_all(Session& session, const InputSource& source, const Plan& plan
   // The list names only files that contain what it says. So it is written last, and only if nothing
   // failed.
   if (code == ExitCode::Done && request.manifest) {
-    write_whole_file(*request.manifest,
-                     manifest_text(*request.manifest, plan.manifest_keys(), entries),
-                     ExistingFile::IsReplaced);
+    write_file(*request.manifest, manifest_text(*request.manifest, plan.manifest_keys(), entries),
+               lossless::ExistingFile::IsReplaced);
   }
   return code;
 }

@@ -10,7 +10,7 @@
 
 #include <string>
 
-#include "quill-inp/process/file_descriptor.hpp"
+#include "files/file_descriptor.hpp"
 #include "support/temporary_folder.hpp"
 #include "tools/quill-inp/support/files.hpp"
 #include "tools/quill-inp/support/program.hpp"
@@ -37,14 +37,14 @@ std::string capability() {
 }
 
 unsigned flags_of(const std::string& path) {
-  const FileDescriptor file(open_in(AT_FDCWD, path, O_RDONLY));
+  const lossless::FileDescriptor file(lossless::open_in(AT_FDCWD, path, O_RDONLY));
   unsigned flags = 0;
   EXPECT_EQ(ioctl(file.number(), FS_IOC_GETFLAGS, &flags), 0) << hint;
   return flags;
 }
 
 bool set_flags(const std::string& path, unsigned flags) {
-  const FileDescriptor file(open_in(AT_FDCWD, path, O_RDONLY));
+  const lossless::FileDescriptor file(lossless::open_in(AT_FDCWD, path, O_RDONLY));
   return ioctl(file.number(), FS_IOC_SETFLAGS, &flags) == 0;
 }
 

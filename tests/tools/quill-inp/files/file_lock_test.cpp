@@ -6,15 +6,12 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 
-#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <string>
 #include <thread>
 
-#include "quill-inp/files/file_origin.hpp"
-#include "quill-inp/process/file_descriptor.hpp"
-#include "quill-inp/process/trouble.hpp"
+#include "files/file_descriptor.hpp"
 #include "support/temporary_folder.hpp"
 #include "tools/quill-inp/support/files.hpp"
 #include "tools/quill-inp/support/program.hpp"
@@ -24,20 +21,19 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds long_enough(60000);
 constexpr milliseconds a_moment(50);
 
 /// Another program that holds the lock of a file.
 class Holder {
  public:
-  explicit Holder(const std::string& path) : file_(open_in(AT_FDCWD, path, O_RDONLY)) {
+  explicit Holder(const std::string& path) : file_(lossless::open_in(AT_FDCWD, path, O_RDONLY)) {
     EXPECT_EQ(flock(file_.number(), LOCK_EX), 0);
   }
 
   void release() { file_.close(); }
 
  private:
-  FileDescriptor file_;
+  lossless::FileDescriptor file_;
 };
 
 const char* const three_writers =
@@ -74,10 +70,10 @@ TEST(FileLock, IsWaitedForOnlySoLong) {
     return run_in(folder.path(), {"set", "-q", "-i", "--lock-timeout", seconds, "a.qin", "a=b"});
   };
   EXPECT_EQ(change("0"), ended(2, "",
-                               "a.qin: error: another run of quill-inp is changing it; waited 0 "
+                               "a.qin: error: another program is changing it; waited 0 "
                                "seconds, see --lock-timeout\n"));
   EXPECT_EQ(change("1"), ended(2, "",
-                               "a.qin: error: another run of quill-inp is changing it; waited 1 "
+                               "a.qin: error: another program is changing it; waited 1 "
                                "second, see --lock-timeout\n"));
   EXPECT_EQ(content_of(folder.path("a.qin")), water);
 }
@@ -101,38 +97,6 @@ TEST(FileLock, IsTakenAgainForTheFileThatHasTheNameThen) {
   EXPECT_EQ(run_in(folder.path(), {"set", "-q", "-i", "a.qin", "device=gpu"}), ended(0, "", ""));
   replacing.join();
   EXPECT_EQ(content_of(folder.path("a.qin")), "#model = other\n#device = gpu\n0 1\n");
-}
-
-TEST(FileLock, HoldsBetweenThreads) {
-  const TemporaryFolder folder;
-  const std::string path = folder.write("a.qin", water);
-  std::atomic<bool> is_open{false};
-  auto first = std::make_unique<FileOrigin>(open_for_replacing(path, long_enough));
-  std::thread second([&] {
-    const FileOrigin origin = open_for_replacing(path, long_enough);
-    is_open = true;
-  });
-  std::this_thread::sleep_for(a_moment);
-  EXPECT_FALSE(is_open);
-  first.reset();
-  second.join();
-  EXPECT_TRUE(is_open);
-}
-
-TEST(FileLock, IsOneForAllNamesOfAFile) {
-  const TemporaryFolder folder;
-  const std::string path = folder.write("a.qin", water);
-  ASSERT_EQ(symlink("a.qin", folder.path("link").c_str()), 0);
-  ASSERT_EQ(link(path.c_str(), folder.path("hard").c_str()), 0);
-  const FileOrigin origin = open_for_replacing(path, milliseconds(0));
-  for (const char* name : {"link", "hard"})
-    EXPECT_THROW(open_for_replacing(folder.path(name), milliseconds(0)), Trouble) << name;
-}
-
-TEST(FileLock, IsHeldByNobodyAfterwards) {
-  const TemporaryFolder folder;
-  const std::string path = folder.write("a.qin", water);
-  for (int i = 0; i < 2; ++i) EXPECT_EQ(open_for_replacing(path, milliseconds(0)).name, "a.qin");
 }
 
 }  // namespace

@@ -14,6 +14,8 @@
 #include "kelp/input/quill/lines.hpp"
 #include "kelp/input/quill/lossless/comparison.hpp"
 #include "kelp/input/quill/lossless/export.hpp"
+#include "kelp/input/quill/lossless/file_error.hpp"
+#include "kelp/input/quill/lossless/file_replacement.hpp"
 #include "kelp/input/quill/lossless/input_doubt.hpp"
 #include "kelp/input/quill/lossless/proof.hpp"
 #include "kelp/input/quill/lossless/quoting.hpp"
@@ -48,6 +50,16 @@ KELP_QUILL_LOSSLESS_EXPORT std::string words(const QuotingProblem& problem);
 /// Returns what is wrong with an XYZ file, without the line: "expected an atom, a symbol and three
 /// coordinates", "has 1 atom instead of 3".
 KELP_QUILL_LOSSLESS_EXPORT std::string words(const XyzProblem& problem);
+
+/// Returns what is no regular file, with its article: "a folder", "a pipe", "a socket", "a device".
+KELP_QUILL_LOSSLESS_EXPORT std::string_view noun_of(FileType type);
+
+/// Returns why a file could not be read or written, with the system's own words, as a predicate:
+/// "cannot be opened: No such file or directory".
+KELP_QUILL_LOSSLESS_EXPORT std::string words(const FileFailure& failure);
+
+/// Returns what of a file could not be kept: "the owner could not be kept".
+KELP_QUILL_LOSSLESS_EXPORT std::string words(const LostAttribute& lost);
 
 }  // namespace kelp::input::quill::lossless
 
