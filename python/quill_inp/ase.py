@@ -103,7 +103,7 @@ def read_quill_inp(filename, index=-1):
     """Reads structures of the input in a file for `ase.io.read`: to_atoms() with the folder of the file
     as `base`.
     """
-    return to_atoms(read(filename), os.path.dirname(os.path.abspath(filename)), index)
+    return to_atoms(read(filename), os.path.dirname(filename), index)
 
 
 def write_quill_inp(filename, images, charge=None, multiplicity=None):

@@ -2,7 +2,7 @@
 
 import numpy
 import pytest
-from ase.constraints import FixAtoms, FixBondLength, FixedPlane, FixInternals
+from ase.constraints import FixAtoms, FixBondLength, FixBondLengths, FixedPlane, FixInternals
 from structures import losses, peroxide, quietly, water
 
 import quill_inp.ase
@@ -69,12 +69,22 @@ def test_constraints_of_ase_become_lines(constraint, lines):
         ),
         (lambda atoms: atoms.set_constraint(FixedPlane(0, [0, 0, 1])), "FixedPlane"),
         (
-            lambda atoms: atoms.set_constraint(FixInternals(bondcombos=[[0.0, [[0, 1, 1.0]]]])),
-            "FixInternals.bondcombos",
+            lambda atoms: atoms.set_constraint(
+                FixInternals(
+                    bondcombos=[[0.0, [[0, 1, 1.0]]]],
+                    anglecombos=[[0.0, [[1, 0, 2, 1.0]]]],
+                    dihedralcombos=[[0.0, [[0, 1, 2, 0, 1.0]]]],
+                )
+            ),
+            "FixInternals.bondcombos, FixInternals.anglecombos, FixInternals.dihedralcombos",
         ),
         (
-            lambda atoms: atoms.set_constraint(FixInternals(bonds=[[1.5, [0, 1]]])),
-            "the value 1.5 of 'B 1 2', which is 0.860233 in the structure",
+            lambda atoms: atoms.set_constraint(FixInternals(bonds=[[0.8603, [0, 1]]])),
+            "the value 0.8603 of 'B 1 2', which is 0.860233 in the structure",
+        ),
+        (
+            lambda atoms: atoms.set_constraint(FixBondLengths([[0, 2]], bondlengths=[0.9])),
+            "the value 0.9 of 'B 1 3', which is 0.860233 in the structure",
         ),
         (
             lambda atoms: atoms.set_constraint(FixInternals(angles_deg=[[90.0, [1, 0, 2]]])),

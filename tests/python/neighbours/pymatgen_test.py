@@ -29,7 +29,9 @@ def test_charge_and_multiplicity_are_those_of_the_document_possible_or_not(line)
 
 
 def test_without_their_line_pymatgen_chooses():
-    molecule = quill_inp.pymatgen.to_molecule(quill_inp.loads(METHYL.replace("0 2\n", "", 1)))
+    document = quill_inp.loads(METHYL.replace("0 2\n", "", 1))
+    document.geometry.charge, document.geometry.multiplicity = -1, 3  # not written
+    molecule = quill_inp.pymatgen.to_molecule(document)
     assert (molecule.charge, molecule.spin_multiplicity) == (0, 2)
 
 

@@ -84,6 +84,12 @@ def test_molecules_that_are_no_whole_structure_are_refused(make, conformer, mess
     assert str(caught.value) == message
 
 
+def test_a_valence_that_rdkit_does_not_know_is_no_error():
+    mol = Chem.MolFromSmiles("F[H]F", sanitize=False)
+    mol.AddConformer(Chem.Conformer(3))
+    assert quill_inp.rdkit.from_mol(mol).geometry.symbols == ["F", "H", "F"]
+
+
 def test_isotopes_are_named_once():
     document, message = losses(quill_inp.rdkit.from_mol, embedded("[2H]O[2H]"))
     assert message == "An input has no place for: the isotope 2H"

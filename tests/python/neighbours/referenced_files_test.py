@@ -1,8 +1,11 @@
 """Files that inputs refer to, as structures of ASE."""
 
+import pathlib
+
 import ase.io
 import numpy
 import pytest
+from ase.constraints import FixAtoms
 from structures import losses, quietly
 
 import quill_inp
@@ -52,6 +55,32 @@ def test_a_file_that_ase_cannot_read_is_named(name, geometries):
     document = quill_inp.loads(f"#sp\n\nXYZ {name}\n")
     with pytest.raises(ValueError, match=f"ASE cannot read '.*{name}' as XYZ: "):
         quill_inp.ase.to_atoms(document, geometries)
+
+
+def test_a_file_with_words_for_numbers_is_named(tmp_path):
+    (tmp_path / "words.xyz").write_text("1\n\nH 0 0 zero\n")
+    with pytest.raises(ValueError, match="ASE cannot read '.*words.xyz' as XYZ: "):
+        quill_inp.ase.to_atoms(quill_inp.loads("#sp\n\nXYZ words.xyz\n"), tmp_path)
+
+
+def test_a_comment_that_is_not_utf_8_does_not_matter(tmp_path):
+    (tmp_path / "latin.xyz").write_bytes(b"1\ncaf\xe9\nHe 0 0 1\n")
+    atoms = quill_inp.ase.to_atoms(quill_inp.loads("#sp\n\nXYZ latin.xyz\n"), tmp_path)
+    assert atoms.get_chemical_symbols() == ["He"]
+
+
+def test_constraints_of_a_file_stay_beside_those_of_the_input(tmp_path):
+    frame = ase.io.read(pathlib.Path(__file__).parents[3] / "examples/inputs/structures/water.xyz")
+    frame.set_constraint(FixAtoms([2]))
+    ase.io.write(tmp_path / "held.xyz", frame, columns=["symbols", "positions", "move_mask"])
+    document = quill_inp.loads("#opt\n\nXYZ held.xyz\n\nC 1\n")
+    atoms = quill_inp.ase.to_atoms(document, tmp_path)
+    assert [one.get_indices().tolist() for one in atoms.constraints] == [[2], [0]]
+
+
+def test_without_coordinates_paths_mean_nothing(geometries):
+    document = quill_inp.QuillInput(geometry=quill_inp.GeometryBlock(xyz_files=["water.xyz"]))
+    assert quill_inp.ase.to_atoms(document, geometries, ":") == []
 
 
 def test_a_missing_file_is_an_error_of_open(tmp_path):

@@ -1,6 +1,7 @@
 """Documents as structures of ASE."""
 
 import copy
+import math
 import pickle
 
 import ase.io
@@ -60,7 +61,7 @@ def test_a_relaxation_holds_what_the_constraints_fix():
 
 @pytest.mark.parametrize(
     "line",
-    ["C 5", "C 0", "B 2 2", "B 1 5", "S 2 3 1.5 10", "POST charges.txt", "thanks, and good night"],
+    ["C 5", "C 0", "B 2 2", "A 2 3 2", "D 1 2 3 1", "B 1 5", "S 2 3 1.5 10", "POST charges.txt", "thanks, and good night"],
 )
 def test_lines_that_mean_nothing_to_ase_are_named_and_kept(line):
     document = peroxide("B 2 3", line)
@@ -100,6 +101,20 @@ def test_values_without_a_derivative_are_named(first, bonds, named):
     assert fixed.get_indices().tolist() == [0]
     assert [1.16, [1, 2]] in internal.bonds
     assert len(internal.bonds) == bonds and not internal.angles and not internal.dihedrals
+
+
+def test_lines_are_kept_without_commands_too():
+    document = quill_inp.loads("0 1\nHe 0 0 0\n\nPOST charges.txt\n")
+    atoms, _ = losses(quill_inp.ase.to_atoms, document)
+    assert quill_inp.ase.from_atoms(atoms) == document
+
+
+@pytest.mark.parametrize("bend", [0.01, 3.0, 177.0])
+def test_angles_near_those_without_a_derivative_are_constraints(bend):
+    x, y = math.cos(math.radians(bend)), math.sin(math.radians(bend))
+    document = quill_inp.loads(f"0 1\nO {x} {y} 0\nC 0 0 0\nO 1 0 0\n\nB 1 2\nA 1 2 3\n")
+    atoms = quietly(quill_inp.ase.to_atoms, document)
+    assert atoms.constraints[0].angles[0][0] == pytest.approx(bend)
 
 
 def test_symbols_that_are_no_element_become_x_and_are_named_once():
