@@ -61,7 +61,17 @@ def test_a_relaxation_holds_what_the_constraints_fix():
 
 @pytest.mark.parametrize(
     "line",
-    ["C 5", "C 0", "B 2 2", "A 2 3 2", "D 1 2 3 1", "B 1 5", "S 2 3 1.5 10", "POST charges.txt", "thanks, and good night"],
+    [
+        "C 5",
+        "C 0",
+        "B 2 2",
+        "B 1 5",
+        "A 2 3 2",
+        "D 1 2 3 1",
+        "S 2 3 1.5 10",
+        "POST charges.txt",
+        "thanks, and good night",
+    ],
 )
 def test_lines_that_mean_nothing_to_ase_are_named_and_kept(line):
     document = peroxide("B 2 3", line)
