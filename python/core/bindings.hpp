@@ -20,6 +20,7 @@ void bind_reader(pybind11::module_& module);
 void bind_lint(pybind11::module_& module);
 void bind_losses(pybind11::module_& module);
 void bind_text_edit(pybind11::module_& module);
+void bind_files(pybind11::module_& module);
 void bind_document_json(pybind11::module_& module);
 
 }  // namespace kelp::input::quill::python

@@ -17,5 +17,6 @@ PYBIND11_MODULE(_core, module) {
   bind_lint(module);
   bind_losses(module);
   bind_text_edit(module);
+  bind_files(module);
   bind_document_json(module);
 }

@@ -27,6 +27,12 @@ from quill_inp._command import CommandParameter, HeaderCommand, find_parameter_i
 from quill_inp._document import QuillInput, normalize_command_name
 from quill_inp._edit import TextEdit, edit
 from quill_inp._editor import InputEditor
+from quill_inp._files import (
+    FileEdit,
+    FileWarning,
+    edit_file,
+    write_file,
+)
 from quill_inp._geometry import GeometryBlock
 from quill_inp._kinds import (
     GeometryKind,
@@ -57,6 +63,8 @@ __version__ = _core.version
 __all__ = [
     "AtomRecord",
     "CommandParameter",
+    "FileEdit",
+    "FileWarning",
     "Finding",
     "GeometryBlock",
     "GeometryKind",
@@ -77,6 +85,7 @@ __all__ = [
     "Severity",
     "TextEdit",
     "edit",
+    "edit_file",
     "find_parameter_index",
     "lines",
     "lint",
@@ -86,4 +95,5 @@ __all__ = [
     "parse_lines",
     "parse_string",
     "read",
+    "write_file",
 ]

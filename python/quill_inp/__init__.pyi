@@ -11,6 +11,12 @@ from quill_inp._document import (
 )
 from quill_inp._edit import TextEdit as TextEdit, edit as edit
 from quill_inp._editor import InputEditor as InputEditor
+from quill_inp._files import (
+    FileEdit as FileEdit,
+    FileWarning as FileWarning,
+    edit_file as edit_file,
+    write_file as write_file,
+)
 from quill_inp._geometry import GeometryBlock as GeometryBlock
 from quill_inp._kinds import (
     GeometryKind as GeometryKind,
@@ -41,6 +47,8 @@ __version__: str
 __all__ = [
     "AtomRecord",
     "CommandParameter",
+    "FileEdit",
+    "FileWarning",
     "Finding",
     "GeometryBlock",
     "GeometryKind",
@@ -61,6 +69,7 @@ __all__ = [
     "Severity",
     "TextEdit",
     "edit",
+    "edit_file",
     "find_parameter_index",
     "lines",
     "lint",
@@ -70,4 +79,5 @@ __all__ = [
     "parse_lines",
     "parse_string",
     "read",
+    "write_file",
 ]
