@@ -49,7 +49,7 @@ auto edit(const Document& document, Touches touches, Operation operation) {
 
 /// Calls it for a text under edit, of which no object shows an entry.
 template <typename Operation>
-auto edit(TextEdit& text, Touches, Operation operation) {
+auto edit(TextEdit& text, Touches /*touches*/, Operation operation) {
   return operation(text.document);
 }
 
@@ -58,7 +58,7 @@ inline Touches touches_of_added_atom(const Document& document) {
   const bool are_atoms = document.tree->input.geometry.kind == GeometryKind::Atoms;
   return are_atoms ? Touches::Nothing : Touches::Atoms;
 }
-inline Touches touches_of_added_atom(const TextEdit&) { return Touches::Nothing; }
+inline Touches touches_of_added_atom(const TextEdit& /*text*/) { return Touches::Nothing; }
 
 }  // namespace kelp::input::quill::python
 

@@ -17,27 +17,32 @@ struct Place {
 };
 
 // Where a document has the lists of parts, and the Python objects that show their entries.
-inline std::vector<HeaderCommand>& list_at(QuillInput& input, Place, const HeaderCommand*) {
+inline std::vector<HeaderCommand>& list_at(QuillInput& input, Place /*place*/,
+                                           const HeaderCommand* /*kind*/) {
   return input.commands;
 }
 inline std::vector<CommandParameter>& list_at(QuillInput& input, Place place,
-                                              const CommandParameter*) {
+                                              const CommandParameter* /*kind*/) {
   return input.commands[place.command].parameters;
 }
-inline std::vector<AtomRecord>& list_at(QuillInput& input, Place, const AtomRecord*) {
+inline std::vector<AtomRecord>& list_at(QuillInput& input, Place /*place*/,
+                                        const AtomRecord* /*kind*/) {
   return input.geometry.atoms;
 }
-inline std::vector<PostCommand>& list_at(QuillInput& input, Place, const PostCommand*) {
+inline std::vector<PostCommand>& list_at(QuillInput& input, Place /*place*/,
+                                         const PostCommand* /*kind*/) {
   return input.post_commands;
 }
-inline Entries<HeaderCommand>& entries_of(Tree& tree, const HeaderCommand*) {
+inline Entries<HeaderCommand>& entries_of(Tree& tree, const HeaderCommand* /*kind*/) {
   return tree.commands;
 }
-inline Entries<CommandParameter>& entries_of(Tree& tree, const CommandParameter*) {
+inline Entries<CommandParameter>& entries_of(Tree& tree, const CommandParameter* /*kind*/) {
   return tree.parameters;
 }
-inline Entries<AtomRecord>& entries_of(Tree& tree, const AtomRecord*) { return tree.atoms; }
-inline Entries<PostCommand>& entries_of(Tree& tree, const PostCommand*) {
+inline Entries<AtomRecord>& entries_of(Tree& tree, const AtomRecord* /*kind*/) {
+  return tree.atoms;
+}
+inline Entries<PostCommand>& entries_of(Tree& tree, const PostCommand* /*kind*/) {
   return tree.post_commands;
 }
 

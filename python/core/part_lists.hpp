@@ -85,7 +85,7 @@ void replace_entries(const List& list, Count first, Count last, const py::list& 
   const auto at = [&](Count number) {
     return entries.begin() + static_cast<std::ptrdiff_t>(number.value);
   };
-  const std::shared_ptr<Tree> owner = list.owner();
+  const std::shared_ptr<Tree>& owner = list.owner();
   const Change change(*owner);
   if (first.value < entries.size()) list.let_go();
   // Room first, so that nothing is removed when memory runs out.
