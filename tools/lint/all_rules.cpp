@@ -22,7 +22,7 @@ constexpr std::string_view numbered_atom =
     WHERE_ATOMS_END "the line begins with the number '{token}', and has five words" LOST_ATOMS;
 constexpr std::string_view ended_atoms =
     "{atoms|this line ended the atoms after {atoms} atom|this line ended the atoms after {atoms} "
-    "atoms|this line kept the atoms from beginning}: ['{word}' is not a number]['{symbol}' is not "
+    "atoms|no atoms are read because of this line}: ['{word}' is not a number]['{symbol}' is not "
     "a symbol made of letters]['{extra}' is a fifth word][{missing|a number is missing|{missing} "
     "numbers are missing}]" LOST_ATOMS;
 
@@ -62,7 +62,7 @@ constexpr Rule rules[] = {
      "check the name of the file", check_not_an_input, Explains::Text},
 
     // Charge, multiplicity and coordinates.
-    {"QL101", Severity::Error, Group::Geometry, "an atom with a label in place of its symbol",
+    {"QL101", Severity::Error, Group::Geometry, "an atom with a label instead of its symbol",
      labelled_atom, "write the symbol of the element alone", check_labelled_atom, Explains::Line,
      MendReach::Rest},
     {"QL102", Severity::Error, Group::Geometry, "an atom with a number before its symbol",
@@ -116,14 +116,14 @@ constexpr Rule rules[] = {
      "close the list on the same line", check_unclosed_list},
     {"QL202", Severity::Warning, Group::Header, "text after a parameter list",
      "ignored trailing text after QUILL header command: '{text}' is lost",
-     "write another command on a line of its own", check_trailing_text},
+     "write another command on a separate line", check_trailing_text},
     {"QL203", Severity::Warning, Group::Header, "a header line with nothing in it",
      "empty QUILL header command", "remove the line", check_empty_command},
     {"QL204", Severity::Warning, Group::Header, "a command without a name",
      "QUILL header command has no name", "write the name after the '#'", check_nameless_command},
     {"QL205", Severity::Error, Group::Header, "several words in the name of a command",
      "this is one command named '{name}', not the command '{word}'",
-     "write '#{word}' and the rest as parameters in parentheses, or on a line of its own",
+     "write '#{word}' and the rest as parameters in parentheses, or on a separate line",
      check_several_words},
     {"QL206", Severity::Warning, Group::Header, "a comment that is read as a command",
      "this is a command named '{name}': an input has no comments", "remove the line",
@@ -132,7 +132,7 @@ constexpr Rule rules[] = {
      "the command '{name}' is not known; did you mean '{similar}'?",
      "write '{similar}', or add the name to known-commands in .quill-inp.toml", check_similar_name},
     {"QL208", Severity::Info, Group::Header, "several tasks", "the input has {count} tasks",
-     "make sure that all of them are meant", check_several_tasks},
+     "check that you want all of them", check_several_tasks},
     {"QL209", Severity::Warning, Group::Header, "no task", "no command says what to compute",
      "add a line such as '#opt' or '#sp'", check_no_task},
     {"QL210", Severity::Warning, Group::Header, "a name that is assigned twice",
@@ -142,7 +142,7 @@ constexpr Rule rules[] = {
      "the parameter '{name}' was given before, and only the first one is found",
      "keep one of the two", check_duplicate_parameter},
     {"QL212", Severity::Warning, Group::Header, "an empty entry in a parameter list",
-     "an entry of the list is empty", "remove the comma that is too many", check_empty_entry},
+     "an entry of the list is empty", "remove the extra comma", check_empty_entry},
     {"QL213", Severity::Warning, Group::Header, "a parameter without a name",
      "the value '{value}' has no name and is lost", "write the name before the '='",
      check_nameless_entry},
@@ -157,14 +157,14 @@ constexpr Rule rules[] = {
      check_typographic_quote},
     {"QL217", Severity::Warning, Group::Header, "a value that only looks like a number",
      "the value '{value}' looks like a number, and has characters that no number has",
-     "type the number anew", check_odd_number},
+     "type the number again", check_odd_number},
 
     // Constraints, scans and post files.
     {"QL301", Severity::Error, Group::PostProcessing, "a constraint or scan that is dropped",
      "the line is dropped: '{token}' is not a number that '{keyword}' takes",
      "write numbers with decimal points, and atom numbers and steps as integers",
      check_dropped_line, Explains::Line},
-    {"QL302", Severity::Warning, Group::PostProcessing, "a keyword with another count of words",
+    {"QL302", Severity::Warning, Group::PostProcessing, "a keyword with the wrong number of words",
      "'{keyword}' takes {wanted}, here {found}; the line is kept as raw text",
      "write the words that the keyword takes", check_wrong_field_count},
     {"QL303", Severity::Error, Group::PostProcessing, "an atom number below 1",
@@ -220,14 +220,14 @@ constexpr Rule rules[] = {
      "{count|one number is|{count} numbers are} rounded by up to {change} when the input is "
      "written "
      "anew",
-     "nothing, unless the last digits matter", check_small_change},
+     "no change is needed unless the last digits matter", check_small_change},
 
     // What only chemistry can tell.
     {"QL601", Severity::Warning, Group::Chemistry, "a multiplicity that the electrons do not allow",
      "the multiplicity {multiplicity} is not possible with {electrons} electrons",
      "check charge, multiplicity and the hydrogen atoms", check_impossible_multiplicity},
     {"QL602", Severity::Warning, Group::Chemistry, "two atoms in almost the same place",
-     "atom {second} is only {distance} from atom {first}", "check for an atom that is there twice",
+     "atom {second} is only {distance} from atom {first}", "check whether an atom is listed twice",
      check_too_close_atoms},
 };
 

@@ -61,7 +61,7 @@ const MarkedRow rows[] = {
      "#opt\n"
      "0 1\n"
      "H 0 0 1,5\n"
-     "      ^^^ QL104 this line kept the atoms from beginning: '1,5' is not a number; one further "
+     "      ^^^ QL104 no atoms are read because of this line: '1,5' is not a number; one further "
      "line that looks like an atom is kept as raw text\n"
      "H 0 0 0\n"},
     {"ALabelledFirstAtom",

@@ -50,7 +50,7 @@ TEST(WordsOfAFinding, AreThoseOfItsRule) {
   EXPECT_EQ(words_of(finding).message,
             "this is one command named 'opt freq', not the command 'opt'");
   EXPECT_EQ(words_of(finding).advice,
-            "write '#opt' and the rest as parameters in parentheses, or on a line of its own");
+            "write '#opt' and the rest as parameters in parentheses, or on a separate line");
   finding.code = "QL000";
   EXPECT_EQ(words_of(finding).message, "");
 }

@@ -13,11 +13,12 @@ namespace kelp::input::quill::tool {
 namespace {
 
 constexpr Option recursive{"-r,--recursive", "", "Take the files in folders, too"};
-constexpr Option glob{"--glob", "PATTERN", "With -r, take files like this (default '*.qin')"};
+constexpr Option glob{"--glob", "PATTERN",
+                      "With -r, take files that match PATTERN (default '*.qin')"};
 constexpr Option files_from{"--files-from", "LIST", "Read names of files from LIST, one a line"};
 constexpr Option null{"-0,--null", "", "The names in LIST end with NUL, not with a line end"};
 constexpr Option jobs{"-j,--jobs", "NUMBER",
-                      "Work on so many files at once (default 1; 0: one per processor)"};
+                      "Work on this number of files at once (default 1; 0: one per processor)"};
 
 constexpr int most_threads = 256;
 

@@ -20,8 +20,7 @@ constexpr Option flag{"--flag", "KEY", "Set a command or parameter without a val
 
 constexpr Option replace_task{"--replace-task", "OLD=NEW",
                               "Give a task another name; its parameters stay"};
-constexpr Option existing{"--existing", "",
-                          "Only set what is there already; exit code 1 otherwise"};
+constexpr Option existing{"--existing", "", "Only set what already exists; exit code 1 otherwise"};
 
 /// Reads "sp=opt". The new name is checked as that of a new task is.
 Setting read_replacement(const std::string& text) {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr Option output_option{"-o,--output", "FILE",
                                "Write to a new file, not to standard output"};
-constexpr Option force{"--force", "", "With -o, replace a file that is there already"};
+constexpr Option force{"--force", "", "With -o, replace an existing file"};
 
 }  // namespace
 

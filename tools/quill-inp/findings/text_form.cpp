@@ -81,7 +81,7 @@ std::string text_form(const FileReport& report, bool is_colored) {
     text += head_of(report, finding, place, words.message, is_colored);
     // A finding about what is missing has no bytes to show.
     if (finding.range.end() > 0) text += marked_line(report, finding, place);
-    text += std::string(indent) + "to mend: " + shown_on_one_line(words.advice) + "\n";
+    text += std::string(indent) + "to fix: " + shown_on_one_line(words.advice) + "\n";
   }
   return text;
 }

@@ -37,7 +37,7 @@ std::string make_name(std::string_view pattern, const NameFields& fields) {
       name += value_of_field(std::string(pattern.substr(1, end - 1)), fields);
       pattern.remove_prefix(end + 1);
     } else if (c == '{' || c == '}') {
-      throw UsageError("a brace without its partner in the name; write '{{' or '}}' for a brace");
+      throw UsageError("an unmatched brace in the name; write '{{' or '}}' for a brace");
     } else {
       name += c;
       pattern.remove_prefix(1);

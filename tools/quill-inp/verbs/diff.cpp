@@ -103,7 +103,7 @@ ExitCode diff(Session& session, const CLI::App& app) {
 }  // namespace
 
 Verb add_diff(CLI::App& program) {
-  CLI::App* app = add_verb(program, "diff", "Tell what two inputs say differently", example);
+  CLI::App* app = add_verb(program, "diff", "Show how two inputs differ", example);
   add_arguments(*app, files);
   add_flag(*app, as_json);
   add_flag(*app, for_git);

@@ -28,7 +28,7 @@ constexpr const char* example =
     "layout have the same hash. The lines are those of sha256sum.";
 
 constexpr Option files{"FILE", "", "The inputs, or with --check files with hashes"};
-constexpr Option check{"--check", "", "Read hashes, and tell whether the inputs still have them"};
+constexpr Option check{"--check", "", "Read hashes and check the inputs against them"};
 
 constexpr std::size_t digits_of_hash = 64;
 
@@ -140,7 +140,7 @@ ExitCode hash(Session& session, const CLI::App& app) {
 }  // namespace
 
 Verb add_hash(CLI::App& program) {
-  CLI::App* app = add_verb(program, "hash", "Print or check hashes of what inputs say", example);
+  CLI::App* app = add_verb(program, "hash", "Print or check hashes of inputs", example);
   add_files(*app, files);
   add_flag(*app, check);
   add_loss_options(*app);

@@ -197,7 +197,7 @@ ExitCode lint_files(Session& session, const CLI::App& app) {
 }
 
 Verb add_linting_verb(CLI::App& program, const char* name) {
-  CLI::App* app = add_verb(program, name, "Find what the reader silently made of inputs", example);
+  CLI::App* app = add_verb(program, name, "Find probable mistakes in inputs", example);
   add_files(*app, files);
   add_lint_options(*app);
   add_flag(*app, fix);

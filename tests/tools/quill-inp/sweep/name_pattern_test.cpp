@@ -25,8 +25,8 @@ TEST(NamePattern, SaysWhatIsWrong) {
   } rows[] = {
       {"{nam}", "unknown field '{nam}' in the name; there are {name}, {opt.maxiter}, {basis}"},
       {"{}", "unknown field '{}' in the name; there are {name}, {opt.maxiter}, {basis}"},
-      {"a{", "a brace without its partner in the name; write '{{' or '}}' for a brace"},
-      {"a}b", "a brace without its partner in the name; write '{{' or '}}' for a brace"},
+      {"a{", "an unmatched brace in the name; write '{{' or '}}' for a brace"},
+      {"a}b", "an unmatched brace in the name; write '{{' or '}}' for a brace"},
       {"{basis}", "the value 'a/b' of {basis} cannot be part of a name; use {number} instead"},
   };
   for (const auto& row : rows) {

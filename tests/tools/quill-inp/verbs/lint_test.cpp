@@ -24,7 +24,7 @@ const std::string comma_found =
     "<stdin>:4:7: error: this line ended the atoms after 1 atom: '1,5' is not a number [QL104]\n"
     "    H 0 0 1,5\n"
     "          ^^^\n"
-    "    to mend: write a symbol and three numbers with decimal points\n";
+    "    to fix: write a symbol and three numbers with decimal points\n";
 
 const std::string info = "#opt\nHe 0 0 0\n";
 const std::string info_found =
@@ -32,7 +32,7 @@ const std::string info_found =
     "[QL109]\n"
     "    He 0 0 0\n"
     "    ^^^^^^^^\n"
-    "    to mend: write a line such as '0 1' before the atoms\n";
+    "    to fix: write a line such as '0 1' before the atoms\n";
 
 class Lint : public testing::TestWithParam<Call> {};
 
@@ -48,7 +48,7 @@ const Call calls[] = {
            "[QL206]\n"
            "    #a \\x1b[2J\n"
            "     ^^^^^^^^^\n"
-           "    to mend: remove the line\n",
+           "    to fix: remove the line\n",
            ""),
      "#opt\n#a \x1b[2J\n0 1\nHe 0 0 0\n"},
     {"PutsTheCaretUnderTheCharacter",
@@ -59,7 +59,7 @@ const Call calls[] = {
          "no number has [QL217]\n"
          "    #\u00E9t\u00E9 = \u22121\n"
          "           ^^\n"
-         "    to mend: type the number anew\n",
+         "    to fix: type the number again\n",
          ""),
      "#opt\n#\u00E9t\u00E9 = \u22121\n0 1\nHe 0 0 0\n"},
     {"ShowsPartOfALongLine",
@@ -70,7 +70,7 @@ const Call calls[] = {
            "    ..." +
                std::string(78, 'a') + ") x\n" + std::string(87, ' ') +
                "^\n"
-               "    to mend: write another command on a line of its own\n",
+               "    to fix: write another command on a separate line\n",
            ""),
      "#opt(" + std::string(198, 'a') + ") x\n0 1\nHe 0 0 0\n"},
     {"FailsFromWarningOn", {"lint", "-q", "-"}, ended(0, info_found, ""), info},
@@ -164,7 +164,7 @@ TEST(LintOfAProject, KeepsToItsChoices) {
       "job.qin:2:2: warning: the command 'solvnt' is not known; did you mean 'solvent'? [QL207]\n"
       "    #solvnt = water\n"
       "     ^^^^^^\n"
-      "    to mend: write 'solvent', or add the name to known-commands in .quill-inp.toml\n";
+      "    to fix: write 'solvent', or add the name to known-commands in .quill-inp.toml\n";
   EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "job.qin"}), ended(0, found, ""));
   EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "--fail-on=warning", "job.qin"}),
             ended(1, found, ""));
