@@ -144,7 +144,7 @@ std::vector<LostAttribute> replace_content(OpenedFile& origin, std::string_view 
   std::optional<Backup> backup;
   if (options.backup_suffix) backup.emplace(origin, old_text, options);
   // Reading the new file back needs as much memory again.
-  read_again = std::string();
+  std::string().swap(read_again);
   TemporaryFile temporary(origin.folder.number(), options.unfinished);
   std::vector<LostAttribute> losses = fill(temporary, origin, new_text);
   place(temporary, backup, origin, options.unfinished);

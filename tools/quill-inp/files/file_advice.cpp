@@ -10,12 +10,12 @@ namespace {
 using Kind = lossless::FileFailure::Kind;
 
 std::string advice_on_type(lossless::FileType type, Purpose purpose) {
-  const char* const advice =
+  const char* const cure =
       purpose == Purpose::Reading
           ? ", not a regular file; use '-' to read standard input"
           : ", and only a regular file can be changed in place; put the text into a file first, or "
             "have the result printed instead";
-  return "is " + std::string(lossless::noun_of(type)) + advice;
+  return "is " + std::string(lossless::noun_of(type)) + cure;
 }
 
 }  // namespace

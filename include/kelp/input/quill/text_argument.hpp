@@ -1,7 +1,8 @@
 #ifndef KELP_INPUT_QUILL_TEXT_ARGUMENT_HPP
 #define KELP_INPUT_QUILL_TEXT_ARGUMENT_HPP
 
-/// @file What a function that takes a text does not accept.
+/// @file
+/// What a function that takes a text does not accept.
 ///
 ///     editor.set_parameter("opt", "maxiter", "100");  // a text
 ///     editor.set_parameter("opt", "maxiter", 100);    // does not compile

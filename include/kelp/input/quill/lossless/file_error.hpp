@@ -75,8 +75,11 @@ class KELP_QUILL_LOSSLESS_EXPORT FileError : public std::runtime_error {
   /// Makes the error of a path, empty where it does not matter. what() is the path and, after a
   /// colon, the words of the failure.
   FileError(const std::string& path, FileFailure failure);
+  /// Makes a copy that refers to the same facts.
   FileError(const FileError& other) noexcept;
+  /// Lets this error refer to the facts of the other one.
   FileError& operator=(const FileError& other) noexcept;
+  /// The facts stay while another copy refers to them.
   ~FileError() override;
 
   /// Returns the path of the file as the caller gave it. The reference stays valid as long as this

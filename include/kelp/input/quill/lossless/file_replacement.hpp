@@ -81,10 +81,15 @@ class FileToReplace {
  public:
   /// Called by open_to_replace().
   KELP_QUILL_LOSSLESS_EXPORT explicit FileToReplace(std::unique_ptr<OpenedFile> file) noexcept;
+  /// Takes over the file and its lock. The other object can only be assigned to or destroyed.
   KELP_QUILL_LOSSLESS_EXPORT FileToReplace(FileToReplace&& other) noexcept;
+  /// Releases the file of this object and takes over the other one, as the constructor does.
   KELP_QUILL_LOSSLESS_EXPORT FileToReplace& operator=(FileToReplace&& other) noexcept;
+  /// An object stands for one lock, which cannot be copied.
   FileToReplace(const FileToReplace&) = delete;
+  /// Not possible, because a lock cannot be copied.
   FileToReplace& operator=(const FileToReplace&) = delete;
+  /// Closes the file and releases its lock.
   KELP_QUILL_LOSSLESS_EXPORT ~FileToReplace();
 
   /// Returns the path that the file was opened by.

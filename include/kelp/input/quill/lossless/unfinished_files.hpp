@@ -24,9 +24,13 @@ struct UnfinishedFile {
 /// step may have other steps in it.
 class KELP_QUILL_LOSSLESS_EXPORT UnfinishedFiles {
  public:
+  /// Makes a list without files.
   UnfinishedFiles() = default;
+  /// A list is known by its address, so it cannot be copied.
   UnfinishedFiles(const UnfinishedFiles&) = delete;
+  /// A list is known by its address, so it cannot be copied.
   UnfinishedFiles& operator=(const UnfinishedFiles&) = delete;
+  /// To be called when no file is listed.
   virtual ~UnfinishedFiles();
 
   /// What is done from here to the matching end_step() belongs together: a file is made and listed,

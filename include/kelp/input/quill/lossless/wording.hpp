@@ -1,10 +1,10 @@
 #ifndef KELP_INPUT_QUILL_LOSSLESS_WORDING_HPP
 #define KELP_INPUT_QUILL_LOSSLESS_WORDING_HPP
 
-/// @file Messages for people: about the parts of a document, about what differs and about what
-/// cannot be written. All other files pass on facts; only the texts made here are for people. They
-/// contain bytes of documents unchanged, and have to be escaped before they are shown on a
-/// terminal.
+/// @file
+/// Messages for people: about the parts of a document, about what differs and about what cannot be
+/// written. All other files pass on facts; only the texts made here are for people. They contain
+/// bytes of documents unchanged, and have to be escaped before they are shown on a terminal.
 
 #include <cstdint>
 #include <string>
