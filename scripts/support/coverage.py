@@ -16,6 +16,10 @@ ROOT = Path(__file__).resolve().parents[2]
 LIBRARIES = ("src/", "sisters/")
 LOWEST_BRANCHES = 98.0
 LOWEST_LINES = 95.0
+# Most counts are differences of two others. Threads count without waiting for one another, so a
+# difference can come out below zero, which the report shows as a huge number. Then it is not known
+# whether the branch was taken.
+HIGHEST_COUNT = 2**62
 
 
 def share(reached, total):
@@ -45,6 +49,12 @@ def branches_of(files):
             counts["true"][key] += true
             counts["false"][key] += false
     return counts
+
+
+def branches_with(counts, is_wanted):
+    """The branches whose count is wanted, each as its file and an item as the list has them."""
+    return [(name, f"never {way}: {condition_text(name, place)}")
+            for way, of_way in counts.items() for (name, place), n in of_way.items() if is_wanted(n)]
 
 
 def functions_of(data, names):
@@ -78,12 +88,14 @@ def read_list(path):
     return listed
 
 
-def compare(missed, listed, list_path):
-    for file, item in sorted((Counter(missed) - Counter(listed)).elements()):
+def compare(missed, doubtful, listed, list_path):
+    new = Counter(missed) - Counter(listed)
+    old = Counter(listed) - Counter(missed) - Counter(doubtful)
+    for file, item in sorted(new.elements()):
         print(f"{file}: {item}; {list_path.name} has no reason for it")
-    for file, item in sorted((Counter(listed) - Counter(missed)).elements()):
+    for file, item in sorted(old.elements()):
         print(f"{file}: {item}; so says {list_path.name}, but it does not happen")
-    return Counter(missed) == Counter(listed)
+    return not new and not old
 
 
 def line_share(files, without=()):
@@ -99,8 +111,8 @@ def judge_libraries(data, files, names, list_path):
                 for place, count in functions.items() if count == 0}
     excused = [place for place, item in uncalled.items() if item in listed]
     counts = branches_of(files)
-    missed = [(name, f"never {way}: {condition_text(name, place)}")
-              for way, of_way in counts.items() for (name, place), n in of_way.items() if n == 0]
+    missed = branches_with(counts, lambda n: n == 0)
+    doubtful = branches_with(counts, lambda n: n >= HIGHEST_COUNT)
     total = sum(len(of_way) for of_way in counts.values())
     lines = line_share(files, excused)
     called = share(len(functions) - len(uncalled), len(functions) - len(excused))
@@ -109,7 +121,7 @@ def judge_libraries(data, files, names, list_path):
           f"{lines:.2f} % of lines, {taken:.2f} % of {total} branches")
     if lines < 100.0:
         print("Not reached, among others: " + ", ".join(sorted(set(missed_places(files)))))
-    fine = compare(list(uncalled.values()) + missed, listed, list_path)
+    fine = compare(list(uncalled.values()) + missed, doubtful, listed, list_path)
     return fine and called == 100.0 and lines == 100.0 and taken >= LOWEST_BRANCHES
 
 
