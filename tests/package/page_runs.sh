@@ -17,7 +17,7 @@ cp -r CMakeLists.txt CMakePresets.json *.md cmake docs editors examples include 
   "$scratch/tree"
 ln -s .. "$scratch/tree/my_program/libkelp_quill_inp"
 
-grep -oE '^(option\(|set\()KELP_QUILL_INP_[A-Z_]+ "' cmake/options.cmake |
+grep -oE '^(option|set)\(KELP_QUILL_INP_[A-Z_]+( "|$)' cmake/options.cmake |
   grep -oE 'KELP_[A-Z_]+' | while read -r option; do
   if ! grep -qF "| \`$option\` |" "$page"; then
     echo "$page does not tell of $option" >&2
