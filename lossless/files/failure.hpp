@@ -11,7 +11,7 @@ namespace kelp::input::quill::lossless {
 /// where the interface is left.
 [[noreturn]] void fail(FileFailure::Kind kind, int system_code = 0);
 
-/// Returns what something that is no regular file is; `mode` is that of its state.
+/// Returns the type of a file that is not a regular one. `mode` is from its state.
 FileType type_of(unsigned mode);
 
 /// Returns why a path could not be opened with this errno. Where the path leads to something else

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int most_links = 40;  // as many as the system follows
 
-/// Returns the text of a symbolic link, or nothing if there is no link of this name.
+/// Returns the text of a symbolic link, or nothing if no link has this name.
 std::optional<std::string> read_link(const FilePlace& place) {
   char text[PATH_MAX];
   const ssize_t size = readlinkat(place.folder.number(), place.name.c_str(), text, sizeof text);

@@ -21,7 +21,7 @@ using Kind = FileFailure::Kind;
 
 constexpr mode_t mode_of_new_files = 0666;  // less the bits of the user's mask
 
-/// Opens a file that is there. What is no regular file is in the way of the new one.
+/// Opens an existing file. The new file cannot replace one that is not a regular file.
 OpenedFile open_existing(const std::string& path, const WriteOptions& options) {
   try {
     return open_and_lock(path, options.patience);

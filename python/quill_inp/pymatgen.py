@@ -67,4 +67,4 @@ def _check_atoms(geometry):
         )
     for number, (atom, element) in enumerate(zip(geometry.atoms, geometry.numbers), start=1):
         if element == 0:
-            raise ValueError(f"atom {number}, {atom.symbol!r}, is no element")
+            raise ValueError(f"atom {number}, {atom.symbol!r}, is not an element")

@@ -50,7 +50,7 @@ def _conformer(mol, conformer):
 def _check_atoms(atoms):
     for number, atom in enumerate(atoms, start=1):
         if atom.GetAtomicNum() == 0:
-            raise ValueError(f"atom {number}, {atom.GetSymbol()!r}, is no element")
+            raise ValueError(f"atom {number}, {atom.GetSymbol()!r}, is not an element")
     missing = sum(atom.GetTotalNumHs() for atom in atoms)
     if missing:
         raise ValueError(

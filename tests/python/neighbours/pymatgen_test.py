@@ -53,7 +53,7 @@ def test_what_an_input_has_no_place_for_is_named():
 @pytest.mark.parametrize(
     ("text", "message"),
     [
-        ("0 1\nO 0 0 0\nBq 0 0 1\n", "atom 2, 'Bq', is no element"),
+        ("0 1\nO 0 0 0\nBq 0 0 1\n", "atom 2, 'Bq', is not an element"),
         (
             "#sp\n\nXYZ water.xyz\n",
             "the document has no inline atoms; quill_inp.ase.to_atoms() reads referenced files",

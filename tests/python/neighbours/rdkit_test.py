@@ -75,7 +75,7 @@ def without_hydrogens():
             -1,
             "6 hydrogens of the molecule are not atoms of it; Chem.AddHs makes them atoms",
         ),
-        (lambda: embedded("*C"), -1, "atom 1, '*', is no element"),
+        (lambda: embedded("*C"), -1, "atom 1, '*', is not an element"),
     ],
 )
 def test_molecules_that_are_no_whole_structure_are_refused(make, conformer, message):

@@ -22,7 +22,7 @@
 
 namespace kelp::input::quill::lossless {
 
-/// What a path leads to that is no regular file.
+/// What a path leads to if it is not a regular file.
 enum class FileType { Folder, Pipe, Socket, Device };
 
 /// What failed. In all cases but FolderNotFlushed, the file holds what it held before.

@@ -63,8 +63,8 @@ struct OpenOptions {
 
 /// How to replace a file.
 struct ReplaceOptions {
-  /// A suffix for the name of the file, which gives the name of a copy of the old text. Without
-  /// one, or if the file keeps the old text, there is no copy. A file of that name is not replaced.
+  /// With a suffix, the old text is copied into a file whose name ends in it, unless the text stays
+  /// the same. An existing file with that name is not replaced.
   std::optional<std::string> backup_suffix = std::nullopt;
   /// Whether a file with several names may be replaced. Its other names keep the old text.
   bool breaks_hard_links = false;

@@ -51,7 +51,8 @@ KELP_QUILL_LOSSLESS_EXPORT std::string words(const QuotingProblem& problem);
 /// coordinates", "has 1 atom instead of 3".
 KELP_QUILL_LOSSLESS_EXPORT std::string words(const XyzProblem& problem);
 
-/// Returns what is no regular file, with its article: "a folder", "a pipe", "a socket", "a device".
+/// Returns the noun for a type of file, with its article: "a folder", "a pipe", "a socket" or
+/// "a device".
 KELP_QUILL_LOSSLESS_EXPORT std::string_view noun_of(FileType type);
 
 /// Returns why a file could not be read or written, with the system's own words, as a predicate:
