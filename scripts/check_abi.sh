@@ -8,6 +8,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
+. scripts/support/libraries.sh
 . scripts/support/packages.sh
 
 need_packages "${build_packages[@]}" abigail-tools
@@ -30,10 +31,9 @@ describe() {
 }
 
 status=0
-for library in src/libkelp_quill_inp.so lossless/libkelp_quill_lossless.so sisters/core_text/libkelp_core_text.so \
-  sisters/chem_elements/libkelp_chem_elements.so; do
-  name=$(basename "$library" .so)
-  describe "$build/$library" "$build/$name.abi"
+for library in "${shared_libraries[@]}"; do
+  name=$(basename "$library")
+  describe "$build/$library.so" "$build/$name.abi"
   if [ "$accept" = yes ]; then
     cp "$build/$name.abi" "tests/abi/$name.abi"
   elif abidiff "tests/abi/$name.abi" "$build/$name.abi"; then

@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
+. scripts/support/libraries.sh
 . scripts/support/packages.sh
 . scripts/support/shipped_build.sh
 
@@ -65,9 +66,9 @@ check_installed_file() {
 }
 
 libraries=$(dirname "$(find "$installed" -name libkelp_quill_inp.so)")
-for library in kelp_core_text kelp_chem_elements kelp_quill_inp kelp_quill_lossless; do
-  check_file "$(find "$build/src" "$build/lossless" "$build/sisters" -name "lib$library.so")" library
-  check_installed_file "$libraries/lib$library.so" library
+for library in "${shared_libraries[@]}"; do
+  check_file "$build/$library.so" library
+  check_installed_file "$libraries/$(basename "$library").so" library
 done
 check_file "$build/tools/quill-inp/quill-inp" program
 check_installed_file "$installed/bin/quill-inp" program

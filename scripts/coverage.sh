@@ -7,6 +7,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
+. scripts/support/libraries.sh
 . scripts/support/packages.sh
 
 need_packages "${test_packages[@]}" clang llvm libclang-rt-14-dev python3
@@ -31,15 +32,14 @@ if ! ctest --preset coverage --exclude-regex 'WithoutWideIntegers|WithoutStandar
 fi
 
 llvm-profdata-14 merge -o "$build/counts.profdata" "$profiles"/*.profraw
-objects=(-object="$build/sisters/core_text/libkelp_core_text.so"
-  -object="$build/sisters/chem_elements/libkelp_chem_elements.so"
-  -object="$build/lossless/libkelp_quill_lossless.so")
+objects=()
+for library in "${shared_libraries[@]}"; do objects+=(-object="$build/$library.so"); done
 with_tools=no
 if [ -x "$build/tools/quill-inp/quill-inp" ]; then
   objects+=(-object="$build/tools/quill-inp/quill-inp")
   with_tools=yes
 fi
-llvm-cov-14 export -instr-profile="$build/counts.profdata" "$build/src/libkelp_quill_inp.so" \
-  "${objects[@]}" -ignore-filename-regex='^/usr/' >"$build/coverage.json"
+llvm-cov-14 export -instr-profile="$build/counts.profdata" "${objects[@]}" \
+  -ignore-filename-regex='^/usr/' >"$build/coverage.json"
 python3 -B scripts/support/coverage.py "$build/coverage.json" tests/coverage/unreached.txt \
   "$with_tools"

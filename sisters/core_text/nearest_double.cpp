@@ -37,11 +37,11 @@ class CanonicalText {
   // integer below 2^54 times 2^-1075. Therefore all numbers that begin with the same 768 digits are
   // on one side of it, except the one that ends there. A final "1" represents all further digits.
   static constexpr std::size_t most_digits = 768;
-  static constexpr std::size_t most_behind_digits = std::string_view("1e-323").size();
+  static constexpr std::size_t most_after_digits = std::string_view("1e-323").size();
 
   char* digits_end() { return text_.data() + 1 + count_; }
 
-  std::array<char, 1 + most_digits + most_behind_digits> text_{'.'};
+  std::array<char, 1 + most_digits + most_after_digits> text_{'.'};
   std::size_t count_ = 0;
   bool has_more_ = false;
 };
