@@ -22,3 +22,8 @@ kelp_quill_inp_install_for_tool(${completions}/_quill-inp
   "${KELP_QUILL_INP_ZSH_COMPLETIONS_DIR}")
 kelp_quill_inp_install_for_tool(${completions}/quill-inp.fish
   "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
+
+# For editors, in the folders where each looks for what packages bring.
+foreach(folder IN ITEMS vim/vimfiles nvim/site)
+  install(DIRECTORY editors/vim/ DESTINATION "${CMAKE_INSTALL_DATADIR}/${folder}" COMPONENT tool)
+endforeach()

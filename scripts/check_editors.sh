@@ -1,13 +1,26 @@
 #!/usr/bin/env bash
-# Highlights inputs with the syntax file for Vim and with the TextMate grammar, and fails when a piece
-# of them is not highlighted as expected. Needs npm for the grammar; with --refresh, both write the
-# expected results.
+# Uses what editors/ has for each editor, as its authors would, and fails when an editor shows or does
+# something else than is expected:
+#
+#   check_editors.sh [--refresh] [PROGRAM]
+#
+# PROGRAM is the quill-inp that the editors call; without it, one is built. With --refresh, the expected
+# results are written. Needs npm for some editors.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/support/builds.sh
 . scripts/support/packages.sh
+. scripts/support/tool.sh
 
-need_packages vim
+refresh=()
+if [ "${1:-}" = --refresh ]; then refresh=(--refresh) && shift; fi
+
+need_packages vim neovim
 if ! command -v npm >/dev/null; then need_packages nodejs npm; fi
+if [ $# -gt 0 ]; then tool=$1; else build_tool; fi
 
-tests/editors/vim/check.sh "$@"
-tests/editors/textmate/check.sh "$@"
+tests/editors/vim/check.sh "${refresh[@]}"
+tests/editors/vim/redraw.sh
+tests/editors/vim/use.sh "$tool" vim "${refresh[@]}"
+tests/editors/vim/use.sh "$tool" nvim
+tests/editors/textmate/check.sh "${refresh[@]}"

@@ -15,8 +15,11 @@ let s:end = '\s*$'
 
 " line NAME, PATTERN, FOLLOWERS: a line from its first word on. Of two items that fit, the one that
 " is defined later is taken.
+" To show the last line, Vim goes through all atoms, and it stops highlighting when that takes more than
+" 'redrawtime'. So the patterns ask for the engine that is faster here, and begin with a letter if they
+" can: then Vim looks for that letter first, and does not try the pattern at every column of a line.
 function s:Line(name, pattern, followers, ...) abort
-  execute 'syntax match' a:name '~' . a:pattern . '~ contained skipwhite skipempty nextgroup=' .
+  execute 'syntax match' a:name '~\%#=1' . a:pattern . '~ contained skipwhite skipempty nextgroup=' .
         \ a:followers . (a:0 ? ' contains=' . a:1 : '')
 endfunction
 
@@ -29,19 +32,22 @@ syntax cluster qinHeader contains=qinFlag,qinAssignment,qinList,qinEmpty
 " Post-processing lines. The number of words decides: with the right one, something that is not a
 " number makes the line one that is dropped; with another one, it is text.
 call s:Line('qinRaw', '\S.*$', '@qinPost')
-call s:Line('qinDropped', '\c\%(C\%(\s\+\S\+\)\{1}\|B\%(\s\+\S\+\)\{2}\|A\%(\s\+\S\+\)\{3}\|D\%(\s\+\S\+\)\{4}\|S\%(\s\+\S\+\)\{4,6}\)' . s:end, '@qinPost')
-call s:Line('qinConstraint', '\%(\cC\%(\s\+' . s:integer . '\)\{1}\|\cB\%(\s\+' . s:integer .
-      \ '\)\{2}\|\cA\%(\s\+' . s:integer . '\)\{3}\|\cD\%(\s\+' . s:integer . '\)\{4}\)' . s:end,
-      \ '@qinPost', 'qinKeyword,qinNumber')
+for [s:keyword, s:count] in [['C', 1], ['B', 2], ['A', 3], ['D', 4], ['S', '4,6']]
+  call s:Line('qinDropped', '\c' . s:keyword . '\%(\s\+\S\+\)\{' . s:count . '}' . s:end, '@qinPost')
+endfor
+for [s:keyword, s:count] in [['C', 1], ['B', 2], ['A', 3], ['D', 4]]
+  call s:Line('qinConstraint', '\c' . s:keyword . '\%(\s\+' . s:integer . '\)\{' . s:count . '}' .
+        \ s:end, '@qinPost', 'qinConstrains')
+endfor
 call s:Line('qinScan', '\cS\%(\s\+' . s:integer . '\)\{2,4}\s\+' . s:number . '\s\+' . s:integer .
-      \ s:end, '@qinPost', 'qinKeyword,qinNumber')
+      \ s:end, '@qinPost', 'qinConstrains')
 call s:Line('qinPostFile', '\cPOST\s\+\S.*$', '@qinPost', 'qinKeyword,qinPath')
 
 " Coordinates: the first line decides on the form.
 call s:Line('qinTrajectory', '\cXYZTRAJ\%(\s.*\)\=$', '@qinPost', 'qinKeyword,qinPath,qinLonely')
 call s:Line('qinXyz', '\cXYZ\%(\s.*\)\=$', '@qinPost,qinXyz', 'qinKeyword,qinPath,qinLonely')
 call s:Line('qinAtom', '\a\+\%(\s\+' . s:number . '\)\{3}' . s:end, '@qinPost,qinAtom',
-      \ 'qinSymbol,qinNumber')
+      \ 'qinSymbol')
 call s:Line('qinCharge', s:integer . '\s\+' . s:integer . s:end, '@qinCoordinates', 'qinNumber')
 
 " Header lines: whichever of "=" and "(" comes first decides on the form.
@@ -52,8 +58,10 @@ call s:Line('qinEmpty', '#' . s:end, '@qinFirst')
 
 " Pieces of a line.
 syntax match qinKeyword ~\a\+~ contained
-execute 'syntax match qinNumber ~\%(^\|\s\)\@1<=' . s:number . '\ze\%(\s\|$\)~ contained'
-syntax match qinSymbol ~\%(^\s*\)\@<=\a\+~ contained
+" A line has been recognised as a whole before its words are looked for: each word follows another one.
+syntax match qinNumber ~\S\+~ contained nextgroup=qinNumber skipwhite
+syntax match qinSymbol ~\a\+~ contained nextgroup=qinNumber skipwhite
+syntax match qinConstrains ~\a~ contained nextgroup=qinNumber skipwhite
 syntax match qinPath ~\s\@1<=\S.*$~ contained
 syntax match qinLonely ~\c\<XYZ\%(TRAJ\)\=\s*$~ contained
 
@@ -96,6 +104,7 @@ highlight default link qinEmpty Error
 highlight default link qinSymbol Type
 highlight default link qinNumber Number
 highlight default link qinKeyword Keyword
+highlight default link qinConstrains Keyword
 highlight default link qinPath String
 highlight default link qinLonely Error
 highlight default link qinDropped Error
