@@ -18,6 +18,7 @@ struct PostLineShape {
   PostCommandKind kind;
   std::size_t least_tokens;
   std::size_t most_tokens;
+  std::string_view form;  // of the line; words in capitals stand for themselves; empty for raw text
   std::string_view noun;
   std::string_view article;  // of the noun; empty where it takes none
   std::string_view subject;  // what a constraint holds; empty for other kinds
@@ -40,20 +41,21 @@ inline constexpr std::size_t any_number_of_tokens = std::numeric_limits<std::siz
 
 /// The rows are in the order of the enumerators.
 inline constexpr std::array<PostLineShape, 7> post_line_shapes = {{
-    {"C", PostCommandKind::AtomConstraint, 2, 2, "atom constraint", "an", "atom", "atom_constraint",
-     "atom_constraint", "atom_constraints", "--atom", "I", "Hold the place of an atom"},
-    {"B", PostCommandKind::BondConstraint, 3, 3, "bond constraint", "a", "bond", "bond_constraint",
-     "bond", "bonds", "--bond", "I,J", "Hold the distance of two atoms"},
-    {"A", PostCommandKind::AngleConstraint, 4, 4, "angle constraint", "an", "angle",
+    {"C", PostCommandKind::AtomConstraint, 2, 2, "C i", "atom constraint", "an", "atom",
+     "atom_constraint", "atom_constraint", "atom_constraints", "--atom", "I",
+     "Hold the place of an atom"},
+    {"B", PostCommandKind::BondConstraint, 3, 3, "B i j", "bond constraint", "a", "bond",
+     "bond_constraint", "bond", "bonds", "--bond", "I,J", "Hold the distance of two atoms"},
+    {"A", PostCommandKind::AngleConstraint, 4, 4, "A i j k", "angle constraint", "an", "angle",
      "angle_constraint", "angle", "angles", "--angle", "I,J,K", "Hold the angle of three atoms"},
-    {"D", PostCommandKind::DihedralConstraint, 5, 5, "dihedral constraint", "a", "dihedral",
-     "dihedral_constraint", "dihedral", "dihedrals", "--dihedral", "I,J,K,L",
+    {"D", PostCommandKind::DihedralConstraint, 5, 5, "D i j k l", "dihedral constraint", "a",
+     "dihedral", "dihedral_constraint", "dihedral", "dihedrals", "--dihedral", "I,J,K,L",
      "Hold the dihedral of four atoms"},
-    {"S", PostCommandKind::Scan, 5, 7, "scan", "a", "", "scan", "scan", "scans", "--scan",
-     "I,J[,K[,L]]:VALUE:STEPS", "Scan a distance, angle or dihedral"},
-    {"POST", PostCommandKind::PostFile, 2, any_number_of_tokens, "post file", "a", "", "post_file",
-     "post_file", "post_files", "--post", "PATH", "Name a post-processing file"},
-    {"", PostCommandKind::Raw, 0, any_number_of_tokens, "raw text", "", "", "raw", "raw", "raw",
+    {"S", PostCommandKind::Scan, 5, 7, "S i j [k [l]] value steps", "scan", "a", "", "scan", "scan",
+     "scans", "--scan", "I,J[,K[,L]]:VALUE:STEPS", "Scan a distance, angle or dihedral"},
+    {"POST", PostCommandKind::PostFile, 2, any_number_of_tokens, "POST path", "post file", "a", "",
+     "post_file", "post_file", "post_files", "--post", "PATH", "Name a post-processing file"},
+    {"", PostCommandKind::Raw, 0, any_number_of_tokens, "", "raw text", "", "", "raw", "raw", "raw",
      "--raw", "TEXT", "Add a line of text as it is"},
 }};
 

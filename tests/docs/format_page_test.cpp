@@ -12,6 +12,7 @@
 
 #include "fenced_blocks.hpp"
 #include "kelp/input/quill/quill.hpp"
+#include "model/post_line_shapes.hpp"
 
 namespace kelp::input::quill {
 namespace {
@@ -128,6 +129,16 @@ TEST(FormatPage, ListsEveryReasonNotToReadBack) {
   EXPECT_EQ(reasons.size(), 16U);
   const std::string page = content_of_page("docs/format.md");
   for (const std::string& reason : reasons) EXPECT_THAT(page, testing::HasSubstr("- " + reason));
+}
+
+TEST(FormatPage, ShowsTheFormOfEveryPostProcessingLine) {
+  const std::string page = content_of_page("docs/format.md");
+  for (const PostLineShape& shape : post_line_shapes) {
+    if (shape.keyword.empty()) continue;
+    const std::string row =
+        "| `" + std::string(shape.form) + "` | " + std::string(shape.noun) + " |";
+    EXPECT_THAT(page, testing::HasSubstr(row));
+  }
 }
 
 TEST(FormatPage, HasACureForEveryMessage) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <ostream>
@@ -54,6 +55,18 @@ TEST_P(PostLineShapes, AcceptExactlyTheirNumbersOfTokens) {
 
 INSTANTIATE_TEST_SUITE_P(Table, PostLineShapes, testing::ValuesIn(shape_rows),
                          [](const auto& row) { return std::string(row.param.name); });
+
+// Brackets are around words that may be left out.
+TEST_P(PostLineShapes, ShowAFormWithTheirNumbersOfTokens) {
+  const std::string form(find_post_line_shape(GetParam().keyword)->form);
+  EXPECT_EQ(form.substr(0, form.find(' ')), GetParam().keyword);
+  const auto words = 1 + static_cast<std::size_t>(std::count(form.begin(), form.end(), ' '));
+  const auto optional = static_cast<std::size_t>(std::count(form.begin(), form.end(), '['));
+  EXPECT_EQ(words - optional, GetParam().least_tokens);
+  if (GetParam().most_tokens != any_number) {
+    EXPECT_EQ(words, GetParam().most_tokens);
+  }
+}
 
 TEST(PostLineShapes, AreInTheOrderOfTheEnumerators) {
   for (std::size_t i = 0; i < post_line_shapes.size(); ++i)
