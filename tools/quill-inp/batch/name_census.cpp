@@ -6,20 +6,14 @@
 #include <mutex>
 #include <optional>
 #include <set>
-#include <string_view>
 #include <utility>
 
-#include "kelp/core/text.hpp"
-#include "kelp/input/quill/reader.hpp"
+#include "quill-inp/batch/file_header.hpp"
 #include "quill-inp/batch/ordered_work.hpp"
-#include "quill-inp/process/regular_file.hpp"
 
 namespace kelp::input::quill::tool {
 
 namespace {
-
-// Nobody writes a longer header, and the file may contain anything.
-constexpr std::uint64_t longest_header = std::uint64_t{64} * 1024;
 
 // Reading a header takes less time than passing it from one thread to another.
 constexpr std::size_t files_in_a_piece = 32;
@@ -27,22 +21,9 @@ constexpr std::size_t files_in_a_piece = 32;
 using Names = std::vector<std::string>;
 using Counts = std::map<std::string, std::size_t>;  // of files, by the name that they use
 
-/// Returns the lines up to the first one that is not part of a header.
-std::string_view header_of(std::string_view text) {
-  std::size_t end = 0;
-  while (end < text.size()) {
-    const std::size_t line_end = std::min(text.find('\n', end), text.size() - 1) + 1;
-    const std::string line = core::text::trim(text.substr(end, line_end - end));
-    if (!line.empty() && line.front() != '#') break;
-    end = line_end;
-  }
-  return text.substr(0, end);
-}
-
-std::set<std::string> names_in_header(std::string_view text) {
+std::set<std::string> names_of(const std::vector<HeaderCommand>& commands) {
   std::set<std::string> names;
-  for (const std::string& name : parse_string(header_of(text)).input.command_names())
-    names.insert(normalize_command_name(name));
+  for (const HeaderCommand& command : commands) names.insert(normalize_command_name(command.name));
   return names;
 }
 
@@ -94,9 +75,9 @@ class Census {
   /// Counts the names of a file, each once. Another thread may do so for other files.
   void count_names(const std::string& path, Counts& counts) {
     if (path == "-") return;
-    const std::optional<FileBeginning> beginning = read_beginning(path, longest_header);
-    if (!beginning || !is_first(beginning->identity)) return;
-    for (const std::string& name : names_in_header(beginning->text)) ++counts[name];
+    const std::optional<FileHeader> header = read_header(path);
+    if (!header || !is_first(header->identity)) return;
+    for (const std::string& name : names_of(header->commands)) ++counts[name];
   }
 
   bool is_first(const std::pair<dev_t, ino_t>& identity) {
