@@ -17,6 +17,7 @@ import sys
 from quill_inp._ase_constraints import commands_of, constraints_of
 from quill_inp._document import QuillInput
 from quill_inp._editor import InputEditor
+from quill_inp._files import write_file
 from quill_inp._kinds import GeometryKind, PostCommandKind
 from quill_inp._neighbours import NotCarriedWarning, warn_of_losses, whole_number
 from quill_inp._reader import read
@@ -107,15 +108,14 @@ def read_quill_inp(filename, index=-1):
 
 
 def write_quill_inp(filename, images, charge=None, multiplicity=None):
-    """Writes the input that from_atoms() makes for `ase.io.write`. Raises ValueError unless there is
-    one structure, and LossError when the text would not say what the document says.
+    """Writes the input that from_atoms() makes for `ase.io.write`, as write_file() does; a file that is
+    there is replaced. Raises ValueError unless there is one structure, and LossError when the text
+    would not say what the document says.
     """
     images = list(images)
     if len(images) != 1:
         raise ValueError(f"an input has the atoms of one structure, not of {len(images)}")
-    document = from_atoms(images[0], charge, multiplicity)
-    document.sha256()  # proves the text
-    document.write_file(filename)
+    write_file(filename, from_atoms(images[0], charge, multiplicity), replace=True)
 
 
 def __getattr__(name):

@@ -43,6 +43,16 @@ def test_arguments_of_ase_write_reach_the_input(registered, tmp_path):
     assert (tmp_path / "a.inp").read_text().startswith("1 2\nO ")
 
 
+def test_a_file_is_replaced_as_a_whole(registered, tmp_path):
+    path = tmp_path / "a.qin"
+    path.write_text("#sp\n\nXYZ a.xyz\n")
+    with open(path, encoding="utf-8") as opened_before:
+        ase.io.write(path, water())
+        assert opened_before.read() == "#sp\n\nXYZ a.xyz\n"
+    assert quill_inp.read(path).geometry.symbols == ["O", "H", "H"]
+    assert list(tmp_path.iterdir()) == [path]
+
+
 def test_several_structures_are_not_one_input(registered, tmp_path):
     with pytest.raises(ValueError, match="an input has the atoms of one structure, not of 2"):
         ase.io.write(tmp_path / "a.qin", [water(), water()])
