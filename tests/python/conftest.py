@@ -4,10 +4,15 @@ import hypothesis
 import pytest
 
 import quill_inp
+from extent import THOROUGHLY
 
 # The same examples in every run, and no clock: other programs influence it.
 hypothesis.settings.register_profile(
-    "tests", derandomize=True, deadline=None, database=None, max_examples=150
+    "tests",
+    derandomize=True,
+    deadline=None,
+    database=None,
+    max_examples=3000 if THOROUGHLY else 150,
 )
 hypothesis.settings.load_profile("tests")
 
