@@ -49,7 +49,7 @@ void describe(CommandLine& line) {
                                 "Print the version");
   for (const auto add :
        {add_show, add_fmt, add_get, add_set, add_unset, add_add, add_new, add_sweep, add_hash,
-        add_diff, add_json, add_from_json, add_lint, add_check, add_explain, add_help})
+        add_diff, add_json, add_from_json, add_lint, add_check, add_explain, add_lsp, add_help})
     line.verbs.push_back(add(line.program));
 }
 

@@ -1,6 +1,6 @@
 # Completion of quill-inp for bash.
 
-_quill_inp_verbs='show fmt get set unset add new sweep hash diff json from-json lint explain help'
+_quill_inp_verbs='show fmt get set unset add new sweep hash diff json from-json lint explain lsp help'
 
 _quill_inp_options() {
   local files='--recursive -r --glob --files-from --null -0 --jobs -j'
@@ -26,7 +26,7 @@ _quill_inp_options() {
     get) echo "--json --default --strict --key -k --with-filename --no-filename $files $general" ;;
     json) echo "--strict $files $general" ;;
     lint) echo "--format --fail-on --select --ignore --statistics --fix --diff $files $general" ;;
-    explain | help) echo "$general" ;;
+    explain | lsp | help) echo "$general" ;;
     *) echo '--help -h --version' ;;
   esac
 }

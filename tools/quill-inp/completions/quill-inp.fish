@@ -11,7 +11,7 @@ function __quill_inp_keys_of_file
   end
 end
 
-set -l verbs show fmt get set unset add new sweep hash diff json from-json lint explain help
+set -l verbs show fmt get set unset add new sweep hash diff json from-json lint explain lsp help
 set -l writing '__fish_seen_subcommand_from fmt set unset add'
 set -l choosing '__fish_seen_subcommand_from show fmt get set unset add hash json lint'
 set -l keyed '__fish_seen_subcommand_from get unset'
@@ -40,6 +40,7 @@ complete -c quill-inp -n $first -a json -d 'Print inputs as JSON, without loss'
 complete -c quill-inp -n $first -a from-json -d 'Print a JSON text as a QUILL input'
 complete -c quill-inp -n $first -a lint -d 'Find probable mistakes in inputs'
 complete -c quill-inp -n $first -a explain -d 'Explain the codes of lint'
+complete -c quill-inp -n $first -a lsp -d 'Serve an editor'
 complete -c quill-inp -n $first -a help -d 'Print the help of a verb'
 complete -c quill-inp -n '__fish_seen_subcommand_from help' -f -a "$verbs"
 

@@ -22,6 +22,12 @@ class Output {
   /// The descriptor, if there is one.
   std::optional<int> file() const { return file_; }
 
+  /// The stream itself, for a protocol that needs each piece passed on at once.
+  std::ostream& stream() {
+    has_written_ = true;
+    return stream_;
+  }
+
   /// Writes data byte for byte; on a terminal, escapes bytes that would control it.
   void write(std::string_view data);
 

@@ -34,6 +34,7 @@ Verb add_from_json(CLI::App& program);
 Verb add_lint(CLI::App& program);
 Verb add_check(CLI::App& program);
 Verb add_explain(CLI::App& program);
+Verb add_lsp(CLI::App& program);
 Verb add_help(CLI::App& program);
 Verb add_sweep(CLI::App& program);
 Verb add_hash(CLI::App& program);

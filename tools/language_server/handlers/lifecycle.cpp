@@ -1,0 +1,48 @@
+#include <algorithm>
+
+#include "language_server/handlers/handlers.hpp"
+#include "language_server/protocol/response_error.hpp"
+#include "language_server/session/client_abilities.hpp"
+
+namespace kelp::input::quill::language_server {
+
+namespace {
+
+Json capabilities(const ServerState& state) {
+  constexpr int incremental = 2;
+  Json capabilities = {
+      {"positionEncoding", name_of(state.encoding)},
+      {"textDocumentSync",
+       {{"openClose", true}, {"change", incremental}, {"save", {{"includeText", false}}}}},
+  };
+  for (const Feature& feature : all_features())
+    capabilities[std::string(feature.capability)] = feature.options;
+  return capabilities;
+}
+
+}  // namespace
+
+Json initialize(ServerState& state, const Json& params) {
+  if (state.phase != Phase::New)
+    throw ResponseError(ErrorCode::InvalidRequest, "the server is initialized already");
+  const Json& client = find_member(params, "capabilities");
+  state.encoding = chosen_encoding(client);
+  state.client = abilities_of(client);
+  state.phase = Phase::Running;
+  return {{"capabilities", capabilities(state)},
+          {"serverInfo", {{"name", "quill-inp"}, {"version", state.options.version}}}};
+}
+
+void take_initialized(ServerState&, const Json&) {}
+
+Json shut_down(ServerState& state, const Json&) {
+  state.phase = Phase::ShutDown;
+  return nullptr;
+}
+
+void exit(ServerState& state, const Json&) {
+  state.was_shut_down = state.phase == Phase::ShutDown;
+  state.phase = Phase::Over;
+}
+
+}  // namespace kelp::input::quill::language_server

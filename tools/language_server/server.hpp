@@ -1,0 +1,52 @@
+#ifndef KELP_INPUT_QUILL_LANGUAGE_SERVER_SERVER_HPP
+#define KELP_INPUT_QUILL_LANGUAGE_SERVER_SERVER_HPP
+
+#include <string_view>
+
+#include "language_server/session/inbox.hpp"
+#include "language_server/session/server_state.hpp"
+
+namespace kelp::input::quill::language_server {
+
+/// Answers the messages of one client. It reads and writes no stream: who runs it hands in what has
+/// arrived, and asks it to work when nothing more has. So cancelled requests are dropped before
+/// they cost anything, and many changes are looked at once.
+class Server {
+ public:
+  /// `send` is called with each message for the client.
+  Server(ServerOptions options, Outbox::Send send) : state_(std::move(options), std::move(send)) {}
+
+  /// Takes the text of a message. It waits for its turn; only the cancelling of a request that
+  /// waits, and answers to the server's own requests, are carried out at once.
+  void receive(std::string_view text);
+
+  /// Tells the client that a message could not be taken.
+  void refuse(ErrorCode code, const std::string& reason);
+
+  /// Whether there is something to do without another message.
+  bool has_work() const { return !inbox_.is_empty(); }
+
+  /// How many messages wait.
+  std::size_t count_waiting() const { return inbox_.size(); }
+
+  /// Does the next thing: answers a message.
+  void work();
+
+  bool is_over() const { return state_.phase == Phase::Over; }
+
+  /// Returns 0 if the client asked the server to shut down, and 1 if it just went away.
+  int exit_code() const;
+
+ private:
+  void cancel(const Message& notification);
+  void answer(const Message& request);
+  void take(const Message& notification);
+  Json result_of(const Message& request);
+
+  ServerState state_;
+  Inbox inbox_ = {};
+};
+
+}  // namespace kelp::input::quill::language_server
+
+#endif  // KELP_INPUT_QUILL_LANGUAGE_SERVER_SERVER_HPP
