@@ -193,7 +193,7 @@ std::string unlike_words(std::string_view reason) {
 }
 
 std::string utf16_words(const std::string& encoding) {
-  return "is UTF-16, which the reader does not know; 'iconv -f " + encoding +
+  return "is in UTF-16, which the reader cannot read; 'iconv -f " + encoding +
          " -t UTF-8 FILE' prints it as UTF-8";
 }
 

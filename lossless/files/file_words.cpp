@@ -65,7 +65,7 @@ std::string words_at_replacing(const FileFailure& failure) {
     case Kind::BackupExists:
       return "the backup '" + failure.backup + "' exists already and would be lost";
     case Kind::BackupNotMade:
-      return "the backup '" + failure.backup + "' cannot be made";
+      return "the backup '" + failure.backup + "' cannot be created";
     default:
       return "cannot be replaced";
   }

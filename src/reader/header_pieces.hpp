@@ -50,7 +50,7 @@ class ParameterEntries {
 };
 
 /// Returns whether a header line says something that is not part of its command and is lost when
-/// the line is made anew: text after the closing parenthesis, or an entry that has a value and no
+/// the line is rewritten: text after the closing parenthesis, or an entry that has a value and no
 /// name.
 bool says_more_than_its_command(std::string_view line);
 

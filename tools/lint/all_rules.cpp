@@ -173,10 +173,10 @@ constexpr Rule rules[] = {
      "the atom number '{number}' is on this line twice", "name different atoms",
      check_repeated_atom_number},
     {"QL305", Severity::Error, Group::PostProcessing, "an atom number that is too large",
-     "there is no atom '{number}': there {count|is {count} atom|are {count} atoms}",
+     "the atom '{number}' does not exist: the input has {count|{count} atom|{count} atoms}",
      "write the number of an atom", check_atom_number_too_large},
     {"QL306", Severity::Error, Group::PostProcessing, "a scan without steps",
-     "a scan needs at least one step, here '{steps}'", "write the number of steps",
+     "the number of steps is '{steps}', but a scan needs at least one", "write the number of steps",
      check_no_scan_steps},
     {"QL307", Severity::Error, Group::PostProcessing, "a scan value that is not finite",
      "the scan value '{token}' is not a finite number", "write the value",
@@ -187,7 +187,7 @@ constexpr Rule rules[] = {
      "the quotes are part of the path {path}", "write the path without quotes", check_quoted_path,
      Explains::Line},
     {"QL402", Severity::Warning, Group::References, "a file that does not exist",
-     "there is no file '{path}'", "write the path from the folder of the input",
+     "the file '{path}' does not exist", "write the path from the folder of the input",
      check_missing_file},
     {"QL403", Severity::Warning, Group::References, "a file that cannot be read",
      "the file '{path}' cannot be read: {reason}", "check the file and its access rights",
@@ -199,17 +199,15 @@ constexpr Rule rules[] = {
      "an input has one trajectory, so the second {keyword} line is kept as raw text",
      "keep one of the lines", check_extra_trajectory, Explains::Line},
 
-    // What is lost when the text is written anew.
+    // What is lost when the text is rewritten.
     {"QL501", Severity::Warning, Group::Writing, "a line on which the meaning of another depends",
-     "this line is lost when the input is written anew, and line {line}, '{other}', is then read "
-     "as "
+     "this line is lost when the input is rewritten, and line {line}, '{other}', is then read as "
      "something else",
      "correct the line, or put another post-processing line in its place", check_other_meaning,
      Explains::Line},
     {"QL502", Severity::Warning, Group::Writing, "numbers that change when they are written",
      "{count|one number changes|{count} numbers change} by up to {change} when the input is "
-     "written "
-     "anew",
+     "rewritten",
      "write fewer digits: coordinates keep six decimals, scan values six digits",
      check_large_change},
     {"QL503", Severity::Warning, Group::Writing, "columns that touch",
@@ -218,8 +216,7 @@ constexpr Rule rules[] = {
      "move the molecule to the origin", check_touching_columns},
     {"QL504", Severity::Info, Group::Writing, "numbers that are rounded when they are written",
      "{count|one number is|{count} numbers are} rounded by up to {change} when the input is "
-     "written "
-     "anew",
+     "rewritten",
      "no change is needed unless the last digits matter", check_small_change},
 
     // What only chemistry can tell.

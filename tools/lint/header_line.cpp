@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 #include "lint/tokens.hpp"
 #include "model/task_names.hpp"
@@ -11,12 +12,19 @@ namespace kelp::input::quill::lint {
 
 namespace {
 
-/// Names that have a meaning in every input, besides those of the tasks.
 constexpr std::array<std::string_view, 2> names_of_settings = {"model", "device"};
 
+/// The names that have a meaning in every input, in canonical form.
+constexpr auto common_names = [] {
+  std::array<std::string_view, task_names.size() + names_of_settings.size()> names = {};
+  std::size_t count = 0;
+  for (const std::string_view name : task_names) names[count++] = name;
+  for (const std::string_view name : names_of_settings) names[count++] = name;
+  return names;
+}();
+
 std::vector<std::string> known_names(const Options& options) {
-  std::vector<std::string> names(task_names.begin(), task_names.end());
-  names.insert(names.end(), names_of_settings.begin(), names_of_settings.end());
+  std::vector<std::string> names(common_names.begin(), common_names.end());
   names.insert(names.end(), options.known_commands.begin(), options.known_commands.end());
   return names;
 }
@@ -41,13 +49,11 @@ Range range_of_command(const Source& source, std::size_t index) {
 
 bool is_known(std::string_view name, const Options& options) {
   const std::string wanted = normalize_command_name(name);
-  const auto is_wanted = [&](std::string_view known) {
-    return normalize_command_name(known) == wanted;
-  };
   const std::vector<std::string>& more = options.known_commands;
-  return is_task_name(wanted) ||
-         std::any_of(names_of_settings.begin(), names_of_settings.end(), is_wanted) ||
-         std::any_of(more.begin(), more.end(), is_wanted);
+  return std::find(common_names.begin(), common_names.end(), wanted) != common_names.end() ||
+         std::any_of(more.begin(), more.end(), [&](const std::string& known) {
+           return normalize_command_name(known) == wanted;
+         });
 }
 
 std::string_view first_word(std::string_view name) {

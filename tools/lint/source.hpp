@@ -31,7 +31,7 @@ struct ReferencedFile {
 /// What the checks use besides the text.
 struct Options {
   std::vector<std::string> known_commands = {};  // of the project, besides those of every input
-  double max_change = 1e-6;                      // of a number when the text is written anew
+  double max_change = 1e-6;                      // of a number when the text is rewritten
 
   /// The names of commands that other inputs use as well, in canonical form and sorted. The code
   /// that makes the options owns the list.

@@ -75,13 +75,13 @@ TEST(InputDoubtWords, NameTheReasonAndTheCure) {
             "begins with a byte order mark, which the reader takes for text; 'tail -c +4 FILE' "
             "prints the text without it");
   EXPECT_EQ(of(Kind::Utf16),
-            "is UTF-16, which the reader does not know; 'iconv -f UTF-16 -t UTF-8 FILE' prints it "
+            "is in UTF-16, which the reader cannot read; 'iconv -f UTF-16 -t UTF-8 FILE' prints it "
             "as UTF-8");
   EXPECT_EQ(of(Kind::Utf16LittleEndian),
-            "is UTF-16, which the reader does not know; 'iconv -f UTF-16LE -t UTF-8 FILE' prints "
+            "is in UTF-16, which the reader cannot read; 'iconv -f UTF-16LE -t UTF-8 FILE' prints "
             "it as UTF-8");
   EXPECT_EQ(of(Kind::Utf16BigEndian),
-            "is UTF-16, which the reader does not know; 'iconv -f UTF-16BE -t UTF-8 FILE' prints "
+            "is in UTF-16, which the reader cannot read; 'iconv -f UTF-16BE -t UTF-8 FILE' prints "
             "it as UTF-8");
   EXPECT_EQ(of(Kind::NulByte), "does not look like a QUILL input: it has a NUL byte");
   EXPECT_EQ(of(Kind::Script),

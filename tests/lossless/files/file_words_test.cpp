@@ -38,7 +38,7 @@ TEST(WordsOfFailures, SayWhatFailed) {
       {Kind::Exists, "exists already and holds another text"},
       {Kind::ExistsNotRegular, "exists already and is not a regular file"},
       {Kind::BackupExists, "the backup 'a.bak' exists already and would be lost"},
-      {Kind::BackupNotMade, "the backup 'a.bak' cannot be made"},
+      {Kind::BackupNotMade, "the backup 'a.bak' cannot be created"},
       {Kind::NotCreated, "cannot create a temporary file in the same folder"},
       {Kind::NewNotExamined, "the temporary file cannot be examined"},
       {Kind::NoAccessRights, "the permission bits cannot be set"},

@@ -40,7 +40,7 @@ class LintedPage : public testing::TestWithParam<Rule> {};
 
 TEST_P(LintedPage, HasThePropertiesWithOddBytesInAnyPlace) {
   const std::string odd[] = {"\xEF\xBB\xBF", "\r", "\u00A0", "\u2212", "\u201C", ",", "\xFF", "1"};
-  for (const char* const heading : {"## Bad", "## Mended"}) {
+  for (const char* const heading : {"## Bad", "## Corrected"}) {
     const std::string text = input_below(page_of(GetParam().code), heading);
     ASSERT_TRUE(holds([&] { check_linting(text); }));
     for (std::size_t i = 0; i <= text.size(); ++i) {

@@ -21,7 +21,7 @@ class PageOfARule : public testing::TestWithParam<Rule> {
  protected:
   std::string_view page() const { return page_of(GetParam().code); }
   std::string bad() const { return input_below(page(), "## Bad"); }
-  std::string mended() const { return input_below(page(), "## Mended"); }
+  std::string mended() const { return input_below(page(), "## Corrected"); }
 };
 
 std::vector<std::string> codes_of(const Findings& findings) {
@@ -39,8 +39,8 @@ TEST_P(PageOfARule, HasItsTitleAndTheOtherHeadingsInTheirOrder) {
   const Rule& rule = GetParam();
   const std::string title = "# " + std::string(rule.code) + ": " + std::string(rule.title);
   EXPECT_THAT(headings_of(page()),
-              testing::ElementsAre(title, "## Why the reader does this", "## Bad", "## Mended",
-                                   "## Is the mend safe"));
+              testing::ElementsAre(title, "## Why the reader does this", "## Bad", "## Corrected",
+                                   "## Is the correction safe"));
   EXPECT_EQ(page().substr(page().size() - 2), ".\n");
 }
 

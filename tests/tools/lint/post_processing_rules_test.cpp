@@ -84,11 +84,11 @@ const MarkedRow rows[] = {
      "H 0 0 0.741\n"
      "C 2\n"
      "C 3\n"
-     "  ^ QL305 there is no atom '3': there are 2 atoms\n"
+     "  ^ QL305 the atom '3' does not exist: the input has 2 atoms\n"
      "B 1 2147483647\n"
-     "    ^^^^^^^^^^ QL305 there is no atom '2147483647': there are 2 atoms\n"
+     "    ^^^^^^^^^^ QL305 the atom '2147483647' does not exist: the input has 2 atoms\n"
      "S 1 4 1.5 10\n"
-     "    ^ QL305 there is no atom '4': there are 2 atoms\n"},
+     "    ^ QL305 the atom '4' does not exist: the input has 2 atoms\n"},
     {"AtomNumbersWithoutAtomsAreFine",
      "#opt\n"
      "0 1\n"
@@ -100,9 +100,9 @@ const MarkedRow rows[] = {
      "H 0 0 0\n"
      "H 0 0 0.741\n"
      "S 1 2 1.5 0\n"
-     "          ^ QL306 a scan needs at least one step, here '0'\n"
+     "          ^ QL306 the number of steps is '0', but a scan needs at least one\n"
      "S 1 2 1.5 -5\n"
-     "          ^^ QL306 a scan needs at least one step, here '-5'\n"
+     "          ^^ QL306 the number of steps is '-5', but a scan needs at least one\n"
      "S 1 2 1.5 1\n"},
     {"ScanValuesThatAreNotFinite",
      "#scan\n"

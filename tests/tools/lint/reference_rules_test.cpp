@@ -19,13 +19,13 @@ const MarkedRow rows[] = {
      "XYZ water.xyz\n"
      "C 2\n"
      "C 3\n"
-     "  ^ QL305 there is no atom '3': there are 2 atoms\n"},
+     "  ^ QL305 the atom '3' does not exist: the input has 2 atoms\n"},
     {"AMissingFile",
      "#opt\n"
      "0 1\n"
      "XYZ water.xyz\n"
      "XYZ no_such_file.xyz\n"
-     "    ^^^^^^^^^^^^^^^^ QL402 there is no file 'no_such_file.xyz'\n"},
+     "    ^^^^^^^^^^^^^^^^ QL402 the file 'no_such_file.xyz' does not exist\n"},
     {"AFolder",
      "#opt\n"
      "0 1\n"

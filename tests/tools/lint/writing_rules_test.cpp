@@ -14,7 +14,7 @@ const MarkedRow rows[] = {
      "H 0.0 0.757 -0.469\n"
      "H 0.0 -0.757 -0.469\n"
      "B 1 x\n"
-     "^^^^^ QL501 this line is lost when the input is written anew, and line 7, 'A 2 1 3', is then "
+     "^^^^^ QL501 this line is lost when the input is rewritten, and line 7, 'A 2 1 3', is then "
      "read as something else\n"
      "A 2 1 3\n"},
     {"ADroppedLineBeforeABond",
@@ -31,15 +31,14 @@ const MarkedRow rows[] = {
      "H 0 0 0\n"
      "H 0 0 0.741\n"
      "S 1 2 1.2345678 10\n"
-     "      ^^^^^^^^^ QL502 2 numbers change by up to 2.1e+02 when the input is written anew\n"
+     "      ^^^^^^^^^ QL502 2 numbers change by up to 2.1e+02 when the input is rewritten\n"
      "S 1 2 123456789 10\n"
      "S 1 2 1.5 10\n"},
     {"RoundedNumbers",
      "#opt\n"
      "0 1\n"
      "He 0.1 0 0.12345678\n"
-     "         ^^^^^^^^^^ QL504 2 numbers are rounded by up to 3e-07 when the input is written "
-     "anew\n"
+     "         ^^^^^^^^^^ QL504 2 numbers are rounded by up to 3e-07 when the input is rewritten\n"
      "He 0 0.1234567 5\n"
      "He 0 -10.123456 9.999999\n"},
     {"TouchingColumns",

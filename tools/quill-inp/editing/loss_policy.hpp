@@ -24,7 +24,7 @@ struct LossPolicy {
 void add_loss_options(CLI::App& verb);
 LossPolicy read_loss_policy(const CLI::App& verb);
 
-/// Returns whether a text may be written anew: when it looks like an input, or when the policy
+/// Returns whether a text may be rewritten: when it looks like an input, or when the policy
 /// allows losses, with a warning. Otherwise reports an error.
 bool accept_as_input(Session& session, const ReadInput& input, const LossPolicy& policy);
 

@@ -53,7 +53,7 @@ void write_related(JsonWriter& json, const lint::Finding& finding,
 }
 
 void write_mend(JsonWriter& json, const lint::Finding& finding) {
-  json.member("mend");
+  json.member("fix");
   if (!finding.mend) {
     json.null();
     return;

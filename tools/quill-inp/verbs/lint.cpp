@@ -37,7 +37,7 @@ constexpr const char* example =
     "Columns count bytes from 1. 'quill-inp explain CODE' says what a code means.";
 
 constexpr Option files{"FILE", "", "The inputs"};
-constexpr Option fix{"--fix", "", "Write files in which the safe mends are made"};
+constexpr Option fix{"--fix", "", "Write files in which the safe corrections are made"};
 constexpr Option diff{"--diff", "", "With --fix, only print the changes; exit code 1 if any"};
 
 constexpr lint::Severity default_fail_on = lint::Severity::Warning;
@@ -133,7 +133,7 @@ class Linter {
     const ExitCode code =
         is_mended ? deliver(session, input, mended.read.text, delivery) : ExitCode::Done;
     if (is_mended && !call_.shows_diff)
-      session.reporter().note({input.name}, counted(mended.count, "finding") + " mended");
+      session.reporter().note({input.name}, counted(mended.count, "finding") + " corrected");
     input.read = std::move(mended.read);
     return code;
   }

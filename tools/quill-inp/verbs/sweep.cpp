@@ -197,7 +197,7 @@ std::set<std::string> make_folders(const std::vector<std::string>& names) {
   for (const std::string& folder : folders) {
     std::error_code error;
     std::filesystem::create_directories(folder, error);
-    if (error) throw Trouble("the folder '" + folder + "' cannot be made: " + error.message());
+    if (error) throw Trouble("the folder '" + folder + "' cannot be created: " + error.message());
   }
   return folders;
 }

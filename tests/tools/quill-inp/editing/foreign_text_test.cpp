@@ -48,7 +48,7 @@ const Row rows[] = {
      ":1: error: refused: begins with a byte order mark, which the reader takes for text; 'tail -c "
      "+4 FILE' prints the text without it"},
     {"InputInUtf16", "\xFF\xFE#\0s\0p\0\n\0"sv,
-     ":1: error: refused: is UTF-16, which the reader does not know; 'iconv -f UTF-16 -t UTF-8 "
+     ":1: error: refused: is in UTF-16, which the reader cannot read; 'iconv -f UTF-16 -t UTF-8 "
      "FILE' prints it as UTF-8"},
 };
 

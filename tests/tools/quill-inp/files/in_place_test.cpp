@@ -265,8 +265,9 @@ TEST(InPlace, TakesNamesAsLongAsTheyCanBe) {
   const std::string path = folder.write(name, water);
   EXPECT_EQ(run_in(folder.path(), {"set", "-q", "-i", name, "model=m2"}), ended(0, "", ""));
   EXPECT_EQ(content_of(path), changed_water());
-  EXPECT_EQ(run_in(folder.path(), {"set", "-q", "-i", "--backup", name, "model=m3"}).err,
-            name + ": error: the backup '" + name + ".bak' cannot be made: File name too long\n");
+  EXPECT_EQ(
+      run_in(folder.path(), {"set", "-q", "-i", "--backup", name, "model=m3"}).err,
+      name + ": error: the backup '" + name + ".bak' cannot be created: File name too long\n");
   EXPECT_EQ(content_of(path), changed_water());
   EXPECT_EQ(names_in(folder.path()), Names{name});
 }

@@ -142,7 +142,7 @@ TEST(LintFix, MendsFilesAndReportsWhatIsLeft) {
   const TemporaryFolder folder;
   const std::string path = folder.write("job.qin", "\xEF\xBB\xBF" + comma);
   const Outcome outcome = run_in(folder.path(), {"lint", "--fix", "--ignore=chemistry", "job.qin"});
-  EXPECT_EQ(outcome, ended(0, "", "job.qin: note: 2 findings mended\n" + one_clean));
+  EXPECT_EQ(outcome, ended(0, "", "job.qin: note: 2 findings corrected\n" + one_clean));
   EXPECT_EQ(content_of(path), "#opt\n0 1\nH 0 0 0\nH 0 0 1.5\n");
   EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "--fix", "--ignore=chemistry", "job.qin"}),
             ended(0, "", ""));
@@ -198,12 +198,13 @@ TEST(LintOfReferences, LooksInTheFolderOfTheInput) {
   std::filesystem::create_directories(folder.path("jobs/structures"));
   folder.write("jobs/he.xyz", "1\n\nHe 0 0 0\n");
   folder.write("jobs/job.qin", "#sp\n0 1\nXYZ he.xyz\nXYZ no.xyz\nXYZ structures\nXYZ job.qin\n");
-  EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "--format=github", "jobs/job.qin"}).out,
-            "::warning file=jobs/job.qin,line=4,col=5,title=QL402::there is no file 'no.xyz'\n"
-            "::warning file=jobs/job.qin,line=5,col=5,title=QL403::the file 'structures' cannot be "
-            "read: it is a folder\n"
-            "::warning file=jobs/job.qin,line=6,col=5,title=QL404::the file 'job.qin' does not "
-            "begin with a frame of the XYZ format\n");
+  EXPECT_EQ(
+      run_in(folder.path(), {"lint", "-q", "--format=github", "jobs/job.qin"}).out,
+      "::warning file=jobs/job.qin,line=4,col=5,title=QL402::the file 'no.xyz' does not exist\n"
+      "::warning file=jobs/job.qin,line=5,col=5,title=QL403::the file 'structures' cannot be "
+      "read: it is a folder\n"
+      "::warning file=jobs/job.qin,line=6,col=5,title=QL404::the file 'job.qin' does not "
+      "begin with a frame of the XYZ format\n");
 }
 
 TEST(Strict, RefusesATextWithAnError) {

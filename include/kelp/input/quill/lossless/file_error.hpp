@@ -49,7 +49,7 @@ struct FileFailure {
     Exists,            ///< there is a file with another text already
     ExistsNotRegular,  ///< there is something else than a regular file already
     BackupExists,      ///< there is a file with the name of the backup, `backup`, already
-    BackupNotMade,     ///< the backup `backup` cannot be made
+    BackupNotMade,     ///< the backup `backup` cannot be created
     NotCreated,        ///< no temporary file can be created in the folder
     NewNotExamined,    ///< the system does not tell the state of the temporary file
     NoAccessRights,    ///< the temporary file cannot be given its access rights
