@@ -1,58 +1,32 @@
 #!/usr/bin/env bash
-# Builds the documentation site in build/docs: the reference from the headers and the pages of
-# docs/. Doxygen's warnings are errors, and so are descriptions that two functions share and links that
-# lead nowhere.
+# Builds the documentation site in build/docs: the reference from the headers, and the Markdown pages of
+# the tree. Doxygen's warnings are errors, and so are descriptions that two functions share and links that
+# lead nowhere. The packages of npm are those of docs/site/package-lock.json.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
+. scripts/support/npm.sh
 
 need_packages doxygen python3 linkchecker chromium
 
-site=build/docs
-rm -rf "$site"
-mkdir -p "$site"
+tools=build/site-tools
+install_npm_packages docs/site "$tools"
 
-# The pages in the order of reading, each if it is there.
-navigation() {
-  local page title
-  while read -r page title; do
-    [ -f "docs/$page.md" ] && printf '<a href="%s.html">%s</a>\n' "$page" "$title"
-  done <<'PAGES'
-getting-started Start
-format Format
-editing Editing
-quill-inp Tool
-python Python
-findings Findings
-embedding Embedding
-packaging Packaging
-performance Performance
-architecture Architecture
-PAGES
-  echo '<a href="namespacekelp_1_1input_1_1quill.html">Reference</a>'
-}
+site=build/docs
+rm -rf "$site" "$tools"/{render,tests,xml}
+mkdir -p "$site"
 
 python3 scripts/support/figures.py --check SECURITY.md properties fuzz corpus mutants scale
 python3 scripts/support/figures.py --check docs/performance.md bench
 
-for page in README.md CONTRIBUTING.md CHANGELOG.md examples/inputs/README.md docs/*.md docs/lint/*.md; do
-  python3 docs/site/page_filter.py "$page" >/dev/null
-done
-
-navigation >"$site/navigation"
-sed -e "/@NAVIGATION@/{r $site/navigation" -e 'd;}' docs/site/header.html >"$site/header.html"
-PROJECT_NUMBER=$(sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p' CMakeLists.txt) SITE_BUILD=$site \
-  doxygen docs/site/Doxyfile
+SITE_BUILD=$tools doxygen docs/site/Doxyfile
 scripts/support/descriptions_test.sh
-python3 scripts/support/descriptions.py "$site/xml"
-rm -r "$site/xml"
-rm "$site"/{navigation,header.html,tabs.css,doxygen.svg} "$site"/*.{png,js}
+python3 scripts/support/descriptions.py "$tools/xml"
 
-# The navigation marks the current page.
-for file in "$site"/*.html; do
-  name=$(basename "$file")
-  sed -i "/^<nav/,/^<\/nav>/s|href=\"$name\"|& aria-current=\"page\"|" "$file"
-done
+# Node looks for packages in the folders above a module.
+cp -r docs/site/render "$tools"
+version=$(sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p' CMakeLists.txt)
+node "$tools/render/build.mjs" "$PWD" "$tools/xml" "$site" "$version"
 
-scripts/support/check_site.sh "$site"
+scripts/support/check_site.sh "$site" "$tools"
 echo "the site is in $site, its first page is $site/index.html"

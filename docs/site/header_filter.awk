@@ -4,6 +4,10 @@
 # - Overloads that are deleted, since they only refuse what is not a text, need none either.
 # - A comment counts for all declarations below it up to the next empty line, overloads for the
 #   most part; Doxygen gives it to the first one only, so it is repeated for the others.
+# - The headers of the sister libraries begin with an ordinary comment, which is their description.
+
+FILENAME ~ /src\/support\// && /^$/ && !is_described { print "/// @file"; is_described = 1; next }
+FILENAME ~ /src\/support\// && /^\/\/( |$)/ { sub(/^\/\//, "///") }
 
 /= default;$/ || /~[A-Za-z]+\(\);$/ || /\(const [A-Za-z]+& other\);$/ { print ""; next }
 

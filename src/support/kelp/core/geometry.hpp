@@ -16,15 +16,15 @@ namespace kelp::core {
 /// One atom: its element symbol and Cartesian coordinates. The spelling of the symbol and the unit
 /// of the coordinates are not fixed here; the program that fills them in decides.
 struct Atom {
-  std::string symbol;
-  double x = 0.0;
-  double y = 0.0;
-  double z = 0.0;
+  std::string symbol;  ///< The symbol of the element.
+  double x = 0.0;      ///< The first coordinate.
+  double y = 0.0;      ///< The second coordinate.
+  double z = 0.0;      ///< The third coordinate.
 };
 
 /// The atoms of a molecule. Atom numbers elsewhere refer to the order of this list.
 struct Geometry {
-  std::vector<Atom> atoms;
+  std::vector<Atom> atoms;  ///< In the order of the molecule.
 };
 
 }  // namespace kelp::core
