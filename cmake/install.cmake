@@ -26,7 +26,10 @@ endif()
 install(FILES CONTRIBUTING.md SECURITY.md
   DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
 install(DIRECTORY editors
-  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation
+  PATTERN "vscode" EXCLUDE)
+install(FILES editors/vscode/README.md
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}/editors/vscode" COMPONENT documentation)
 # In Debian's packages, debian.cmake installs these two: the changelog has another name there.
 if(NOT KELP_QUILL_INP_DEBIAN_PACKAGES)
   install(FILES README.md CHANGELOG.md

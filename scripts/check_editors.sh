@@ -15,7 +15,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 refresh=()
 if [ "${1:-}" = --refresh ]; then refresh=(--refresh) && shift; fi
 
-need_packages vim neovim
+need_packages vim neovim chromium unzip
 if ! command -v npm >/dev/null; then need_packages nodejs npm; fi
 if [ $# -gt 0 ]; then tool=$1; else build_tool; fi
 
@@ -24,3 +24,4 @@ tests/editors/vim/redraw.sh
 tests/editors/vim/use.sh "$tool" vim "${refresh[@]}"
 tests/editors/vim/use.sh "$tool" nvim
 tests/editors/textmate/check.sh "${refresh[@]}"
+tests/editors/vscode/check.sh

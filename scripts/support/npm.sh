@@ -8,7 +8,7 @@ install_npm_packages() {
   mkdir -p "$into"
   if cmp -s "$folder/package-lock.json" "$into/node_modules/installed-lock.json"; then return 0; fi
   cp "$folder"/package.json "$folder"/package-lock.json "$folder"/.npmrc "$into"
-  if ! (cd "$into" && npm ci --no-audit --no-fund) >"$log" 2>&1; then
+  if ! (cd "$into" && npm ci --ignore-scripts --no-audit --no-fund) >"$log" 2>&1; then
     tail -n 20 "$log" >&2
     return 1
   fi
