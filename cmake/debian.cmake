@@ -86,8 +86,8 @@ endforeach()
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(quill_input "A QUILL input is the plain-text job description of a
 computational-chemistry engine. The library reads, edits, builds and writes
-them. No text is refused, no line is lost silently, and every diagnostic about a
-line names it.")
+them. No text is refused, no line is lost silently, and every diagnostic about
+a line names it.")
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
@@ -109,8 +109,8 @@ set(CPACK_DEBIAN_TOOL_PACKAGE_NAME ${tool_package})
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_TOOL_DESCRIPTION "read, check, edit and make QUILL inputs on the command line
 A QUILL input is the plain-text job description of a computational-chemistry
-engine. The program shows, checks, formats and edits such files, makes new ones,
-and turns them into JSON and back. An edit changes the lines it means and leaves
-every other byte alone.")
+engine. The program shows, checks, formats and edits such files, makes new
+ones, and turns them into JSON and back. An edit changes the lines it means
+and leaves every other byte alone.")
 
 include(CPack)
