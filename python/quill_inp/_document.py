@@ -5,6 +5,7 @@ import os
 from quill_inp import _core
 from quill_inp._command import HeaderCommand
 from quill_inp._geometry import GeometryBlock
+from quill_inp._kinds import GeometryKind, PostCommandKind
 from quill_inp._parts import Part, list_member, part_of
 from quill_inp._post_command import PostCommand
 
@@ -99,15 +100,38 @@ class QuillInput(Part):
         """Returns the canonical text. Nothing is quoted or escaped."""
         return self._part.text()
 
-    def sha256(self):
+    def sha256(self, *, base=None):
         """Returns the SHA-256 of the canonical text, with quotes around values that need them: what
         `quill-inp hash` prints for the document. Raises LossError if no text says what the document
         says.
-        """
-        import hashlib
 
+        base: the folder to which paths of referenced files are relative. With it, what is in these
+        files counts too: the result is the SHA-256 of the hash of the text and the hash of each
+        referenced file, one on each line, in the order of referenced_files(). Raises OSError for a file
+        that cannot be read.
+        """
         text = _core.proved_text(self._part, MAX_CHANGE, False)
-        return hashlib.sha256(text.encode("utf-8", "surrogateescape")).hexdigest()
+        own = _sha256(text.encode("utf-8", "surrogateescape"))
+        if base is None:
+            return own
+        hashes = [own]
+        for path in self.referenced_files():
+            with open(os.path.join(os.fspath(base), path), "rb") as file:
+                hashes.append(_sha256(file.read()))
+        return _sha256("".join(f"{one}\n" for one in hashes).encode())
+
+    def referenced_files(self):
+        """Returns the paths of the files that the text of the document names, as they are spelled and in
+        the order of their lines: XYZ files or the trajectory, and post files.
+        """
+        geometry = self.geometry
+        files = {
+            GeometryKind.XYZ_FILE: list(geometry.xyz_files),
+            GeometryKind.XYZ_TRAJECTORY: geometry.xyz_files[:1],
+        }
+        return files.get(geometry.kind, []) + [
+            line.post_file for line in self.post_commands if line.kind is PostCommandKind.POST_FILE
+        ]
 
     def to_dict(self):
         """Returns the document as the JSON of `quill-inp json`, in dicts and lists. Nothing is lost:
@@ -142,6 +166,12 @@ class QuillInput(Part):
 
     def __reduce__(self):
         return _from_pickle, (type(self), 1, _core.json_of(self._part))
+
+
+def _sha256(data):
+    import hashlib
+
+    return hashlib.sha256(data).hexdigest()
 
 
 def _from_pickle(kind, version, text):

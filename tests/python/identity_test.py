@@ -1,5 +1,6 @@
 """What a document is beyond Python: its hash, its JSON, its pickles."""
 
+import hashlib
 import json
 import os
 import pathlib
@@ -76,6 +77,82 @@ def test_layout_is_no_part_of_the_identity(one, other):
 @pytest.mark.parametrize("one, other", OTHER)
 def test_order_and_six_decimals_are_part_of_the_identity(one, other):
     assert quill_inp.parse_string(one).input.sha256() != quill_inp.parse_string(other).input.sha256()
+
+
+REFERENCES = [
+    ("#sp\n\nXYZ a.xyz\nXYZ b c.xyz\n\nPOST p.inp\n", ["a.xyz", "b c.xyz", "p.inp"]),
+    ("#irc\n\nXYZTRAJ a.xyz\n", ["a.xyz"]),
+    ("#sp\n\nHe 0 0 0\n\nC 1\nPOST p.inp\nPOST a.xyz\n", ["p.inp", "a.xyz"]),
+    ("#sp\n\nHe 0 0 0\n", []),
+]
+
+
+@pytest.mark.parametrize("text, files", REFERENCES)
+def test_referenced_files_are_those_that_the_text_names(text, files):
+    assert quill_inp.parse_string(text).input.referenced_files() == files
+
+
+def test_files_that_no_line_names_are_not_referenced():
+    files = ["a.xyz", "b.xyz"]
+    of_kind = {
+        kind: QuillInput(geometry=GeometryBlock(kind, xyz_files=files)).referenced_files()
+        for kind in GeometryKind
+    }
+    assert of_kind == {
+        GeometryKind.NONE: [],
+        GeometryKind.ATOMS: [],
+        GeometryKind.XYZ_FILE: files,
+        GeometryKind.XYZ_TRAJECTORY: ["a.xyz"],
+    }
+    line = PostCommand(PostCommandKind.RAW, post_file="p.inp", raw_text="x y")
+    assert QuillInput(post_commands=[line]).referenced_files() == []
+
+
+@pytest.fixture
+def folder_of_files(tmp_path):
+    for name in ("a.xyz", "b c.xyz", "p.inp"):
+        (tmp_path / name).write_bytes(b"1\n\n" + name.encode() + b" \xe9\n")
+    return tmp_path
+
+
+# As the shell has it: the hash of the input and those of the files, a line each, through sha256sum.
+BY_CONTENT = [
+    "74f60f1042b7885748e65f54968fb783b2bcd383e1b5c47b5fb4a965541ca8c0",
+    "ce3380e84214c25acfc3915288e42d340208f70d11a60310e4656e752279c8d3",
+    "d82c81c5520fee558c501221178c0934a009d0ee2c4a2d0562828a059b39826a",
+    "eab7a5484bdc1cef1c936d6d867ae118467fe08de97a8a4a58ad1f886a938e4d",
+]
+
+
+@pytest.mark.parametrize("reference, golden", zip(REFERENCES, BY_CONTENT))
+def test_the_hash_by_content_is_that_of_hashes(folder_of_files, reference, golden):
+    text, files = reference
+    document = quill_inp.parse_string(text).input
+    assert document.sha256(base=folder_of_files) == golden
+    assert document.sha256(base=str(folder_of_files)) == golden
+    lines = [document.sha256(), *[hash_of(folder_of_files / name) for name in files]]
+    assert hashlib.sha256("".join(f"{one}\n" for one in lines).encode()).hexdigest() == golden
+
+
+def hash_of(path):
+    return hashlib.sha256(path.read_bytes()).hexdigest()
+
+
+def test_every_referenced_file_counts_by_its_content_alone(folder_of_files):
+    document = quill_inp.parse_string(REFERENCES[0][0]).input
+    before = document.sha256(base=folder_of_files)
+    for path in sorted(folder_of_files.iterdir()):
+        content = path.read_bytes()
+        path.write_bytes(content + b"\n")
+        assert document.sha256(base=folder_of_files) != before
+        path.write_bytes(content)
+        assert document.sha256(base=folder_of_files) == before
+
+
+def test_a_missing_file_has_no_content(folder_of_files):
+    (folder_of_files / "b c.xyz").unlink()
+    with pytest.raises(FileNotFoundError, match="b c.xyz"):
+        quill_inp.parse_string(REFERENCES[0][0]).input.sha256(base=folder_of_files)
 
 
 def test_a_document_that_no_text_says_has_no_hash():
