@@ -9,6 +9,7 @@ const GROUPS = [
     ['docs/getting-started.md', 'Getting started'],
     ['docs/quill-inp.md', 'The tool'],
     ['docs/python.md', 'Python'],
+    ['docs/python-reference.md', 'Python reference'],
     ['docs/editing.md', 'C++ by example'],
     ['examples/inputs/README.md', 'Example inputs'],
     ['docs/editors.md', 'Editors'],
