@@ -27,3 +27,8 @@ kelp_quill_inp_install_for_tool(${completions}/quill-inp.fish
 foreach(folder IN ITEMS vim/vimfiles nvim/site)
   install(DIRECTORY editors/vim/ DESTINATION "${CMAKE_INSTALL_DATADIR}/${folder}" COMPONENT tool)
 endforeach()
+install(DIRECTORY editors/neovim/ DESTINATION "${CMAKE_INSTALL_DATADIR}/nvim/site" COMPONENT tool)
+kelp_quill_inp_install_for_tool(editors/emacs/quill-mode.el
+  "${CMAKE_INSTALL_DATADIR}/emacs/site-lisp")
+kelp_quill_inp_install_for_tool(editors/kate/quill.xml
+  "${CMAKE_INSTALL_DATADIR}/org.kde.syntax-highlighting/syntax")

@@ -15,7 +15,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 refresh=()
 if [ "${1:-}" = --refresh ]; then refresh=(--refresh) && shift; fi
 
-need_packages vim neovim chromium unzip
+need_packages vim neovim emacs-nox elpa-eglot libkf5syntaxhighlighting-tools libxml2-utils python3 \
+  chromium unzip
 if ! command -v npm >/dev/null; then need_packages nodejs npm; fi
 if [ $# -gt 0 ]; then tool=$1; else build_tool; fi
 
@@ -23,5 +24,8 @@ tests/editors/vim/check.sh "${refresh[@]}"
 tests/editors/vim/redraw.sh
 tests/editors/vim/use.sh "$tool" vim "${refresh[@]}"
 tests/editors/vim/use.sh "$tool" nvim
+tests/editors/emacs/check.sh "$tool"
+tests/editors/kate/check.sh "${refresh[@]}"
+python3 -c 'import tomllib; tomllib.load(open("editors/helix/languages.toml", "rb"))'
 tests/editors/textmate/check.sh "${refresh[@]}"
 tests/editors/vscode/check.sh

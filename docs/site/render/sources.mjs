@@ -13,7 +13,7 @@ const GROUPS = [
     ['docs/editing.md', 'C++ by example'],
     ['examples/inputs/README.md', 'Example inputs'],
     ['docs/editors.md', 'Editors'],
-    ['editors/README.md', 'Editors'],
+    ['editors/README.md', 'Files for editors'],
   ]],
   ['The format', [
     ['docs/cheat-sheet.md', 'Cheat sheet'],
