@@ -23,12 +23,6 @@ constexpr auto common_names = [] {
   return names;
 }();
 
-std::vector<std::string> known_names(const Options& options) {
-  std::vector<std::string> names(common_names.begin(), common_names.end());
-  names.insert(names.end(), options.known_commands.begin(), options.known_commands.end());
-  return names;
-}
-
 }  // namespace
 
 std::vector<ParameterPieces> entries_of(const HeaderPieces& pieces) {
@@ -45,6 +39,12 @@ std::vector<ParameterPieces> entries_of(const HeaderPieces& pieces) {
 
 Range range_of_command(const Source& source, std::size_t index) {
   return source.range_of(source.trimmed(source.command_lines()[index]));
+}
+
+std::vector<std::string> known_names(const Options& options) {
+  std::vector<std::string> names(common_names.begin(), common_names.end());
+  names.insert(names.end(), options.known_commands.begin(), options.known_commands.end());
+  return names;
 }
 
 bool is_known(std::string_view name, const Options& options) {

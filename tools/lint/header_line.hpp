@@ -25,6 +25,9 @@ std::vector<ParameterPieces> entries_of(const HeaderPieces& pieces);
 /// Returns the whole line of a command, for a finding without a better place.
 Range range_of_command(const Source& source, std::size_t index);
 
+/// Returns the names that have a meaning in every input, and those that the options add.
+std::vector<std::string> known_names(const Options& options);
+
 /// Returns whether a name, in any letter case, has a meaning in every input, or is one that the
 /// options add.
 bool is_known(std::string_view name, const Options& options);
