@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Exchanges structures with Debian's ASE, pymatgen and RDKit and writes many inputs on its Dask. It
-# installs these packages, which are large: scripts/test.sh does without them.
+# Exchanges structures with Debian's ASE, pymatgen and RDKit, writes many inputs on its Dask, and shows
+# documents in its browser. It installs these packages, which are large: scripts/test.sh does without them.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
 . scripts/support/packages.sh
 
-need_packages "${test_packages[@]}" python3-ase python3-distributed python3-pymatgen python3-rdkit
+need_packages "${test_packages[@]}" chromium python3-ase python3-distributed python3-pymatgen python3-rdkit
 build_preset dev kelp_quill_inp_python
 
 export PYTHONPATH=$PWD/build/dev/python
