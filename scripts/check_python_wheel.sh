@@ -23,6 +23,8 @@ if ldd "$extension" | grep -E 'kelp|not found'; then
   exit 1
 fi
 "${python[@]}" - <<'PROGRAM'
+import importlib.metadata
+
 import quill_inp
 
 document = quill_inp.read("examples/inputs/water_optimisation.qin")
@@ -31,6 +33,8 @@ with quill_inp.edit(str(document)) as editor:
 assert "maxiter=100" in editor.text
 assert quill_inp.lint("#\n")
 assert document.to_dict()["geometry"]["kind"] == "atoms"
+(found,) = importlib.metadata.entry_points(group="ase.ioformats")
+assert (found.name, found.value) == ("quill-inp", "quill_inp.ase:ase_format")
 PROGRAM
 [ -f "$(dirname "$extension")/py.typed" ] || { echo "the wheel has no types" >&2; exit 1; }
 version=$(sed -n 's/^  VERSION \(.*\)$/\1/p' CMakeLists.txt)
