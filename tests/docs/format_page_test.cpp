@@ -1,5 +1,5 @@
-// Tests the page about the format: every input on it gives the diagnostics and the canonical text
-// that the page says, and the page has every diagnostic of the reader.
+// Tests the pages about the format: every input on them gives the diagnostics and the canonical
+// text that the page says, and the page has every diagnostic of the reader.
 
 #include <gmock/gmock.h>
 
@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <regex>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -26,9 +27,9 @@ struct Claim {
   std::string written = {};
 };
 
-std::vector<Claim> find_claims() {
+std::vector<Claim> find_claims(const std::string& page = "docs/format.md") {
   std::vector<Claim> claims;
-  for (const FencedBlock& block : find_fenced_blocks(content_of_page("docs/format.md"))) {
+  for (const FencedBlock& block : find_fenced_blocks(content_of_page(page))) {
     if (block.language == "qin") {
       claims.push_back({block.heading, block.line, block.text});
     } else if (block.language == "diagnostics") {
@@ -52,6 +53,49 @@ TEST(FormatPage, ForetellsTheDiagnosticsOfEveryInput) {
   for (const Claim& claim : claims)
     EXPECT_EQ(joined(parse_string(claim.input).warnings), claim.diagnostics)
         << "docs/format.md:" << claim.line;
+}
+
+TEST(CheatSheet, HasTheInputOfTheFormatPage) {
+  const std::vector<Claim> claims = find_claims("docs/cheat-sheet.md");
+  ASSERT_EQ(claims.size(), 1U);
+  EXPECT_EQ(claims.front().input, find_claims().front().input);
+}
+
+/// The lines in the first column of the table of the cheat sheet, without their back quotes.
+std::vector<std::string> lines_of_cheat_sheet() {
+  std::vector<std::string> lines;
+  std::istringstream page(content_of_page("docs/cheat-sheet.md"));
+  for (std::string row; std::getline(page, row);) {
+    if (row.compare(0, 3, "| `") != 0) continue;
+    const std::string cell = row.substr(0, row.find(" | "));
+    const std::regex code("`([^`]+)`");
+    for (std::sregex_iterator match(cell.begin(), cell.end(), code), end; match != end; ++match)
+      lines.push_back((*match)[1]);
+  }
+  return lines;
+}
+
+TEST(CheatSheet, HasLinesThatAreReadAsItSays) {
+  using Roles = std::vector<LineRole>;
+  Roles roles;
+  for (const std::string& line : lines_of_cheat_sheet()) {
+    const bool is_post = line.find_first_of("CBADSP") == 0;
+    const std::string before = is_post ? "XYZ water.xyz\n" : "";
+    roles.push_back(parse_lines(before + line).lines.back().role);
+  }
+  EXPECT_EQ(roles, (Roles{LineRole::Command, LineRole::Command, LineRole::Command,
+                          LineRole::ChargeAndMultiplicity, LineRole::Atom, LineRole::XyzReference,
+                          LineRole::Trajectory, LineRole::PostCommand, LineRole::PostCommand,
+                          LineRole::PostCommand, LineRole::PostCommand, LineRole::PostCommand,
+                          LineRole::PostCommand}));
+}
+
+TEST(CheatSheet, NamesTheTasks) {
+  for (const char* name : {"sp", "opt", "ts", "freq", "irc", "scan"}) {
+    EXPECT_TRUE(parse_string(std::string("#") + name).input.has_task_command()) << name;
+    EXPECT_THAT(content_of_page("docs/cheat-sheet.md"),
+                testing::HasSubstr("`" + std::string(name) + "`"));
+  }
 }
 
 TEST(FormatPage, ForetellsTheCanonicalText) {

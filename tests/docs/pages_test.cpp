@@ -6,7 +6,8 @@
 //                    input; in other places a drawing
 //   qin, diagnostics, written
 //                    read and written (format_page_test.cpp)
-//   console          carried out in a shell, with what it prints (tests/tools/quill_inp)
+//   console          carried out in a shell, with what it prints (tests/tools/quill_inp);
+//                    on docs/traps.md with the input before it (qin, escaped)
 //   cmake, meson, sh built and run (first_program.sh, tests/package, and the scripts of CI)
 //   python           run, with what it prints (tests/python/documentation_test.py)
 //   toml             read as the choices of a project (tests/tools/quill-inp/findings)
@@ -34,6 +35,7 @@ const std::map<std::string, Languages> languages_tried = {
     {"CONTRIBUTING.md", {"sh"}},
     {"README.md", {"", "cmake", "console", "cpp", "python", "sh", "text"}},
     {"docs/architecture.md", {""}},
+    {"docs/cheat-sheet.md", {"qin"}},
     {"docs/editing.md", {"cpp"}},
     {"docs/embedding.md", {"cpp"}},
     {"docs/findings.md", {}},
@@ -43,6 +45,7 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/performance.md", {"text"}},
     {"docs/python.md", {"python", "text"}},
     {"docs/quill-inp.md", {"console", "text", "toml"}},
+    {"docs/traps.md", {"console", "escaped", "qin"}},
 };
 
 std::vector<std::string> pages() {

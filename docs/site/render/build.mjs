@@ -11,7 +11,7 @@ import { makeFrame } from './frame.mjs';
 import { makeHighlighter } from './highlight.mjs';
 import { homePage } from './home.mjs';
 import { makeRenderer } from './markdown.mjs';
-import { makePictures } from './pictures.mjs';
+import { makePictures } from './pictures/all.mjs';
 import { referenceGroup, referencePages } from './reference/pages.mjs';
 import { searchEntries, searchScript } from './search.mjs';
 import { findingPages, groupsOf } from './sources.mjs';

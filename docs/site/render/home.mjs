@@ -6,6 +6,8 @@ import { join } from 'node:path';
 
 import { codeBlock } from './highlight.mjs';
 import { escapeHtml } from './html.mjs';
+import { inputSections } from './pictures/input_sections.mjs';
+import { blockAfter } from './pictures/svg.mjs';
 import { findingPages } from './sources.mjs';
 
 const WAYS = [
@@ -14,36 +16,9 @@ const WAYS = [
   ['Python', 'In Python', 'python.html', 'The Python package by example'],
 ];
 
-function firstBlock(text, start, language) {
-  const fence = new RegExp(`\`\`\`${language}\\n([\\s\\S]*?)\`\`\``);
-  const from = text.indexOf(start);
-  const block = from >= 0 && fence.exec(text.slice(from));
-  if (!block) throw new Error(`no block after: ${start}`);
-  return { language: /^```(\w+)/.exec(block[0])[1], code: block[1].trimEnd() };
-}
-
-/** The lines of an input by the section that they belong to. */
-function sectionsOf(lines) {
-  const charge = lines.findIndex((line) => line && !line.startsWith('#'));
-  const end = lines.findIndex((line, at) => at > charge && line === '');
-  return [
-    ['header', 'Header', 'what to compute', lines.slice(0, charge - 1)],
-    ['charge', 'Charge and multiplicity', '', lines.slice(charge, charge + 1)],
-    ['atoms', 'Coordinates', 'symbol, x, y and z of each atom', lines.slice(charge + 1, end)],
-    ['post', 'Post-processing', 'constraints, scans, files; atoms count from 1', lines.slice(end + 1)],
-  ];
-}
-
 function annotatedInput(root, highlight) {
-  const { code } = firstBlock(readFileSync(join(root, 'docs/format.md'), 'utf8'), '## An input as a whole', 'qin');
-  // The grammar needs the lines before a line, so the whole input is coloured at once.
-  const lines = highlight(code, 'qin').split('\n');
-  const plain = code.split('\n');
-  const html = sectionsOf(plain).map(([part, name, words, own]) => {
-    const from = plain.indexOf(own[0]);
-    const text = lines.slice(from, from + own.length).join('\n');
-    return `<div class="part ${part}"><pre><code>${text}</code></pre><p><strong>${name}</strong> ${words}</p></div>`;
-  });
+  const html = inputSections(root, highlight).map(({ part, name, words, html: code }) =>
+    `<div class="part ${part}"><pre><code>${code}</code></pre><p><strong>${name}</strong> ${words}</p></div>`);
   return `<div class="input" role="group" aria-label="An input and its four sections">\n${html.join('\n')}\n</div>`;
 }
 
@@ -52,7 +27,7 @@ function tabs(root, highlight) {
   const buttons = WAYS.map(([name], at) =>
     `<button type="button" role="tab" id="tab-${at}" aria-controls="way-${at}">${name}</button>`);
   const panels = WAYS.map(([, start, page, words], at) => {
-    const { language, code } = firstBlock(readme, `**${start}**`, '\\w+');
+    const { language, code } = blockAfter(readme, `**${start}**`, '\\w+');
     return `<div role="tabpanel" id="way-${at}" aria-labelledby="tab-${at}">${codeBlock(highlight, code, language)}
 <p><a href="${page}">${words}</a></p></div>`;
   });

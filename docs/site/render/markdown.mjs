@@ -29,6 +29,12 @@ export function namesWithoutDoubles() {
 
 const parser = new MarkdownIt({ html: true });
 
+/** Leaves out a drawing of characters that has a picture: <!-- picture: NAME, instead of the block -->. */
+function withoutReplacedBlocks(tokens) {
+  const replaced = (token) => token?.type === 'html_block' && /^<!-- picture: [\w-]+, instead/.test(token.content);
+  return tokens.filter((token, at) => !(token.type === 'fence' && replaced(tokens[at - 1])));
+}
+
 /** The headings of a parsed page: [{level, text, slug, token}]. */
 function headingsOf(tokens) {
   const unique = namesWithoutDoubles();
@@ -99,7 +105,7 @@ export function makeRenderer(root, highlight, pictures, files) {
   };
 
   return (source) => {
-    const tokens = parser.parse(readFileSync(join(root, source), 'utf8'), {});
+    const tokens = withoutReplacedBlocks(parser.parse(readFileSync(join(root, source), 'utf8'), {}));
     for (const link of allLinks(tokens)) {
       link.attrSet('href', linkOnSite(root, source, link.attrGet('href'), files));
     }
