@@ -49,9 +49,10 @@ function copyLook() {
 const highlight = await makeHighlighter(root);
 const pictures = makePictures(root, highlight);
 const files = new Set();
-const render = makeRenderer(root, highlight, pictures, files);
 const groups = allGroups();
 const sources = [...groups.flatMap(({ pages }) => pages), ...findingPages(root)].filter(({ source }) => source);
+const ofPages = new Set(['README.md', ...sources.map(({ source }) => source)]);
+const render = makeRenderer({ root, isPage: (source) => ofPages.has(source), files }, highlight, pictures);
 
 const pages = [
   homePage(root, highlight, groups),

@@ -46,7 +46,7 @@ function headingsOf(tokens) {
   });
 }
 
-function linkOnSite(root, source, href, files) {
+function linkOnSite({ root, isPage, files }, source, href) {
   if (/^[a-z]+:/.test(href)) return href;
   const [path, anchor] = href.split('#');
   const target = path ? normalize(join(dirname(source), path)) : source;
@@ -57,6 +57,7 @@ function linkOnSite(root, source, href, files) {
     files.add(target);
     return basename(target);
   }
+  if (!isPage(target)) throw new Error(`${source}: not a page of the site: ${target}`);
   if (!anchor) return fileOf(target);
   const headings = headingsOf(parser.parse(readFileSync(join(root, target), 'utf8'), {}));
   if (!headings.some(({ slug }) => slug === anchor)) throw new Error(`${source}: no such heading: ${href}`);
@@ -82,10 +83,11 @@ function sectionsOf(headings, render, tokens) {
 
 /**
  * Makes a function from the path of a page in the tree to {title, html, contents, sections}. The
- * pictures are HTML that takes the place of comments such as <!-- picture: architecture -->. The files
- * other than pages that pages link are added to `files`.
+ * tree is {root, isPage, files}: files other than pages that pages link are added to `files`. Pictures are
+ * HTML that takes the place of comments such as <!-- picture: architecture -->.
  */
-export function makeRenderer(root, highlight, pictures, files) {
+export function makeRenderer(tree, highlight, pictures) {
+  const { root } = tree;
   const rules = parser.renderer.rules;
   rules.fence = (tokens, at) => codeBlock(highlight, tokens[at].content, tokens[at].info.trim());
   rules.table_open = () => '<div class="wide"><table>\n';
@@ -107,7 +109,7 @@ export function makeRenderer(root, highlight, pictures, files) {
   return (source) => {
     const tokens = withoutReplacedBlocks(parser.parse(readFileSync(join(root, source), 'utf8'), {}));
     for (const link of allLinks(tokens)) {
-      link.attrSet('href', linkOnSite(root, source, link.attrGet('href'), files));
+      link.attrSet('href', linkOnSite(tree, source, link.attrGet('href')));
     }
     const headings = headingsOf(tokens);
     const render = (part) => parser.renderer.render(part, parser.options, {});

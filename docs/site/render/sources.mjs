@@ -13,6 +13,7 @@ const GROUPS = [
     ['docs/editing.md', 'C++ by example'],
     ['examples/inputs/README.md', 'Example inputs'],
     ['docs/editors.md', 'Editors'],
+    ['editors/vscode/README.md', 'Visual Studio Code'],
     ['editors/README.md', 'Files for editors'],
   ]],
   ['The format', [
@@ -35,7 +36,12 @@ const GROUPS = [
 ];
 
 // Pages whose file is not called as their source.
-const FILES = { 'README.md': 'index', 'examples/inputs/README.md': 'example-inputs', 'editors/README.md': 'editor-files' };
+const FILES = {
+  'README.md': 'index',
+  'examples/inputs/README.md': 'example-inputs',
+  'editors/README.md': 'editor-files',
+  'editors/vscode/README.md': 'vscode',
+};
 
 export function fileOf(source) {
   return `${FILES[source] ?? basename(source, '.md').toLowerCase()}.html`;
