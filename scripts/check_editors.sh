@@ -24,8 +24,10 @@ tests/editors/vim/check.sh "${refresh[@]}"
 tests/editors/vim/redraw.sh
 tests/editors/vim/use.sh "$tool" vim "${refresh[@]}"
 tests/editors/vim/use.sh "$tool" nvim
+tests/editors/neovim/check.sh "$tool"
 tests/editors/emacs/check.sh "$tool"
 tests/editors/kate/check.sh "${refresh[@]}"
 python3 -c 'import tomllib; tomllib.load(open("editors/helix/languages.toml", "rb"))'
 tests/editors/textmate/check.sh "${refresh[@]}"
+tests/editors/node/check.sh "$tool"
 tests/editors/vscode/check.sh
