@@ -3,6 +3,7 @@
 # table: the cost of the library compared with other ways to do the same. See docs/performance.md.
 #
 #   scripts/bench.sh             the table
+#   scripts/bench.sh --times     how long reading and writing take on this machine
 #   scripts/bench.sh --check     fails when a figure is above its limit
 #   scripts/bench.sh --only read --rounds 101
 set -euo pipefail
@@ -14,4 +15,5 @@ need_packages "${tool_packages[@]}" libbenchmark-dev
 
 echo "Building in build/bench ..."
 build_preset bench
+if [ "${1:-}" = --times ]; then exec build/bench/bench/kelp_quill_inp_times; fi
 build/bench/bench/kelp_quill_inp_ratios "$@"

@@ -17,7 +17,7 @@ rm -rf "$site" "$tools"/{render,tests,xml}
 mkdir -p "$site"
 
 python3 scripts/support/figures.py --check SECURITY.md properties fuzz corpus mutants scale
-python3 scripts/support/figures.py --check docs/performance.md bench
+python3 scripts/support/figures.py --check docs/performance.md times reading writing memory tool
 
 SITE_BUILD=$tools doxygen docs/site/Doxyfile
 scripts/support/descriptions_test.sh

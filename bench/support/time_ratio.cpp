@@ -57,4 +57,13 @@ TimeRatio time_ratio(const Work& subject, const Work& reference, int rounds, Clo
   return {ratios[count / 2], ratios[count / 4], ratios[count - 1 - count / 4]};
 }
 
+double median_time(const Work& work, int rounds) {
+  const int repeats = repeats_for_one_run(work, Clock::Processor);
+  std::vector<double> times;
+  for (int round = 0; round < rounds; ++round)
+    times.push_back(seconds(work, repeats, Clock::Processor) / repeats);
+  std::sort(times.begin(), times.end());
+  return times[times.size() / 2];
+}
+
 }  // namespace kelp::input::quill::bench

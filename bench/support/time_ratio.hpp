@@ -24,6 +24,9 @@ enum class Clock { Processor, Wall };
 TimeRatio time_ratio(const Work& subject, const Work& reference, int rounds,
                      Clock clock = Clock::Processor);
 
+/// How many seconds of the processor one work takes: the median over all rounds.
+double median_time(const Work& work, int rounds);
+
 }  // namespace kelp::input::quill::bench
 
 #endif  // KELP_INPUT_QUILL_BENCH_SUPPORT_TIME_RATIO_HPP

@@ -3,12 +3,14 @@
 import { annotatedInput } from './annotated_input.mjs';
 import { architecture } from './architecture.mjs';
 import { editor } from './editor.mjs';
+import { performance } from './performance.mjs';
 import { surgicalEdit } from './surgical_edit.mjs';
 
 const PICTURES = {
   'annotated-input': annotatedInput,
   architecture,
   editor,
+  performance,
   'surgical-edit': surgicalEdit,
 };
 
