@@ -8,7 +8,7 @@
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/file_options.hpp"
-#include "quill-inp/editing/canonical_text.hpp"
+#include "quill-inp/editing/format_input.hpp"
 #include "quill-inp/editing/strictness.hpp"
 #include "quill-inp/files/sha256.hpp"
 #include "quill-inp/session/input_source.hpp"
