@@ -6,6 +6,8 @@ option(KELP_QUILL_INP_BUILD_EXAMPLES "Build the example programs" OFF)
 option(KELP_QUILL_INP_BUILD_TOOLS "Build quill-inp (needs CLI11, libmd, nlohmann-json and utf8cpp)" OFF)
 option(KELP_QUILL_INP_BUILD_PYTHON
   "Build the Python package (needs pybind11, nlohmann-json and utf8cpp)" OFF)
+option(KELP_QUILL_INP_BUILD_WEB
+  "Build the reader for web pages (needs Emscripten, nlohmann-json and utf8cpp)" OFF)
 set(KELP_QUILL_INP_PYTHON_DIR "" CACHE STRING "Folder for the extension of the Python package, for setup.py")
 option(KELP_QUILL_INP_BUILD_TESTS "Build the tests (needs GoogleTest and the examples)" OFF)
 option(KELP_QUILL_INP_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
