@@ -1,8 +1,10 @@
 #include "quill-inp/batch/each_file.hpp"
 #include "quill-inp/batch/folder_walk.hpp"
 
+#include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <exception>
 #include <memory>
 #include <new>
 #include <optional>
@@ -27,11 +29,22 @@ struct FileRun {
   Output output;
   Session session;
   ExitCode code = ExitCode::Done;
+  std::exception_ptr error = nullptr;  // ends the call in the turn of this file
 
   explicit FileRun(Session& whole)
       : output(transcript.out(), whole.output().file()),
         session(whole.for_one_file(transcript.err(), output)) {}
 };
+
+constexpr std::size_t most_files_in_a_piece = 8;
+constexpr std::size_t pieces_for_a_thread = 64;
+
+/// Passing a small file from one thread to another takes about as long as the work on it, so many
+/// files are passed in pieces. Few files may be large, and all threads should have work to the end.
+std::size_t files_in_a_piece(std::size_t files, unsigned threads) {
+  const std::size_t files_for_a_piece = files / (threads * pieces_for_a_thread);
+  return std::clamp<std::size_t>(files_for_a_piece, 1, most_files_in_a_piece);
+}
 
 /// Writes what was written for a file.
 void replay(Session& session, const FileRun& run) {
@@ -83,13 +96,20 @@ class Batch {
 
   void run_side_by_side() {
     find_reader_of_standard_input();
-    runs_.resize(window_of(options_.threads));
+    const std::size_t length = files_in_a_piece(files_.size(), options_.threads);
+    runs_.resize(window_of(options_.threads) * length);
     OrderedWork pieces;
-    pieces.count = files_.size();
-    pieces.work = [&](std::size_t number) { work(number); };
-    pieces.deliver = [&](std::size_t number) { deliver(number); };
+    pieces.count = (files_.size() + length - 1) / length;
+    pieces.work = [&](std::size_t piece) { for_piece(piece, length, &Batch::work); };
+    pieces.deliver = [&](std::size_t piece) { for_piece(piece, length, &Batch::deliver); };
     pieces.pass_time = [&] { show_progress(); };
     do_in_order(pieces, options_.threads);
+  }
+
+  /// Does something with each file of a piece, in their order.
+  void for_piece(std::size_t piece, std::size_t length, void (Batch::*act)(std::size_t)) {
+    const std::size_t end = std::min(files_.size(), (piece + 1) * length);
+    for (std::size_t number = piece * length; number < end; ++number) (this->*act)(number);
   }
 
   /// Standard input can be read once, and the first file that asks for it gets it.
@@ -105,7 +125,11 @@ class Batch {
     try {
       auto task = std::make_unique<FileRun>(session_);
       if (number != reader_) task->session.forbid_standard_input();
-      task->code = for_file(task->session, file, [&] { return action_(task->session, number); });
+      try {
+        task->code = for_file(task->session, file, [&] { return action_(task->session, number); });
+      } catch (const UsageError&) {
+        task->error = std::current_exception();
+      }
       runs_[number % runs_.size()] = std::move(task);
     } catch (const std::bad_alloc&) {
     }
@@ -113,6 +137,7 @@ class Batch {
 
   void deliver(std::size_t number) {
     const std::unique_ptr<FileRun> task = std::move(runs_[number % runs_.size()]);
+    if (task && task->error) std::rethrow_exception(task->error);
     if (!task || !task->transcript.pieces().empty()) progress_.clear();
     if (task) {
       replay(session_, *task);

@@ -89,6 +89,26 @@ INSTANTIATE_TEST_SUITE_P(
                     Words{"unset", "-i", "--backup", "model"}, Words{"unset", "opt", "-i"},
                     Words{"add", "-i", "--bond", "1,2", "--raw", "a b"}));
 
+/// So many that a thread takes several at once, and that the last time it takes fewer.
+TEST(ManyFiles, OfWhichAThreadTakesSeveralComeInTheirOrder) {
+  const TemporaryFolder folder;
+  folder.write("a.qin", "#model = m1\n0 1\n");
+  folder.write("b.qin", "#model = m2\n0 1\n");
+  std::string list;
+  std::string wanted;
+  for (int i = 0; i < 1501; ++i) {
+    const bool is_a = i * 7 % 11 < 5;
+    list += is_a ? "a.qin\n" : "b.qin\n";
+    wanted += is_a ? "a.qin:m1\n" : "b.qin:m2\n";
+  }
+  folder.write("list", list);
+  for (const char* threads : {"-j1", "-j2", "-j3"}) {
+    EXPECT_EQ(run_in(folder.path(), {"get", "--files-from=list", threads, "model"}),
+              ended(0, wanted, ""))
+        << threads;
+  }
+}
+
 TEST(ManyFiles, AreCountedWhenTheyAreChanged) {
   const TemporaryFolder folder;
   write_files(folder);
