@@ -30,6 +30,9 @@ class Finding(Record):
 def lint(text, *, select=(), ignore=(), known_commands=()):
     """Returns the findings for a text, `str` or bytes, in the order of their places.
 
+    These are all findings, also where `quill-inp lint` shows only the first 1,000 of a code. For a text of many
+    megabytes with a finding in every line, they take much memory.
+
     select: codes and groups of rules that count; none stands for all.
     ignore: codes and groups of rules that do not count.
     known_commands: names of commands of the project, besides those of every input.

@@ -107,7 +107,7 @@ std::string_view token_of_charge_line(std::string_view line, const Tokens& token
 /// A word that should be several: it contains a blank that the reader does not take for one.
 std::string_view fused_token(const Tokens& tokens) {
   const auto token = std::find_if(tokens.begin(), tokens.end(), [](std::string_view each) {
-    return !find_odd_characters(each).empty();
+    return next_odd_character(each, 0).has_value();
   });
   return token == tokens.end() ? std::string_view() : *token;
 }

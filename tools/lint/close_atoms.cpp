@@ -132,19 +132,18 @@ class CellTable {
 
 }  // namespace
 
-std::vector<ClosePair> find_close_atoms(const std::vector<AtomRecord>& atoms, double limit) {
-  std::vector<ClosePair> pairs;
+void for_each_close_pair(const std::vector<AtomRecord>& atoms, double limit,
+                         const std::function<void(const ClosePair&)>& use) {
   CellTable table(atoms, limit);
   for (std::size_t i = 0; i < atoms.size(); ++i) {
     const Place place = place_of(atoms[i]);
     if (!is_finite(place)) continue;
     if (const auto first = table.find_close(place)) {
-      pairs.push_back({*first, i, distance(place_of(atoms[*first]), place)});
+      use({*first, i, distance(place_of(atoms[*first]), place)});
     } else {
       table.insert(place, i);
     }
   }
-  return pairs;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -2,6 +2,7 @@
 #define KELP_INPUT_QUILL_LINT_CLOSE_ATOMS_HPP
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 #include "kelp/input/quill/document.hpp"
@@ -15,11 +16,12 @@ struct ClosePair {
   double distance = 0.0;
 };
 
-/// Returns every atom that is closer than `limit` to an atom before it, with the first such atom.
-/// Atoms that were returned are not compared with those after them, so that many atoms in one place
-/// take no longer than the same number in different places: the time is linear in the number of
-/// atoms. Atoms with a coordinate that is not finite are not close to any other.
-std::vector<ClosePair> find_close_atoms(const std::vector<AtomRecord>& atoms, double limit);
+/// Passes on every atom that is closer than `limit` to an atom before it, with the first such atom.
+/// Atoms that were passed on are not compared with those after them, so that many atoms in one
+/// place take no longer than the same number in different places: the time is linear in the number
+/// of atoms. Atoms with a coordinate that is not finite are not close to any other.
+void for_each_close_pair(const std::vector<AtomRecord>& atoms, double limit,
+                         const std::function<void(const ClosePair&)>& use);
 
 }  // namespace kelp::input::quill::lint
 

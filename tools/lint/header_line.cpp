@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <vector>
 
 #include "lint/tokens.hpp"
 #include "model/task_names.hpp"
@@ -25,16 +26,15 @@ constexpr auto common_names = [] {
 
 }  // namespace
 
-std::vector<ParameterPieces> entries_of(const HeaderPieces& pieces) {
-  std::vector<ParameterPieces> entries;
-  if (trimmed_view(pieces.list).empty()) return entries;
-  for (ParameterEntries all(pieces.list); !all.at_end();) {
-    ParameterPieces entry = all.next();
-    entry.name = trimmed_view(entry.name);
-    if (entry.value) entry.value = trimmed_view(*entry.value);
-    entries.push_back(entry);
-  }
-  return entries;
+Entries::Entries(const HeaderPieces& pieces)
+    : entries_(pieces.list), is_blank_(trimmed_view(pieces.list).empty()) {}
+
+std::optional<ParameterPieces> Entries::next() {
+  if (is_blank_ || entries_.at_end()) return std::nullopt;
+  ParameterPieces entry = entries_.next();
+  entry.name = trimmed_view(entry.name);
+  if (entry.value) entry.value = trimmed_view(*entry.value);
+  return entry;
 }
 
 Range range_of_command(const Source& source, std::size_t index) {

@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "lint/source.hpp"
 #include "reader/header_pieces.hpp"
@@ -18,9 +17,18 @@ inline const HeaderPieces& pieces_of(const Source& source, std::size_t index) {
   return source.header_pieces()[index];
 }
 
-/// Returns the entries of a parameter list, trimmed, empty ones included. A blank list has no
-/// entries.
-std::vector<ParameterPieces> entries_of(const HeaderPieces& pieces);
+/// The entries of a parameter list, trimmed, empty ones included. A blank list has no entries.
+class Entries {
+ public:
+  explicit Entries(const HeaderPieces& pieces);
+
+  /// Returns the next entry, or nothing at the end.
+  std::optional<ParameterPieces> next();
+
+ private:
+  ParameterEntries entries_;
+  bool is_blank_;
+};
 
 /// Returns the whole line of a command, for a finding without a better place.
 Range range_of_command(const Source& source, std::size_t index);

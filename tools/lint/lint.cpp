@@ -1,8 +1,13 @@
 #include "lint/lint.hpp"
 
 #include <algorithm>
-#include <map>
+#include <iterator>
+#include <limits>
+#include <set>
 #include <utility>
+
+#include "lint/collector.hpp"
+#include "lint/explanations.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -13,70 +18,75 @@ bool comes_first(const Finding& left, const Finding& right) {
                                                  : left.code < right.code;
 }
 
-Explains reach_of(const Finding& finding) { return find_rule(finding.code)->explains; }
+bool takes_all(const Finding& /*finding*/) { return true; }
 
-/// Keeps the findings of the rule that explains the whole text, the first one in the order of the
-/// codes. Returns whether there is one.
-bool keep_only_explanation(Findings& findings) {
-  std::string_view code;
-  for (const Finding& finding : findings) {
-    const bool is_first = code.empty() || finding.code < code;
-    if (reach_of(finding) == Explains::Text && is_first) code = finding.code;
-  }
-  if (code.empty()) return false;
-  findings.erase(std::remove_if(findings.begin(), findings.end(),
-                                [&](const Finding& finding) { return finding.code != code; }),
-                 findings.end());
-  return true;
+/// Adds what a rule finds to the other findings. Returns whether it finds anything.
+bool collect(const Rule& rule, const Source& source, std::size_t most, Collector::Accept accept,
+             FirstFindings& first) {
+  Collector collector(rule, most, std::move(accept));
+  rule.check(source, collector);
+  std::move(collector.kept().begin(), collector.kept().end(), std::back_inserter(first.findings));
+  if (collector.more() > 0) first.more.emplace(rule.code, collector.more());
+  return !collector.kept().empty() || collector.more() > 0;
 }
 
-/// A finding about something that the text does not have is not on a line.
-bool is_on_a_line(const Finding& finding) { return finding.range.end() > 0; }
+/// A rule that explains the whole text leaves nothing for the others to find.
+bool collect_explanation_of_text(const Source& source, std::size_t most, FirstFindings& first) {
+  const RuleTable rules = all_rules();
+  return std::any_of(rules.begin(), rules.end(), [&](const Rule& rule) {
+    return rule.explains == Explains::Text && collect(rule, source, most, takes_all, first);
+  });
+}
 
-/// Leaves out what a finding on the same line explains. If several on a line explain it, that of
-/// the writing group, which says more, and otherwise the one that begins first is kept.
-void leave_out_explained(Findings& findings, const std::vector<LineRecord>& lines) {
-  std::map<std::size_t, const Rule*> explanations;
-  const auto line_of = [&](const Finding& finding) {
-    return place_of(finding.range.offset, lines).line;
-  };
-  for (const Finding& finding : findings) {
-    if (reach_of(finding) != Explains::Line) continue;
-    const Rule* rule = find_rule(finding.code);
-    const auto [place, is_new] = explanations.emplace(line_of(finding), rule);
-    if (!is_new && rule->group == Group::Writing) place->second = rule;
+/// Returns what is explained on each line, and in `silent` the rules that find nothing for it.
+Explanations explain_lines(const Source& source, std::set<const Rule*>& silent) {
+  Explanations explanations(source.lines());
+  for (const Rule& rule : all_rules()) {
+    if (rule.explains != Explains::Line) continue;
+    bool is_silent = true;
+    Collector collector(rule, 0, [&](const Finding& finding) {
+      explanations.note(rule, finding);
+      is_silent = false;
+      return false;
+    });
+    rule.check(source, collector);
+    if (is_silent) silent.insert(&rule);
   }
-  if (explanations.empty()) return;
-  Findings kept;
-  for (Finding& finding : findings) {
-    const auto explanation = explanations.find(line_of(finding));
-    // Several findings of one rule on a line are about different places.
-    const bool is_kept = !is_on_a_line(finding) || explanation == explanations.end() ||
-                         explanation->second->code == finding.code;
-    if (is_kept) kept.push_back(std::move(finding));
+  return explanations;
+}
+
+void collect_unexplained(const Source& source, std::size_t most, FirstFindings& first) {
+  std::set<const Rule*> silent;
+  const Explanations explanations = explain_lines(source, silent);
+  for (const Rule& rule : all_rules()) {
+    if (rule.explains == Explains::Text || silent.count(&rule) > 0) continue;
+    collect(
+        rule, source, most,
+        [&](const Finding& finding) { return !explanations.leave_out(finding); }, first);
   }
-  findings = std::move(kept);
 }
 
 }  // namespace
 
-Findings find_unexplained(const lossless::ReadText& read, const Options& options) {
+FirstFindings find_first(const lossless::ReadText& read, const Options& options, std::size_t most) {
   const Source source(read, options);
-  Findings all;
-  for (const Rule& rule : all_rules()) {
-    for (Finding& finding : rule.check(source)) {
-      finding.code = rule.code;
-      all.push_back(std::move(finding));
-    }
-  }
-  std::stable_sort(all.begin(), all.end(), comes_first);
-  return all;
+  FirstFindings first;
+  if (!collect_explanation_of_text(source, most, first)) collect_unexplained(source, most, first);
+  std::stable_sort(first.findings.begin(), first.findings.end(), comes_first);
+  return first;
 }
 
 Findings find_all(const lossless::ReadText& read, const Options& options) {
-  Findings findings = find_unexplained(read, options);
-  if (!keep_only_explanation(findings)) leave_out_explained(findings, read.lines);
-  return findings;
+  return find_first(read, options, std::numeric_limits<std::size_t>::max()).findings;
+}
+
+Findings find_unexplained(const lossless::ReadText& read, const Options& options) {
+  const Source source(read, options);
+  FirstFindings all;
+  for (const Rule& rule : all_rules())
+    collect(rule, source, std::numeric_limits<std::size_t>::max(), takes_all, all);
+  std::stable_sort(all.findings.begin(), all.findings.end(), comes_first);
+  return std::move(all.findings);
 }
 
 TextPlace place_of(std::size_t offset, const std::vector<LineRecord>& lines) {

@@ -12,6 +12,8 @@
 // functions have no state, and any number of threads may call them at once.
 
 #include <cstddef>
+#include <map>
+#include <string_view>
 #include <vector>
 
 #include "kelp/input/quill/lossless/read_text.hpp"
@@ -24,6 +26,16 @@ namespace kelp::input::quill::lint {
 /// Returns the findings for a text, in the order of their places; those that another one explains
 /// are left out. The time is linear in the length of the text.
 Findings find_all(const lossless::ReadText& read, const Options& options);
+
+/// Findings of which each rule has only the first ones, and how many more it has, by its code.
+struct FirstFindings {
+  Findings findings = {};
+  std::map<std::string_view, std::size_t> more = {};  // no entry if there are no more
+};
+
+/// Returns the same findings, but at most the first `most` of each rule, so that the memory for
+/// them has a limit. A mend of more than `most` edits is left out of its finding, too.
+FirstFindings find_first(const lossless::ReadText& read, const Options& options, std::size_t most);
 
 /// Returns the findings of every rule, those that another one explains included.
 Findings find_unexplained(const lossless::ReadText& read, const Options& options);

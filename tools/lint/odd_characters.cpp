@@ -1,7 +1,5 @@
 #include "lint/odd_characters.hpp"
 
-#include <optional>
-
 #include "quill-inp/text/utf8.hpp"
 
 namespace kelp::input::quill::lint {
@@ -48,9 +46,8 @@ bool is_ascii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
 }  // namespace
 
-std::vector<OddCharacter> find_odd_characters(std::string_view text) {
-  std::vector<OddCharacter> found;
-  for (std::size_t at = 0; at < text.size();) {
+std::optional<OddCharacter> next_odd_character(std::string_view text, std::size_t at) {
+  while (at < text.size()) {
     if (is_ascii(text[at])) {
       ++at;
       continue;
@@ -58,9 +55,16 @@ std::vector<OddCharacter> find_odd_characters(std::string_view text) {
     const auto character = tool::first_character(text.substr(at));
     const std::size_t length = character ? character->length : 1;
     const auto kind = character ? kind_of(character->code_point) : std::nullopt;
-    if (kind) found.push_back({*kind, at, length, character->code_point});
+    if (kind) return OddCharacter{*kind, at, length, character->code_point};
     at += length;
   }
+  return std::nullopt;
+}
+
+std::vector<OddCharacter> find_odd_characters(std::string_view text) {
+  std::vector<OddCharacter> found;
+  for (auto odd = next_odd_character(text, 0); odd; odd = next_odd_character(text, odd->end()))
+    found.push_back(*odd);
   return found;
 }
 

@@ -2,6 +2,7 @@
 #define KELP_INPUT_QUILL_LINT_ODD_CHARACTERS_HPP
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -21,9 +22,15 @@ struct OddCharacter {
   std::size_t offset = 0;  // in the text that was searched
   std::size_t length = 0;
   char32_t code_point = 0;
+
+  std::size_t end() const { return offset + length; }
 };
 
-/// Returns these characters of a text, in their order. Bytes that are not UTF-8 are skipped.
+/// Returns the first of these characters at or after a place, or nothing. Bytes that are not UTF-8
+/// are skipped.
+std::optional<OddCharacter> next_odd_character(std::string_view text, std::size_t at);
+
+/// Returns these characters of a text, in their order.
 std::vector<OddCharacter> find_odd_characters(std::string_view text);
 
 }  // namespace kelp::input::quill::lint

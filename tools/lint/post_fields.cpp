@@ -16,13 +16,10 @@ std::vector<AtomNumber> atom_numbers_of(const Source& source, std::size_t comman
   return numbers;
 }
 
-std::vector<AtomNumber> all_atom_numbers(const Source& source) {
-  std::vector<AtomNumber> all;
+void for_each_atom_number(const Source& source, const std::function<void(const AtomNumber&)>& use) {
   for (std::size_t i = 0; i < source.post_lines().size(); ++i) {
-    const std::vector<AtomNumber> numbers = atom_numbers_of(source, i);
-    all.insert(all.end(), numbers.begin(), numbers.end());
+    for (const AtomNumber& number : atom_numbers_of(source, i)) use(number);
   }
-  return all;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -20,8 +21,8 @@ struct AtomNumber {
 /// Returns the atom numbers of post-processing line number `command`; none for other kinds.
 std::vector<AtomNumber> atom_numbers_of(const Source& source, std::size_t command);
 
-/// Returns the atom numbers of all lines, in their order.
-std::vector<AtomNumber> all_atom_numbers(const Source& source);
+/// Passes on the atom numbers of all lines, in their order.
+void for_each_atom_number(const Source& source, const std::function<void(const AtomNumber&)>& use);
 
 }  // namespace kelp::input::quill::lint
 

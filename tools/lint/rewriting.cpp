@@ -30,38 +30,36 @@ bool is_plain(const AtomRecord& atom) {
 
 bool is_narrow(double coordinate) { return std::fabs(coordinate) < least_width; }
 
-void add_atom_changes(const AtomRecord& atom, std::size_t line,
-                      std::vector<RoundedNumber>& changes) {
+using Use = std::function<void(const RoundedNumber&)>;
+
+void pass_on_atom(const AtomRecord& atom, std::size_t line, const Use& use) {
   AtomRecord again;
   if (!parse_atom_line(lossless::atom_line(atom), again)) return;
   const double before[coordinates] = {atom.x, atom.y, atom.z};
   const double after[coordinates] = {again.x, again.y, again.z};
   for (std::size_t axis = 0; axis < coordinates; ++axis) {
     const double change = std::fabs(before[axis] - after[axis]);
-    if (change > 0.0) changes.push_back({line, axis + 1, change});
+    if (change > 0.0) use({line, axis + 1, change});
   }
 }
 
-void add_scan_change(const Source& source, std::size_t index, std::vector<RoundedNumber>& changes) {
+void pass_on_scan(const Source& source, std::size_t index, const Use& use) {
   const PostCommand& scan = source.input().post_commands[index];
   if (!scan.scan_value || !std::isfinite(*scan.scan_value)) return;
   PostCommand again;
   if (!parse_post_line(to_string(scan), again) || !again.scan_value) return;
   const double change = std::fabs(*scan.scan_value - *again.scan_value);
-  if (change > 0.0)
-    changes.push_back({source.post_lines()[index], scan.atom_indices.size() + 1, change});
+  if (change > 0.0) use({source.post_lines()[index], scan.atom_indices.size() + 1, change});
 }
 
 }  // namespace
 
-std::vector<RoundedNumber> rounded_numbers(const Source& source) {
-  std::vector<RoundedNumber> changes;
+void for_each_rounded_number(const Source& source, const Use& use) {
   const std::vector<AtomRecord>& atoms = source.input().geometry.atoms;
   for (std::size_t i = 0; i < atoms.size(); ++i) {
-    if (!is_plain(atoms[i])) add_atom_changes(atoms[i], source.atom_lines()[i], changes);
+    if (!is_plain(atoms[i])) pass_on_atom(atoms[i], source.atom_lines()[i], use);
   }
-  for (std::size_t i = 0; i < source.post_lines().size(); ++i) add_scan_change(source, i, changes);
-  return changes;
+  for (std::size_t i = 0; i < source.post_lines().size(); ++i) pass_on_scan(source, i, use);
 }
 
 bool reads_back(const AtomRecord& atom) {

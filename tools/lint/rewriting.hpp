@@ -2,8 +2,7 @@
 #define KELP_INPUT_QUILL_LINT_REWRITING_HPP
 
 #include <cstddef>
-#include <optional>
-#include <vector>
+#include <functional>
 
 #include "lint/source.hpp"
 
@@ -18,10 +17,11 @@ struct RoundedNumber {
   double change = 0.0;
 };
 
-/// Returns the coordinates and scan values that change when they are written and read again, in
+/// Passes on the coordinates and scan values that change when they are written and read again, in
 /// their order. Those that are not finite, and atoms whose written line would not be an atom line,
 /// are left out.
-std::vector<RoundedNumber> rounded_numbers(const Source& source);
+void for_each_rounded_number(const Source& source,
+                             const std::function<void(const RoundedNumber&)>& use);
 
 /// Returns whether the line of an atom, as it is written, is an atom line with the same symbol and
 /// three numbers. A large coordinate touches the one before it.

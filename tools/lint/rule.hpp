@@ -8,6 +8,7 @@
 
 namespace kelp::input::quill::lint {
 
+class Collector;
 class Source;
 
 /// How bad a finding is. An error means that the reader understood the text in a way that its
@@ -40,7 +41,7 @@ struct Rule {
   std::string_view title;
   std::string_view message;
   std::string_view advice;
-  Findings (*check)(const Source&);
+  void (*check)(const Source&, Collector&);
   Explains explains = Explains::Itself;
   MendReach reach = MendReach::Line;
   std::string_view since = "0.1.0";

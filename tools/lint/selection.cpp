@@ -1,6 +1,7 @@
 #include "lint/selection.hpp"
 
 #include <algorithm>
+#include <iterator>
 
 #include "kelp/core/text.hpp"
 #include "lint/rule.hpp"
@@ -45,6 +46,12 @@ void keep_selected(Findings& findings, const Selection& selection) {
       std::remove_if(findings.begin(), findings.end(),
                      [&](const Finding& finding) { return !is_selected(finding.code, selection); }),
       findings.end());
+}
+
+void keep_selected(FirstFindings& first, const Selection& selection) {
+  keep_selected(first.findings, selection);
+  for (auto entry = first.more.begin(); entry != first.more.end();)
+    entry = is_selected(entry->first, selection) ? std::next(entry) : first.more.erase(entry);
 }
 
 }  // namespace kelp::input::quill::lint

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "lint/finding.hpp"
+#include "lint/lint.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -24,8 +25,9 @@ bool is_rule_or_group(std::string_view name);
 /// Returns the codes of all rules and the names of all groups.
 std::vector<std::string> rule_and_group_names();
 
-/// Removes the findings of rules that are not selected.
+/// Remove the findings of rules that are not selected, and their counts.
 void keep_selected(Findings& findings, const Selection& selection);
+void keep_selected(FirstFindings& first, const Selection& selection);
 
 }  // namespace kelp::input::quill::lint
 

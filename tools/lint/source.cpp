@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "lint/odd_characters.hpp"
 #include "lint/xyz_frame.hpp"
 #include "reader/header_pieces.hpp"
 
@@ -22,7 +23,7 @@ Source::Source(const lossless::ReadText& read, const Options& options)
     : read_(read), options_(options) {
   sort_lines();
   find_pieces();
-  odd_characters_ = find_odd_characters(text());
+  has_odd_characters_ = next_odd_character(text(), 0).has_value();
   broken_line_ = find_broken_line(read_);
   if (!options_.read_reference) return;
   for (const std::string& path : input().geometry.xyz_files)

@@ -11,7 +11,6 @@
 #include "kelp/input/quill/lossless/read_text.hpp"
 #include "lint/broken_line.hpp"
 #include "lint/finding.hpp"
-#include "lint/odd_characters.hpp"
 
 namespace kelp::input::quill {
 struct HeaderPieces;
@@ -83,8 +82,8 @@ class Source {
   /// The line of charge and multiplicity, of a document that has them.
   std::size_t charge_line() const { return charge_line_; }
 
-  /// The characters of the text that look like ASCII, or cannot be seen.
-  const std::vector<OddCharacter>& odd_characters() const { return odd_characters_; }
+  /// Whether the text has characters that look like ASCII, or cannot be seen.
+  bool has_odd_characters() const { return has_odd_characters_; }
 
   /// The line that ended the coordinates although it looks like one of them, if there is one.
   const std::optional<BrokenLine>& broken_line() const { return broken_line_; }
@@ -108,7 +107,7 @@ class Source {
   std::vector<std::size_t> post_lines_;
   std::vector<HeaderPieces> header_pieces_;
   std::size_t charge_line_ = 0;
-  std::vector<OddCharacter> odd_characters_;
+  bool has_odd_characters_ = false;
   std::optional<BrokenLine> broken_line_;
   std::vector<Reference> references_;
 };

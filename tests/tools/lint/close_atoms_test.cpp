@@ -19,6 +19,12 @@ namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
+std::vector<ClosePair> find_close_atoms(const std::vector<AtomRecord>& atoms, double limit) {
+  std::vector<ClosePair> pairs;
+  for_each_close_pair(atoms, limit, [&](const ClosePair& pair) { pairs.push_back(pair); });
+  return pairs;
+}
+
 std::vector<AtomRecord> random_atoms(std::size_t count, double width, unsigned seed) {
   std::mt19937 random(seed);
   std::uniform_real_distribution<double> coordinate(-width, width);

@@ -47,7 +47,7 @@ TEST(Rules, HaveWordsWithoutAFullStop) {
 }
 
 TEST(Rules, HaveAPageEachAndAFunctionEach) {
-  std::set<Findings (*)(const Source&)> checks;
+  std::set<void (*)(const Source&, Collector&)> checks;
   for (const Rule& rule : all_rules()) {
     EXPECT_NE(page_of(rule.code), "") << rule.code;
     EXPECT_TRUE(checks.insert(rule.check).second) << rule.code;

@@ -25,6 +25,7 @@ printf '#opt\n0 1\nH 0 0 0\nH 0 0 \xe2\x88\x921,5\nH 0 0 3\n' >'100% odd, é.qin
 printf '\xff\xfe#\0' >wide.qin
 : >empty.qin
 printf '#opt(a, b, a)\n0 1\nHe 0 0 0\n' >twice.qin
+printf '#opt(a%s)\n0 1\nHe 0 0 0\n' "$(printf '%01003d' 0 | tr 0 ,)" >many.qin
 
 for form in text json github sarif; do
   "$program" lint -q --fail-on=never --format=$form *.qin >"found.$form" || fail "lint --format=$form"
@@ -39,6 +40,8 @@ import json, sys, jsonschema
 log = json.load(open("found.sarif"))
 jsonschema.validate(log, json.load(open(sys.argv[1])))
 assert log["runs"][0]["columnKind"] == "unicodeCodePoints"
+notes = log["runs"][0]["invocations"][0]["toolExecutionNotifications"]
+assert [note["message"]["text"] for note in notes] == ["and 3 more of QL212"], notes
 EOF
 else
   left_out+=('the schema of SARIF')
@@ -81,7 +84,8 @@ for line in open("found.json"):
     wanted += [(report["file"], f["offset"], levels[f["severity"]], f["code"])
                for f in report["findings"]]
 assert from_sarif == wanted, (from_sarif, wanted)
-assert len(open("found.github").read().splitlines()) == len(wanted)
+more = ["more" for line in open("found.json") for _ in json.loads(line)["more"]]
+assert len(open("found.github").read().splitlines()) == len(wanted) + len(more)
 EOF
 
 if command -v pre-commit >/dev/null && command -v git >/dev/null; then

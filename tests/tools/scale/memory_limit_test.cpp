@@ -65,6 +65,40 @@ std::string text_of_atoms(std::string_view blanks = "   ") {
   return text;
 }
 
+/// What reads like a line of an input, and draws a finding for every line or for every byte.
+struct Faulty {
+  std::string_view name;
+  std::string text;
+};
+
+std::vector<Faulty> faulty_texts() {
+  const std::string atoms = "#opt\n0 1\nH 0 0 0\nH 0 0 0.741\n";
+  return {
+      {"EmptyEntries", "#opt(" + repeated(",", 200000) + ")\n"},
+      {"EntriesWithoutANameInManyLists", repeated("#opt(=1,=2,=3)\n", 4000)},
+      {"RepeatedParameters", "#opt(" + repeated("tight, ", 8000) + ")\n"},
+      {"UnclosedLists", repeated("#opt(a\n", 8000)},
+      {"UnclosedQuotes", repeated("#a = 'b\n", 8000)},
+      {"LateCommands", atoms + repeated("#freq\n", 8000)},
+      {"LateReferences", atoms + "C 1\n" + repeated("XYZ a.xyz\n", 8000)},
+      {"DroppedLines", atoms + "B 1 2\n" + repeated("B 1 x\n", 8000)},
+      {"WrongFieldCounts", atoms + repeated("B 1 2 3 4\n", 8000)},
+      {"RepeatedAtomNumbers", atoms + repeated("D 1 1 1 1\n", 8000)},
+      {"AtomNumbersThatAreTooLarge", atoms + repeated("B 7 8\n", 8000)},
+      {"ScansWithoutSteps", atoms + repeated("S 1 2 1.5 0\n", 8000)},
+      {"BlanksThatAreLetters", atoms + repeated("\xC2\xA0", 40000) + "\n"},
+      {"BlanksThatAreLettersInEachLine", atoms + repeated("C\xC2\xA0"
+                                                          "1\n",
+                                                          8000)},
+      {"InvisibleCharacters", atoms + repeated("\xE2\x80\x8B\n", 16000)},
+      {"TypographicQuotes", repeated("#a=\xE2\x80\x9C"
+                                     "b\xE2\x80\x9D\n",
+                                     8000)},
+      {"CarriageReturns", "#opt\n" + repeated("a\r", 40000) + "b\n"},
+      {"CarriageReturnsInEachLine", "#opt\n" + repeated("a\rb\n", 16000)},
+  };
+}
+
 class VerbMemory : public testing::TestWithParam<Verb> {
  protected:
   /// Returns what the verb needs for a text, beyond what it needs for an empty file.
@@ -81,7 +115,18 @@ class VerbMemory : public testing::TestWithParam<Verb> {
     }
   }
 
-  const TemporaryFolder& folder() const { return folder_; }
+  void expect_times_reading(std::string_view name, const std::string& text) const {
+    const std::string path = folder_.write("b.qin", text);
+    ParseResult result;
+    const std::int64_t reading = peak_of([&] { result = parse_file(path); });
+    EXPECT_TRUE(result.ok);
+    result = ParseResult();
+    const std::int64_t peak = peak_for(text);
+    EXPECT_LE(peak, reading / 2 * 5 + GetParam().fixed)
+        << static_cast<double>(peak) / static_cast<double>(reading) << " times reading " << name
+        << ", " << static_cast<double>(peak) / static_cast<double>(text.size())
+        << " times the text";
+  }
 
  private:
   std::int64_t peak_with(const std::string& text) const {
@@ -119,29 +164,31 @@ const Verb verbs[] = {
 TEST_P(VerbMemory, IsAtMostEightTimesATextOfAtoms) { expect_for_atoms(8); }
 
 TEST_P(VerbMemory, IsAtMostTwoAndAHalfTimesThatOfReadingOtherTexts) {
-  for (const Shape& shape : shapes()) {
-    const std::string text = shape.text(2 * shape.test_size);
-    const std::string path = folder().write("b.qin", text);
-    ParseResult result;
-    const std::int64_t reading = peak_of([&] { result = parse_file(path); });
-    EXPECT_TRUE(result.ok);
-    result = ParseResult();
-    const std::int64_t peak = peak_for(text);
-    EXPECT_LE(peak, reading / 2 * 5 + GetParam().fixed)
-        << static_cast<double>(peak) / static_cast<double>(reading) << " times reading "
-        << shape.name << ", " << static_cast<double>(peak) / static_cast<double>(text.size())
-        << " times the text";
-  }
+  for (const Shape& shape : shapes())
+    expect_times_reading(shape.name, shape.text(2 * shape.test_size));
 }
 
-// What the linter finds takes memory, too, and in most shapes it finds something in every line.
+/// A thousand findings of one rule are kept, with their words.
+constexpr std::int64_t for_findings = 1024 * 1024;
+
 const Verb linting_verbs[] = {
-    {"Lint", {"lint"}},
-    {"LintAsJson", {"lint", "--format=json"}},
-    {"LintAsSarif", {"lint", "--format=sarif"}},
+    {"Lint", {"lint"}, {}, for_findings},
+    {"LintAsJson", {"lint", "--format=json"}, {}, for_findings},
+    {"LintAsGithub", {"lint", "--format=github"}, {}, for_findings},
+    {"LintAsSarif", {"lint", "--format=sarif"}, {}, for_findings},
+    {"LintWithStatistics", {"lint", "--statistics"}, {}, for_findings},
 };
 
 class LinterMemory : public VerbMemory {};
+
+TEST_P(LinterMemory, IsAtMostTwoAndAHalfTimesThatOfReadingOtherTexts) {
+  for (const Shape& shape : shapes())
+    expect_times_reading(shape.name, shape.text(2 * shape.test_size));
+}
+
+TEST_P(LinterMemory, IsAtMostTwoAndAHalfTimesThatOfReadingFaultyTexts) {
+  for (const Faulty& faulty : faulty_texts()) expect_times_reading(faulty.name, faulty.text);
+}
 
 TEST_P(LinterMemory, IsAtMostEightTimesATextOfAtomsWithoutFindings) { expect_for_atoms(8); }
 

@@ -29,9 +29,9 @@ std::optional<std::int32_t> find_meant_atom(const lint::Source& source, std::siz
 
 std::vector<lint::Range> find_mentions(const lint::Source& source, std::int32_t atom) {
   std::vector<lint::Range> places;
-  for (const lint::AtomNumber& number : all_atom_numbers(source)) {
+  for_each_atom_number(source, [&](const lint::AtomNumber& number) {
     if (number.number == atom) places.push_back(source.range_of(number.token));
-  }
+  });
   return places;
 }
 

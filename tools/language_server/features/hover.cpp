@@ -91,12 +91,13 @@ class HoverText {
     const std::size_t count = command.parameters.size();
     text_.add(" has ").add(std::to_string(count)).add(count == 1 ? " parameter" : " parameters");
     std::size_t parameter = 0;
-    for (const ParameterPieces& entry : lint::entries_of(source_.header_pieces()[index])) {
-      if (entry.name.empty()) continue;
-      const std::string_view last = entry.value.value_or(entry.name);
-      const std::size_t begin = source_.range_of(entry.name).offset;
+    lint::Entries entries(source_.header_pieces()[index]);
+    while (const auto entry = entries.next()) {
+      if (entry->name.empty()) continue;
+      const std::string_view last = entry->value.value_or(entry->name);
+      const std::size_t begin = source_.range_of(entry->name).offset;
       const std::size_t end =
-          last.empty() ? source_.range_of(entry.name).end() + 1 : source_.range_of(last).end();
+          last.empty() ? source_.range_of(entry->name).end() + 1 : source_.range_of(last).end();
       if (begin <= offset && offset < end) add_parameter(command.parameters[parameter], parameter);
       ++parameter;
     }

@@ -3,8 +3,8 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_angle_read_as_atom(const Source& source) {
-  return find_constraint_like_atoms(source, false);
+void check_angle_read_as_atom(const Source& source, Collector& findings) {
+  find_constraint_like_atoms(source, false, findings);
 }
 
 }  // namespace kelp::input::quill::lint

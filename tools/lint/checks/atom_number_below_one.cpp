@@ -3,13 +3,11 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_atom_number_below_one(const Source& source) {
-  Findings findings;
-  for (const AtomNumber& atom : all_atom_numbers(source)) {
+void check_atom_number_below_one(const Source& source, Collector& findings) {
+  for_each_atom_number(source, [&](const AtomNumber& atom) {
     if (atom.number < 1)
-      findings.push_back({source.range_of(atom.token), {text_fact("number", atom.token)}});
-  }
-  return findings;
+      findings.add({source.range_of(atom.token), {text_fact("number", atom.token)}});
+  });
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,16 +3,14 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_atom_number_too_large(const Source& source) {
-  Findings findings;
+void check_atom_number_too_large(const Source& source, Collector& findings) {
   const std::optional<std::size_t> count = source.count_atoms();
-  if (!count) return findings;
-  for (const AtomNumber& atom : all_atom_numbers(source)) {
-    if (atom.number < 1 || static_cast<std::size_t>(atom.number) <= *count) continue;
-    findings.push_back({source.range_of(atom.token),
-                        {text_fact("number", atom.token), count_fact("count", *count)}});
-  }
-  return findings;
+  if (!count) return;
+  for_each_atom_number(source, [&](const AtomNumber& atom) {
+    if (atom.number < 1 || static_cast<std::size_t>(atom.number) <= *count) return;
+    findings.add({source.range_of(atom.token),
+                  {text_fact("number", atom.token), count_fact("count", *count)}});
+  });
 }
 
 }  // namespace kelp::input::quill::lint

@@ -32,12 +32,12 @@ constexpr Signature signatures[] = {
 
 }  // namespace
 
-Findings check_binary_file(const Source& source) {
+void check_binary_file(const Source& source, Collector& findings) {
   for (const Signature& signature : signatures) {
-    if (source.text().substr(0, signature.bytes.size()) == signature.bytes)
-      return {{{0, signature.bytes.size()}, {text_fact("kind", signature.kind)}}};
+    if (source.text().substr(0, signature.bytes.size()) != signature.bytes) continue;
+    findings.add({{0, signature.bytes.size()}, {text_fact("kind", signature.kind)}});
+    return;
   }
-  return {};
 }
 
 }  // namespace kelp::input::quill::lint

@@ -21,8 +21,9 @@ std::optional<Edits> repair(const Source& source, std::size_t line, BrokenLine::
 }
 
 /// The atoms after the line usually have the same fault, and are mended with it.
-void add_repairs_of_lost_atoms(const Source& source, std::size_t first, Edits& edits) {
-  for (std::size_t i = first; i < source.lines().size(); ++i) {
+void add_repairs_of_lost_atoms(const Source& source, std::size_t first, std::size_t most_edits,
+                               Edits& edits) {
+  for (std::size_t i = first; i < source.lines().size() && edits.size() <= most_edits; ++i) {
     if (source.lines()[i].role == LineRole::Blank) continue;
     if (!resembles_atom_line(source.content(i))) return;
     const auto more = atom_repair(source.content(i), source.lines()[i].offset);
@@ -30,10 +31,12 @@ void add_repairs_of_lost_atoms(const Source& source, std::size_t first, Edits& e
   }
 }
 
-std::optional<Mend> find_mend(const Source& source, const BrokenLine& broken) {
+std::optional<Mend> find_mend(const Source& source, const BrokenLine& broken,
+                              std::size_t most_edits) {
   auto edits = repair(source, broken.line, broken.kind);
   if (!edits) return std::nullopt;
-  add_repairs_of_lost_atoms(source, broken.line + 1, *edits);
+  add_repairs_of_lost_atoms(source, broken.line + 1, most_edits, *edits);
+  if (edits->size() > most_edits) return std::nullopt;
   return Mend{std::move(*edits), true};
 }
 
@@ -54,14 +57,17 @@ Range range_of_fault(const Source& source, const BrokenLine& broken) {
 
 }  // namespace
 
-Findings find_broken_atoms(const Source& source, BrokenLine::Kind kind) {
+void find_broken_atoms(const Source& source, BrokenLine::Kind kind, Collector& findings) {
   const std::optional<BrokenLine>& broken = source.broken_line();
-  if (!broken || broken->kind != kind) return {};
+  if (!broken || broken->kind != kind) return;
   std::vector<Fact> facts = {count_fact("atoms", source.input().geometry.atoms.size()),
                              count_fact("lost", broken->lost)};
   if (broken->kind != BrokenLine::Kind::Charge || !broken->token.empty())
     facts.push_back(fault_of(source, *broken));
-  return {{range_of_fault(source, *broken), std::move(facts), {}, find_mend(source, *broken)}};
+  findings.add({range_of_fault(source, *broken),
+                std::move(facts),
+                {},
+                find_mend(source, *broken, findings.most_edits())});
 }
 
 }  // namespace kelp::input::quill::lint

@@ -9,10 +9,10 @@ constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 }  // namespace
 
 // The reader takes the mark for letters, so that the first line is not a header line.
-Findings check_byte_order_mark(const Source& source) {
-  if (source.text().substr(0, byte_order_mark.size()) != byte_order_mark) return {};
+void check_byte_order_mark(const Source& source, Collector& findings) {
+  if (source.text().substr(0, byte_order_mark.size()) != byte_order_mark) return;
   const Range range{0, byte_order_mark.size()};
-  return {{range, {}, {}, Mend{{{range, ""}}, true}}};
+  findings.add({range, {}, {}, Mend{{{range, ""}}, true}});
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,8 +3,8 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_charge_line(const Source& source) {
-  return find_broken_atoms(source, BrokenLine::Kind::Charge);
+void check_charge_line(const Source& source, Collector& findings) {
+  find_broken_atoms(source, BrokenLine::Kind::Charge, findings);
 }
 
 }  // namespace kelp::input::quill::lint

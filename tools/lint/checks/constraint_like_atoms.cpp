@@ -1,6 +1,7 @@
 #include "lint/checks/constraint_like_atoms.hpp"
 
 #include <algorithm>
+#include <functional>
 #include <set>
 
 #include "kelp/core/text.hpp"
@@ -44,21 +45,32 @@ bool is_set_apart(const Source& source, std::size_t first) {
   return has_blank_line || !has_integers(source, lines[first - 1]);
 }
 
-}  // namespace
-
-Findings find_constraint_like_atoms(const Source& source, bool wants_elements) {
-  Findings findings;
+/// Passes on the index of each atom, and its keyword.
+void for_each_like_constraint(const Source& source, bool wants_elements,
+                              const std::function<void(std::size_t, std::string_view)>& use) {
   const std::size_t first = count_plain_atoms(source);
   const std::vector<std::size_t>& lines = source.atom_lines();
-  if (first == 0 || first == lines.size() || !is_set_apart(source, first)) return findings;
+  if (first == 0 || first == lines.size() || !is_set_apart(source, first)) return;
   for (std::size_t i = first; i < lines.size(); ++i) {
     const std::string_view keyword = tokens_of(source.content(lines[i])).front();
-    if (is_element(keyword) != wants_elements) continue;
-    findings.push_back({source.range_of(keyword),
-                        {text_fact("keyword", keyword),
-                         text_fact("symbol", source.input().geometry.atoms[i].symbol)}});
+    if (is_element(keyword) == wants_elements) use(i, keyword);
   }
-  return findings;
+}
+
+}  // namespace
+
+void find_constraint_like_atoms(const Source& source, bool wants_elements, Collector& findings) {
+  for_each_like_constraint(source, wants_elements, [&](std::size_t atom, std::string_view keyword) {
+    findings.add({source.range_of(keyword),
+                  {text_fact("keyword", keyword),
+                   text_fact("symbol", source.input().geometry.atoms[atom].symbol)}});
+  });
+}
+
+bool has_elements_like_constraints(const Source& source) {
+  bool has_some = false;
+  for_each_like_constraint(source, true, [&](std::size_t, std::string_view) { has_some = true; });
+  return has_some;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -18,18 +18,17 @@ std::ptrdiff_t open_parentheses(std::string_view value) {
 }  // namespace
 
 // "d=(e,f)" is cut at its comma: the value "(e" and the parameter "f)".
-Findings check_cut_value(const Source& source) {
-  Findings findings;
+void check_cut_value(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
-    const std::vector<ParameterPieces> entries = entries_of(pieces_of(source, i));
-    for (std::size_t k = 0; k + 1 < entries.size(); ++k) {
-      if (!entries[k].value || open_parentheses(*entries[k].value) <= 0) continue;
-      findings.push_back(
-          {source.range_of(*entries[k].value),
-           {text_fact("name", entries[k].name), text_fact("value", *entries[k].value)}});
+    Entries entries(pieces_of(source, i));
+    auto entry = entries.next();
+    while (const auto next = entries.next()) {
+      if (entry->value && open_parentheses(*entry->value) > 0)
+        findings.add({source.range_of(*entry->value),
+                      {text_fact("name", entry->name), text_fact("value", *entry->value)}});
+      entry = next;
     }
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -25,8 +25,7 @@ std::string_view faulty_word(const std::vector<std::string_view>& tokens) {
 
 }  // namespace
 
-Findings check_dropped_line(const Source& source) {
-  Findings findings;
+void check_dropped_line(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.lines().size(); ++i) {
     if (source.lines()[i].role != LineRole::Dropped) continue;
     const std::vector<std::string_view> tokens = tokens_of(source.content(i));
@@ -35,9 +34,8 @@ Findings check_dropped_line(const Source& source) {
                     {text_fact("keyword", tokens[0]), text_fact("token", word)}};
     if (auto edits = post_repair(source.content(i), source.lines()[i].offset))
       finding.mend = Mend{std::move(*edits), true};
-    findings.push_back(std::move(finding));
+    findings.add(std::move(finding));
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

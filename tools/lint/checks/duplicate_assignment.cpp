@@ -6,19 +6,17 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_duplicate_assignment(const Source& source) {
-  Findings findings;
+void check_duplicate_assignment(const Source& source, Collector& findings) {
   std::map<std::string, std::size_t> firsts;
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
     const HeaderCommand& command = source.input().commands[i];
     if (command.kind != HeaderCommandKind::Assignment || command.name.empty()) continue;
     const auto [first, is_new] = firsts.emplace(normalize_command_name(command.name), i);
     if (is_new) continue;
-    findings.push_back({range_of_command(source, i),
-                        {text_fact("name", command.name)},
-                        {{range_of_command(source, first->second), "the one that counts"}}});
+    findings.add({range_of_command(source, i),
+                  {text_fact("name", command.name)},
+                  {{range_of_command(source, first->second), "the one that counts"}}});
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

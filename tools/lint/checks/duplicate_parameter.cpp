@@ -9,25 +9,24 @@ namespace kelp::input::quill::lint {
 
 namespace {
 
-void check_list(const Source& source, const HeaderPieces& pieces, Findings& findings) {
+void check_list(const Source& source, const HeaderPieces& pieces, Collector& findings) {
   std::map<std::string, Range> firsts;
-  for (const ParameterPieces& entry : entries_of(pieces)) {
-    if (entry.name.empty()) continue;
-    const Range range = source.range_of(entry.name);
-    const auto [first, is_new] = firsts.emplace(core::text::to_lower_copy(entry.name), range);
+  Entries entries(pieces);
+  while (const auto entry = entries.next()) {
+    if (entry->name.empty()) continue;
+    const Range range = source.range_of(entry->name);
+    const auto [first, is_new] = firsts.emplace(core::text::to_lower_copy(entry->name), range);
     if (is_new) continue;
-    findings.push_back(
-        {range, {text_fact("name", entry.name)}, {{first->second, "the one that counts"}}});
+    findings.add(
+        {range, {text_fact("name", entry->name)}, {{first->second, "the one that counts"}}});
   }
 }
 
 }  // namespace
 
-Findings check_duplicate_parameter(const Source& source) {
-  Findings findings;
+void check_duplicate_parameter(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.command_lines().size(); ++i)
     check_list(source, pieces_of(source, i), findings);
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,8 +3,8 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_element_like_constraint(const Source& source) {
-  return find_constraint_like_atoms(source, true);
+void check_element_like_constraint(const Source& source, Collector& findings) {
+  find_constraint_like_atoms(source, true, findings);
 }
 
 }  // namespace kelp::input::quill::lint

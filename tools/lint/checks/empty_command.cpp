@@ -3,14 +3,12 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_empty_command(const Source& source) {
-  Findings findings;
+void check_empty_command(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
     const HeaderCommand& command = source.input().commands[i];
     if (command.name.empty() && command.kind == HeaderCommandKind::Flag)
-      findings.push_back({range_of_command(source, i)});
+      findings.add({range_of_command(source, i)});
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,14 +3,13 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_empty_entry(const Source& source) {
-  Findings findings;
+void check_empty_entry(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
-    for (const ParameterPieces& entry : entries_of(pieces_of(source, i))) {
-      if (entry.name.empty() && !entry.value) findings.push_back({source.range_of(entry.name)});
+    Entries entries(pieces_of(source, i));
+    while (const auto entry = entries.next()) {
+      if (entry->name.empty() && !entry->value) findings.add({source.range_of(entry->name)});
     }
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,8 +3,8 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_ended_atoms(const Source& source) {
-  return find_broken_atoms(source, BrokenLine::Kind::Word);
+void check_ended_atoms(const Source& source, Collector& findings) {
+  find_broken_atoms(source, BrokenLine::Kind::Word, findings);
 }
 
 }  // namespace kelp::input::quill::lint

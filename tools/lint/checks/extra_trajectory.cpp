@@ -5,9 +5,8 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_extra_trajectory(const Source& source) {
-  Findings findings;
-  if (source.input().geometry.kind != GeometryKind::XyzTrajectory) return findings;
+void check_extra_trajectory(const Source& source, Collector& findings) {
+  if (source.input().geometry.kind != GeometryKind::XyzTrajectory) return;
   std::string keyword;
   std::string path;
   for (const std::size_t line : source.post_lines()) {
@@ -17,9 +16,8 @@ Findings check_extra_trajectory(const Source& source) {
     if (!source.reference_lines().empty())
       finding.related.push_back(
           {source.range_of(source.trimmed(source.reference_lines().front())), "the trajectory"});
-    findings.push_back(std::move(finding));
+    findings.add(std::move(finding));
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -23,7 +23,7 @@ std::optional<std::int64_t> count_protons(const std::vector<AtomRecord>& atoms) 
 /// Whether the atoms are those that were meant.
 bool has_all_atoms(const Source& source) {
   return !source.input().geometry.atoms.empty() && !source.broken_line() &&
-         find_constraint_like_atoms(source, true).empty();
+         !has_elements_like_constraints(source);
 }
 
 /// A multiplicity of m needs m - 1 electrons without a partner.
@@ -34,16 +34,17 @@ bool is_possible(std::int64_t electrons, std::int64_t multiplicity) {
 
 }  // namespace
 
-Findings check_impossible_multiplicity(const Source& source) {
+void check_impossible_multiplicity(const Source& source, Collector& findings) {
   const GeometryBlock& geometry = source.input().geometry;
   const bool is_told = geometry.has_charge_and_multiplicity && geometry.multiplicity >= 1;
-  if (!is_told || !has_all_atoms(source)) return {};
+  if (!is_told || !has_all_atoms(source)) return;
   const std::optional<std::int64_t> protons = count_protons(geometry.atoms);
-  if (!protons) return {};
+  if (!protons) return;
   const std::int64_t electrons = *protons - geometry.charge;
-  if (is_possible(electrons, geometry.multiplicity)) return {};
+  if (is_possible(electrons, geometry.multiplicity)) return;
   const std::string_view token = tokens_of(source.content(source.charge_line()))[1];
-  return {{source.range_of(token), {text_fact("multiplicity", token), {"electrons", electrons}}}};
+  findings.add(
+      {source.range_of(token), {text_fact("multiplicity", token), {"electrons", electrons}}});
 }
 
 }  // namespace kelp::input::quill::lint

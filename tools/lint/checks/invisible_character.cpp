@@ -3,8 +3,8 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_invisible_character(const Source& source) {
-  return find_odd_lines(source, OddKind::Invisible);
+void check_invisible_character(const Source& source, Collector& findings) {
+  find_odd_lines(source, OddKind::Invisible, findings);
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,8 +3,8 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_labelled_atom(const Source& source) {
-  return find_broken_atoms(source, BrokenLine::Kind::Label);
+void check_labelled_atom(const Source& source, Collector& findings) {
+  find_broken_atoms(source, BrokenLine::Kind::Label, findings);
 }
 
 }  // namespace kelp::input::quill::lint

@@ -17,18 +17,16 @@ std::size_t line_after_header(const Source& source) {
 
 }  // namespace
 
-Findings check_late_command(const Source& source) {
-  Findings findings;
-  if (source.post_lines().empty()) return findings;
+void check_late_command(const Source& source, Collector& findings) {
+  if (source.post_lines().empty()) return;
   const std::string_view end = source.trimmed(line_after_header(source));
   for (const std::size_t line : source.post_lines()) {
     const std::string_view content = source.trimmed(line);
     if (content.front() != '#') continue;
-    findings.push_back({source.range_of(content),
-                        {text_fact("line", content)},
-                        {{source.range_of(end), "the line that ended the header"}}});
+    findings.add({source.range_of(content),
+                  {text_fact("line", content)},
+                  {{source.range_of(end), "the line that ended the header"}}});
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -8,11 +8,10 @@ namespace kelp::input::quill::lint {
 
 // After a trajectory, and after a line that prevented the coordinates from beginning, other rules
 // say more.
-Findings check_late_reference(const Source& source) {
-  Findings findings;
+void check_late_reference(const Source& source, Collector& findings) {
   const bool is_explained =
       source.broken_line() || source.input().geometry.kind == GeometryKind::XyzTrajectory;
-  if (is_explained) return findings;
+  if (is_explained) return;
   std::string keyword;
   std::string path;
   for (const std::size_t line : source.post_lines()) {
@@ -22,9 +21,8 @@ Findings check_late_reference(const Source& source) {
     const std::string_view end = source.trimmed(source.post_lines().front());
     if (end.data() != content.data())
       finding.related.push_back({source.range_of(end), "the line that ended the coordinates"});
-    findings.push_back(std::move(finding));
+    findings.add(std::move(finding));
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

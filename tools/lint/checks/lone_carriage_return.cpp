@@ -1,39 +1,40 @@
-#include <vector>
+#include <algorithm>
 
-#include "kelp/core/text.hpp"
 #include "lint/checks/checks.hpp"
+#include "reader/header_pieces.hpp"
 
 namespace kelp::input::quill::lint {
 
 namespace {
 
-bool is_blank(std::string_view text) { return core::text::split_whitespace(text).empty(); }
+/// Returns the position of the first carriage return in a line, or the end of the line if only
+/// blanks come after it: then it ends the line together with the line end, and is harmless.
+std::size_t find_return(std::string_view line) {
+  const std::size_t at = std::min(line.find('\r'), line.size());
+  return trimmed_view(line.substr(at)).empty() ? line.size() : at;
+}
 
-/// Returns the positions of the carriage returns in a line that have text after them on the line.
-/// Those without such text end the line together with its line end, and are harmless.
-std::vector<std::size_t> find_returns(std::string_view line) {
-  std::vector<std::size_t> found;
-  for (std::size_t at = line.find('\r'); at != std::string_view::npos; at = line.find('\r', at + 1))
-    found.push_back(at);
-  if (!found.empty() && is_blank(line.substr(found.front()))) found.clear();
-  return found;
+/// Ends a line at each carriage return of a text that begins at `base`.
+Mend mend_of(std::string_view text, std::size_t base) {
+  Mend mend{{}, true};
+  for (std::size_t at = text.find('\r'); at != std::string_view::npos; at = text.find('\r', at + 1))
+    mend.edits.push_back({{base + at, 1}, "\n"});
+  return mend;
 }
 
 }  // namespace
 
-Findings check_lone_carriage_return(const Source& source) {
-  Findings findings;
-  if (source.text().find('\r') == std::string_view::npos) return findings;
+void check_lone_carriage_return(const Source& source, Collector& findings) {
+  if (source.text().find('\r') == std::string_view::npos) return;
   for (const LineRecord& line : source.lines()) {
-    const std::vector<std::size_t> found =
-        find_returns(source.text().substr(line.offset, line.length));
-    if (found.empty()) continue;
-    Mend mend{{}, true};
-    for (const std::size_t at : found) mend.edits.push_back({{line.offset + at, 1}, "\n"});
-    findings.push_back(
-        {mend.edits.front().range, {count_fact("count", found.size())}, {}, std::move(mend)});
+    const std::string_view content = source.text().substr(line.offset, line.length);
+    const std::size_t first = find_return(content);
+    if (first == content.size()) continue;
+    const auto count = static_cast<std::size_t>(std::count(content.begin(), content.end(), '\r'));
+    Finding finding{{line.offset + first, 1}, {count_fact("count", count)}};
+    if (count <= findings.most_edits()) finding.mend = mend_of(content, line.offset);
+    findings.add(std::move(finding));
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

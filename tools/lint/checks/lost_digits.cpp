@@ -1,17 +1,25 @@
 #include "lint/checks/lost_digits.hpp"
 
 #include <algorithm>
+#include <optional>
+
+#include "lint/rewriting.hpp"
 
 namespace kelp::input::quill::lint {
 
-Findings find_lost_digits(const Source& source, const std::vector<RoundedNumber>& numbers) {
-  if (numbers.empty()) return {};
-  const auto largest = std::max_element(numbers.begin(), numbers.end(),
-                                        [](const RoundedNumber& left, const RoundedNumber& right) {
-                                          return left.change < right.change;
-                                        });
-  return {{range_of(source, numbers.front()),
-           {count_fact("count", numbers.size()), {"change", largest->change}}}};
+void find_lost_digits(const Source& source, const std::function<bool(double change)>& is_wanted,
+                      Collector& findings) {
+  std::optional<RoundedNumber> first;
+  std::size_t count = 0;
+  double largest = 0.0;
+  for_each_rounded_number(source, [&](const RoundedNumber& number) {
+    if (!is_wanted(number.change)) return;
+    if (!first) first = number;
+    ++count;
+    largest = std::max(largest, number.change);
+  });
+  if (first)
+    findings.add({range_of(source, *first), {count_fact("count", count), {"change", largest}}});
 }
 
 }  // namespace kelp::input::quill::lint

@@ -1,15 +1,16 @@
 #ifndef KELP_INPUT_QUILL_LINT_CHECKS_LOST_DIGITS_HPP
 #define KELP_INPUT_QUILL_LINT_CHECKS_LOST_DIGITS_HPP
 
-#include <vector>
+#include <functional>
 
-#include "lint/rewriting.hpp"
+#include "lint/collector.hpp"
+#include "lint/source.hpp"
 
 namespace kelp::input::quill::lint {
 
-/// Returns one finding for all of these numbers, at the first of them, or none if there are no
-/// numbers.
-Findings find_lost_digits(const Source& source, const std::vector<RoundedNumber>& numbers);
+/// Adds one finding for all rounded numbers whose change is wanted, at the first of them.
+void find_lost_digits(const Source& source, const std::function<bool(double change)>& is_wanted,
+                      Collector& findings);
 
 }  // namespace kelp::input::quill::lint
 

@@ -3,10 +3,11 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_missing_file(const Source& source) {
-  return find_references(source, [](const Reference& reference) {
+void check_missing_file(const Source& source, Collector& findings) {
+  const auto is_found = [](const Reference& reference) {
     return reference.file.state == ReferencedFile::State::Missing;
-  });
+  };
+  find_references(source, is_found, findings);
 }
 
 }  // namespace kelp::input::quill::lint

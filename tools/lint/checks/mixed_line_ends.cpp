@@ -10,18 +10,18 @@ constexpr std::size_t dos_length = 2;
 
 }  // namespace
 
-Findings check_mixed_line_ends(const Source& source) {
+void check_mixed_line_ends(const Source& source, Collector& findings) {
   const auto& lines = source.lines();
-  if (lines.empty() || lines.front().terminator_length == 0) return {};
+  if (lines.empty() || lines.front().terminator_length == 0) return;
   const std::size_t usual = lines.front().terminator_length;
   const auto other = std::find_if(lines.begin(), lines.end(), [&](const LineRecord& line) {
     return line.terminator_length != 0 && line.terminator_length != usual;
   });
-  if (other == lines.end()) return {};
+  if (other == lines.end()) return;
   const bool is_dos = other->terminator_length == dos_length;
-  return {
+  findings.add(
       {{other->offset + other->length, other->terminator_length},
-       {text_fact("found", is_dos ? "CR LF" : "LF"), text_fact("usual", is_dos ? "LF" : "CR LF")}}};
+       {text_fact("found", is_dos ? "CR LF" : "LF"), text_fact("usual", is_dos ? "LF" : "CR LF")}});
 }
 
 }  // namespace kelp::input::quill::lint

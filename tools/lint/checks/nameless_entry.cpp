@@ -3,15 +3,14 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_nameless_entry(const Source& source) {
-  Findings findings;
+void check_nameless_entry(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
-    for (const ParameterPieces& entry : entries_of(pieces_of(source, i))) {
-      if (entry.name.empty() && entry.value)
-        findings.push_back({source.range_of(*entry.value), {text_fact("value", *entry.value)}});
+    Entries entries(pieces_of(source, i));
+    while (const auto entry = entries.next()) {
+      if (entry->name.empty() && entry->value)
+        findings.add({source.range_of(*entry->value), {text_fact("value", *entry->value)}});
     }
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

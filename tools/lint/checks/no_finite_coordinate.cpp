@@ -5,18 +5,16 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_no_finite_coordinate(const Source& source) {
-  Findings findings;
+void check_no_finite_coordinate(const Source& source, Collector& findings) {
   const std::vector<AtomRecord>& atoms = source.input().geometry.atoms;
   for (std::size_t i = 0; i < atoms.size(); ++i) {
     const double coordinates[] = {atoms[i].x, atoms[i].y, atoms[i].z};
     for (std::size_t axis = 0; axis < 3; ++axis) {
       if (std::isfinite(coordinates[axis])) continue;
       const std::string_view token = tokens_of(source.content(source.atom_lines()[i]))[axis + 1];
-      findings.push_back({source.range_of(token), {text_fact("token", token)}});
+      findings.add({source.range_of(token), {text_fact("token", token)}});
     }
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

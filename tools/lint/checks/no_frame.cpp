@@ -3,10 +3,11 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_no_frame(const Source& source) {
-  return find_references(source, [](const Reference& reference) {
+void check_no_frame(const Source& source, Collector& findings) {
+  const auto is_found = [](const Reference& reference) {
     return reference.file.state == ReferencedFile::State::Read && !reference.atoms;
-  });
+  };
+  find_references(source, is_found, findings);
 }
 
 }  // namespace kelp::input::quill::lint

@@ -25,15 +25,15 @@ bool is_late_task(const PostCommand& command) {
 
 }  // namespace
 
-Findings check_no_task(const Source& source) {
+void check_no_task(const Source& source, Collector& findings) {
   const QuillInput& input = source.input();
-  if (input.has_task_command()) return {};
+  if (input.has_task_command()) return;
   const auto is_like_one = [&](const HeaderCommand& command) {
     return resembles_task(command, source.options());
   };
-  if (std::any_of(input.commands.begin(), input.commands.end(), is_like_one)) return {};
-  if (std::any_of(input.post_commands.begin(), input.post_commands.end(), is_late_task)) return {};
-  return {Finding()};
+  if (std::any_of(input.commands.begin(), input.commands.end(), is_like_one)) return;
+  if (std::any_of(input.post_commands.begin(), input.post_commands.end(), is_late_task)) return;
+  findings.add(Finding());
 }
 
 }  // namespace kelp::input::quill::lint

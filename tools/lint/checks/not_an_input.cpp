@@ -36,10 +36,10 @@ bool is_other_text(const Source& source) {
 
 }  // namespace
 
-Findings check_not_an_input(const Source& source) {
+void check_not_an_input(const Source& source, Collector& findings) {
   const bool is_script = source.text().substr(0, 2) == "#!";
-  if (!is_script && !is_other_text(source)) return {};
-  return {{{0, is_script ? std::size_t{2} : 0}}};
+  if (!is_script && !is_other_text(source)) return;
+  findings.add({{0, is_script ? std::size_t{2} : 0}});
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,8 +3,8 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_numbered_atom(const Source& source) {
-  return find_broken_atoms(source, BrokenLine::Kind::Index);
+void check_numbered_atom(const Source& source, Collector& findings) {
+  find_broken_atoms(source, BrokenLine::Kind::Index, findings);
 }
 
 }  // namespace kelp::input::quill::lint

@@ -41,32 +41,45 @@ std::optional<Mend> find_mend(const Source& source, std::size_t line) {
   return Mend{std::move(edits), true};
 }
 
-Finding make_finding(const Source& source, std::size_t line, const OddCharacter& first,
-                     std::size_t count) {
-  return {{first.offset, first.length},
-          {text_fact("character", name_of_character(first.code_point)),
-           count_fact("others", count - 1)},
-          {},
-          find_mend(source, line)};
+/// The odd characters of a line: the first one of a kind, how many of this kind, and how many of
+/// any kind there are.
+struct OddLine {
+  std::optional<OddCharacter> first = std::nullopt;
+  std::size_t count = 0;
+  std::size_t all = 0;
+};
+
+OddLine look_at(const Source& source, std::size_t line, OddKind kind) {
+  const LineRecord& record = source.lines()[line];
+  const std::string_view text = source.text().substr(0, record.offset + record.length);
+  OddLine odd;
+  for (auto next = next_odd_character(text, record.offset); next;
+       next = next_odd_character(text, next->end())) {
+    ++odd.all;
+    if (next->kind != kind) continue;
+    if (!odd.first) odd.first = next;
+    ++odd.count;
+  }
+  return odd;
+}
+
+Finding make_finding(const Source& source, std::size_t line, const OddLine& odd,
+                     std::size_t most_edits) {
+  Finding finding{{odd.first->offset, odd.first->length},
+                  {text_fact("character", name_of_character(odd.first->code_point)),
+                   count_fact("others", odd.count - 1)}};
+  if (odd.all <= most_edits) finding.mend = find_mend(source, line);
+  return finding;
 }
 
 }  // namespace
 
-Findings find_odd_lines(const Source& source, OddKind kind) {
-  Findings findings;
-  const std::vector<OddCharacter>& all = source.odd_characters();
-  const auto is_wanted = [&](const OddCharacter& odd) { return odd.kind == kind; };
-  std::size_t line = 0;
-  for (auto odd = std::find_if(all.begin(), all.end(), is_wanted); odd != all.end();) {
-    while (source.lines()[line].offset + source.lines()[line].length <= odd->offset) ++line;
-    const std::size_t end = source.lines()[line].offset + source.lines()[line].length;
-    const auto next = std::find_if(odd, all.end(),
-                                   [&](const OddCharacter& other) { return other.offset >= end; });
-    const auto count = static_cast<std::size_t>(std::count_if(odd, next, is_wanted));
-    findings.push_back(make_finding(source, line, *odd, count));
-    odd = std::find_if(next, all.end(), is_wanted);
+void find_odd_lines(const Source& source, OddKind kind, Collector& findings) {
+  if (!source.has_odd_characters()) return;
+  for (std::size_t i = 0; i < source.lines().size(); ++i) {
+    const OddLine odd = look_at(source, i, kind);
+    if (odd.first) findings.add(make_finding(source, i, odd, findings.most_edits()));
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -9,28 +9,27 @@ namespace kelp::input::quill::lint {
 
 namespace {
 
-void check_value(const Source& source, std::string_view value, Findings& findings) {
+void check_value(const Source& source, std::string_view value, Collector& findings) {
   const Range range = source.range_of(value);
   std::vector<ByteEdit> edits = ascii_edits(value, range.offset);
   if (edits.empty()) return;
   const std::string repaired = with_edits(value, edits, range.offset);
   if (!is_number(trimmed_view(repaired))) return;
-  findings.push_back({range, {text_fact("value", value)}, {}, Mend{std::move(edits), true}});
+  findings.add({range, {text_fact("value", value)}, {}, Mend{std::move(edits), true}});
 }
 
 }  // namespace
 
-Findings check_odd_number(const Source& source) {
-  Findings findings;
-  if (source.odd_characters().empty()) return findings;
+void check_odd_number(const Source& source, Collector& findings) {
+  if (!source.has_odd_characters()) return;
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
     const HeaderPieces& pieces = pieces_of(source, i);
     check_value(source, pieces.value, findings);
-    for (const ParameterPieces& entry : entries_of(pieces)) {
-      if (entry.value) check_value(source, *entry.value, findings);
+    Entries entries(pieces);
+    while (const auto entry = entries.next()) {
+      if (entry->value) check_value(source, *entry->value, findings);
     }
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

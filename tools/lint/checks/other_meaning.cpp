@@ -33,19 +33,19 @@ std::optional<std::size_t> line_of(const Source& source,
 }  // namespace
 
 // A line that is read as itself only because of a line before it, which is not written again.
-Findings check_other_meaning(const Source& source) {
+void check_other_meaning(const Source& source, Collector& findings) {
   const std::size_t vanishing = find_vanishing_line(source);
-  if (vanishing == source.lines().size() || source.broken_line()) return {};
+  if (vanishing == source.lines().size() || source.broken_line()) return;
   const lossless::QuotedDocument quoted = lossless::quote(source.input());
   const lossless::Proof proof = lossless::prove(quoted.document.to_string(), source.input(),
                                                 std::numeric_limits<double>::infinity());
-  if (proof.holds() || !proof.explanation) return {};
+  if (proof.holds() || !proof.explanation) return;
   const auto line = line_of(source, proof.explanation->wanted);
-  if (!line || *line <= vanishing) return {};
+  if (!line || *line <= vanishing) return;
   const std::string_view other = source.trimmed(*line);
-  return {{source.range_of(source.trimmed(vanishing)),
-           {text_fact("other", other), count_fact("line", *line + 1)},
-           {{source.range_of(other), "the line that would be read differently"}}}};
+  findings.add({source.range_of(source.trimmed(vanishing)),
+                {text_fact("other", other), count_fact("line", *line + 1)},
+                {{source.range_of(other), "the line that would be read differently"}}});
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,16 +3,13 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_several_words(const Source& source) {
-  Findings findings;
+void check_several_words(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
     const std::string_view name = pieces_of(source, i).name;
     const std::string_view word = first_word(name);
     if (word.size() < name.size() && is_known(word, source.options()))
-      findings.push_back(
-          {source.range_of(name), {text_fact("name", name), text_fact("word", word)}});
+      findings.add({source.range_of(name), {text_fact("name", name), text_fact("word", word)}});
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -19,20 +19,18 @@ std::optional<std::string> find_similar(const std::string& name, const Options& 
 
 }  // namespace
 
-Findings check_similar_name(const Source& source) {
-  Findings findings;
+void check_similar_name(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
     const std::string_view name = pieces_of(source, i).name;
     if (first_word(name).size() < name.size()) continue;
     const auto similar = find_similar(normalize_command_name(name), source.options());
     if (!similar) continue;
     const Range range = source.range_of(name);
-    findings.push_back({range,
-                        {text_fact("name", name), text_fact("similar", *similar)},
-                        {},
-                        Mend{{{range, *similar}}, false}});
+    findings.add({range,
+                  {text_fact("name", name), text_fact("similar", *similar)},
+                  {},
+                  Mend{{{range, *similar}}, false}});
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

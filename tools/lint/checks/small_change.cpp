@@ -1,18 +1,12 @@
-#include <algorithm>
-
 #include "lint/checks/checks.hpp"
 #include "lint/checks/lost_digits.hpp"
 
 namespace kelp::input::quill::lint {
 
-Findings check_small_change(const Source& source) {
-  std::vector<RoundedNumber> numbers = rounded_numbers(source);
-  numbers.erase(std::remove_if(numbers.begin(), numbers.end(),
-                               [&](const RoundedNumber& number) {
-                                 return number.change > source.options().max_change;
-                               }),
-                numbers.end());
-  return find_lost_digits(source, numbers);
+void check_small_change(const Source& source, Collector& findings) {
+  const double limit = source.options().max_change;
+  find_lost_digits(
+      source, [limit](double change) { return change <= limit; }, findings);
 }
 
 }  // namespace kelp::input::quill::lint

@@ -5,14 +5,12 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_touching_columns(const Source& source) {
-  Findings findings;
+void check_touching_columns(const Source& source, Collector& findings) {
   const std::vector<AtomRecord>& atoms = source.input().geometry.atoms;
   for (std::size_t i = 0; i < atoms.size(); ++i) {
     if (!reads_back(atoms[i]))
-      findings.push_back({source.range_of(source.trimmed(source.atom_lines()[i]))});
+      findings.add({source.range_of(source.trimmed(source.atom_lines()[i]))});
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,14 +3,12 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_trailing_text(const Source& source) {
-  Findings findings;
+void check_trailing_text(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
     const HeaderPieces& pieces = pieces_of(source, i);
     if (!pieces.trailing.empty())
-      findings.push_back({source.range_of(pieces.trailing), {text_fact("text", pieces.trailing)}});
+      findings.add({source.range_of(pieces.trailing), {text_fact("text", pieces.trailing)}});
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

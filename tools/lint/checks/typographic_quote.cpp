@@ -2,6 +2,7 @@
 
 #include "lint/checks/checks.hpp"
 #include "lint/header_line.hpp"
+#include "lint/odd_characters.hpp"
 
 namespace kelp::input::quill::lint {
 
@@ -17,14 +18,14 @@ struct QuotePair {
 
 /// An apostrophe in a word looks the same, so a quote counts only at the beginning of a value.
 std::optional<QuotePair> find_quotes(std::string_view value) {
-  const std::vector<OddCharacter> odd = find_odd_characters(value);
-  if (odd.size() < 2) return std::nullopt;
-  const QuotePair pair{odd.front(), odd.back()};
-  const bool is_around = pair.first.kind == OddKind::Quote && pair.last.kind == OddKind::Quote &&
-                         pair.first.offset == 0 &&
-                         pair.last.offset + pair.last.length == value.size();
+  const auto first = next_odd_character(value, 0);
+  if (!first || first->kind != OddKind::Quote || first->offset > 0) return std::nullopt;
+  OddCharacter last = *first;
+  while (const auto next = next_odd_character(value, last.end())) last = *next;
+  const bool is_around =
+      last.offset > 0 && last.kind == OddKind::Quote && last.end() == value.size();
   if (!is_around) return std::nullopt;
-  return pair;
+  return QuotePair{*first, last};
 }
 
 /// Safe as long as the ASCII quote is not in the value itself.
@@ -42,34 +43,30 @@ Finding make_finding(const Source& source, std::string_view value, const QuotePa
 /// A comma between the quotes has cut the value into several entries, so the list is looked at
 /// from the "=" of an entry to the next typographic quote.
 std::string_view quoted_piece(const Source& source, std::string_view list, std::string_view value) {
-  const std::vector<OddCharacter>& odd = source.odd_characters();
   const std::size_t begin = source.range_of(value).offset;
-  const auto first = std::lower_bound(
-      odd.begin(), odd.end(), begin,
-      [](const OddCharacter& character, std::size_t offset) { return character.offset < offset; });
-  const bool begins = first != odd.end() && first->offset == begin && first->kind == OddKind::Quote;
-  if (!begins || first + 1 == odd.end()) return value;
-  const OddCharacter& next = *(first + 1);
-  if (next.kind != OddKind::Quote || next.offset >= source.range_of(list).end()) return value;
-  return source.text().substr(begin, next.offset + next.length - begin);
+  const std::string_view rest = source.text().substr(begin, source.range_of(list).end() - begin);
+  const auto first = next_odd_character(value, 0);
+  if (!first || first->offset > 0 || first->kind != OddKind::Quote) return value;
+  const auto next = next_odd_character(rest, first->end());
+  if (!next || next->kind != OddKind::Quote) return value;
+  return rest.substr(0, next->end());
 }
 
 }  // namespace
 
-Findings check_typographic_quote(const Source& source) {
-  Findings findings;
+void check_typographic_quote(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
     const HeaderPieces& pieces = pieces_of(source, i);
     if (const auto quotes = find_quotes(pieces.value))
-      findings.push_back(make_finding(source, pieces.value, *quotes));
-    for (const ParameterPieces& entry : entries_of(pieces)) {
-      if (!entry.value || entry.value->empty()) continue;
-      const std::string_view value = quoted_piece(source, pieces.list, *entry.value);
+      findings.add(make_finding(source, pieces.value, *quotes));
+    Entries entries(pieces);
+    while (const auto entry = entries.next()) {
+      if (!entry->value || entry->value->empty()) continue;
+      const std::string_view value = quoted_piece(source, pieces.list, *entry->value);
       if (const auto quotes = find_quotes(value))
-        findings.push_back(make_finding(source, value, *quotes));
+        findings.add(make_finding(source, value, *quotes));
     }
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

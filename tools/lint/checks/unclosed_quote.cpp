@@ -25,21 +25,19 @@ bool is_half_quoted(std::string_view value) {
          value.find(value.front(), 1) == std::string_view::npos;
 }
 
-void add_finding(const Source& source, std::string_view text, std::size_t at, Findings& findings) {
-  findings.push_back({source.range_of(text.substr(at, 1)), {text_fact("text", text.substr(at))}});
+void add_finding(const Source& source, std::string_view text, std::size_t at, Collector& findings) {
+  findings.add({source.range_of(text.substr(at, 1)), {text_fact("text", text.substr(at))}});
 }
 
 }  // namespace
 
-Findings check_unclosed_quote(const Source& source) {
-  Findings findings;
+void check_unclosed_quote(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.command_lines().size(); ++i) {
     const HeaderPieces& pieces = pieces_of(source, i);
     if (is_half_quoted(pieces.value)) add_finding(source, pieces.value, 0, findings);
     const std::size_t at = find_unclosed_quote(pieces.list);
     if (at < pieces.list.size()) add_finding(source, pieces.list, at, findings);
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -3,8 +3,8 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_unicode_blank(const Source& source) {
-  return find_odd_lines(source, OddKind::Blank);
+void check_unicode_blank(const Source& source, Collector& findings) {
+  find_odd_lines(source, OddKind::Blank, findings);
 }
 
 }  // namespace kelp::input::quill::lint

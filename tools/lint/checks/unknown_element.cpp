@@ -4,15 +4,13 @@
 
 namespace kelp::input::quill::lint {
 
-Findings check_unknown_element(const Source& source) {
-  Findings findings;
+void check_unknown_element(const Source& source, Collector& findings) {
   const std::vector<AtomRecord>& atoms = source.input().geometry.atoms;
   for (std::size_t i = 0; i < atoms.size(); ++i) {
     if (chem::elements::atomic_number_from_symbol(atoms[i].symbol)) continue;
     const std::string_view token = tokens_of(source.content(source.atom_lines()[i])).front();
-    findings.push_back({source.range_of(token), {text_fact("symbol", atoms[i].symbol)}});
+    findings.add({source.range_of(token), {text_fact("symbol", atoms[i].symbol)}});
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

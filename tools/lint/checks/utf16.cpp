@@ -16,12 +16,14 @@ bool has_nul_at(std::string_view text, std::size_t parity) {
 
 }  // namespace
 
-Findings check_utf16(const Source& source) {
+void check_utf16(const Source& source, Collector& findings) {
   const std::string_view text = source.text();
   const std::string_view mark = text.substr(0, 2);
-  if (mark == "\xFF\xFE" || mark == "\xFE\xFF") return {{{0, mark.size()}}};
-  if (has_nul_at(text, 0) || has_nul_at(text, 1)) return {{{0, 1}}};
-  return {};
+  if (mark == "\xFF\xFE" || mark == "\xFE\xFF") {
+    findings.add({{0, mark.size()}});
+  } else if (has_nul_at(text, 0) || has_nul_at(text, 1)) {
+    findings.add({{0, 1}});
+  }
 }
 
 }  // namespace kelp::input::quill::lint

@@ -38,8 +38,7 @@ std::string words_of_count(std::size_t count) {
 }  // namespace
 
 // Another rule reports a line that ended the atoms, and the lines after it that look like atoms.
-Findings check_wrong_field_count(const Source& source) {
-  Findings findings;
+void check_wrong_field_count(const Source& source, Collector& findings) {
   for (std::size_t i = 0; i < source.post_lines().size(); ++i) {
     if (source.input().post_commands[i].kind != PostCommandKind::Raw) continue;
     const std::size_t line = source.post_lines()[i];
@@ -47,12 +46,11 @@ Findings check_wrong_field_count(const Source& source) {
     const Tokens tokens = tokens_of(source.content(line));
     const PostLineShape* shape = find_meant_shape(tokens);
     if (shape == nullptr) continue;
-    findings.push_back({source.range_of(source.trimmed(line)),
-                        {text_fact("keyword", shape->keyword),
-                         text_fact("wanted", wanted_words[static_cast<std::size_t>(shape->kind)]),
-                         text_fact("found", words_of_count(tokens.size() - 1))}});
+    findings.add({source.range_of(source.trimmed(line)),
+                  {text_fact("keyword", shape->keyword),
+                   text_fact("wanted", wanted_words[static_cast<std::size_t>(shape->kind)]),
+                   text_fact("found", words_of_count(tokens.size() - 1))}});
   }
-  return findings;
 }
 
 }  // namespace kelp::input::quill::lint

@@ -10,6 +10,7 @@ void CollectedReports::add(const std::string& argument, FileReport report, bool 
   ++files_;
   if (!report.findings.empty()) ++files_with_findings_;
   for (const lint::Finding& finding : report.findings) ++counts_[finding.code];
+  for (const auto& [code, count] : report.more) counts_[code] += count;
   if (keeps_report && !report.findings.empty()) kept_.emplace(argument, std::move(report));
 }
 

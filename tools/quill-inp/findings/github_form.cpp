@@ -4,6 +4,7 @@
 
 #include "lint/lint.hpp"
 #include "lint/wording.hpp"
+#include "quill-inp/findings/more_findings.hpp"
 #include "quill-inp/text/terminal_text.hpp"
 
 namespace kelp::input::quill::tool {
@@ -43,6 +44,11 @@ std::string github_form(const FileReport& report) {
             ",line=" + std::to_string(place.line) + ",col=" + std::to_string(place.column) +
             ",title=" + std::string(finding.code) +
             "::" + escaped(shown_on_one_line(lint::words_of(finding).message), false) + "\n";
+  }
+  for (const auto& [code, count] : report.more) {
+    text += "::" + std::string(command_of(lint::find_rule(code)->severity)) +
+            " file=" + escaped(shown_on_one_line(report.name), true) +
+            ",title=" + std::string(code) + "::" + words_of_more(code, count) + "\n";
   }
   return text;
 }

@@ -99,6 +99,9 @@ void write_json_form(const FileReport& report, const JsonWriter::Sink& sink) {
   for (const lint::Finding& finding : report.findings)
     write_finding(json, finding, report.read.lines);
   json.end_list();
+  json.member("more").begin_object(one_line);
+  for (const auto& [code, count] : report.more) write_count(json, code, count);
+  json.end_object();
   json.end_object();
   json.finish();
 }

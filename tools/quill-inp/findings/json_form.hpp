@@ -8,6 +8,7 @@ namespace kelp::input::quill::tool {
 
 /// Writes the findings of a file as one JSON text on one line: the file, and for each finding its
 /// code, severity, group, place in bytes, line and column, words, facts, related places and mend.
+/// At the end, the numbers of the findings that are not shown, by their code.
 void write_json_form(const FileReport& report, const JsonWriter::Sink& sink);
 
 }  // namespace kelp::input::quill::tool

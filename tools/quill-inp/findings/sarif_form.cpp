@@ -5,6 +5,7 @@
 
 #include "lint/lint.hpp"
 #include "lint/wording.hpp"
+#include "quill-inp/findings/more_findings.hpp"
 #include "quill-inp/text/character_index.hpp"
 #include "quill-inp/text/hexadecimal.hpp"
 #include "quill-inp/text/terminal_text.hpp"
@@ -170,6 +171,41 @@ void write_tool(JsonWriter& json, std::string_view version) {
   json.end_object();
 }
 
+void write_more(JsonWriter& json, const FileReport& report) {
+  for (const auto& [code, count] : report.more) {
+    const lint::Rule* rule = lint::find_rule(code);
+    json.begin_object(one_line);
+    json.member("level").text(level_of(rule->severity));
+    write_message(json, "message", words_of_more(code, count));
+    json.member("associatedRule").begin_object(one_line);
+    json.member("id").text(code);
+    json.end_object();
+    json.member("locations").begin_list(one_line);
+    json.begin_object(one_line);
+    json.member("physicalLocation").begin_object(one_line);
+    write_artifact(json, report);
+    json.end_object();
+    json.end_object();
+    json.end_list();
+    json.end_object();
+  }
+}
+
+/// A log has no place for the number of results that it leaves out but the notifications.
+void write_invocation(JsonWriter& json, const std::vector<FileReport>& reports) {
+  const bool has_more = std::any_of(reports.begin(), reports.end(),
+                                    [](const FileReport& report) { return !report.more.empty(); });
+  if (!has_more) return;
+  json.member("invocations").begin_list(lines);
+  json.begin_object(lines);
+  json.member("executionSuccessful").truth(true);
+  json.member("toolExecutionNotifications").begin_list(lines);
+  for (const FileReport& report : reports) write_more(json, report);
+  json.end_list();
+  json.end_object();
+  json.end_list();
+}
+
 }  // namespace
 
 void write_sarif_form(const std::vector<FileReport>& reports, std::string_view version,
@@ -183,6 +219,7 @@ void write_sarif_form(const std::vector<FileReport>& reports, std::string_view v
   json.begin_object(lines);
   write_tool(json, version);
   json.member("columnKind").text("unicodeCodePoints");
+  write_invocation(json, reports);
   json.member("results").begin_list(lines);
   for (const FileReport& report : reports) {
     const CountedReport counted{report, CharacterIndex(report.read.text)};

@@ -6,6 +6,7 @@
 
 #include "lint/lint.hpp"
 #include "lint/wording.hpp"
+#include "quill-inp/findings/more_findings.hpp"
 #include "quill-inp/text/colors.hpp"
 #include "quill-inp/text/terminal_text.hpp"
 
@@ -83,6 +84,8 @@ std::string text_form(const FileReport& report, bool is_colored) {
     if (finding.range.end() > 0) text += marked_line(report, finding, place);
     text += std::string(indent) + "to fix: " + shown_on_one_line(words.advice) + "\n";
   }
+  for (const auto& [code, count] : report.more)
+    text += shown_on_one_line(report.name) + ": " + words_of_more(code, count) + "\n";
   return text;
 }
 

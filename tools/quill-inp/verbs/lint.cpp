@@ -40,6 +40,10 @@ constexpr Option files{"FILE", "", "The inputs"};
 constexpr Option fix{"--fix", "", "Write files in which the safe corrections are made"};
 constexpr Option diff{"--diff", "", "With --fix, only print the changes; exit code 1 if any"};
 
+/// So many findings of a rule are shown for a file, since nobody reads more, and since they take
+/// much more memory than the text. The others are counted.
+constexpr std::size_t most_of_a_rule = 1000;
+
 constexpr lint::Severity default_fail_on = lint::Severity::Warning;
 
 /// What a call does with every file.
@@ -109,8 +113,10 @@ class Linter {
       if (call_.shows_diff) return code;
     }
     FileReport report{input.name, std::move(input.read), {}};
-    report.findings = lint::find_all(report.read, options);
-    lint::keep_selected(report.findings, selection);
+    lint::FirstFindings first = lint::find_first(report.read, options, most_of_a_rule);
+    lint::keep_selected(first, selection);
+    report.findings = std::move(first.findings);
+    report.more = std::move(first.more);
     print(session, report);
     const bool has_failed = fails(report.findings, fail_on_for(call_, project));
     reports_.add(argument, std::move(report), call_.options.form == FindingForm::Sarif);

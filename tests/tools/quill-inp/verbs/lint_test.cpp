@@ -138,6 +138,80 @@ TEST_P(Lint, EndsAsItShould) { expect_outcome(GetParam()); }
 INSTANTIATE_TEST_SUITE_P(Table, Lint, testing::ValuesIn(calls),
                          [](const auto& call) { return std::string(call.param.name); });
 
+/// A line in which 1,002 entries are empty, and one finding that is an error.
+const std::string many = "#opt(" + std::string(1001, ',') + ")\n0 1\nHe 0 0 0\nC 0\n";
+
+/// The lines of a text from a number on, counted from 0.
+std::string lines_from(const std::string& text, std::size_t first) {
+  std::size_t at = 0;
+  for (; first > 0; --first) at = text.find('\n', at) + 1;
+  return text.substr(at);
+}
+
+const std::string last_of_many =
+    "<stdin>:4:3: error: the atom number '0' is below 1 [QL303]\n"
+    "    C 0\n"
+    "      ^\n"
+    "    to fix: count atoms from 1\n"
+    "<stdin>: and 2 more of QL212\n";
+
+TEST(LintOfManyFindings, ShowsTheFirstThousandOfACodeAndCountsTheOthers) {
+  const Outcome outcome = run_in(".", {"lint", "--statistics", "--fail-on=error", "-"}, many);
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_EQ(outcome.err, one_found);
+  EXPECT_EQ(lines_from(outcome.out, std::size_t{4} * 1000),
+            last_of_many +
+                "   1002  QL212  an empty entry in a parameter list\n"
+                "      1  QL303  an atom number below 1\n");
+}
+
+TEST(LintOfManyFindings, CountsThemInEveryForm) {
+  const Outcome github = run_in(".", {"lint", "-q", "--format=github", "-"}, many);
+  EXPECT_EQ(lines_from(github.out, 1000),
+            "::error file=<stdin>,line=4,col=3,title=QL303::the atom number '0' is below 1\n"
+            "::warning file=<stdin>,title=QL212::and 2 more of QL212\n");
+  const std::string json = run_in(".", {"lint", "-q", "--format=json", "-"}, many).out;
+  EXPECT_EQ(json.substr(json.rfind("], ")), "], \"more\": {\"QL212\": 2}}\n");
+  const std::string sarif = run_in(".", {"lint", "-q", "--format=sarif", "-"}, many).out;
+  const std::size_t begin = sarif.find("\"invocations\"");
+  EXPECT_EQ(
+      sarif.substr(begin, sarif.find("\"results\"") - begin),
+      "\"invocations\": [\n"
+      "        {\n"
+      "          \"executionSuccessful\": true,\n"
+      "          \"toolExecutionNotifications\": [\n"
+      "            {\"level\": \"warning\", \"message\": {\"text\": \"and 2 more of QL212\"}, "
+      "\"associatedRule\": {\"id\": \"QL212\"}, \"locations\": [{\"physicalLocation\": "
+      "{\"artifactLocation\": {\"uri\": \"%3cstdin%3e\"}}}]}\n"
+      "          ]\n"
+      "        }\n"
+      "      ],\n"
+      "      ");
+}
+
+TEST(LintOfManyFindings, CountsOnlyWhatIsSelected) {
+  const Outcome outcome = run_in(".", {"lint", "-q", "--ignore=QL212", "-"}, many);
+  EXPECT_EQ(outcome.out, last_of_many.substr(0, last_of_many.find("<stdin>: and")));
+  EXPECT_EQ(
+      run_in(".", {"lint", "-q", "--select=QL303", "--format=json", "-"}, many).out.find("QL212"),
+      std::string::npos);
+}
+
+TEST(LintOfManyFindings, FixesAllOfThem) {
+  const TemporaryFolder folder;
+  std::string text = "#opt\n0 1\nHe 0 0 0\n";
+  std::string fixed = text;
+  for (int i = 0; i < 1100; ++i) {
+    text +=
+        "C\xC2\xA0"
+        "1\n";
+    fixed += "C 1\n";
+  }
+  const std::string path = folder.write("job.qin", text);
+  EXPECT_EQ(run_in(folder.path(), {"lint", "-q", "--fix", "job.qin"}).code, 0);
+  EXPECT_EQ(content_of(path), fixed);
+}
+
 TEST(LintFix, MendsFilesAndReportsWhatIsLeft) {
   const TemporaryFolder folder;
   const std::string path = folder.write("job.qin", "\xEF\xBB\xBF" + comma);
