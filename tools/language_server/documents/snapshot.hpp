@@ -28,6 +28,7 @@ class Snapshot {
 
   const std::string& uri() const { return uri_; }
   std::int64_t version() const { return version_; }
+  PositionEncoding encoding() const { return encoding_; }
 
   /// The text, which is UTF-8, and what the reader made of it.
   const lossless::ReadText& read() const { return read_; }

@@ -53,33 +53,51 @@ class PackedTokens {
 
   void add(const LinePiece& piece) {
     const std::size_t type = index_of(type_of(piece.kind));
-    const int modifiers = piece.kind == PieceKind::Unread ? 1 : 0;
-    const std::size_t end = piece.range.end();
+    const std::size_t modifiers = piece.kind == PieceKind::Unread ? 1 : 0;
+    std::string_view rest = snapshot_.text().substr(piece.range.offset, piece.range.length);
     // A token is on one line, and the protocol ends lines where the reader does not.
-    for (std::size_t begin = piece.range.offset; begin < end;) {
-      const std::size_t line_end = std::min(snapshot_.text().find('\r', begin), end);
-      if (line_end > begin) add({begin, line_end - begin}, type, modifiers);
-      begin = line_end + 1;
+    while (!rest.empty()) {
+      const std::size_t size = std::min(rest.find('\r'), rest.size());
+      if (size > 0) add(snapshot_.range_of(rest.substr(0, size)), type, modifiers);
+      rest.remove_prefix(std::min(size + 1, rest.size()));
     }
   }
 
-  Json json() && { return {{"data", std::move(data_)}}; }
+  Json json() const { return {{"data", data_}}; }
 
  private:
-  void add(const lint::Range& range, std::size_t type, int modifiers) {
-    const PositionRange place = snapshot_.position_range_of(range);
-    const bool is_same_line = place.start.line == last_.line;
-    data_.push_back(place.start.line - last_.line);
-    data_.push_back(place.start.character - (is_same_line ? last_.character : 0));
-    data_.push_back(place.end.character - place.start.character);
+  void add(const lint::Range& range, std::size_t type, std::size_t modifiers) {
+    const std::size_t line_before = place_.line;
+    const std::size_t character_before = place_.character;
+    move_to(range.offset);
+    const bool is_same_line = place_.line == line_before;
+    data_.push_back(place_.line - line_before);
+    data_.push_back(place_.character - (is_same_line ? character_before : 0));
+    data_.push_back(units_between(range.offset, range.end()));
     data_.push_back(type);
     data_.push_back(modifiers);
-    last_ = place.start;
+  }
+
+  /// Moves on to the beginning of the next token. Counts from the token before it, so that a line
+  /// with many tokens takes no more time than many lines.
+  void move_to(std::size_t offset) {
+    const std::string_view gap = snapshot_.text().substr(offset_, offset - offset_);
+    if (gap.find_first_of("\r\n") == std::string_view::npos) {
+      place_.character += units_between(offset_, offset);
+    } else {
+      place_ = snapshot_.position_of(offset);
+    }
+    offset_ = offset;
+  }
+
+  std::size_t units_between(std::size_t begin, std::size_t end) const {
+    return count_units(snapshot_.text().substr(begin, end - begin), snapshot_.encoding());
   }
 
   const Snapshot& snapshot_;
-  Position last_ = {};
-  Json data_ = Json::array();
+  std::size_t offset_ = 0;  // of the last token
+  Position place_ = {};     // of the last token
+  std::vector<std::size_t> data_ = {};
 };
 
 Json tokens_between(const Snapshot& snapshot, const lint::Range& range) {
@@ -89,7 +107,7 @@ Json tokens_between(const Snapshot& snapshot, const lint::Range& range) {
     if (snapshot.lines()[i].offset > range.end()) break;
     for (const LinePiece& piece : find_line_pieces(*source, i)) tokens.add(piece);
   }
-  return std::move(tokens).json();
+  return tokens.json();
 }
 
 }  // namespace
