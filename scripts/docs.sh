@@ -7,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
 . scripts/support/npm.sh
 
-need_packages doxygen python3 linkchecker chromium
+need_packages doxygen python3 chromium
 
 tools=build/site-tools
 install_npm_packages docs/site "$tools"

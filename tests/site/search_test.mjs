@@ -7,7 +7,8 @@ import { addressOf, openTab, setLook, startBrowser } from './browser.mjs';
 
 const FOUND = [
   // words, and the address of a result among the first three
-  ['decimal comma', 'ql104.html'],
+  ['decimal comma', 'traps.html#a-decimal-comma'],
+  ['ends the atoms too early', 'ql104.html'],
   ['set_parameter', 'cpp-InputEditor.html#set_parameter'],
   ['try_parse_double', 'cpp-core-text-header.html#try_parse_double'],
   ['grammar', 'format.html#grammar'],
