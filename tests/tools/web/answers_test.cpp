@@ -114,10 +114,10 @@ TEST_P(Findings, AreThoseOfTheLinter) {
 
 const Row findings[] = {
     {"NoneInAGoodText", "#sp\n\n0 1\nHe 0.000000 0.000000 0.000000\n",
-     R"({"file": "input", "findings": []}
+     R"({"file": "input", "findings": [], "more": {}}
 )"},
     {"AMendThatIsSafe", with_a_comma,
-     R"({"file": "input", "findings": [{"code": "QL104", "severity": "error", "group": "geometry", "line": 4, "column": 7, "offset": 16, "length": 3, "message": "no atoms are read because of this line: '0,1' is not a number; one further line that looks like an atom is kept as raw text", "advice": "write a symbol and three numbers with decimal points", "facts": {"atoms": 0, "lost": 1, "word": "0,1"}, "related": [], "fix": {"safe": true, "edits": [{"offset": 17, "length": 1, "text": "."}]}}]}
+     R"({"file": "input", "findings": [{"code": "QL104", "severity": "error", "group": "geometry", "line": 4, "column": 7, "offset": 16, "length": 3, "message": "no atoms are read because of this line: '0,1' is not a number; one further line that looks like an atom is kept as raw text", "advice": "write a symbol and three numbers with decimal points", "facts": {"atoms": 0, "lost": 1, "word": "0,1"}, "related": [], "fix": {"safe": true, "edits": [{"offset": 17, "length": 1, "text": "."}]}}], "more": {}}
 )"},
 };
 INSTANTIATE_TEST_SUITE_P(Table, Findings, testing::ValuesIn(findings), name_of);
