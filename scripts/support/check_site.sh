@@ -2,20 +2,25 @@
 # Checks the built site as its readers use it: the tests of tests/site look at its links and open its pages
 # in a browser.
 #
-#   check_site.sh SITE TOOLS
+#   check_site.sh SITE TOOLS PROGRAM
 #
-# TOOLS is the folder with the packages of docs/site/package-lock.json.
+# TOOLS is the folder with the packages of docs/site/package-lock.json. PROGRAM is quill-inp, with which the
+# page "Try it" is compared, in a build that has unpacked the corpus of the fuzzers.
 set -euo pipefail
 site=$(realpath "$1")
 tools=$(realpath "$2")
+program=$(realpath "$3")
+corpus=$(realpath "$(dirname "$3")/../../fuzz/corpus")
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
 # Node looks for packages in the folders above a module.
 rm -rf "$tools/tests"
 cp -r tests/site "$tools/tests"
-if ! KELP_QUILL_INP_TREE=$PWD KELP_QUILL_INP_SITE=$site node --test --test-reporter=spec \
-  "$tools"/tests/*_test.mjs >"$scratch/tests" 2>&1; then
+texts=$PWD/examples/inputs
+for target in parse document edit lines lint surgery; do texts+=:$corpus/$target; done
+export KELP_QUILL_INP_TREE=$PWD KELP_QUILL_INP_SITE=$site KELP_QUILL_INP_PROGRAM=$program KELP_QUILL_INP_TEXTS=$texts
+if ! node --test --test-reporter=spec "$tools"/tests/*_test.mjs >"$scratch/tests" 2>&1; then
   cat "$scratch/tests" >&2
   exit 1
 fi

@@ -27,6 +27,8 @@ export async function openTab(browser) {
   const tab = await browser.newPage();
   tab.problems = [];
   tab.on('console', (message) => {
+    // What the browser says about drawing without a graphics card is not about the page.
+    if (/WebGL/.test(message.text())) return;
     if (['error', 'warn'].includes(message.type())) tab.problems.push(`console: ${message.text()}`);
   });
   tab.on('pageerror', (error) => tab.problems.push(`exception: ${error.message}`));

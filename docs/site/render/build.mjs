@@ -1,9 +1,9 @@
 // Makes the site: build.mjs TREE XML SITE VERSION
 //
-// XML is the folder in which Doxygen wrote what it found in the headers. A page "try-it.html" that is
-// already in SITE gets its place in the navigation.
+// XML is the folder in which Doxygen wrote what it found in the headers. SITE/try-it/ is made by
+// docs/site/try-it/build.mjs.
 
-import { copyFileSync, existsSync, readdirSync, writeFileSync } from 'node:fs';
+import { copyFileSync, readdirSync, writeFileSync } from 'node:fs';
 import { basename, join } from 'node:path';
 import { createRequire } from 'node:module';
 
@@ -15,6 +15,7 @@ import { makePictures } from './pictures/all.mjs';
 import { referenceGroup, referencePages } from './reference/pages.mjs';
 import { searchEntries, searchScript } from './search.mjs';
 import { findingPages, groupsOf } from './sources.mjs';
+import { tryItEntry, tryItPage } from './try_it.mjs';
 
 const [root, xml, site, version] = process.argv.slice(2);
 const PROJECT = {
@@ -33,8 +34,7 @@ const NOT_FOUND = {
 
 function allGroups() {
   const [start, ...others] = groupsOf(root);
-  const extra = existsSync(join(site, 'try-it.html')) ? [{ file: 'try-it.html', title: 'Try it' }] : [];
-  const pages = [{ file: 'index.html', title: 'Home' }, ...extra, ...start.pages];
+  const pages = [{ file: 'index.html', title: 'Home' }, tryItEntry, ...start.pages];
   const project = others.findIndex(({ title }) => title === 'Project');
   return [{ title: start.title, pages }, ...others.slice(0, project), referenceGroup, ...others.slice(project)];
 }
@@ -56,6 +56,7 @@ const render = makeRenderer({ root, isPage: (source) => ofPages.has(source), fil
 
 const pages = [
   homePage(root, highlight, groups),
+  tryItPage(root),
   ...sources.map(({ source, file }) => ({ file, ...render(source) })),
   ...referencePages(xml, highlight),
 ];

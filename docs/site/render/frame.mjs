@@ -38,21 +38,28 @@ ${items.join('')}</ul></nav>
 </details>`;
 }
 
-/** Makes a function from {file, title, html, contents, kind} to a whole page. */
+function policyOf(policy) {
+  return policy && `\n<meta http-equiv="Content-Security-Policy" content="${escapeHtml(policy)}">`;
+}
+
+/**
+ * Makes a function from {file, title, html, contents, kind, policy, styles, scripts} to a whole page. The last
+ * three are a content security policy, and files that only this page loads.
+ */
 export function makeFrame(groups, { project, version, brief }) {
   const files = new Set(groups.flatMap(({ pages }) => pages.map(({ file }) => file)));
   const mainPages = MAIN_PAGES.filter(([file]) => files.has(file));
 
-  return ({ file, title, html, contents = [], kind = 'article' }) => `<!DOCTYPE html>
+  return ({ file, title, html, contents = [], kind = 'article', policy = '', styles = [], scripts = [] }) => `<!DOCTYPE html>
 <html lang="en">
 <head>
-<meta charset="utf-8">
+<meta charset="utf-8">${policyOf(policy)}
 <meta name="viewport" content="width=device-width, initial-scale=1">
 <meta name="color-scheme" content="light dark">
 <meta name="description" content="${escapeHtml(`${title}: ${brief}`)}">
 <title>${escapeHtml(title)}</title>
 <link rel="icon" href="favicon.svg" type="image/svg+xml">
-<link rel="stylesheet" href="site.css">
+<link rel="stylesheet" href="site.css">${styles.map((name) => `\n<link rel="stylesheet" href="${name}">`).join('')}
 </head>
 <body class="${kind}">
 <a class="skip" href="#text">To the text</a>
@@ -77,7 +84,7 @@ ${html}
 </main>
 </div>
 <footer class="site">${project} ${version}: ${escapeHtml(brief)}</footer>
-<script src="site.js"></script>
+<script src="site.js"></script>${scripts.map((name) => `\n<script src="${name}"></script>`).join('')}
 </body>
 </html>
 `;

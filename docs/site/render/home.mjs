@@ -54,8 +54,6 @@ ${pages.filter(({ file }) => file !== 'index.html').map(({ file, title: name }) 
 }
 
 export function homePage(root, highlight, groups) {
-  const hasTryIt = groups.some(({ pages }) => pages.some(({ file }) => file === 'try-it.html'));
-  const tryIt = hasTryIt ? '<a class="button" href="try-it.html">Try it in the browser</a>' : '';
   const words = 'A C++17 library, a Python package and a tool for the shell that read, check, edit and write the plain-text inputs of a computational-chemistry engine.';
   return {
     file: 'index.html',
@@ -64,7 +62,8 @@ export function homePage(root, highlight, groups) {
     sections: [{ anchor: '', heading: 'libkelp_quill_inp', text: words }],
     html: `<h1>QUILL inputs, edited without losing a line</h1>
 <p class="lead">${words}</p>
-<p class="actions"><a class="button" href="getting-started.html">Get started</a> ${tryIt}</p>
+<p class="actions"><a class="button" href="getting-started.html">Get started</a>
+<a class="button" href="try-it.html">Try it in the browser</a></p>
 <div class="first">
 ${annotatedInput(root, highlight)}
 ${tabs(root, highlight)}

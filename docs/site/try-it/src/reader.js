@@ -1,0 +1,70 @@
+// The reader, as the page asks it: in a worker from a blob, since a page that is opened as a file can
+// start no other. Of texts that come faster than they are read, only the last one is read.
+
+// What is asked first, if several answers are waited for.
+const tasks = ["examine", "mend", "document"];
+
+function bytesOfBase64(digits) {
+  return Uint8Array.from(atob(digits), (character) => character.charCodeAt(0));
+}
+
+export class Reader {
+  #worker;
+  #ready;
+  #number = 0;
+  #busy = null;
+  #waiting = new Map();
+
+  /// `source` is the script of the worker, `wasm` the WebAssembly in base64.
+  constructor(source, wasm) {
+    const address = URL.createObjectURL(new Blob([source], { type: "text/javascript" }));
+    this.#worker = new Worker(address);
+    this.#ready = new Promise((resolve, reject) => {
+      this.#worker.onmessage = resolve;
+      this.#worker.onerror = reject;
+    }).then(() => (this.#worker.onmessage = (event) => this.#finish(event.data)));
+    this.#worker.postMessage({ wasm: bytesOfBase64(wasm) });
+  }
+
+  /// Returns all about a text but its document; null if another text came before this one was begun.
+  examine(bytes) {
+    return this.#ask("examine", bytes);
+  }
+
+  /// Returns the document of a text as JSON; null as above. Most of the time goes into its numbers.
+  async document(bytes) {
+    const answer = await this.#ask("document", bytes);
+    return answer && answer.document;
+  }
+
+  /// Returns the text with all its safe fixes made; null as above.
+  async mend(bytes) {
+    const answer = await this.#ask("mend", bytes);
+    return answer && answer.mended;
+  }
+
+  async #ask(task, bytes) {
+    await this.#ready;
+    return new Promise((resolve) => {
+      this.#waiting.get(task)?.resolve(null);
+      this.#waiting.set(task, { task, bytes, resolve, number: ++this.#number });
+      this.#next();
+    });
+  }
+
+  #next() {
+    const next = tasks.find((task) => this.#waiting.has(task));
+    if (this.#busy || !next) return;
+    this.#busy = this.#waiting.get(next);
+    this.#waiting.delete(next);
+    const { task, bytes, number } = this.#busy;
+    this.#worker.postMessage({ task, bytes, number });
+  }
+
+  #finish(answer) {
+    const { resolve } = this.#busy;
+    this.#busy = null;
+    resolve(answer);
+    this.#next();
+  }
+}

@@ -1,0 +1,38 @@
+// Runs the reader beside the page, so that typing never waits for it. The first message holds the
+// WebAssembly; each later one { number, bytes, task } is answered by one with the same number.
+
+const utf8 = new TextDecoder("utf-8", { ignoreBOM: true });
+let reader = null;
+
+function answer(make) {
+  reader[make]();
+  const begin = reader._web_answer();
+  return reader.HEAPU8.slice(begin, begin + reader._web_answer_size());
+}
+
+function read(bytes) {
+  const room = reader._web_room(bytes.length);
+  reader.HEAPU8.set(bytes, room);
+  reader._web_read();
+}
+
+const tasks = {
+  examine: () => ({
+    account: JSON.parse(utf8.decode(answer("_web_account"))),
+    findings: JSON.parse(utf8.decode(answer("_web_findings"))).findings,
+    canonical: answer("_web_canonical_text"),
+    difference: answer("_web_difference"),
+  }),
+  document: () => ({ document: utf8.decode(answer("_web_document")) }),
+  mend: () => ({ mended: answer("_web_mended_text") }),
+};
+
+self.onmessage = async ({ data }) => {
+  if (data.wasm) {
+    reader = await self.makeQuillReader({ wasmBinary: data.wasm });
+    self.postMessage({ ready: true });
+    return;
+  }
+  read(data.bytes);
+  self.postMessage({ number: data.number, ...tasks[data.task]() });
+};

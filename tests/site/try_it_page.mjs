@@ -1,0 +1,81 @@
+// Opens "Try it" in a browser with a picture of molecules, and asks the program what it says of a text.
+
+import { spawnSync } from 'node:child_process';
+import { mkdtempSync, readFileSync, readdirSync, rmSync, writeFileSync } from 'node:fs';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
+import { pathToFileURL } from 'node:url';
+import puppeteer from 'puppeteer-core';
+
+const { KELP_QUILL_INP_SITE: site, KELP_QUILL_INP_PROGRAM: program, KELP_QUILL_INP_TEXTS: texts } = process.env;
+
+export const address = pathToFileURL(join(site, 'try-it.html')).href;
+
+/** A browser that draws in software, so that it needs no graphics card. */
+export function startBrowser() {
+  return puppeteer.launch({
+    executablePath: '/usr/bin/chromium',
+    protocolTimeout: 60000,
+    args: ['--no-sandbox', '--use-angle=swiftshader', '--enable-unsafe-swiftshader', '--disable-quic', '--no-first-run',
+      '--disable-background-networking', '--disable-component-update', '--disable-sync'],
+  });
+}
+
+/** A tab with the page, ready; `problems` are errors on the console, exceptions and what is not loaded. */
+export async function openPage(browser, fragment = '') {
+  const tab = await browser.newPage();
+  tab.problems = [];
+  tab.on('console', (message) => message.type() === 'error' && tab.problems.push(`console: ${message.text()}`));
+  tab.on('pageerror', (error) => tab.problems.push(`exception: ${error.message}`));
+  tab.on('requestfailed', (request) => tab.problems.push(`not loaded: ${request.url()}`));
+  tab.on('request', (request) => /^https?:/.test(request.url()) && tab.problems.push(`host: ${request.url()}`));
+  await tab.setViewport({ width: 1400, height: 900 });
+  await tab.goto(address + fragment);
+  await tab.waitForFunction(() => globalThis.tryIt?.shown().answers > 0, { timeout: 60000 });
+  return tab;
+}
+
+/** Shows bytes on the page as an opened file does, and returns what the page then shows. */
+export function examined(tab, bytes) {
+  return tab.evaluate(async (digits) => {
+    const fromDigits = Uint8Array.from(atob(digits), (character) => character.charCodeAt(0));
+    const digitsOf = (all) => btoa(Array.from(all, (byte) => String.fromCharCode(byte)).join(''));
+    globalThis.tryIt.showBytes(fromDigits);
+    await globalThis.tryIt.settled();
+    const { account, findings, canonical, difference, bytes: read } = globalThis.tryIt.shown();
+    const document = await globalThis.tryIt.document();
+    return { account, findings, document, canonical: digitsOf(canonical), difference: digitsOf(difference),
+      read: digitsOf(read) };
+  }, Buffer.from(bytes).toString('base64'));
+}
+
+/** Returns what the program prints about a file named "input" with these bytes. */
+export class Program {
+  #folder = mkdtempSync(join(tmpdir(), 'try_it'));
+
+  close() {
+    rmSync(this.#folder, { recursive: true });
+  }
+
+  write(bytes) {
+    writeFileSync(join(this.#folder, 'input'), bytes);
+  }
+
+  read() {
+    return readFileSync(join(this.#folder, 'input'));
+  }
+
+  /** The output; its exit code may say that something was found. */
+  run(...args) {
+    const { stdout, stderr, status } = spawnSync(program, [...args, 'input'], { cwd: this.#folder });
+    if (status > 1) throw new Error(`${args}: ${stderr}`);
+    return stdout;
+  }
+}
+
+/** All texts that the page is compared with the program on: [name, bytes]. */
+export function allTexts() {
+  return texts.split(':').flatMap((folder) => readdirSync(folder, { withFileTypes: true })
+    .filter((entry) => entry.isFile())
+    .map(({ name }) => [`${folder}/${name}`, readFileSync(join(folder, name))]));
+}
