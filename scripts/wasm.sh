@@ -3,9 +3,9 @@
 # them in Node. The standard library of Debian's Emscripten is an older libc++ that converts no doubles, so
 # that these are tests of what takes its place, too.
 #
-#   scripts/wasm.sh [tests [unit | interface | properties | exactness | lossless]...]
+#   scripts/wasm.sh [tests [FOLDER...]]
 #
-# By default, the tests are those of the folders unit and interface.
+# A FOLDER is one of tests/; by default it is unit.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
@@ -42,12 +42,18 @@ build_reader() {
   echo "the reader for web pages is in build/wasm/tools/web"
 }
 
+# Tests that ask the C library what is right, where Emscripten's says something else: it reads "-nan" as a NaN
+# without its sign, and prints no long double.
+asking_the_c_library=ParseDoubleAsStrtod.OfRandomBits*:ParseDoubleOfEveryShortToken.FollowsTheSpellingOfNames
+asking_the_c_library+=:ParseDoubleHalfway.IsTooLargeAboveTheLargestDoubleAndRightBelowHalfwayIsNot
+
 # run_tests FOLDER...
 run_tests() {
   local folder
   build_googletest build/wasm-googletest -DCMAKE_CXX_FLAGS=-fexceptions \
     -DCMAKE_TOOLCHAIN_FILE=/usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake
   configure -DKELP_QUILL_INP_BUILD_TESTS=ON -DKELP_QUILL_INP_BUILD_EXAMPLES=ON \
+    "-DKELP_QUILL_INP_TEST_ARGUMENTS=--gtest_filter=-$asking_the_c_library" \
     "-DCMAKE_PREFIX_PATH=$packages;$PWD/build/wasm-googletest/installed"
   for folder in "$@"; do
     quietly build/wasm/build.log cmake --build build/wasm --target "tests/$folder/all"
@@ -60,7 +66,7 @@ if [ $# -eq 0 ]; then
   build_reader
 elif [ "$1" = tests ]; then
   shift
-  if [ $# -eq 0 ]; then set -- unit interface; fi
+  if [ $# -eq 0 ]; then set -- unit; fi
   run_tests "$@"
 else
   echo "usage: wasm.sh [tests [FOLDER...]]" >&2
