@@ -9,7 +9,10 @@
 //   console          carried out in a shell, with what it prints (tests/tools/quill_inp);
 //                    on docs/traps.md with the input before it (qin, escaped)
 //   cmake, meson, sh built and run (first_program.sh, tests/package, and the scripts of CI)
-//   python           run, with what it prints (tests/python/documentation_test.py)
+//   python           run, with what it prints (tests/python/documentation_test.py); on
+//                    docs/python-reference.md, what the package says
+//                    (tests/python/reference_test.py)
+//   elisp, lua, vim  lines for the init file of an editor, with paths of the reader: not run
 //   toml             read as the choices of a project (tests/tools/quill-inp/findings)
 //   abnf             compared with the reader on many lines (grammar_test.cpp)
 
@@ -37,12 +40,14 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/architecture.md", {""}},
     {"docs/cheat-sheet.md", {"qin"}},
     {"docs/editing.md", {"cpp"}},
+    {"docs/editors.md", {"elisp", "lua", "sh", "vim"}},
     {"docs/embedding.md", {"cpp"}},
     {"docs/findings.md", {}},
     {"docs/format.md", {"abnf", "cpp", "diagnostics", "qin", "written"}},
     {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
     {"docs/packaging.md", {"cmake", "cpp", "meson", "sh"}},
     {"docs/performance.md", {"text"}},
+    {"docs/python-reference.md", {"python"}},
     {"docs/python.md", {"python", "text"}},
     {"docs/quill-inp.md", {"console", "text", "toml"}},
     {"docs/traps.md", {"console", "escaped", "qin"}},
