@@ -21,10 +21,10 @@ bool take_message(MessageReader& reader, Server& server) {
       server.receive(incoming.text);
       return true;
     case Incoming::Kind::TooLong:
-      server.refuse(ErrorCode::InvalidRequest, "the message is too long");
+      server.refuse({ErrorCode::InvalidRequest, "the message is too long"});
       return true;
     case Incoming::Kind::Unframed:
-      server.refuse(ErrorCode::ParseError, "a header has no valid Content-Length");
+      server.refuse({ErrorCode::ParseError, "a header has no valid Content-Length"});
       return false;
     case Incoming::Kind::End:
       break;

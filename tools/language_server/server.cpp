@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "language_server/features/feature.hpp"
+#include "language_server/handlers/checking.hpp"
 #include "language_server/handlers/feature_requests.hpp"
 #include "language_server/handlers/handlers.hpp"
 
@@ -40,12 +41,15 @@ void Server::receive(std::string_view text) {
       inbox_.add(std::move(message));
     }
   } catch (const ResponseError& error) {
-    state_.outbox.refuse(nullptr, error);
+    refuse(error);
   }
 }
 
-void Server::refuse(ErrorCode code, const std::string& reason) {
-  state_.outbox.refuse(nullptr, ResponseError(code, reason));
+void Server::refuse(const ResponseError& error) {
+  state_.outbox.refuse(nullptr, error);
+  Message unknown;
+  unknown.kind = Message::Kind::Unknown;
+  inbox_.add(std::move(unknown));
 }
 
 void Server::cancel(const Message& notification) {
@@ -54,12 +58,23 @@ void Server::cancel(const Message& notification) {
     state_.outbox.refuse(id, ResponseError(ErrorCode::RequestCancelled, "cancelled"));
 }
 
+bool Server::has_work() const {
+  const bool is_running = state_.phase == Phase::Running;
+  return !inbox_.is_empty() || (is_running && has_findings_to_publish(state_));
+}
+
 void Server::work() {
+  if (inbox_.is_empty()) {
+    check_or_publish(state_);
+    return;
+  }
   const Message message = inbox_.take();
   if (message.kind == Message::Kind::Request) {
     answer(message);
-  } else {
+  } else if (message.kind == Message::Kind::Notification) {
     take(message);
+  } else {
+    state_.documents.lose_all();
   }
 }
 

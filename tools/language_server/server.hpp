@@ -20,16 +20,16 @@ class Server {
   /// waits, and answers to the server's own requests, are carried out at once.
   void receive(std::string_view text);
 
-  /// Tells the client that a message could not be taken.
-  void refuse(ErrorCode code, const std::string& reason);
+  /// Tells the client that a message could not be understood. It may have been a change of a text.
+  void refuse(const ResponseError& error);
 
   /// Whether there is something to do without another message.
-  bool has_work() const { return !inbox_.is_empty(); }
+  bool has_work() const;
 
   /// How many messages wait.
   std::size_t count_waiting() const { return inbox_.size(); }
 
-  /// Does the next thing: answers a message.
+  /// Does the next thing: answers a message or, if none waits, checks a text.
   void work();
 
   bool is_over() const { return state_.phase == Phase::Over; }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 #include "kelp/core/text.hpp"
 
@@ -12,6 +13,9 @@ namespace {
 constexpr std::string_view severity_names[] = {"info", "warning", "error"};
 constexpr std::string_view group_names[] = {
     "file", "header", "geometry", "references", "post-processing", "writing", "chemistry"};
+
+// Text after a list, the second of two equal names, a value without a name, a dropped line.
+constexpr std::string_view codes_without_effect[] = {"QL202", "QL210", "QL211", "QL213", "QL301"};
 
 }  // namespace
 
@@ -26,6 +30,11 @@ const std::vector<Group>& all_groups() {
       Group::File,           Group::Header,  Group::Geometry, Group::References,
       Group::PostProcessing, Group::Writing, Group::Chemistry};
   return groups;
+}
+
+bool points_at_text_without_effect(std::string_view code) {
+  return std::find(std::begin(codes_without_effect), std::end(codes_without_effect), code) !=
+         std::end(codes_without_effect);
 }
 
 const Rule* find_rule(std::string_view code) {

@@ -17,6 +17,9 @@ struct FindingWords {
   std::string advice = {};
 };
 
+/// What stands before an advice.
+inline constexpr std::string_view advice_label = "to fix: ";
+
 /// Returns the words for a finding with the code of a rule. They may hold bytes of the text, as
 /// they are.
 FindingWords words_of(const Finding& finding);

@@ -35,12 +35,7 @@ void OpenDocument::begin_change() {
 void OpenDocument::change(std::int64_t version, const Json& changes) {
   begin_change();
   version_ = version;
-  try {
-    for (const Json& change : changes) apply(change);
-  } catch (const ResponseError&) {
-    is_lost_ = true;
-    throw;
-  }
+  for (const Json& change : changes) apply(change);
 }
 
 void OpenDocument::replace_all(std::string text) {
@@ -69,6 +64,10 @@ OpenDocument& OpenDocuments::open(const std::string& uri, std::int64_t version, 
                                   PositionEncoding encoding) {
   OpenDocument document(uri, version, std::move(text), encoding);
   return documents_.insert_or_assign(uri, std::move(document)).first->second;
+}
+
+void OpenDocuments::lose_all() {
+  for (auto& [uri, document] : documents_) document.lose();
 }
 
 OpenDocument* OpenDocuments::find(const std::string& uri) {

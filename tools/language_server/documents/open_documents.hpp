@@ -19,14 +19,15 @@ class OpenDocument {
  public:
   OpenDocument(std::string uri, std::int64_t version, std::string text, PositionEncoding encoding);
 
+  const std::string& uri() const { return uri_; }
   std::int64_t version() const { return version_; }
 
   /// Makes the changes of a "textDocument/didChange", one after another, each to the text that the
   /// ones before it have made. Throws ResponseError, InvalidParams, if one of them does not fit;
-  /// the text is then lost until a change gives all of it.
+  /// the text then has those before it. A change that gives all of the text ends that it is lost.
   void change(std::int64_t version, const Json& changes);
 
-  /// Whether the text is no longer known to be that of the editor.
+  /// Whether the text is no longer known to be that of the editor, because a change was lost.
   bool is_lost() const { return is_lost_; }
   void lose() { is_lost_ = true; }
 
@@ -62,6 +63,9 @@ class OpenDocuments {
 
   /// Returns an open text, or a null pointer. The pointer is valid until the text is closed.
   OpenDocument* find(const std::string& uri);
+
+  /// To be called when a change was lost and nobody knows of which text.
+  void lose_all();
 
   std::map<std::string, OpenDocument>& all() { return documents_; }
 

@@ -27,6 +27,7 @@ namespace kelp::input::quill::language_server {
 /// What the user of the editor has chosen.
 struct Settings {
   bool shows_atom_numbers = true;  // as inlay hints
+  std::string pages = {};          // the address before the name of a page: "https://host/lint/"
 };
 
 /// What the client can do with an answer.
@@ -41,6 +42,12 @@ struct ClientAbilities {
   bool can_register_watchers = false;     // workspace/didChangeWatchedFiles
   bool can_refresh_diagnostics = false;   // workspace/diagnostic/refresh
   bool can_pull_diagnostics = false;      // textDocument/diagnostic
+  bool has_related_places = false;        // of diagnostics
+  bool has_unnecessary_tag = false;       // of diagnostics
+  bool has_code_links = false;            // from a diagnostic to the page of its code
+  bool has_configuration_events = false;  // workspace/didChangeConfiguration, if registered
+  bool can_refresh_hints = false;         // workspace/inlayHint/refresh
+  bool has_versioned_edits = false;       // workspace edits with versions of texts
 };
 
 /// What a feature may use besides the text.

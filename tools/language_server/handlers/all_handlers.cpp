@@ -6,15 +6,21 @@ const std::vector<RequestHandler>& request_handlers() {
   static const std::vector<RequestHandler> handlers = {
       {"initialize", initialize},
       {"shutdown", shut_down},
+      {"textDocument/diagnostic", pull_diagnostics},
   };
   return handlers;
 }
 
 const std::vector<NotificationHandler>& notification_handlers() {
   static const std::vector<NotificationHandler> handlers = {
-      {"initialized", take_initialized},    {"exit", exit},
-      {"textDocument/didOpen", open_text},  {"textDocument/didChange", change_text},
-      {"textDocument/didSave", take_saved}, {"textDocument/didClose", close_text},
+      {"initialized", take_initialized},
+      {"exit", exit},
+      {"textDocument/didOpen", open_text},
+      {"textDocument/didChange", change_text},
+      {"textDocument/didSave", take_saved},
+      {"textDocument/didClose", close_text},
+      {"workspace/didChangeConfiguration", change_configuration},
+      {"workspace/didChangeWatchedFiles", take_watched_files},
   };
   return handlers;
 }

@@ -1,6 +1,8 @@
 #include "language_server/handlers/feature_requests.hpp"
 
+#include "language_server/handlers/checking.hpp"
 #include "language_server/handlers/handlers.hpp"
+#include "language_server/project/file_address.hpp"
 
 namespace kelp::input::quill::language_server {
 
@@ -24,11 +26,26 @@ struct Call {
   Json operator()(ParamsFeature answer) const { return answer(snapshot, params, surroundings); }
 };
 
+Surroundings surroundings_of(ServerState& state, OpenDocument& document) {
+  Surroundings surroundings{state.settings, state.client};
+  surroundings.path = path_of_address(document.uri());
+  surroundings.known_commands = project_of(state, document).choices.known_commands;
+  surroundings.findings = [&]() -> const lint::Findings& {
+    return check_of(state, document).findings;
+  };
+  if (surroundings.path.empty()) return surroundings;
+  surroundings.read_reference = [&](const std::string& path) {
+    return find_reference(state, document, path);
+  };
+  return surroundings;
+}
+
 }  // namespace
 
 Json answer_feature(ServerState& state, const Feature& feature, const Json& params) {
-  const Snapshot& snapshot = document_of(state, params).snapshot();
-  const Surroundings surroundings{state.settings, state.client};
+  OpenDocument& document = document_of(state, params);
+  const Snapshot& snapshot = document.snapshot();
+  const Surroundings surroundings = surroundings_of(state, document);
   return std::visit(Call{snapshot, params, surroundings}, feature.answer);
 }
 

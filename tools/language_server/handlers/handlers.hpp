@@ -30,9 +30,16 @@ const std::vector<NotificationHandler>& notification_handlers();
 
 // lifecycle.cpp
 Json initialize(ServerState& state, const Json& params);
-void take_initialized(ServerState& state, const Json& params);
 Json shut_down(ServerState& state, const Json& params);
 void exit(ServerState& state, const Json& params);
+
+// configuration.cpp
+void take_initialized(ServerState& state, const Json& params);
+void change_configuration(ServerState& state, const Json& params);
+void take_watched_files(ServerState& state, const Json& params);
+
+// pulled_diagnostics.cpp
+Json pull_diagnostics(ServerState& state, const Json& params);
 
 // text_synchronization.cpp
 void open_text(ServerState& state, const Json& params);

@@ -1,8 +1,7 @@
-#include <algorithm>
-
 #include "language_server/handlers/handlers.hpp"
 #include "language_server/protocol/response_error.hpp"
 #include "language_server/session/client_abilities.hpp"
+#include "language_server/session/settings.hpp"
 
 namespace kelp::input::quill::language_server {
 
@@ -14,6 +13,10 @@ Json capabilities(const ServerState& state) {
       {"positionEncoding", name_of(state.encoding)},
       {"textDocumentSync",
        {{"openClose", true}, {"change", incremental}, {"save", {{"includeText", false}}}}},
+      {"diagnosticProvider",
+       {{"identifier", "quill-inp"},
+        {"interFileDependencies", true},
+        {"workspaceDiagnostics", false}}},
   };
   for (const Feature& feature : all_features())
     capabilities[std::string(feature.capability)] = feature.options;
@@ -28,12 +31,11 @@ Json initialize(ServerState& state, const Json& params) {
   const Json& client = find_member(params, "capabilities");
   state.encoding = chosen_encoding(client);
   state.client = abilities_of(client);
+  state.settings = settings_of(find_member(params, "initializationOptions"));
   state.phase = Phase::Running;
   return {{"capabilities", capabilities(state)},
           {"serverInfo", {{"name", "quill-inp"}, {"version", state.options.version}}}};
 }
-
-void take_initialized(ServerState&, const Json&) {}
 
 Json shut_down(ServerState& state, const Json&) {
   state.phase = Phase::ShutDown;

@@ -15,6 +15,7 @@ struct Message {
     Request,       // has `id` and `method`, and gets an answer
     Notification,  // has `method`
     Response,      // answers the request `id` of the server; `is_error` says whether it failed
+    Unknown,       // could not be understood, and may have been anything
   };
 
   Kind kind = Kind::Notification;

@@ -49,6 +49,16 @@ ClientAbilities abilities_of(const Json& capabilities) {
       says_true(workspace, {"didChangeWatchedFiles", "dynamicRegistration"});
   client.can_refresh_diagnostics = says_true(workspace, {"diagnostics", "refreshSupport"});
   client.can_pull_diagnostics = find_member(text, "diagnostic").is_object();
+  const Json& published = find_member(text, "publishDiagnostics");
+  const Json& tags = find_path(published, {"tagSupport", "valueSet"});
+  client.has_unnecessary_tag =
+      tags.is_array() && std::find(tags.begin(), tags.end(), 1) != tags.end();
+  client.has_related_places = says_true(published, {"relatedInformation"});
+  client.has_code_links = says_true(published, {"codeDescriptionSupport"});
+  client.has_configuration_events =
+      says_true(workspace, {"didChangeConfiguration", "dynamicRegistration"});
+  client.can_refresh_hints = says_true(workspace, {"inlayHint", "refreshSupport"});
+  client.has_versioned_edits = says_true(workspace, {"workspaceEdit", "documentChanges"});
   return client;
 }
 

@@ -15,6 +15,10 @@ void Outbox::take_answer(const Message& answer) {
   if (!waiting.empty()) waiting.mapped()(answer);
 }
 
+void Outbox::show(MessageType type, std::string_view text) {
+  notify("window/showMessage", {{"type", static_cast<int>(type)}, {"message", text}});
+}
+
 void Outbox::log(MessageType type, std::string_view text) {
   notify("window/logMessage", {{"type", static_cast<int>(type)}, {"message", text}});
 }

@@ -33,6 +33,9 @@ class Outbox {
   /// Passes an answer on to who waits for it. One that nobody waits for is ignored.
   void take_answer(const Message& answer);
 
+  /// Shows a message to the user.
+  void show(MessageType type, std::string_view text);
+
   /// Writes a message where the client keeps those of its servers.
   void log(MessageType type, std::string_view text);
 

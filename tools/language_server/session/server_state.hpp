@@ -3,12 +3,17 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <set>
 #include <string>
+#include <utility>
 
 #include "language_server/documents/open_documents.hpp"
 #include "language_server/documents/position_encoding.hpp"
 #include "language_server/features/feature.hpp"
+#include "language_server/project/project_files.hpp"
+#include "language_server/session/checks.hpp"
 #include "language_server/session/outbox.hpp"
+#include "language_server/session/progress.hpp"
 
 namespace kelp::input::quill::language_server {
 
@@ -17,6 +22,7 @@ struct ServerOptions {
   std::string version = {};                                // of the program
   std::size_t longest_message = std::size_t{64} << 20U;    // in bytes
   std::uint64_t largest_file = std::uint64_t{256} << 20U;  // of those that inputs refer to
+  std::string pages_folder = {};                           // with the page of each code
 };
 
 /// How far a session is. Only "initialize" is answered before it, and nothing after "shutdown".
@@ -26,6 +32,10 @@ enum class Phase { New, Running, ShutDown, Over };
 struct ServerState {
   ServerState(ServerOptions server_options, Outbox::Send send)
       : options(std::move(server_options)), outbox(std::move(send)) {}
+  // Those who wait for answers of the client refer to it.
+  ServerState(const ServerState&) = delete;
+  ServerState& operator=(const ServerState&) = delete;
+  ~ServerState() = default;
 
   ServerOptions options;
   Outbox outbox;
@@ -35,6 +45,10 @@ struct ServerState {
   ClientAbilities client = {};
   Settings settings = {};
   OpenDocuments documents = {};
+  ProjectFiles projects = {};
+  std::set<std::uint64_t> shown_problems = {};  // with the files of projects
+  Checks checks = {};
+  Progress progress = {};
 };
 
 }  // namespace kelp::input::quill::language_server

@@ -117,12 +117,16 @@ std::string folder_of(const std::string& path) {
   return path == "-" ? std::string() : fs::path(path).parent_path().string();
 }
 
-ProjectChoices choices_for_folder(const std::string& folder) {
+std::string find_file_for_folder(const std::string& folder) {
   std::error_code error;
   // Without "..", whose parent by name would be a folder below.
   const fs::path canonical = fs::canonical(folder.empty() ? "." : folder, error);
-  const std::string file = error ? std::string() : find_file(canonical).string();
-  return file.empty() ? ProjectChoices() : parse_project_choices(read_text(file), file);
+  return error ? std::string() : find_file(canonical).string();
+}
+
+ProjectChoices choices_for_folder(const std::string& folder) {
+  const std::string file = find_file_for_folder(folder);
+  return file.empty() ? ProjectChoices() : read_project_file(file);
 }
 
 }  // namespace
@@ -133,6 +137,14 @@ ProjectChoices parse_project_choices(std::string_view text, const std::string& n
   for (const auto& [key, value] : table)
     read_entry({name, std::string(key.str()), value}, key.source(), choices);
   return choices;
+}
+
+std::string find_project_file(const std::string& path) {
+  return find_file_for_folder(folder_of(path));
+}
+
+ProjectChoices read_project_file(const std::string& file) {
+  return parse_project_choices(read_text(file), file);
 }
 
 const ProjectChoices& ProjectFinder::choices_for(const std::string& path) {

@@ -20,6 +20,7 @@ ExitCode serve(Session& session, const CLI::App&) {
     session.reporter().note({"quill-inp"}, "lsp is for editors; press Ctrl-D to end it");
   language_server::ServerOptions options;
   options.version = KELP_QUILL_INP_VERSION;
+  options.pages_folder = KELP_QUILL_INP_PAGES;
   options.largest_file = session.options().max_size;
   const int code = language_server::run(input.stream, session.output().stream(), options);
   return code == 0 ? ExitCode::Done : ExitCode::No;

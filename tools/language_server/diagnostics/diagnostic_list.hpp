@@ -1,0 +1,23 @@
+#ifndef KELP_INPUT_QUILL_LANGUAGE_SERVER_DIAGNOSTICS_DIAGNOSTIC_LIST_HPP
+#define KELP_INPUT_QUILL_LANGUAGE_SERVER_DIAGNOSTICS_DIAGNOSTIC_LIST_HPP
+
+#include "language_server/diagnostics/page_address.hpp"
+#include "language_server/documents/snapshot.hpp"
+#include "language_server/features/feature.hpp"
+#include "language_server/protocol/json.hpp"
+#include "lint/finding.hpp"
+
+namespace kelp::input::quill::language_server {
+
+/// Returns a finding as a diagnostic of the protocol, with what the client can show of it. Its
+/// message is that of the finding, and the advice on a line of its own.
+Json diagnostic_of(const lint::Finding& finding, const Snapshot& snapshot,
+                   const ClientAbilities& client, const Pages& pages);
+
+/// Returns all findings as diagnostics, in their order.
+Json diagnostic_list(const lint::Findings& findings, const Snapshot& snapshot,
+                     const ClientAbilities& client, const Pages& pages);
+
+}  // namespace kelp::input::quill::language_server
+
+#endif  // KELP_INPUT_QUILL_LANGUAGE_SERVER_DIAGNOSTICS_DIAGNOSTIC_LIST_HPP
