@@ -1,7 +1,7 @@
 # Sourced by the scripts in scripts/: the names of the fuzz targets and how they are built; needs
 # builds.sh and packages.sh.
 
-fuzz_targets=(parse document edit text lines allocation_faults keys json lint surgery)
+fuzz_targets=(parse document edit text lines allocation_faults keys json lint serve surgery)
 # Where the build unpacks fuzz/corpus.tar.xz.
 corpus=build/fuzz/fuzz/corpus
 
@@ -19,6 +19,7 @@ check_fuzz_target() {
 longest_input() {
   case $1 in
     text | keys) echo 48 ;;
+    serve) echo 512 ;;
     *) echo 128 ;;
   esac
 }

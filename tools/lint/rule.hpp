@@ -70,8 +70,8 @@ class RuleTable {
 /// The only table of rules, in the order of the codes. A code is never given to another rule.
 RuleTable all_rules();
 
-/// Returns whether what findings with this code point at has no effect: the reader leaves it out, or
-/// nobody who looks a name up finds it.
+/// Returns whether what findings with this code point at has no effect: the reader leaves it out,
+/// or nobody who looks a name up finds it.
 bool points_at_text_without_effect(std::string_view code);
 
 /// Returns the rule of a code, in any letter case, or a null pointer.

@@ -6,7 +6,11 @@ const std::vector<RequestHandler>& request_handlers() {
   static const std::vector<RequestHandler> handlers = {
       {"initialize", initialize},
       {"shutdown", shut_down},
+      {"textDocument/codeAction", list_code_actions},
       {"textDocument/diagnostic", pull_diagnostics},
+      {"textDocument/formatting", format_text},
+      {"textDocument/rangeFormatting", format_range},
+      {"workspace/executeCommand", execute_command},
   };
   return handlers;
 }

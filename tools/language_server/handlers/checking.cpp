@@ -5,6 +5,7 @@
 #include "language_server/diagnostics/diagnostic_list.hpp"
 #include "language_server/project/file_address.hpp"
 #include "lint/lint.hpp"
+#include "lint/mending.hpp"
 #include "lint/selection.hpp"
 #include "quill-inp/findings/referenced_files.hpp"
 
@@ -79,6 +80,16 @@ const Check& check_of(ServerState& state, OpenDocument& document) {
   if (const Check* check = find_check(state, document)) return *check;
   const ProjectFiles::Reading& project = project_of(state, document);
   return state.checks.keep(document.uri(), make_check(state, document, project));
+}
+
+std::string mended_text(ServerState& state, OpenDocument& document) {
+  const tool::ProjectChoices& choices = project_of(state, document).choices;
+  std::set<std::string> references;
+  const lint::Options options = options_for(state, document, choices, references);
+  const auto is_wanted = [&](const lint::Finding& finding) {
+    return lint::is_selected(finding.code, {{}, choices.ignored});
+  };
+  return lint::mend(lossless::read_text(document.text()), options, is_wanted).read.text;
 }
 
 const ProjectFiles::Reading& project_of(ServerState& state, const OpenDocument& document) {

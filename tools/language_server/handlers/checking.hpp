@@ -15,6 +15,9 @@ namespace kelp::input::quill::language_server {
 /// Returns the check of an open text as it is now.
 const Check& check_of(ServerState& state, OpenDocument& document);
 
+/// Returns a text as it is after all safe corrections.
+std::string mended_text(ServerState& state, OpenDocument& document);
+
 /// Returns what the project of a text has chosen. A file of choices that cannot be read is shown to
 /// the user once.
 const ProjectFiles::Reading& project_of(ServerState& state, const OpenDocument& document);

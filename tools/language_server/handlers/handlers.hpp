@@ -38,6 +38,15 @@ void take_initialized(ServerState& state, const Json& params);
 void change_configuration(ServerState& state, const Json& params);
 void take_watched_files(ServerState& state, const Json& params);
 
+// editing_requests.cpp
+Json format_text(ServerState& state, const Json& params);
+Json format_range(ServerState& state, const Json& params);
+Json list_code_actions(ServerState& state, const Json& params);
+
+// commands.cpp
+Json execute_command(ServerState& state, const Json& params);
+Json command_options();
+
 // pulled_diagnostics.cpp
 Json pull_diagnostics(ServerState& state, const Json& params);
 

@@ -1,3 +1,4 @@
+#include "language_server/editing/code_actions.hpp"
 #include "language_server/handlers/handlers.hpp"
 #include "language_server/protocol/response_error.hpp"
 #include "language_server/session/client_abilities.hpp"
@@ -17,6 +18,10 @@ Json capabilities(const ServerState& state) {
        {{"identifier", "quill-inp"},
         {"interFileDependencies", true},
         {"workspaceDiagnostics", false}}},
+      {"codeActionProvider", code_action_options()},
+      {"documentFormattingProvider", true},
+      {"documentRangeFormattingProvider", true},
+      {"executeCommandProvider", command_options()},
   };
   for (const Feature& feature : all_features())
     capabilities[std::string(feature.capability)] = feature.options;

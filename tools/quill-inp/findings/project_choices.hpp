@@ -34,8 +34,9 @@ struct ProjectChoices {
 /// one that is not), and for a value without a meaning.
 ProjectChoices parse_project_choices(std::string_view text, const std::string& name);
 
-/// Returns the path of the file that counts for the input at `path`: the one in its folder or in the
-/// nearest folder above it. "-" is in the current folder. Returns the empty text if there is none.
+/// Returns the path of the file that counts for the input at `path`: the one in its folder or in
+/// the nearest folder above it. "-" is in the current folder. Returns the empty text if there is
+/// none.
 std::string find_project_file(const std::string& path);
 
 /// Reads such a file. Throws Trouble, as parse_project_choices() does and when it cannot be read.

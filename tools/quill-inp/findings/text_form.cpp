@@ -82,7 +82,8 @@ std::string text_form(const FileReport& report, bool is_colored) {
     text += head_of(report, finding, place, words.message, is_colored);
     // A finding about what is missing has no bytes to show.
     if (finding.range.end() > 0) text += marked_line(report, finding, place);
-    text += std::string(indent) + std::string(lint::advice_label) + shown_on_one_line(words.advice) + "\n";
+    text += std::string(indent) + std::string(lint::advice_label) +
+            shown_on_one_line(words.advice) + "\n";
   }
   for (const auto& [code, count] : report.more)
     text += shown_on_one_line(report.name) + ": " + words_of_more(code, count) + "\n";

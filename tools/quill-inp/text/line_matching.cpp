@@ -147,4 +147,29 @@ std::vector<MatchingRun> match_lines(const Lines& old_lines, const Lines& new_li
   return runs;
 }
 
+Lines lines_with_ends(std::string_view text) {
+  Lines lines;
+  lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
+  while (!text.empty()) {
+    const std::size_t newline = text.find('\n');
+    const std::size_t length = newline == std::string_view::npos ? text.size() : newline + 1;
+    lines.push_back(text.substr(0, length));
+    text.remove_prefix(length);
+  }
+  return lines;
+}
+
+std::vector<LineChange> find_line_changes(const Lines& old_lines, const Lines& new_lines) {
+  std::vector<LineChange> changes;
+  std::size_t old_at = 0;
+  std::size_t new_at = 0;
+  for (const MatchingRun& run : match_lines(old_lines, new_lines)) {
+    if (old_at < run.old_begin || new_at < run.new_begin)
+      changes.push_back({old_at, run.old_begin, new_at, run.new_begin});
+    old_at = run.old_begin + run.length;
+    new_at = run.new_begin + run.length;
+  }
+  return changes;
+}
+
 }  // namespace kelp::input::quill::tool

@@ -22,6 +22,21 @@ struct MatchingRun {
 std::vector<MatchingRun> match_lines(const std::vector<std::string_view>& old_lines,
                                      const std::vector<std::string_view>& new_lines);
 
+/// Splits a text into lines that keep their "\n".
+std::vector<std::string_view> lines_with_ends(std::string_view text);
+
+/// Lines from `begin` to before `end` of each of two texts.
+struct LineChange {
+  std::size_t old_begin = 0;
+  std::size_t old_end = 0;
+  std::size_t new_begin = 0;
+  std::size_t new_end = 0;
+};
+
+/// Returns the changes between the lines that stay, see match_lines().
+std::vector<LineChange> find_line_changes(const std::vector<std::string_view>& old_lines,
+                                          const std::vector<std::string_view>& new_lines);
+
 }  // namespace kelp::input::quill::tool
 
 #endif  // KELP_INPUT_QUILL_TOOL_TEXT_LINE_MATCHING_HPP

@@ -16,40 +16,7 @@ using Lines = std::vector<std::string_view>;
 
 constexpr std::size_t context = 3;
 
-/// Splits a text into lines that keep their "\n".
-Lines split_with_ends(std::string_view text) {
-  Lines lines;
-  lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
-  while (!text.empty()) {
-    const std::size_t newline = text.find('\n');
-    const std::size_t length = newline == std::string_view::npos ? text.size() : newline + 1;
-    lines.push_back(text.substr(0, length));
-    text.remove_prefix(length);
-  }
-  return lines;
-}
-
-/// Lines from `begin` to before `end` of each of the two texts.
-struct Span {
-  std::size_t old_begin = 0;
-  std::size_t old_end = 0;
-  std::size_t new_begin = 0;
-  std::size_t new_end = 0;
-};
-
-/// Returns the changes between the runs of lines that stay.
-std::vector<Span> find_changes(const Lines& old_lines, const Lines& new_lines) {
-  std::vector<Span> changes;
-  std::size_t old_at = 0;
-  std::size_t new_at = 0;
-  for (const MatchingRun& run : match_lines(old_lines, new_lines)) {
-    if (old_at < run.old_begin || new_at < run.new_begin)
-      changes.push_back({old_at, run.old_begin, new_at, run.new_begin});
-    old_at = run.old_begin + run.length;
-    new_at = run.new_begin + run.length;
-  }
-  return changes;
-}
+using Span = LineChange;
 
 void append_line(std::string& out, char sign, std::string_view line) {
   out += sign;
@@ -150,7 +117,7 @@ const std::string_view* end_of_change(const std::string_view* first, const std::
 
 std::string with_unix_ends(std::string_view text) {
   std::string result;
-  for (const std::string_view line : split_with_ends(text)) {
+  for (const std::string_view line : lines_with_ends(text)) {
     const bool has_cr = has_dos_end(line);
     result += line.substr(0, line.size() - (has_cr ? dos_end.size() : 0));
     if (has_cr) result += '\n';
@@ -176,9 +143,9 @@ std::string_view color_of(char sign) {
 
 std::string unified_diff(std::string_view name, std::string_view old_text,
                          std::string_view new_text) {
-  const Lines old_lines = split_with_ends(old_text);
-  const Lines new_lines = split_with_ends(new_text);
-  const std::vector<Span> changes = find_changes(old_lines, new_lines);
+  const Lines old_lines = lines_with_ends(old_text);
+  const Lines new_lines = lines_with_ends(new_text);
+  const std::vector<Span> changes = find_line_changes(old_lines, new_lines);
   std::string out;
   if (changes.empty()) return out;
   out += header_line("--- ", name) + header_line("+++ ", name);
@@ -194,7 +161,7 @@ std::string unified_diff(std::string_view name, std::string_view old_text,
 }
 
 std::string shown_diff(std::string_view diff) {
-  const Lines lines = split_with_ends(diff);
+  const Lines lines = lines_with_ends(diff);
   const std::string_view* const end = lines.data() + lines.size();
   std::string out;
   for (const std::string_view* line = lines.data(); line != end;) {
@@ -211,7 +178,7 @@ std::string shown_diff(std::string_view diff) {
 
 std::string colored_diff(std::string_view diff) {
   std::string out;
-  for (const std::string_view line : split_with_ends(diff)) {
+  for (const std::string_view line : lines_with_ends(diff)) {
     const std::string_view color = color_of(line.front());
     if (color.empty()) {
       out += line;

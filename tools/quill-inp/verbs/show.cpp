@@ -1,10 +1,7 @@
-#include <algorithm>
-#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "kelp/input/quill/lossless/wording.hpp"
 #include "quill-inp/command_line/arguments.hpp"
 #include "quill-inp/command_line/common_options.hpp"
 #include "quill-inp/command_line/file_options.hpp"
@@ -12,6 +9,7 @@
 #include "quill-inp/process/terminal.hpp"
 #include "quill-inp/process/trouble.hpp"
 #include "quill-inp/session/input_source.hpp"
+#include "quill-inp/summary/lines_text.hpp"
 #include "quill-inp/summary/summary.hpp"
 #include "quill-inp/text/colors.hpp"
 #include "quill-inp/text/terminal_text.hpp"
@@ -30,43 +28,6 @@ constexpr Option files{"FILE", "", "The inputs"};
 constexpr Option as_json{"--json", "", "Print the summaries as JSON, one line per file"};
 constexpr Option as_lines{"--lines", "", "Print what the reader made of every line"};
 
-std::string padding(const std::string& text, std::size_t width) {
-  return std::string(width - std::min(width, text.size()), ' ');
-}
-
-std::string describe(const LineRecord& line, const QuillInput& input) {
-  return lossless::describe({line.role, line.index}, input);
-}
-
-/// Returns how long the longest description of a line is.
-std::size_t description_width(const lossless::ReadText& read) {
-  std::size_t width = 0;
-  for (const LineRecord& line : read.lines)
-    width = std::max(width, describe(line, read.result.input).size());
-  return width;
-}
-
-/// Writes every line: its number, what the reader made of it, and the line itself. A line that the
-/// reader dropped has the colour of warnings.
-void write_lines(const lossless::ReadText& read, bool is_colored, Output& out) {
-  const std::size_t number_width = std::to_string(read.lines.size()).size();
-  const std::size_t width = description_width(read);
-  for (std::size_t i = 0; i < read.lines.size(); ++i) {
-    const LineRecord& line = read.lines[i];
-    const std::string content = shown_on_one_line(lossless::content_of(line, read.text));
-    const std::string number = std::to_string(i + 1);
-    const std::string description = describe(line, read.result.input);
-    const bool is_dropped = line.role == LineRole::Dropped;
-    std::string text =
-        padding(number, number_width) + colored(number, label_color, is_colored) + "  ";
-    text += colored(description, warning_color, is_colored && is_dropped);
-    if (!content.empty()) text += padding(description, width) + "  ";
-    out.write_shown(text);
-    out.write_shown(content);
-    out.write_shown("\n");
-  }
-}
-
 /// In what form to show an input.
 enum class Form { Text, Json, Lines };
 
@@ -76,7 +37,7 @@ ExitCode show_lines(Session& session, const std::string& argument, Warnings warn
   const bool is_colored = wants_color(session.options().color, out.file());
   out.begin_part();
   out.write_shown(colored(shown_on_one_line(input.name), name_color, is_colored) + "\n");
-  write_lines(input.read, is_colored, out);
+  write_lines_text(input.read, is_colored, [&](std::string_view piece) { out.write_shown(piece); });
   report_warnings(session.reporter(), input.name, input.read.result);
   return code_of(input.read.result, warnings);
 }

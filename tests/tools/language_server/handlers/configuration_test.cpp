@@ -26,16 +26,17 @@ TEST(Configuration, IsLeftToAClientThatCanDoNothing) {
 }
 
 TEST(Configuration, WatchesFilesWhereTheClientDoes) {
-  Client client({{"workspace",
-                  {{"didChangeWatchedFiles", {{"dynamicRegistration", true}}},
-                   {"didChangeConfiguration", {{"dynamicRegistration", true}}}}}});
+  Client client(Json{{"workspace",
+                      {{"didChangeWatchedFiles", {{"dynamicRegistration", true}}},
+                       {"didChangeConfiguration", {{"dynamicRegistration", true}}}}}});
   EXPECT_EQ(registered(client), (std::vector<std::string>{"workspace/didChangeWatchedFiles",
                                                           "workspace/didChangeConfiguration"}));
 }
 
 TEST(Configuration, AsksForItsSectionAndTakesTheAnswer) {
-  Client client({{"workspace", {{"configuration", true}}},
-                 {"textDocument", {{"publishDiagnostics", {{"codeDescriptionSupport", true}}}}}});
+  Client client(
+      Json{{"workspace", {{"configuration", true}}},
+           {"textDocument", {{"publishDiagnostics", {{"codeDescriptionSupport", true}}}}}});
   std::vector<Json> asked = client.take("workspace/configuration");
   ASSERT_EQ(asked.size(), 1U);
   EXPECT_EQ(asked[0]["params"], (Json{{"items", Json::array({{{"section", "quillInp"}}})}}));
@@ -45,14 +46,15 @@ TEST(Configuration, AsksForItsSectionAndTakesTheAnswer) {
   client.settle();
   EXPECT_EQ(client.take("textDocument/publishDiagnostics")
                 .at(0)["params"]["diagnostics"][0]["codeDescription"]["href"],
-            "https://a/QL113.md");
+            "https://a/QL009.md");
   client.notify("workspace/didChangeConfiguration", {{"settings", nullptr}});
   EXPECT_EQ(client.take("workspace/configuration").size(), 1U);
 }
 
 TEST(Configuration, TakesSettingsThatAreSentAndRefreshesHints) {
-  Client client({{"workspace", {{"inlayHint", {{"refreshSupport", true}}}}},
-                 {"textDocument", {{"publishDiagnostics", {{"codeDescriptionSupport", true}}}}}});
+  Client client(
+      Json{{"workspace", {{"inlayHint", {{"refreshSupport", true}}}}},
+           {"textDocument", {{"publishDiagnostics", {{"codeDescriptionSupport", true}}}}}});
   client.open(uri, "");
   client.take();
   client.notify("workspace/didChangeConfiguration",
@@ -60,7 +62,7 @@ TEST(Configuration, TakesSettingsThatAreSentAndRefreshesHints) {
   EXPECT_EQ(client.take("workspace/inlayHint/refresh").size(), 1U);
   EXPECT_EQ(client.take("textDocument/publishDiagnostics")
                 .at(0)["params"]["diagnostics"][0]["codeDescription"]["href"],
-            "https://b/QL113.md");
+            "https://b/QL009.md");
 }
 
 TEST(Settings, AreThoseOfTheSection) {

@@ -1,0 +1,198 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "language_server/documents/open_documents.hpp"
+#include "tools/language_server/support/client.hpp"
+
+namespace kelp::input::quill::language_server {
+
+namespace {
+
+constexpr const char* uri = "file:///nowhere/job.qin";
+const Json literal = {
+    {"textDocument", {{"codeAction", {{"codeActionLiteralSupport", Json::object()}}}}}};
+
+/// Makes edits as a client does: all of them count positions of the old text.
+std::string edited(const std::string& text, const Json& edits) {
+  OpenDocument document(uri, 1, text, PositionEncoding::Utf16);
+  for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit)
+    document.change(2, Json::array({{{"range", (*edit)["range"]}, {"text", (*edit)["newText"]}}}));
+  return document.text();
+}
+
+const std::string untidy = "#opt( tight )\n0 1\nO 0 0 0.117\nH 0.000000 0.757000 -0.469000\n";
+
+TEST(Formatting, ChangesOnlyLinesThatDiffer) {
+  Client client;
+  client.open(uri, untidy);
+  Json params = names(uri);
+  params["options"] = {{"tabSize", 2}, {"insertSpaces", true}};
+  const Json edits = client.result("textDocument/formatting", params);
+  const Json canonical =
+      client.result("workspace/executeCommand",
+                    {{"command", "quillInp.canonicalText"}, {"arguments", Json::array({uri})}});
+  EXPECT_EQ(edited(untidy, edits), canonical);
+  client.change(uri, Json::array({{{"text", canonical}}}), 2);
+  EXPECT_EQ(client.result("textDocument/formatting", params), Json::array());
+}
+
+TEST(Formatting, IsRefusedWithTheReasonWhenSomethingWouldBeLost) {
+  Client client;
+  client.open(uri, "#opt(tight) and more\n0 1\nO 0 0 0\n");
+  const Json answer = client.request("textDocument/formatting", names(uri));
+  EXPECT_EQ(answer["error"]["code"], -32803);
+  const std::string message = answer["error"]["message"];
+  EXPECT_EQ(message.substr(0, 22), "not formatted: line 1 ") << message;
+  EXPECT_NE(message.find("and more"), std::string::npos) << message;
+}
+
+TEST(Formatting, IsRefusedForATextThatIsNoInput) {
+  Client client;
+  client.open(uri, "int main() {}\n");
+  const std::string message =
+      client.request("textDocument/formatting", names(uri))["error"]["message"];
+  EXPECT_EQ(message.substr(0, 56), "not formatted: the text does not look like a QUILL input")
+      << message;
+}
+
+TEST(Formatting, OfARangeLeavesOtherLinesAlone) {
+  Client client;
+  client.open(uri, untidy);
+  Json params = names(uri);
+  params["range"] = to_json(PositionRange{{0, 3}, {0, 4}});
+  const std::string text = edited(untidy, client.result("textDocument/rangeFormatting", params));
+  EXPECT_EQ(text.substr(0, text.find('\n') + 1), "#opt(tight)\n");
+  EXPECT_NE(text.find("O 0 0 0.117\n"), std::string::npos) << text;
+}
+
+Json action_params(const PositionRange& range, const Json& context) {
+  Json params = names(uri);
+  params["range"] = to_json(range);
+  params["context"] = context;
+  return params;
+}
+
+/// Returns the titles of the quick fixes for a text, and the text after each.
+std::string fixes(const std::string& text, const PositionRange& range) {
+  Client client(literal);
+  client.open(uri, text);
+  std::string shown;
+  const Json context = {{"diagnostics", Json::array()}, {"only", Json::array({"quickfix"})}};
+  for (const Json& action : client.result("textDocument/codeAction", action_params(range, context)))
+    shown += action["title"].get<std::string>() + (action.contains("isPreferred") ? "!\n" : "\n") +
+             edited(text, action["edit"]["changes"][uri]);
+  return shown;
+}
+
+struct Row {
+  std::string name;
+  std::string text;
+  PositionRange range;
+  std::string fixes;
+};
+
+class QuickFixes : public testing::TestWithParam<Row> {};
+
+TEST_P(QuickFixes, CorrectTheText) {
+  EXPECT_EQ(fixes(GetParam().text, GetParam().range), GetParam().fixes);
+}
+
+const Row rows[] = {
+    {"ASafeCorrectionIsPreferred",
+     "#sp\n0 1\nO 0 0 0,5\n",
+     {{2, 0}, {2, 9}},
+     "write a symbol and three numbers with decimal points!\n#sp\n0 1\nO 0 0 0.5\n"},
+    {"NothingElsewhere", "#sp\n0 1\nO 0 0 0,5\n", {{0, 0}, {1, 0}}, ""},
+    {"ARepeatedParameter",
+     "#sp(a=1, b, A = 2, c)\n0 1\nO 0 0 0\n",
+     {{0, 12}, {0, 12}},
+     "remove this parameter\n#sp(a=1, b, c)\n0 1\nO 0 0 0\n"},
+    {"ARepeatedAssignment",
+     "#sp\n#model=a\n#model=b\n0 1\nO 0 0 0\n",
+     {{2, 1}, {2, 1}},
+     "remove this line\n#sp\n#model=a\n0 1\nO 0 0 0\n"},
+    {"AValueThatIsCut",
+     "#sp(d=(e,f), g)\n0 1\nO 0 0 0\n",
+     {{0, 6}, {0, 6}},
+     "put quotes around the value\n#sp(d=\"(e,f)\", g)\n0 1\nO 0 0 0\n"},
+    {"AConstraintThatIsReadAsAnAtom",
+     "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nA 1 2 3\nB 1 2\n",
+     {{5, 0}, {5, 0}},
+     "move this line after the first post-processing line\n"
+     "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nB 1 2\nA 1 2 3\n"},
+    {"AConstraintBeforeTheLastLineWithoutAnEnd",
+     "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nA 1 2 3\nB 1 2",
+     {{5, 0}, {5, 0}},
+     "move this line after the first post-processing line\n"
+     "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nB 1 2\nA 1 2 3"},
+    {"AConstraintThatCannotBeMoved",
+     "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nA 1 2 3\n",
+     {{5, 0}, {5, 0}},
+     ""},
+};
+
+INSTANTIATE_TEST_SUITE_P(Table, QuickFixes, testing::ValuesIn(rows),
+                         [](const auto& row) { return row.param.name; });
+
+const std::string commas = "#sp\n0 1\nO 0 0 0,5\nH 0 0 1,5\n";
+
+std::vector<std::string> kinds(const Json& only) {
+  Client client(literal);
+  client.open(uri, commas);
+  Json context = {{"diagnostics", Json::array()}};
+  if (!only.is_null()) context["only"] = only;
+  std::vector<std::string> kinds;
+  for (const Json& action :
+       client.result("textDocument/codeAction", action_params({{2, 0}, {2, 1}}, context)))
+    kinds.push_back(action["kind"].get<std::string>());
+  return kinds;
+}
+
+TEST(CodeActions, AreOfTheKindsThatTheClientAsksFor) {
+  using Kinds = std::vector<std::string>;
+  EXPECT_EQ(kinds(nullptr), (Kinds{"source.fixAll"}));
+  EXPECT_EQ(kinds(Json::array({"source"})), (Kinds{"source.fixAll"}));
+  EXPECT_EQ(kinds(Json::array({"source.fixAll"})), (Kinds{"source.fixAll"}));
+  EXPECT_EQ(kinds(Json::array({"sourc"})), Kinds{});
+  EXPECT_EQ(kinds(Json::array({"refactor", "quickfix"})), Kinds{});
+  EXPECT_EQ(kinds(Json::array({""})), (Kinds{"source.fixAll"}));
+}
+
+TEST(CodeActions, MakeAllSafeCorrectionsAtOnceForTheVersionOfTheText) {
+  Client client(Json{{"textDocument", literal["textDocument"]},
+                     {"workspace", {{"workspaceEdit", {{"documentChanges", true}}}}}});
+  client.open(uri, commas, 4);
+  const Json actions = client.result(
+      "textDocument/codeAction", action_params({{0, 0}, {0, 0}}, {{"diagnostics", Json::array()}}));
+  ASSERT_EQ(actions.size(), 1U);
+  EXPECT_EQ(actions[0]["title"], "make all safe corrections");
+  const Json& change = actions[0]["edit"]["documentChanges"][0];
+  EXPECT_EQ(change["textDocument"], (Json{{"uri", uri}, {"version", 4}}));
+  EXPECT_EQ(edited(commas, change["edits"]), "#sp\n0 1\nO 0 0 0.5\nH 0 0 1.5\n");
+}
+
+TEST(CodeActions, NameTheDiagnosticThatTheyCorrect) {
+  Client client(literal);
+  client.open(uri, commas);
+  const Json shown = client.take("textDocument/publishDiagnostics").at(0)["params"]["diagnostics"];
+  const Json actions =
+      client.result("textDocument/codeAction",
+                    action_params({{2, 6}, {2, 6}},
+                                  {{"diagnostics", shown}, {"only", Json::array({"quickfix"})}}));
+  ASSERT_EQ(actions.size(), 1U);
+  EXPECT_EQ(actions[0]["diagnostics"], Json::array({shown[0]}));
+}
+
+TEST(CodeActions, AreNotSentToAClientThatKnowsCommandsOnly) {
+  Client client;
+  client.open(uri, commas);
+  EXPECT_EQ(client.result("textDocument/codeAction",
+                          action_params({{2, 6}, {2, 6}}, {{"diagnostics", Json::array()}})),
+            Json::array());
+}
+
+}  // namespace
+
+}  // namespace kelp::input::quill::language_server

@@ -1,0 +1,61 @@
+#include "language_server/editing/formatted_text.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "kelp/input/quill/lossless/input_doubt.hpp"
+#include "kelp/input/quill/lossless/proof.hpp"
+#include "kelp/input/quill/lossless/quoting.hpp"
+#include "kelp/input/quill/lossless/wording.hpp"
+#include "language_server/editing/changed_lines.hpp"
+#include "language_server/protocol/response_error.hpp"
+#include "lint/line_repair.hpp"
+#include "lint/source.hpp"
+#include "quill-inp/editing/losses.hpp"
+#include "quill-inp/editing/wording.hpp"
+#include "quill-inp/text/terminal_text.hpp"
+
+namespace kelp::input::quill::language_server {
+
+namespace {
+
+[[noreturn]] void refuse(const std::string& reason) {
+  throw ResponseError(ErrorCode::RequestFailed,
+                      "not formatted: " + tool::shown_on_one_line(reason));
+}
+
+/// How much a number may change.
+double max_change() { return lint::Options().max_change; }
+
+void refuse_losses(const tool::Losses& losses) {
+  if (losses.count() == 0) return;
+  refuse(tool::words(losses, 1).front().text);
+}
+
+}  // namespace
+
+std::string formatted_text(const lossless::ReadText& read) {
+  if (const auto doubt = lossless::find_input_doubt(read))
+    refuse("the text " + lossless::words(*doubt));
+  const QuillInput& document = read.result.input;
+  lossless::QuotedDocument quoted = lossless::quote(document);
+  std::string text = quoted.document.to_string();
+  const lossless::Proof proof = lossless::prove(text, document, max_change());
+  refuse_losses({{}, tool::list_line_losses(read), std::move(quoted.problems), proof, document});
+  return text;
+}
+
+std::vector<lint::ByteEdit> formatting_of_range(const lossless::ReadText& read,
+                                                const lint::Range& range) {
+  std::vector<lint::ByteEdit> edits = changed_lines(read.text, formatted_text(read));
+  const auto is_outside = [&](const lint::ByteEdit& edit) {
+    return edit.range.end() < range.offset || range.end() < edit.range.offset;
+  };
+  edits.erase(std::remove_if(edits.begin(), edits.end(), is_outside), edits.end());
+  const lossless::Proof proof =
+      lossless::prove(lint::with_edits(read.text, edits), read.result.input, max_change());
+  refuse_losses({{}, {}, {}, proof, read.result.input});
+  return edits;
+}
+
+}  // namespace kelp::input::quill::language_server
