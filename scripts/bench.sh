@@ -11,9 +11,14 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
 . scripts/support/packages.sh
 
-need_packages "${tool_packages[@]}" libbenchmark-dev
+need_packages "${tool_packages[@]}" libbenchmark-dev pybind11-dev python3-ase python3-dev python3-numpy \
+  python3-pandas python3-rdkit
 
 echo "Building in build/bench ..."
 build_preset bench
 if [ "${1:-}" = --times ]; then exec build/bench/bench/kelp_quill_inp_times; fi
-build/bench/bench/kelp_quill_inp_ratios "$@"
+status=0
+build/bench/bench/kelp_quill_inp_ratios "$@" || status=$?
+PYTHONPATH=build/bench/python /usr/bin/python3 -W ignore bench/python/ratios.py \
+  build/bench/bench/kelp_quill_inp_bench_calls "$@" || status=$?
+exit "$status"
