@@ -24,6 +24,9 @@ step "the tests with the standard library's checks, with a char that has no sign
 step "the tests of the Python package, with a million texts and twenty times the examples"
 (cd .. && QUILL_INP_TEST_THOROUGHLY=1 ctest --preset dev -R '^Python\.')
 
+step "the Python package under the sanitizers"
+./check_python_sanitized.sh
+
 step "the tests of the libraries with another standard library"
 for folder in unit interface properties exactness; do ./libcxx.sh "$folder"; done
 
