@@ -20,7 +20,7 @@ POST charges.dat
 export const careless = `#opt(maxiter=50
 0 1
 H 0 0 0
-H 0 0 0.74
+H 0 0 0,74
 b 1 x
 `;
 export const referring = `#sp
@@ -40,9 +40,10 @@ export function checkFindings(found) {
   allAre(types.Diagnostic, found);
   assert.deepEqual(found.map((one) => [one.code, one.severity, one.source]), [
     ["QL201", 2, "quill-inp"],
+    ["QL104", 1, "quill-inp"],
     ["QL301", 1, "quill-inp"],
   ]);
-  assert.deepEqual(found[1].range, span(4, 4, 5));
+  assert.deepEqual(found.map((one) => one.range), [span(0, 4, 5), span(3, 6, 10), span(4, 4, 5)]);
 }
 
 const place = (line, character) => ({ position: { line, character } });
@@ -80,16 +81,16 @@ export const answers = {
   },
 
   codeActionProvider: async ({ client, uris }) => {
-    const [missing] = await client.findings(uris.careless);
+    const [, comma] = await client.findings(uris.careless);
     const actions = allAre(types.CodeAction, await client.request("textDocument/codeAction", {
       textDocument: { uri: uris.careless },
-      range: missing.range,
-      context: { diagnostics: [missing], triggerKind: 1 },
+      range: comma.range,
+      context: { diagnostics: [comma], triggerKind: 1 },
     }));
     const mend = actions.find((one) => one.kind === "quickfix");
     is(types.WorkspaceEdit, mend.edit);
     const edits = mend.edit.changes?.[uris.careless] ?? mend.edit.documentChanges[0].edits;
-    assert.equal(edited(careless, edits), careless.replace("50\n", "50)\n"));
+    assert.equal(edited(careless, edits), careless.replace("0,74", "0.74"));
   },
 
   documentFormattingProvider: async ({ client, uris }) => {
@@ -102,6 +103,15 @@ export const answers = {
       client.request("textDocument/formatting", { textDocument: { uri: uris.careless }, options }),
       /B 1 x|b 1 x/,
     );
+  },
+
+  documentRangeFormattingProvider: async ({ client, uris }) => {
+    const edits = await client.request("textDocument/rangeFormatting", {
+      textDocument: { uri: uris.water },
+      range: span(9, 0, 3),
+      options: { tabSize: 2, insertSpaces: true },
+    });
+    assert.equal(edited(water, edits), water.replace("120.0", "120"));
   },
 
   hoverProvider: async ({ client, uris }) => {

@@ -54,10 +54,11 @@ test("in a folder that is not trusted, all commands are there and no program is 
   assert.equal(granted.length, 1);
 });
 
-test("the settings that name a program cannot come from a folder that is not trusted", () => {
+test("the settings that name a program or an address cannot come from a folder that is not trusted", () => {
   const settings = manifest.contributes.configuration.properties;
-  assert.equal(settings["quillInp.server.path"].scope, "machine-overridable");
-  assert.deepEqual(manifest.capabilities.untrustedWorkspaces.restrictedConfigurations, ["quillInp.server.path"]);
+  const restricted = ["quillInp.server.path", "quillInp.pages"];
+  assert.deepEqual(manifest.capabilities.untrustedWorkspaces.restrictedConfigurations, restricted);
+  for (const name of restricted) assert.equal(settings[name].scope, "machine-overridable");
   for (const [name, setting] of Object.entries<Anything>(settings))
     assert.match(setting.description ?? setting.markdownDescription, /\.$/, `${name} has a description`);
 });
