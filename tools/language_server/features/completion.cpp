@@ -43,6 +43,7 @@ std::vector<std::string> element_symbols() {
     for (char second = 'a'; second <= 'z'; ++second) add_if_known({first, second});
   }
   std::vector<std::string> list;
+  list.reserve(symbols.size());
   for (const auto& [number, symbol] : symbols) list.push_back(symbol);
   return list;
 }
