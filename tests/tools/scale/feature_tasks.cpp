@@ -46,19 +46,19 @@ struct FeatureTask {
   std::function<Json(const Snapshot&, std::size_t last, const Surroundings&)> answer;
 };
 
-Json all_tokens(const Snapshot& snapshot, std::size_t, const Surroundings& surroundings) {
+Json all_tokens(const Snapshot& snapshot, std::size_t /*last*/, const Surroundings& surroundings) {
   return server::semantic_tokens(snapshot, surroundings);
 }
 
-Json outline(const Snapshot& snapshot, std::size_t, const Surroundings& surroundings) {
+Json outline(const Snapshot& snapshot, std::size_t /*last*/, const Surroundings& surroundings) {
   return server::document_symbols(snapshot, surroundings);
 }
 
-Json folds(const Snapshot& snapshot, std::size_t, const Surroundings& surroundings) {
+Json folds(const Snapshot& snapshot, std::size_t /*last*/, const Surroundings& surroundings) {
   return server::folding_ranges(snapshot, surroundings);
 }
 
-Json links(const Snapshot& snapshot, std::size_t, const Surroundings& surroundings) {
+Json links(const Snapshot& snapshot, std::size_t /*last*/, const Surroundings& surroundings) {
   return server::document_links(snapshot, surroundings);
 }
 
@@ -70,7 +70,8 @@ Json at_place(const Snapshot& snapshot, std::size_t offset) {
   return server::to_json(snapshot.position_of(offset));
 }
 
-Json places_of_atom(const Snapshot& snapshot, std::size_t, const Surroundings& surroundings) {
+Json places_of_atom(const Snapshot& snapshot, std::size_t /*last*/,
+                    const Surroundings& surroundings) {
   const Json params = {{"position", at_place(snapshot, snapshot.text().find("He"))}};
   return server::references(snapshot, params, surroundings);
 }

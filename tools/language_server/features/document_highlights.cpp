@@ -16,7 +16,8 @@ Json highlight(const Snapshot& snapshot, const lint::Range& range, int kind) {
 
 }  // namespace
 
-Json document_highlights(const Snapshot& snapshot, std::size_t offset, const Surroundings&) {
+Json document_highlights(const Snapshot& snapshot, std::size_t offset,
+                         const Surroundings& /*surroundings*/) {
   const SourceOfText source(snapshot.read());
   const std::optional<std::int32_t> atom = find_meant_atom(*source, offset);
   if (!atom) return nullptr;

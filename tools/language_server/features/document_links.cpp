@@ -5,7 +5,7 @@
 
 namespace kelp::input::quill::language_server {
 
-Json document_links(const Snapshot& snapshot, const Surroundings&) {
+Json document_links(const Snapshot& snapshot, const Surroundings& /*surroundings*/) {
   const SourceOfText source(snapshot.read());
   Json links = Json::array();
   for (const std::size_t line : source->reference_lines()) {

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "language_server/facts/outline.hpp"
 #include "language_server/facts/source_of_text.hpp"
 #include "language_server/features/features.hpp"
@@ -40,6 +42,14 @@ Json nested(const Snapshot& snapshot, const OutlinePart& part) {
           {"selectionRange", to_json(snapshot.position_range_of(part.heading))}};
 }
 
+Json nested_with_children(const Snapshot& snapshot, const OutlinePart& part) {
+  Json children = Json::array();
+  for (const OutlinePart& child : part.children) children.push_back(nested(snapshot, child));
+  Json symbol = nested(snapshot, part);
+  symbol["children"] = std::move(children);
+  return symbol;
+}
+
 Json flat(const Snapshot& snapshot, const OutlinePart& part) {
   const Json range = to_json(snapshot.position_range_of(part.range));
   return {{"name", part.name},
@@ -55,15 +65,15 @@ Json document_symbols(const Snapshot& snapshot, const Surroundings& surroundings
   const bool is_nested = surroundings.client.has_nested_symbols;
   Json symbols = Json::array();
   for (const OutlinePart& part : make_outline(*source)) {
-    Json symbol = is_nested ? nested(snapshot, part) : flat(snapshot, part);
-    Json children = Json::array();
-    for (const OutlinePart& child : part.children) {
-      children.push_back(is_nested ? nested(snapshot, child) : flat(snapshot, child));
-      if (!is_nested) children.back()["containerName"] = part.name;
+    if (is_nested) {
+      symbols.push_back(nested_with_children(snapshot, part));
+      continue;
     }
-    if (is_nested) symbol["children"] = std::move(children);
-    symbols.push_back(std::move(symbol));
-    if (!is_nested) symbols.insert(symbols.end(), children.begin(), children.end());
+    symbols.push_back(flat(snapshot, part));
+    for (const OutlinePart& child : part.children) {
+      symbols.push_back(flat(snapshot, child));
+      symbols.back()["containerName"] = part.name;
+    }
   }
   return symbols;
 }

@@ -3,7 +3,7 @@
 
 namespace kelp::input::quill::language_server {
 
-Json folding_ranges(const Snapshot& snapshot, const Surroundings&) {
+Json folding_ranges(const Snapshot& snapshot, const Surroundings& /*surroundings*/) {
   Json ranges = Json::array();
   for (const Section& section : find_sections(snapshot.lines())) {
     const Position start = snapshot.position_of(snapshot.lines()[section.first].offset);

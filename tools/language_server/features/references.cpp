@@ -4,7 +4,8 @@
 
 namespace kelp::input::quill::language_server {
 
-Json references(const Snapshot& snapshot, const Json& params, const Surroundings&) {
+Json references(const Snapshot& snapshot, const Json& params,
+                const Surroundings& /*surroundings*/) {
   const Position position = read_position(object_member(params, "position"));
   const SourceOfText source(snapshot.read());
   const auto atom = find_meant_atom(*source, snapshot.offset_of(position));

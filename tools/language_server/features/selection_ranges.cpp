@@ -46,7 +46,8 @@ Json nested(const Snapshot& snapshot, const std::vector<lint::Range>& ranges) {
 
 }  // namespace
 
-Json selection_ranges(const Snapshot& snapshot, const Json& params, const Surroundings&) {
+Json selection_ranges(const Snapshot& snapshot, const Json& params,
+                      const Surroundings& /*surroundings*/) {
   const SourceOfText source(snapshot.read());
   const std::vector<Section> sections = find_sections(snapshot.lines());
   Json selections = Json::array();

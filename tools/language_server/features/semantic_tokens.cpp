@@ -119,12 +119,12 @@ Json semantic_tokens_options() {
           {"range", true}};
 }
 
-Json semantic_tokens(const Snapshot& snapshot, const Surroundings&) {
+Json semantic_tokens(const Snapshot& snapshot, const Surroundings& /*surroundings*/) {
   return tokens_between(snapshot, {0, snapshot.text().size()});
 }
 
 Json semantic_tokens_of_range(const Snapshot& snapshot, const lint::Range& range,
-                              const Surroundings&) {
+                              const Surroundings& /*surroundings*/) {
   return tokens_between(snapshot, range);
 }
 
