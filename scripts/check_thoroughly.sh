@@ -16,6 +16,14 @@ step "clang-tidy over everything"
 step "g++'s analyzer"
 ./check_analysis.sh
 
+step "threads under the thread sanitizer"
+(
+  cd ..
+  cmake --preset tsan
+  cmake --build --preset tsan --target kelp_quill_inp_threads_test kelp_quill_inp_tool_threads_test
+  ctest --preset tsan
+)
+
 step "the tests with the standard library's checks, with a char that has no sign, under valgrind"
 ./debug_library.sh
 ./unsigned_char.sh
@@ -36,7 +44,8 @@ step "the oldest compilers"
 step "the page for beginners, with the tool"
 ../tests/docs/first_program.sh "$(cd .. && pwd)" "$(cd .. && pwd)/build/getting_started" g++ and-the-tool
 
-step "what is shipped: a wheel, hardening, Debian packages, the same bytes from two folders"
+step "what is shipped: the package in other projects, a wheel, hardening, Debian packages, the same bytes"
+./check_package.sh
 ./check_python_wheel.sh
 ./check_hardening.sh
 ./check_debian.sh
