@@ -41,6 +41,9 @@ for folder in unit interface properties exactness; do ./libcxx.sh "$folder"; don
 step "the oldest compilers"
 ./check_compilers.sh
 
+step "the site, and how fast its page answers"
+QUILL_INP_TEST_THOROUGHLY=1 ./docs.sh
+
 step "the page for beginners, with the tool"
 ../tests/docs/first_program.sh "$(cd .. && pwd)" "$(cd .. && pwd)/build/getting_started" g++ and-the-tool
 

@@ -35,7 +35,7 @@ void OpenDocument::begin_change() {
 void OpenDocument::change(std::int64_t version, const Json& changes) {
   begin_change();
   version_ = version;
-  for (const Json& change : changes) apply(change);
+  for (const Json& next : changes) apply(next);
 }
 
 void OpenDocument::replace_all(std::string text) {
@@ -45,9 +45,9 @@ void OpenDocument::replace_all(std::string text) {
 }
 
 void OpenDocument::apply(const Json& change) {
-  const std::string& text = text_member(change, "text");
+  const std::string& inserted = text_member(change, "text");
   if (find_member(change, "range").is_null()) {
-    replace_all(text);
+    replace_all(inserted);
     return;
   }
   if (is_lost_) return;
@@ -56,8 +56,8 @@ void OpenDocument::apply(const Json& change) {
   const auto end = find_offset(range.end, text_, line_starts_, encoding_);
   if (!start || !end || *end < *start)
     throw ResponseError(ErrorCode::InvalidParams, "a change does not fit the text");
-  text_.replace(*start, *end - *start, text);
-  line_starts_.replace(*start, *end - *start, text.size(), text_);
+  text_.replace(*start, *end - *start, inserted);
+  line_starts_.replace(*start, *end - *start, inserted.size(), text_);
 }
 
 OpenDocument& OpenDocuments::open(const std::string& uri, std::int64_t version, std::string text,
