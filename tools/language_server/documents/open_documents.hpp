@@ -27,7 +27,7 @@ class OpenDocument {
   /// the text then has those before it. A change that gives all of the text ends that it is lost.
   void change(std::int64_t version, const Json& changes);
 
-  /// Whether the text is no longer known to be that of the editor, because a change was lost.
+  /// Whether a change was lost, so that the text may differ from the one in the editor.
   bool is_lost() const { return is_lost_; }
   void lose() { is_lost_ = true; }
 
@@ -46,7 +46,7 @@ class OpenDocument {
   std::int64_t version_;
   PositionEncoding encoding_;
   bool is_lost_ = false;
-  // Only while there is no snapshot, which otherwise has them.
+  // Used only while there is no snapshot; a snapshot holds the text and its lines itself.
   std::string text_;
   LineStarts line_starts_;
   std::optional<Snapshot> snapshot_ = std::nullopt;

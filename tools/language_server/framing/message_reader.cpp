@@ -48,7 +48,8 @@ Incoming MessageReader::read() {
   return length > longest_ ? skip(length) : read_content(length);
 }
 
-/// Reads the header up to its empty line. Returns what to answer if there is no length in it.
+/// Reads the header up to its empty line and sets `length` to the length of the content. Returns
+/// nothing in that case, and what to answer if the header does not give a length.
 std::optional<Incoming> MessageReader::read_header(std::size_t& length) {
   std::optional<std::size_t> found;
   std::size_t rest = longest_header;
