@@ -142,9 +142,16 @@ bool is_begin_of(const std::string& begin, const std::string& whole) {
 void expect_end_with_message(const VerbRow& row, bool from_the_start) {
   const MeteredCall undisturbed = run_failing(row.arguments, row.input, 0);
   const std::uint64_t first = from_the_start ? 0 : undisturbed.allocations_before;
-  ASSERT_GT(undisturbed.allocations, first + 10);
+  int failures = 0;
   for (std::uint64_t i = first + 1; i <= undisturbed.allocations; ++i) {
     const MeteredCall call = run_failing(row.arguments, row.input, i, Shortage::Lasting);
+    // The buffer of a stable sort may be missing, and the last sort may be the last to ask for
+    // memory.
+    if (call.code == undisturbed.code && call.err == undisturbed.err) {
+      ASSERT_EQ(call.out, undisturbed.out) << i;
+      continue;
+    }
+    ++failures;
     ASSERT_EQ(call.code, 2) << i;
     ASSERT_TRUE(is_begin_of(call.out, undisturbed.out)) << i << '\n' << call.out;
     const std::string message = "quill-inp: error: out of memory\n";
@@ -153,6 +160,7 @@ void expect_end_with_message(const VerbRow& row, bool from_the_start) {
     ASSERT_EQ(call.err.substr(told), message) << i;
     ASSERT_TRUE(is_begin_of(call.err.substr(0, told), undisturbed.err)) << i << '\n' << call.err;
   }
+  EXPECT_GT(failures, 10);
 }
 
 /// Returns the row for a folder, to which the file that it names is written.
