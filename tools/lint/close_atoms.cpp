@@ -58,11 +58,28 @@ std::uint64_t hash_of(const Cell& cell) {
   return ((block ^ (block >> 32U)) * 0xFF51AFD7ED558CCDULL >> 20U) ^ in_block;
 }
 
+/// Asks for memory that is read soon. In a large table, waiting for it would take most of the time.
+void fetch_ahead(const void* address) {
+#ifdef __GNUC__
+  __builtin_prefetch(address);
+#else
+  static_cast<void>(address);
+#endif
+}
+
 /// Atoms by cell. A cell is four times as wide as the distance that counts, so an atom that is
 /// close to another one is in one of two cells along each axis, and mostly in the same. Atoms in
 /// the table are not close to each other, so that the number of those in a cell has a limit.
 class CellTable {
  public:
+  /// A place, and where the table keeps the atoms that can be close to it.
+  struct Surroundings {
+    Place place;
+    std::uint32_t own_slot;
+    std::array<std::uint32_t, 8> slots;
+    std::size_t slot_count;
+  };
+
   CellTable(const std::vector<AtomRecord>& atoms, double limit)
       : atoms_(atoms), limit_(limit), cells_per_unit_(1.0 / (4 * limit)) {
     std::size_t size = 16;
@@ -71,21 +88,42 @@ class CellTable {
     before_.resize(atoms.size());
   }
 
-  /// Returns the first atom in the table that is closer to `place` than the limit.
-  std::optional<std::size_t> find_close(const Place& place) const {
+  Surroundings surroundings_of(const Place& place) const {
+    Surroundings around = {place, slot_of(cell_of(place, 0.0)), {}, 0};
     const Cell low = cell_of(place, -limit_);
     const Cell high = cell_of(place, limit_);
-    std::uint32_t first = none;
     for (unsigned corner = 0; corner < 8; ++corner) {
       Cell cell = low;
-      if (move_to_corner(cell, high, corner)) first = std::min(first, first_in(cell, place));
+      if (move_to_corner(cell, high, corner)) around.slots[around.slot_count++] = slot_of(cell);
     }
+    return around;
+  }
+
+  void fetch_slots(const Surroundings& around) const {
+    fetch_ahead(&newest_[around.own_slot]);
+    for (std::size_t i = 0; i < around.slot_count; ++i) fetch_ahead(&newest_[around.slots[i]]);
+  }
+
+  void fetch_atoms(const Surroundings& around) const {
+    for (std::size_t i = 0; i < around.slot_count; ++i) {
+      const std::uint32_t at = newest_[around.slots[i]];
+      if (at == none) continue;
+      fetch_ahead(&atoms_[at].x);
+      fetch_ahead(&before_[at]);
+    }
+  }
+
+  /// Returns the first atom in the table that is closer than the limit.
+  std::optional<std::size_t> find_close(const Surroundings& around) const {
+    std::uint32_t first = none;
+    for (std::size_t i = 0; i < around.slot_count; ++i)
+      first = std::min(first, first_in(around.slots[i], around.place));
     if (first == none) return std::nullopt;
     return first;
   }
 
-  void insert(const Place& place, std::size_t atom) {
-    std::uint32_t& newest = newest_[slot_of(cell_of(place, 0.0))];
+  void insert(const Surroundings& around, std::size_t atom) {
+    std::uint32_t& newest = newest_[around.own_slot];
     before_[atom] = newest;
     newest = static_cast<std::uint32_t>(atom);
   }
@@ -99,7 +137,9 @@ class CellTable {
             cell_number((place[2] + shift) * cells_per_unit_)};
   }
 
-  std::size_t slot_of(const Cell& cell) const { return hash_of(cell) & (newest_.size() - 1); }
+  std::uint32_t slot_of(const Cell& cell) const {
+    return static_cast<std::uint32_t>(hash_of(cell) & (newest_.size() - 1));
+  }
 
   /// Takes the higher cell along the axes of `corner`; returns false if it is the same cell.
   static bool move_to_corner(Cell& cell, const Cell& high, unsigned corner) {
@@ -111,9 +151,9 @@ class CellTable {
     return true;
   }
 
-  std::uint32_t first_in(const Cell& cell, const Place& place) const {
+  std::uint32_t first_in(std::uint32_t slot, const Place& place) const {
     std::uint32_t first = none;
-    for (std::uint32_t at = newest_[slot_of(cell)]; at != none; at = before_[at]) {
+    for (std::uint32_t at = newest_[slot]; at != none; at = before_[at]) {
       const AtomRecord& other = atoms_[at];
       // The exact distance takes long, and most atoms of a cell are not close.
       if (std::fabs(other.x - place[0]) >= limit_ || std::fabs(other.y - place[1]) >= limit_)
@@ -130,18 +170,45 @@ class CellTable {
   std::vector<std::uint32_t> before_;  // by atom in the table, the one that came before it
 };
 
+struct NextAtom {
+  std::size_t number;
+  CellTable::Surroundings around;
+};
+
+/// Atoms whose memory is asked for together.
+using NextAtoms = std::array<NextAtom, 32>;
+
+/// Takes atoms with finite coordinates from number `from` on. Returns how many, and moves `from` to
+/// the first one that is left.
+std::size_t take_next(const std::vector<AtomRecord>& atoms, const CellTable& table,
+                      std::size_t& from, NextAtoms& next) {
+  std::size_t count = 0;
+  for (; from < atoms.size() && count < next.size(); ++from) {
+    const Place place = place_of(atoms[from]);
+    if (!is_finite(place)) continue;
+    next[count] = {from, table.surroundings_of(place)};
+    table.fetch_slots(next[count].around);
+    ++count;
+  }
+  for (std::size_t i = 0; i < count; ++i) table.fetch_atoms(next[i].around);
+  return count;
+}
+
 }  // namespace
 
 void for_each_close_pair(const std::vector<AtomRecord>& atoms, double limit,
                          const std::function<void(const ClosePair&)>& use) {
   CellTable table(atoms, limit);
-  for (std::size_t i = 0; i < atoms.size(); ++i) {
-    const Place place = place_of(atoms[i]);
-    if (!is_finite(place)) continue;
-    if (const auto first = table.find_close(place)) {
-      use({*first, i, distance(place_of(atoms[*first]), place)});
-    } else {
-      table.insert(place, i);
+  NextAtoms next;
+  std::size_t from = 0;
+  while (const std::size_t count = take_next(atoms, table, from, next)) {
+    for (std::size_t i = 0; i < count; ++i) {
+      const auto& [number, around] = next[i];
+      if (const auto first = table.find_close(around)) {
+        use({*first, number, distance(place_of(atoms[*first]), around.place)});
+      } else {
+        table.insert(around, number);
+      }
     }
   }
 }

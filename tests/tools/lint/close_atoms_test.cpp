@@ -94,6 +94,13 @@ TEST(CloseAtoms, AreNotThoseWithoutAFiniteCoordinate) {
               testing::IsEmpty());
 }
 
+TEST(CloseAtoms, AreNumberedWithThoseThatHaveNoFiniteCoordinate) {
+  EXPECT_THAT(
+      find_close_atoms(
+          {{"H", infinity, 0, 0}, {"H", 0, 0, 0}, {"H", infinity, 0, 0}, {"H", 0, 0, 0.25}}, 0.3),
+      testing::ElementsAre(ClosePair{1, 3, 0.25}));
+}
+
 TEST(CloseAtoms, NameTheFirstAtomOfManyInOnePlace) {
   EXPECT_THAT(find_close_atoms({{"H", 1, 1, 1}, {"H", 1, 1, 1}, {"H", 1, 1, 1}}, 0.3),
               testing::ElementsAre(ClosePair{0, 1, 0.0}, ClosePair{0, 2, 0.0}));
