@@ -21,6 +21,8 @@ const TITLES = {
   'cpp-lossless-TrackedDocument.html': 'lossless::TrackedDocument',
 };
 
+const contentOf = (page) => readFileSync(join(site, page), 'utf8');
+
 let browser;
 before(async () => { browser = await startBrowser(); });
 after(() => browser.close());
@@ -66,6 +68,26 @@ test('every page but that for pages that are not there can be reached from the f
     for (const [, target] of readFileSync(join(site, page), 'utf8').matchAll(/href="([\w-]+\.html)/g)) reached.add(target);
   }
   assert.deepEqual(pages.filter((page) => !reached.has(page)), ['404.html']);
+});
+
+const sheet = addressOf('cheat-sheet.html');
+
+test('the cheat sheet is seen at once on a wide screen', async () => {
+  const tab = await openTab(browser);
+  await setLook(tab, 1400, 'light');
+  await tab.goto(sheet);
+  const ends = await tab.$$eval('.text > *', (parts) => parts.map((part) => part.getBoundingClientRect().bottom));
+  assert.ok(ends.length > 4 && Math.max(...ends) < 800, `${ends}`);
+});
+
+test('the cheat sheet is printed on one sheet of paper', async () => {
+  const tab = await openTab(browser);
+  await tab.goto(sheet);
+  const sheetsOf = async (format) =>
+    Buffer.from(await tab.pdf({ format, preferCSSPageSize: false })).toString('latin1').match(/\/Type ?\/Page\b/g).length;
+  assert.deepEqual([await sheetsOf('a4'), await sheetsOf('letter')], [1, 1]);
+  await tab.goto(addressOf('traps.html'));
+  assert.ok(await sheetsOf('a4') > 1);
 });
 
 test('contents are open beside the text, and folded above it', async () => {

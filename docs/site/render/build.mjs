@@ -14,7 +14,7 @@ import { makeRenderer } from './markdown.mjs';
 import { makePictures } from './pictures/all.mjs';
 import { referenceGroup, referencePages } from './reference/pages.mjs';
 import { searchEntries, searchScript } from './search.mjs';
-import { findingPages, groupsOf } from './sources.mjs';
+import { findingPages, groupsOf, kindOf } from './sources.mjs';
 import { tryItEntry, tryItPage } from './try_it.mjs';
 
 const [root, xml, site, version] = process.argv.slice(2);
@@ -57,7 +57,7 @@ const render = makeRenderer({ root, isPage: (source) => ofPages.has(source), fil
 const pages = [
   homePage(root, highlight, groups),
   tryItPage(root),
-  ...sources.map(({ source, file }) => ({ file, ...render(source) })),
+  ...sources.map(({ source, file }) => ({ file, kind: kindOf(source), ...render(source) })),
   ...referencePages(xml, highlight),
 ];
 const frame = makeFrame(groups, PROJECT);

@@ -43,6 +43,15 @@ const FILES = {
   'editors/vscode/README.md': 'vscode',
 };
 
+// How pages look that do not look like an article: the classes of their body.
+const KINDS = {
+  'docs/cheat-sheet.md': 'article sheet',
+};
+
+export function kindOf(source) {
+  return KINDS[source];
+}
+
 export function fileOf(source) {
   return `${FILES[source] ?? basename(source, '.md').toLowerCase()}.html`;
 }
