@@ -37,10 +37,10 @@ std::vector<fs::directory_entry> entries_of(const std::string& folder, std::erro
 
 bool is_hidden(const fs::path& path) { return path.filename().native().front() == '.'; }
 
+/// The folder says what its entries are, and so the system is not asked for each of them.
 bool is_folder_to_walk(const fs::directory_entry& entry) {
   std::error_code ignored;
-  return entry.symlink_status(ignored).type() == fs::file_type::directory &&
-         !is_hidden(entry.path());
+  return !entry.is_symlink(ignored) && entry.is_directory(ignored) && !is_hidden(entry.path());
 }
 
 bool is_file(const fs::directory_entry& entry) {
