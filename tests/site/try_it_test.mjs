@@ -2,8 +2,10 @@
 // and how fast it is.
 
 import assert from 'node:assert/strict';
-import { readFileSync } from 'node:fs';
+import { mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { createRequire } from 'node:module';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
 
 import { examined, openPage, startBrowser } from './try_it_page.mjs';
@@ -187,6 +189,41 @@ test('an atom of the picture leads to its line', async () => {
   assert.match(await textOf('line'), /^Line 5: atom 2/);
 });
 
+test('a click on an atom of the picture leads to its line and marks it', async () => {
+  await examined(tab, Buffer.from('#opt\n\n0 1\nO 0 0 0\nC -1.2 0 0\nO -2.4 0 0\n'));
+  await drawn();
+  await tab.$eval('#molecule', (picture) => picture.scrollIntoView({ block: 'center' }));
+  for (const number of [2, 0, 1]) {
+    const { x, y } = await tab.evaluate((atom) => globalThis.tryIt.picture.view.placeOf(atom), number);
+    await tab.mouse.click(x, y);
+    assert.match(await textOf('line'), new RegExp(`^Line ${number + 4}: atom ${number + 1}`));
+    assert.deepEqual(await tab.evaluate(() => globalThis.tryIt.picture.view.marked()), [number]);
+  }
+});
+
+test('a file that is dropped on the page is shown byte for byte', async () => {
+  await examined(tab, Buffer.from(water));
+  const folder = mkdtempSync(join(tmpdir(), 'dropped'));
+  const path = join(folder, 'job.qin');
+  writeFileSync(path, Buffer.from('#dropped\r\n\xff\0\n', 'latin1'));
+  const { x, y } = await tab.$eval('#editor', (editor) => editor.getBoundingClientRect().toJSON());
+  const page = await tab.createCDPSession();
+  const drag = (type) => page.send('Input.dispatchDragEvent',
+    { type, x: x + 50, y: y + 50, data: { items: [], files: [path], dragOperationsMask: 1 } });
+  const isTarget = () => tab.$eval('#text', (target) => target.classList.contains('is-target'));
+  await drag('dragEnter');
+  await drag('dragOver');
+  assert.equal(await isTarget(), true);
+  await drag('drop');
+  await tab.waitForFunction(() => globalThis.tryIt.editor.text.startsWith('#dropped'));
+  await settle();
+  const read = await tab.evaluate(() => Array.from(globalThis.tryIt.shown().bytes));
+  assert.deepEqual(Buffer.from(read), readFileSync(path));
+  assert.equal(await isTarget(), false);
+  await page.detach();
+  rmSync(folder, { recursive: true });
+});
+
 test('coordinates in other files, and those that are not finite, are told', async () => {
   await examined(tab, Buffer.from('#sp\nXYZ water.xyz\n'));
   await drawn();
@@ -260,10 +297,63 @@ test('from a letter to its result in 1,000 lines is within six frames of an empt
   assert.ok(result < 6 * frame, `${result} ms, and a frame of an empty page takes ${frame} ms`);
 });
 
+/** Shows 10,000 atoms and waits for their picture. */
+async function showLargeInput() {
+  await tab.evaluate((text) => globalThis.tryIt.showBytes(new TextEncoder().encode(text)), manyAtoms(10000));
+  await settle();
+  await pictureOf(10000);
+}
+
+const pictureOf = (count) =>
+  tab.waitForFunction((wanted) => globalThis.tryIt.picture.view.drawn().atoms === wanted, { timeout: 60000 }, count);
+
 test('of 10,000 atoms, only the lines that can be seen are drawn', async () => {
-  await examined(tab, Buffer.from(manyAtoms(10000)));
+  await showLargeInput();
   assert.ok((await inEditor('.cm-line')).length < 200);
   await go(9000);
   assert.match(await textOf('line'), /^Line 9000: atom 8997/);
   assert.ok((await inEditor('.cm-line')).length < 200);
+});
+
+test('of 10,000 atoms, a letter is seen before the text is read', async () => {
+  const { line, answers } = await tab.evaluate(() => {
+    const { editor, shown } = globalThis.tryIt;
+    editor.go(1);
+    const before = shown().answers;
+    editor.view.dispatch({ changes: { from: 4, insert: 's' } });
+    const [first] = document.getElementById('editor').shadowRoot.querySelectorAll('.cm-line');
+    return { line: first.textContent, answers: shown().answers - before };
+  });
+  assert.deepEqual({ line, answers }, { line: '#opts', answers: 0 });
+});
+
+test('of 10,000 atoms, typing goes on while the text is read, and the picture follows', async () => {
+  await settle();
+  const before = await tab.evaluate(() => globalThis.tryIt.shown().answers);
+  await go(10003);
+  await tab.keyboard.press('End');
+  const typed = '\nH 0 0 90\nH 0 0 91';
+  await tab.keyboard.type(typed);
+  await settle();
+  await pictureOf(10002);
+  const { answers, end } = await tab.evaluate(() => {
+    const { answers, bytes } = globalThis.tryIt.shown();
+    return { answers, end: new TextDecoder().decode(bytes.slice(-19)) };
+  });
+  assert.equal(end, `${typed}\n`);
+  assert.ok(answers > before && answers - before <= typed.length, `${answers - before} answers`);
+});
+
+test('a letter in 10,000 atoms is seen within three frames of an empty page', timed, async () => {
+  const frame = 1000 / 60;
+  await showLargeInput();
+  const letterToSight = () => tab.evaluate(async () => {
+    await globalThis.tryIt.settled();
+    const begin = performance.now();
+    globalThis.tryIt.editor.view.dispatch({ changes: { from: 4, insert: 't' } });
+    await new Promise(requestAnimationFrame);
+    return performance.now() - begin;
+  });
+  const seen = await shortest(3 * frame, letterToSight);
+  assert.ok(seen < 3 * frame, `${seen} ms`);
 });

@@ -24,7 +24,6 @@ function styleFor(count) {
   return { stick: { radius: 0.12 }, sphere: { scale: 0.25 } };
 }
 
-
 /// Returns { show, mark, redraw, turn }, or null where the browser has no WebGL. `options.onPick` is
 /// called with the number of an atom that the user picks; `options.isDark` says which colours fit.
 export function makeMoleculeView(library, element, options = {}) {
@@ -89,7 +88,13 @@ export function makeMoleculeView(library, element, options = {}) {
     viewer.rotate(degrees, axis);
   }
 
-  return { show, mark, redraw, turn, zoom: (factor) => viewer.zoom(factor),
+  /// Returns where an atom is in the window.
+  function placeOf(number) {
+    const { x, y } = viewer.modelToScreen(byNumber.get(number));
+    return { x: x - scrollX, y: y - scrollY };
+  }
+
+  return { show, mark, redraw, turn, placeOf, zoom: (factor) => viewer.zoom(factor),
            resize: () => viewer.resize(), marked: () => [...marked],
            drawn: () => ({ atoms: molecule.atoms.length, shapes: shapes.length }) };
 }

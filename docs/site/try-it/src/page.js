@@ -12,7 +12,8 @@ import { Reader } from "./reader.js";
 import { makeTabs } from "./tabs.js";
 import { bytesOf, mended, shown, textOf } from "./text_bytes.js";
 
-const pause_before_picture = 150;  // milliseconds without a change
+// Milliseconds without a change. Typing waits for the picture, which takes longer for a long text.
+const pauseBeforePicture = (lineCount) => 150 + lineCount / 20;
 
 const at = (id) => document.getElementById(id);
 const reader = new Reader(globalThis.quillReaderSource, globalThis.quillReaderWasm);
@@ -100,7 +101,7 @@ let drawing = 0;
 
 function drawSoon() {
   clearTimeout(drawing);
-  drawing = setTimeout(draw, pause_before_picture);
+  drawing = setTimeout(draw, pauseBeforePicture(current.account.lines.length));
 }
 
 async function draw() {
