@@ -20,7 +20,10 @@ cp -r tests/site "$tools/tests"
 texts=$PWD/examples/inputs
 for target in parse document edit lines lint surgery; do texts+=:$corpus/$target; done
 export KELP_QUILL_INP_TREE=$PWD KELP_QUILL_INP_SITE=$site KELP_QUILL_INP_PROGRAM=$program KELP_QUILL_INP_TEXTS=$texts
-if ! node --test --test-reporter=spec "$tools"/tests/*_test.mjs >"$scratch/tests" 2>&1; then
+# Each file has a browser of its own, so that files can run beside one another; but not where times are judged.
+jobs=${QUILL_INP_TEST_THOROUGHLY:+1}
+if ! node --test --test-concurrency="${jobs:-$(nproc)}" --test-reporter=spec "$tools"/tests/*_test.mjs \
+  >"$scratch/tests" 2>&1; then
   cat "$scratch/tests" >&2
   exit 1
 fi

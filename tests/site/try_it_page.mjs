@@ -1,6 +1,6 @@
 // Opens "Try it" in a browser with a picture of molecules, and asks the program what it says of a text.
 
-import { spawnSync } from 'node:child_process';
+import { execFile } from 'node:child_process';
 import { mkdtempSync, readFileSync, readdirSync, rmSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
@@ -65,11 +65,15 @@ export class Program {
     return readFileSync(join(this.#folder, 'input'));
   }
 
-  /** The output; its exit code may say that something was found. */
+  /** The output; the exit code 1 says that something was found. Several may run at once. */
   run(...args) {
-    const { stdout, stderr, status } = spawnSync(program, [...args, 'input'], { cwd: this.#folder });
-    if (status > 1) throw new Error(`${args}: ${stderr}`);
-    return stdout;
+    const options = { cwd: this.#folder, encoding: 'buffer', maxBuffer: 1 << 26 };
+    return new Promise((resolve, reject) => {
+      execFile(program, [...args, 'input'], options, (error, stdout, stderr) => {
+        if (error && error.code !== 1) reject(new Error(`${args}: ${error.message} ${stderr}`));
+        else resolve(stdout);
+      });
+    });
   }
 }
 
