@@ -59,6 +59,20 @@ void set_charge(int charge);
 void set_multiplicity(int multiplicity);
 HEADER
 
+# What is said of a destructor is not said of the function after it.
+try "int Atoms::count has no description" <<'HEADER'
+/// @file
+
+/// A list.
+class Atoms {
+ public:
+  /// Closes the list.
+  ~Atoms();
+
+  int count() const;
+};
+HEADER
+
 try "no functions are described in $scratch/xml" <<'HEADER'
 /// @file
 

@@ -2,6 +2,7 @@
 // not compile, or asserts something wrong, fails the tests.
 //
 //   extract_code PAGE.md PROGRAM.cpp
+//   extract_code HEADER.hpp PROGRAM.cpp INCLUDED.hpp...
 //
 // Include lines and using directives of the page are gathered at the top; nothing else is included
 // before its code, so that code which needs a header that the page does not show does not compile.
@@ -10,8 +11,9 @@
 //
 // A block of "text", or of no language, right after a C++ block is what that block prints.
 //
-// The page may also be a header. Its blocks are the indented lines of its comments. In
-// "EXPRESSION;  // VALUE" the comment is the value of the expression.
+// Blocks of a header are the indented lines of its comments. In "EXPRESSION;  // VALUE" the comment
+// is the value of the expression. The program includes the headers that are named, and needs no
+// qualified names.
 
 #include <algorithm>
 #include <fstream>
@@ -68,6 +70,8 @@ std::vector<Block> find_blocks_of_header(std::istream& header) {
   bool is_inside = false;
   std::string line;
   for (std::size_t number = 1; std::getline(header, line); ++number) {
+    // The headers of the sister libraries begin with an ordinary comment.
+    if (starts_with(line, "//") && !starts_with(line, "///")) line.insert(0, "/");
     const bool is_code = starts_with(line, prefix);
     if (is_code && !is_inside) blocks.push_back({number});
     if (is_code) blocks.back().lines.push_back(with_assertion(line.substr(prefix.size())));
@@ -126,11 +130,20 @@ void write_program(std::ostream& out, const std::vector<Block>& blocks, const st
       << calls.str() << "}\n";
 }
 
+void write_top_for_header(std::ostream& out, const std::vector<std::string>& included) {
+  for (const std::string standard : {"cassert", "iostream", "stdexcept"})
+    out << "#include <" << standard << ">\n";
+  for (const std::string& header : included) out << "#include \"" << header << "\"\n";
+  for (const std::string name : {"kelp::input::quill", "kelp::input::quill::lossless", "kelp::core",
+                                 "kelp::core::text", "kelp::chem::elements"})
+    out << "namespace " << name << " {}\nusing namespace " << name << ";\n";
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::cerr << "usage: extract_code PAGE.md PROGRAM.cpp\n";
+  if (argc < 3) {
+    std::cerr << "usage: extract_code PAGE.md|HEADER.hpp PROGRAM.cpp [INCLUDED.hpp...]\n";
     return 2;
   }
   std::ifstream page(argv[1]);
@@ -142,11 +155,7 @@ int main(int argc, char** argv) {
   }
   std::ofstream program(argv[2]);
   program << "#undef NDEBUG\n";
-  if (is_header) {
-    program << "#include <cassert>\n#include <iostream>\n"
-            << "#include \"kelp/input/quill/quill.hpp\"\n"
-            << "using namespace kelp::input::quill;\n";
-  }
+  if (is_header) write_top_for_header(program, {argv + 3, argv + argc});
   write_program(program, blocks, argv[1]);
   program.close();
   return program ? 0 : 1;

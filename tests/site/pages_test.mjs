@@ -22,6 +22,7 @@ const TITLES = {
 };
 
 const contentOf = (page) => readFileSync(join(site, page), 'utf8');
+const ofReference = pages.filter((page) => page.startsWith('cpp-'));
 
 let browser;
 before(async () => { browser = await startBrowser(); });
@@ -68,6 +69,18 @@ test('every page but that for pages that are not there can be reached from the f
     for (const [, target] of readFileSync(join(site, page), 'utf8').matchAll(/href="([\w-]+\.html)/g)) reached.add(target);
   }
   assert.deepEqual(pages.filter((page) => !reached.has(page)), ['404.html']);
+});
+
+test('pages of the reference have an example, but for those of headers with macros', () => {
+  const withoutExample = ofReference.filter((page) => !contentOf(page).includes('<pre data-language="cpp">'));
+  assert.deepEqual(withoutExample, ['cpp-export-header.html', 'cpp-lossless-export-header.html']);
+  assert.deepEqual(ofReference.filter((page) => contentOf(page).includes('#ifndef')), []);
+});
+
+test('pages of types list their members', () => {
+  const ofTypes = ofReference.filter((page) => !page.endsWith('-header.html'));
+  assert.ok(ofTypes.length > 30);
+  assert.deepEqual(ofTypes.filter((page) => !contentOf(page).includes('<h2 id="members">Members</h2>')), []);
 });
 
 const sheet = addressOf('cheat-sheet.html');

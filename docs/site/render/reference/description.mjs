@@ -66,7 +66,8 @@ export function makeDescriber(highlight, addresses) {
     },
     /** The first example of a header's description. */
     example: (node) => {
-      const found = ['verbatim', 'programlisting'].flatMap((tag) => [...node.getElementsByTagName(tag)])[0];
+      const inDescriptions = (tag) => descriptions(node).flatMap((part) => [...part.getElementsByTagName(tag)]);
+      const found = ['verbatim', 'programlisting'].flatMap(inDescriptions)[0];
       return found ? piece(found) : '';
     },
   };

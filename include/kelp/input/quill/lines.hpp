@@ -4,9 +4,10 @@
 /// @file
 /// What the reader made of every line of a text.
 ///
+///     const std::string text = "#opt\n0 1\nHe 0 0 0\nHe 0 0 1,5\n";
 ///     const ParsedLines parsed = parse_lines(text);
 ///     for (const LineRecord& line : parsed.lines) {
-///       if (line.role == LineRole::Dropped)
+///       if (line.role == LineRole::PostCommand)
 ///         std::cerr << text.substr(line.offset, line.length) << '\n';
 ///     }
 ///

@@ -3,7 +3,7 @@
 
 // The chemical elements by symbol: hydrogen, 1, to oganesson, 118.
 //
-//   atomic_number_from_symbol(normalize_symbol("cl"));  // 17
+//     atomic_number_from_symbol(normalize_symbol("cl"));  // 17
 //
 // Symbols and atomic numbers are those of the IUPAC Periodic Table of the Elements (release of
 // 4 May 2022, iupac.org/what-we-do/periodic-table-of-elements). There are no names for isotopes

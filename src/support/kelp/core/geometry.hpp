@@ -4,7 +4,8 @@
 // A molecule in the form that the programs of the family exchange: plain data; a copy copies
 // everything.
 //
-//   const Geometry hydrogen{{{"H", 0.0, 0.0, 0.0}, {"H", 0.0, 0.0, 0.74}}};
+//     const Geometry hydrogen{{{"H", 0.0, 0.0, 0.0}, {"H", 0.0, 0.0, 0.74}}};
+//     hydrogen.atoms.size();  // 2
 //
 // Distinct objects may be used from distinct threads.
 

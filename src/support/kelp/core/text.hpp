@@ -4,11 +4,11 @@
 // Text functions that give the same answer in every locale: trimming, case folding, splitting and
 // number parsing of byte strings.
 //
-//   for (const std::string& line : split_lines(text)) {
-//     const std::vector<std::string> words = split_whitespace(line);
-//     double x = 0.0;
-//     if (words.size() == 2 && try_parse_double(words[1], x)) use(words[0], x);
-//   }
+//     for (const std::string& line : split_lines("He 0.0\nNe 1.5\n")) {
+//       const std::vector<std::string> words = split_whitespace(line);
+//       double x = 0.0;
+//       if (words.size() == 2 && try_parse_double(words[1], x)) std::cout << x << '\n';
+//     }
 //
 // White space is the blank, "\t", "\n", "\v", "\f" and "\r". Every other byte, NUL and those above
 // 0x7F included, is an ordinary character, so UTF-8 text is not damaged. No text makes a function

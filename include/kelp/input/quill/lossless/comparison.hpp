@@ -4,8 +4,9 @@
 /// @file
 /// Compares the document that is wanted with the one that a text is read as.
 ///
-///     const Comparison comparison = compare(wanted, parse_string(text).input, 1e-6);
-///     for (const Difference& difference : comparison.differences)
+///     const QuillInput wanted = parse_string("#opt\n#model = m2\n\n1 2\n").input;
+///     const QuillInput found = parse_string("#opt\n#model = m1\n\n0 2\n").input;
+///     for (const Difference& difference : compare(wanted, found).differences)
 ///       std::cerr << words(difference) << '\n';
 
 #include <cstddef>

@@ -6,6 +6,9 @@
 /// exceptions. The reader keeps the line that it read in `raw_text` for every kind of
 /// post-processing line, so that member counts for raw text only. And two NaNs of the same sign are
 /// equal. All other numbers are equal when every bit is, so that 0 and -0 differ.
+///
+///     is_equal(AtomRecord{"He", 0.0, 0.0, 0.5}, AtomRecord{"He", 0.0, 0.0, 0.5});   // true
+///     is_equal(AtomRecord{"He", 0.0, 0.0, 0.0}, AtomRecord{"He", 0.0, 0.0, -0.0});  // false
 
 #include "kelp/input/quill/document.hpp"
 #include "kelp/input/quill/lossless/export.hpp"

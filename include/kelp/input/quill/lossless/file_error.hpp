@@ -6,10 +6,12 @@
 /// sentence.
 ///
 ///     try {
-///       replace(path);
+///       open_to_replace("job.qin").replace("#opt\n");
 ///     } catch (const FileError& error) {
-///       if (error.failure().kind == FileFailure::Kind::ChangedByOthers) return ask_user_again();
-///       show(error.what());  // "job.qin: cannot be written: Permission denied"
+///       // If others changed it, it can be read again.
+///       if (error.failure().kind == FileFailure::Kind::ChangedByOthers) return;
+///       std::cerr << error.what() << '\n';
+///       // "job.qin: cannot be opened: No such file or directory"
 ///     }
 
 #include <chrono>

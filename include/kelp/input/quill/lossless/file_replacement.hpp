@@ -7,8 +7,11 @@
 ///
 ///     FileToReplace file = open_to_replace("job.qin");
 ///     const ReadText read = read_text(file.text());
-///     ...
-///     for (const LostAttribute& lost : file.replace(edit.text)) tell_user(words(lost));
+///     TrackedDocument document(read.result.input);
+///     document.set_parameter("opt", "maxiter", "100");
+///     const SurgicalEdit edit = render(read, document);
+///     if (!edit.proof.holds()) return;
+///     for (const LostAttribute& lost : file.replace(edit.text)) std::cerr << words(lost) << '\n';
 ///
 /// The new text is written to a temporary file in the same folder, which gets the owner, access
 /// rights and attributes of the old one. It is flushed to disk, read back, and renamed if the old

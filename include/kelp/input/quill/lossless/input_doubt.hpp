@@ -3,6 +3,10 @@
 
 /// @file
 /// Whether a text looks like a QUILL input at all.
+///
+///     find_input_doubt(read_text("#opt\n")).has_value();  // false
+///     const std::optional<InputDoubt> doubt = find_input_doubt(read_text("#!/bin/sh\necho\n"));
+///     doubt->kind == InputDoubt::Kind::Script;  // true
 
 #include <cstddef>
 #include <optional>

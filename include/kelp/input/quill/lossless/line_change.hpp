@@ -3,6 +3,13 @@
 
 /// @file
 /// A line that an edit changed.
+///
+///     const ReadText read = read_text("#opt\n#model = m1\n");
+///     TrackedDocument document(read.result.input);
+///     document.set_model("m2");
+///     const LineChange change = render(read, document).changes.front();
+///     change.old_line;  // 2
+///     change.new_line;  // 2
 
 #include <cstddef>
 #include <optional>

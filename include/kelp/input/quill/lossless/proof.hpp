@@ -4,8 +4,9 @@
 /// @file
 /// The proof that a text says what is wanted. It is made before the text is written anywhere.
 ///
-///     const Proof proof = prove(text, wanted, 1e-6);
-///     if (!proof.holds()) return refuse(words(proof, wanted));
+///     const QuillInput wanted = parse_string("0 1\nHe 0 0 0\n\nA 1 2 3\n").input;
+///     const Proof proof = prove("0 1\nHe 0 0 0\nHe 0 0 3\n", wanted);
+///     if (!proof.holds()) std::cerr << words(proof, wanted) << '\n';
 ///
 /// The text is read by the library's own reader and compared, member by member, with the document
 /// that is wanted. In the QUILL format, the reader can understand a text differently from what its

@@ -4,8 +4,9 @@
 /// @file
 /// Quotes the values of header commands so that they are read back unchanged.
 ///
-///     to_string(quote(command).command);     // a header line that reads back as `command`
-///     quote(document).document.to_string();  // the canonical text, with quotes where needed
+///     HeaderCommand command{"opt", HeaderCommandKind::ParameterList};
+///     command.parameters = {{"steps", "1,2"}, {"tight"}};
+///     to_string(quote(command).command);  // "#opt(steps=\"1,2\", tight)"
 ///
 /// The library's writer quotes nothing, but its reader removes quotes, trims values, and splits
 /// lists at commas. A value that would change in this way is put between quotes: those that do not

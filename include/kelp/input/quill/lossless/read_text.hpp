@@ -3,6 +3,10 @@
 
 /// @file
 /// A text with what the reader made of it.
+///
+///     const ReadText read = read_text("#opt\n\n0 1\nHe  0 0 0\n");
+///     const std::optional<std::size_t> atom = find_line(read.lines, LineRole::Atom, 0);
+///     content_of(read.lines[*atom], read.text);  // "He  0 0 0"
 
 #include <cstddef>
 #include <optional>

@@ -4,12 +4,12 @@
 /// @file
 /// Changes only those lines of a text that have to change.
 ///
-///     const ReadText read = read_text(text);
+///     const ReadText read = read_text("#OPT( maxiter = 50 )\n#model=m1\n0 1\nHe 0 0 0\n");
 ///     TrackedDocument document(read.result.input);
-///     document.set_parameter("opt", "maxiter", "100");
 ///     document.set_model("m2");
 ///     const SurgicalEdit edit = render(read, document);
-///     if (edit.proof.holds()) write(edit.text);
+///     edit.proof.holds();  // true
+///     edit.text;           // "#OPT( maxiter = 50 )\n#model = m2\n0 1\nHe 0 0 0\n"
 ///
 /// All other lines stay the same byte for byte: layout, digits, blank lines, lines that the reader
 /// drops and line ends. A last line without a line end stays without one. A changed header line is

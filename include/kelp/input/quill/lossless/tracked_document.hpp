@@ -3,6 +3,11 @@
 
 /// @file
 /// A document that is edited together with its text.
+///
+///     const ReadText read = read_text("#sp\n#model = m1\n#sp\n");
+///     TrackedDocument document(read.result.input);
+///     document.remove_command("sp", 1);
+///     render(read, document).text;  // "#sp\n#model = m1\n"
 
 #include <algorithm>
 #include <cstddef>

@@ -6,6 +6,18 @@
 /// temporary files, and can remove these before they end. Without that, a signal leaves a file
 /// ".quill-inp." and sixteen digits; the file that was to be replaced is as it was or as it should
 /// be in any case. The library itself installs no handlers.
+///
+///     struct Unfinished : UnfinishedFiles {
+///       UnfinishedFile* newest = nullptr;
+///       void begin_step() noexcept override {}  // a program blocks its signals here
+///       void end_step() noexcept override {}    // and no longer here
+///       void add(UnfinishedFile& file) noexcept override { file.next = newest, newest = &file; }
+///       void remove(UnfinishedFile&) noexcept override { newest = newest->next; }
+///     };
+///     Unfinished files;
+///     WriteOptions options;
+///     options.unfinished = &files;
+///     write_whole_file("job.qin", "#opt\n", options);
 
 #include <string>
 
@@ -28,7 +40,7 @@ class KELP_QUILL_LOSSLESS_EXPORT UnfinishedFiles {
   UnfinishedFiles() = default;
   /// A list is known by its address, so it cannot be copied.
   UnfinishedFiles(const UnfinishedFiles&) = delete;
-  /// A list is known by its address, so it cannot be copied.
+  /// Not possible, because a list is known by its address.
   UnfinishedFiles& operator=(const UnfinishedFiles&) = delete;
   /// To be called when no file is listed.
   virtual ~UnfinishedFiles();

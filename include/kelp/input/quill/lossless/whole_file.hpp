@@ -5,7 +5,8 @@
 /// Writes a file that need not be there yet. At every moment, even if the program is killed, there
 /// is either no file, or the whole text that was there before, or the whole new text.
 ///
-///     write_whole_file("job.qin", text);  // throws if there is a file with another text
+///     // Throws FileError if there is a file with another text.
+///     write_whole_file("job.qin", "#opt\n\n0 1\nHe 0 0 0\n");
 ///
 /// These functions are not offered on Windows.
 

@@ -5,6 +5,10 @@
 /// Messages for people: about the parts of a document, about what differs and about what cannot be
 /// written. All other files pass on facts; only the texts made here are for people. They contain
 /// bytes of documents unchanged, and have to be escaped before they are shown on a terminal.
+///
+///     const QuillInput wanted = parse_string("1 2\n").input;
+///     const QuillInput found = parse_string("0 2\n").input;
+///     words(compare(wanted, found).differences.front());  // "the charge is 0 instead of 1"
 
 #include <cstdint>
 #include <string>

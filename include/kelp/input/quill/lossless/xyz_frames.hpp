@@ -4,9 +4,11 @@
 /// @file
 /// Reads the structures of XYZ files, so that their atoms can be copied into inputs.
 ///
-///     const XyzReading reading = read_xyz_frame(text, -1);  // the last structure of a trajectory
+///     const std::string text = "1\nfirst\nHe 0 0 0\n1\nsecond\nHe 0 0 0.5\n";
+///     // The last structure of a trajectory.
+///     const XyzReading reading = read_xyz_frame(text, -1);
 ///     if (reading.problem) throw std::runtime_error(words(*reading.problem));
-///     editor.set_geometry(reading.frames.front().atoms);
+///     reading.frames.front().comment;  // "second"
 ///
 /// A structure, or frame, is a line with the number of its atoms, a line of text, and a line for
 /// each atom with a symbol of letters and three coordinates. Other columns are ignored. A
