@@ -1,6 +1,6 @@
-# Debian packages by CPack, for the preset debian: the libraries, the files for building programs, and
-# the tool. The packages have what Debian's policy requires: a changelog, a copyright file, compressed
-# manual pages.
+# Debian packages by CPack, for the preset debian: the libraries, the files for building programs, the
+# tool and the Python package. They have what Debian's policy requires: a changelog, a copyright file,
+# compressed manual pages.
 if(NOT KELP_QUILL_INP_DEBIAN_PACKAGES)
   return()
 endif()
@@ -9,6 +9,11 @@ find_program(KELP_QUILL_INP_GZIP gzip REQUIRED)
 set(runtime_package libkelp-quill-inp${KELP_QUILL_INP_SOVERSION})
 set(development_package libkelp-quill-inp-dev)
 set(tool_package quill-inp)
+set(components runtime development tool)
+if(KELP_QUILL_INP_BUILD_PYTHON)
+  set(python_package python3-quill-inp)
+  list(APPEND components python)
+endif()
 
 set(debian_release 0kelp1)
 set(debian_files "${PROJECT_SOURCE_DIR}/cmake/debian")
@@ -28,7 +33,7 @@ function(install_compressed file folder name component)
   install(FILES "${compressed}" DESTINATION "${folder}" COMPONENT ${component})
 endfunction()
 
-foreach(component IN ITEMS runtime development tool)
+foreach(component IN LISTS components)
   set(package ${${component}_package})
   install_compressed("${debian_files}/changelog"
     "${CMAKE_INSTALL_DATADIR}/doc/${package}" changelog.Debian ${component})
@@ -56,7 +61,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_COMPONENTS_ALL runtime development documentation tool)
+set(CPACK_COMPONENTS_ALL ${components} documentation)
 set(CPACK_COMPONENT_DEVELOPMENT_GROUP development)
 set(CPACK_COMPONENT_DOCUMENTATION_GROUP development)
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
@@ -112,5 +117,9 @@ A QUILL input is the plain-text job description of a computational-chemistry
 engine. The program shows, checks, formats and edits such files, makes new
 ones, and turns them into JSON and back. An edit changes the lines it means
 and leaves every other byte alone.")
+
+if(KELP_QUILL_INP_BUILD_PYTHON)
+  include(cmake/debian_python.cmake)
+endif()
 
 include(CPack)

@@ -1,5 +1,5 @@
 # Where files are installed, in components: runtime (what programs load), development (what is needed
-# to build them), tool (the program quill-inp) and documentation.
+# to build them), tool (the program quill-inp), python (the package) and documentation.
 if(NOT KELP_QUILL_INP_INSTALL)
   return()
 endif()
@@ -20,6 +20,9 @@ kelp_quill_inp_install_library(kelp_quill_lossless
 
 if(KELP_QUILL_INP_BUILD_TOOLS)
   include(cmake/install_tool.cmake)
+endif()
+if(KELP_QUILL_INP_BUILD_PYTHON)
+  include(cmake/install_python.cmake)
 endif()
 
 # What README.md links to is installed next to it.

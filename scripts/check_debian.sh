@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the Debian packages and checks them with lintian. As root it also installs them, uses the tool
-# and builds a program against the library as their users would, and removes them again.
+# and the Python package, builds a program against the library as their users would, and removes them again.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
@@ -44,6 +44,29 @@ sh tests/package/links_of_pages.sh "$scratch/unpacked/usr/share/doc/libkelp-quil
 quill-inp set examples/inputs/water_optimisation.qin opt.maxiter=100 >"$scratch/water.qin"
 diff <(sed 's/maxiter=50/maxiter=100/' examples/inputs/water_optimisation.qin) "$scratch/water.qin"
 
+# Every module is there, with its stub.
+installed=/usr/lib/python3/dist-packages/quill_inp
+for file in python/quill_inp/*.py python/quill_inp/*.pyi python/quill_inp/py.typed; do
+  cmp "$file" "$installed/${file##*/}"
+done
+dpkg-query --show --showformat '${Recommends}\n' python3-quill-inp | grep -qx python3-numpy
+
+(
+  cd "$scratch"
+  /usr/bin/python3 -I - water.qin <<'PROGRAM'
+import importlib.metadata
+import sys
+
+import quill_inp
+
+assert quill_inp.__file__ == "/usr/lib/python3/dist-packages/quill_inp/__init__.py"
+assert quill_inp.read(sys.argv[1]).find_command("opt").parameters[0].value == "100"
+assert importlib.metadata.version("kelp-quill-inp") == quill_inp.__version__
+(found,) = importlib.metadata.entry_points(group="ase.ioformats")
+assert found.value == "quill_inp.ase:ase_format"
+PROGRAM
+)
+
 # The compiler searches the folders of the package by default: no folder need be named.
 flags=$(pkg-config --cflags --libs kelp_quill_inp)
 case $flags in
@@ -59,7 +82,8 @@ ctest --test-dir "$scratch/by_cmake" --output-on-failure --no-tests=error >/dev/
 
 remove
 trap - EXIT
-if find / -xdev \( -name 'libkelp_quill_inp*' -o -name 'quill-inp' -type f \) -path '/usr/*' | grep .
+if find / -xdev \( -name 'libkelp_quill_inp*' -o -name 'quill-inp' -type f -o -name quill_inp -o -name 'kelp_quill_inp-*' \) \
+  -path '/usr/*' | grep .
 then
   echo "the packages are removed and the files above are still there" >&2
   exit 1
