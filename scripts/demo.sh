@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the examples and the tool and runs them on real inputs: one is read
-# and written back, a careless one is read for its diagnostics, and one is edited.
+# Installs what is missing, builds the examples, the tool and the Python package and runs them on real
+# inputs: one is read and written back, a careless one is read for its diagnostics, and one is edited.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
 . scripts/support/packages.sh
 
-need_packages "${tool_packages[@]}"
+need_packages "${tool_packages[@]}" pybind11-dev python3-dev python3-numpy
 
 build=build/demo
 echo "Building in $build ..."
@@ -36,3 +36,16 @@ echo "== The same at the shell: quill-inp shows, edits and refuses what would be
 "$build/tools/quill-inp/quill-inp" set --diff "$inputs/cisplatin_by_hand.qin" opt.maxiter=100 ||
   [ $? -eq 1 ]
 "$build/tools/quill-inp/quill-inp" add "$build/water.qin" --angle 2,1,3 || [ $? -eq 2 ]
+
+echo
+echo "== The same in Python: coordinates as an array, and an edit that changes one line of $build/water.qin"
+PYTHONPATH=$build/python /usr/bin/python3 -B - "$build/water.qin" <<'PROGRAM'
+import sys
+
+import quill_inp
+
+print(quill_inp.read(sys.argv[1]).geometry.positions)
+with quill_inp.edit_file(sys.argv[1]) as editor:
+    editor.set_parameter("opt", "maxiter", "200")
+print(quill_inp.read(sys.argv[1]).find_command("opt"))
+PROGRAM
