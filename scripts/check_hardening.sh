@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the libraries and the tool as they are shipped and checks, in the files as built and as
-# installed, that they are hardened as cmake/hardening.cmake says.
+# Builds the libraries, the tool and the Python package as they are shipped and checks, in the files as built
+# and as installed, that they are hardened as cmake/hardening.cmake says.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/builds.sh
@@ -57,10 +57,12 @@ check_file() {
   fi
 }
 
+# check_installed_file FILE KIND [PREFIX]: PREFIX is that of the functions that the loading program has.
 check_installed_file() {
-  check_file "$@"
+  check_file "$1" "$2"
   ! readelf --dynamic "$1" | grep -Eq '\((RPATH|RUNPATH)\)' || complain "$1" "has a run path"
-  if LD_LIBRARY_PATH=$libraries ldd -r "$1" 2>&1 | grep -E 'undefined symbol|not found'; then
+  if LD_LIBRARY_PATH=$libraries ldd -r "$1" 2>&1 | grep -E 'undefined symbol|not found' |
+    grep -vE "undefined symbol: ${3:-$^}"; then
     complain "$1" "needs what its libraries do not have"
   fi
 }
@@ -72,9 +74,12 @@ for library in "${shared_libraries[@]}"; do
 done
 check_file "$build/tools/quill-inp/quill-inp" program
 check_installed_file "$installed/bin/quill-inp" program
+extension=$(basename "$build"/python/quill_inp/_core.*.so)
+check_file "$build/python/quill_inp/$extension" library
+check_installed_file "$installed/lib/python3/dist-packages/quill_inp/$extension" library '_?Py'
 
 # These leave marks only where there are arrays on the stack and containers to look into.
-for file in "$libraries/libkelp_quill_inp.so" "$installed/bin/quill-inp"; do
+for file in "$libraries/libkelp_quill_inp.so" "$installed/bin/quill-inp" "$build/python/quill_inp/$extension"; do
   names=$(nm --dynamic "$file")
   grep -q '__stack_chk_fail' <<<"$names" || complain "$file" "does not guard its stack"
   grep -q '__glibcxx_assert_fail' <<<"$names" || complain "$file" "does not check its indices"
@@ -84,4 +89,4 @@ if [ -s "$complaints" ]; then
   cat "$complaints" >&2
   exit 1
 fi
-echo "the libraries and the tool are hardened"
+echo "the libraries, the tool and the Python package are hardened"
