@@ -4,6 +4,18 @@
 
 namespace kelp::input::quill {
 
+namespace {
+
+bool is_visible(char c) { return c > ' ' && c <= '~'; }
+
+/// No definition of white space has characters that are seen. So most lines of an input, those of
+/// atoms, need no copy.
+bool has_no_outer_blanks(const std::string& line) {
+  return !line.empty() && is_visible(line.front()) && is_visible(line.back());
+}
+
+}  // namespace
+
 LineCursor::LineCursor(std::string_view text) : lines_(core::text::split_lines(text)) {
   skip_blank_lines();
 }
@@ -20,7 +32,12 @@ void LineCursor::advance() {
 
 void LineCursor::skip_blank_lines() {
   for (; index_ < lines_.size(); ++index_) {
-    trimmed_ = core::text::trim(lines_[index_]);
+    if (has_no_outer_blanks(lines_[index_])) {
+      trimmed_ = lines_[index_];
+      return;
+    }
+    copy_ = core::text::trim(lines_[index_]);
+    trimmed_ = copy_;
     if (!trimmed_.empty()) return;
   }
 }

@@ -13,11 +13,15 @@
 namespace kelp::input::quill {
 
 /// Walks forward over the lines of a text that are not blank. Blank lines have no meaning anywhere
-/// in an input, so no section ever gets one. Each line is trimmed once, when the cursor reaches it.
+/// in an input, so no section ever gets one. A line is trimmed when the cursor reaches it, and
+/// copied for that only if there may be something to remove.
 class LineCursor {
  public:
   /// Begins at the first line of `text` that is not blank, or at the end.
   explicit LineCursor(std::string_view text);
+
+  LineCursor(const LineCursor&) = delete;
+  LineCursor& operator=(const LineCursor&) = delete;
 
   /// Makes the cursor keep `records`, which has one entry for each of all_lines() and must live as
   /// long as the cursor. Without it the roles of lines are not kept.
@@ -31,8 +35,9 @@ class LineCursor {
   /// The line as it is in the text, without its terminator; not to be called at the end.
   const std::string& line() const { return lines_[index_]; }
 
-  /// The line without outer blanks, never empty; not to be called at the end.
-  const std::string& trimmed() const { return trimmed_; }
+  /// The line without outer blanks, never empty, until the cursor moves on; not to be called at the
+  /// end.
+  std::string_view trimmed() const { return trimmed_; }
 
   /// The number of the line in the text, blank lines included, counted from 1.
   std::uint64_t number() const { return std::uint64_t{index_} + 1; }
@@ -54,7 +59,8 @@ class LineCursor {
 
   std::vector<std::string> lines_;
   std::size_t index_ = 0;
-  std::string trimmed_;
+  std::string_view trimmed_;  // of the line itself or of the copy
+  std::string copy_;
   LineRecord* records_ = nullptr;
 };
 
