@@ -83,6 +83,26 @@ test('pages of types list their members', () => {
   assert.deepEqual(ofTypes.filter((page) => !contentOf(page).includes('<h2 id="members">Members</h2>')), []);
 });
 
+test('pages have their pictures, in the colours of the page', () => {
+  for (const page of ['architecture', 'editors', 'embedding', 'format', 'performance']) {
+    const [picture] = /<svg class="picture"[^]*?<\/svg>/.exec(contentOf(`${page}.html`)) ?? [''];
+    assert.match(picture, /role="img" aria-label="\w/, page);
+    assert.doesNotMatch(picture, /#[0-9a-f]{3}|rgb\(|<style/i, page);
+  }
+});
+
+test('the first screen shows an input, the ways in and the claims', async () => {
+  const tab = await openTab(browser);
+  await setLook(tab, 1400, 'light');
+  await tab.goto(addressOf('index.html'));
+  for (const part of ['.input', '.tabs', '.claims']) {
+    const end = await tab.$eval(part, (element) => element.getBoundingClientRect().bottom);
+    assert.ok(end > 0 && end < 900, `${part} ends at ${end}`);
+  }
+  assert.equal(await tab.$$eval('.input .part', (parts) => parts.length), 4);
+  assert.equal(await tab.$$eval('.claims li a', (proofs) => proofs.length), 4);
+});
+
 const sheet = addressOf('cheat-sheet.html');
 
 test('the cheat sheet is seen at once on a wide screen', async () => {

@@ -1,5 +1,5 @@
 // "Try it" says of every text what the program says of it: of the inputs that come with the library, and
-// of those that the fuzzers keep.
+// of those that the fuzzers keep. The browser has no WebGL, so that no time goes into pictures.
 
 import assert from 'node:assert/strict';
 import { after, before, test } from 'node:test';
@@ -10,7 +10,7 @@ let browser;
 let tab;
 const program = new Program();
 before(async () => {
-  browser = await startBrowser();
+  browser = await startBrowser(false);
   tab = await openPage(browser);
 });
 after(async () => {
@@ -49,6 +49,12 @@ const RULES_ON_FILES = 'QL402,QL403,QL404';
 function saidByPage({ account, findings, canonical, difference, document }) {
   return { warnings: account.warnings, findings, canonical: asBytes(canonical), difference: asBytes(difference), document };
 }
+
+test('the page says that a browser without WebGL draws no pictures', async () => {
+  await tab.waitForFunction(() => document.getElementById('molecule-note').textContent !== '');
+  assert.match(await tab.$eval('#molecule-note', (note) => note.textContent), /^This browser draws no pictures/);
+  assert.deepEqual(tab.problems, []);
+});
 
 test('there are texts to compare', () => assert.ok(allTexts().length > 300));
 

@@ -11,12 +11,15 @@ const { KELP_QUILL_INP_SITE: site, KELP_QUILL_INP_PROGRAM: program, KELP_QUILL_I
 
 export const address = pathToFileURL(join(site, 'try-it.html')).href;
 
-/** A browser that draws in software, so that it needs no graphics card. */
-export function startBrowser() {
+const IN_SOFTWARE = ['--use-angle=swiftshader', '--enable-unsafe-swiftshader'];
+const WITHOUT_WEBGL = ['--disable-gpu', '--disable-software-rasterizer'];
+
+/** A browser that draws in software, so that it needs no graphics card; or one without WebGL. */
+export function startBrowser(hasPictures = true) {
   return puppeteer.launch({
     executablePath: '/usr/bin/chromium',
     protocolTimeout: 60000,
-    args: ['--no-sandbox', '--use-angle=swiftshader', '--enable-unsafe-swiftshader', '--disable-quic', '--no-first-run',
+    args: ['--no-sandbox', ...(hasPictures ? IN_SOFTWARE : WITHOUT_WEBGL), '--disable-quic', '--no-first-run',
       '--disable-background-networking', '--disable-component-update', '--disable-sync'],
   });
 }

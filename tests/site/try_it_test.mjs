@@ -168,13 +168,15 @@ test('an example can be chosen', async () => {
 });
 
 test('atoms, constraints and scans are drawn, and the atom of the line is marked', async () => {
-  await examined(tab, Buffer.from(water));
-  assert.deepEqual(await drawn(), { atoms: 3, shapes: 3 });
+  await examined(tab, Buffer.from(`${water}C 1\nS 1 3 1.5 10\n`));
+  assert.deepEqual(await drawn(), { atoms: 3, shapes: 5 });
   const marked = () => tab.evaluate(() => globalThis.tryIt.picture.view.marked());
   await go(5);
   assert.deepEqual(await marked(), [1]);
   await go(8);
   assert.deepEqual(await marked(), [1, 0, 2]);
+  await go(10);
+  assert.deepEqual(await marked(), [0, 2]);
   await go(1);
   assert.deepEqual(await marked(), []);
 });

@@ -24,10 +24,16 @@ function styleFor(count) {
   return { stick: { radius: 0.12 }, sphere: { scale: 0.25 } };
 }
 
+function hasWebGl() {
+  const canvas = document.createElement("canvas");
+  return Boolean(canvas.getContext("webgl2") ?? canvas.getContext("webgl"));
+}
+
 /// Returns { show, mark, redraw, turn }, or null where the browser has no WebGL. `options.onPick` is
 /// called with the number of an atom that the user picks; `options.isDark` says which colours fit.
 export function makeMoleculeView(library, element, options = {}) {
-  const viewer = library.createViewer(element, { backgroundAlpha: 0, antialias: true });
+  // Without WebGL, some browsers give a viewer that draws nothing, and some an exception.
+  const viewer = hasWebGl() ? library.createViewer(element, { backgroundAlpha: 0, antialias: true }) : null;
   if (!viewer) return null;
   let molecule = { atoms: [], marks: [] };
   let byNumber = new Map();
