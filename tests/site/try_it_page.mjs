@@ -52,6 +52,20 @@ export function examined(tab, bytes) {
   }, Buffer.from(bytes).toString('base64'));
 }
 
+/** What tests do and see on the page; `tabOf()` is its tab. */
+export function actionsOn(tabOf) {
+  return {
+    textOf: (id) => tabOf().$eval(`#${id}`, (element) => element.textContent),
+    inEditor: (selector) => tabOf().evaluate((wanted) =>
+      [...document.getElementById('editor').shadowRoot.querySelectorAll(wanted)].map((element) => element.textContent), selector),
+    go: (line) => tabOf().evaluate(async (number) => {
+      globalThis.tryIt.editor.go(number);
+      await new Promise(requestAnimationFrame);
+    }, line),
+    settle: () => tabOf().evaluate(() => globalThis.tryIt.settled()),
+  };
+}
+
 /** Returns what the program prints about a file named "input" with these bytes. */
 export class Program {
   #folder = mkdtempSync(join(tmpdir(), 'try_it'));

@@ -1,5 +1,5 @@
-// "Try it" as its users have it: pasting, links, fixes, the picture and the keyboard; what the page forbids;
-// and how fast it is.
+// "Try it" as its users have it: pasting, links, files, fixes, the picture and the keyboard; and what the
+// page forbids.
 
 import assert from 'node:assert/strict';
 import { mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
@@ -8,7 +8,7 @@ import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
 
-import { examined, openPage, startBrowser } from './try_it_page.mjs';
+import { actionsOn, examined, openPage, startBrowser } from './try_it_page.mjs';
 
 const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
 
@@ -23,20 +23,7 @@ afterEach(() => assert.deepEqual(tab.problems.splice(0), []));
 
 const water = '#opt\n\n0 1\nO 0.0 0.0 0.1\nH 0.0 0.8 -0.5\nH 0.0 -0.8 -0.5\nB 1 2\nA 2 1 3\n';
 
-const textOf = (id) => tab.$eval(`#${id}`, (element) => element.textContent);
-const inEditor = (selector) => tab.evaluate((wanted) =>
-  [...document.getElementById('editor').shadowRoot.querySelectorAll(wanted)].map((element) => element.textContent), selector);
-
-async function go(line) {
-  await tab.evaluate(async (number) => {
-    globalThis.tryIt.editor.go(number);
-    await new Promise(requestAnimationFrame);
-  }, line);
-}
-
-async function settle() {
-  await tab.evaluate(() => globalThis.tryIt.settled());
-}
+const { textOf, inEditor, go, settle } = actionsOn(() => tab);
 
 /** What the picture shows, which follows the text after a pause. */
 async function drawn() {
@@ -261,101 +248,4 @@ test('axe-core finds nothing, in light and dark, wide and narrow', async () => {
     const { scrollWidth, clientWidth } = await tab.evaluate(() => document.documentElement);
     assert.ok(scrollWidth === clientWidth, `${width} ${value}: ${scrollWidth} wide`);
   }
-});
-
-function manyAtoms(count) {
-  const atoms = Array.from({ length: count }, (_, i) => `C ${i % 25}.5 ${Math.floor(i / 25) % 20}.25 ${Math.floor(i / 500)}.125`);
-  return `#opt\n\n0 1\n${atoms.join('\n')}\n`;
-}
-
-const frameOf = (other) => other.evaluate(() => new Promise((resolve) =>
-  requestAnimationFrame((begin) => requestAnimationFrame((end) => resolve(end - begin)))));
-
-const letterToResult = () => tab.evaluate(async () => {
-  const begin = performance.now();
-  globalThis.tryIt.editor.view.dispatch({ changes: { from: 4, insert: 't' } });
-  await globalThis.tryIt.settled();
-  await new Promise(requestAnimationFrame);
-  return performance.now() - begin;
-});
-
-/** The shortest of the times that are measured until one is below the limit: others use the processor, too. */
-async function shortest(limit, measure) {
-  let best = Infinity;
-  for (let i = 0; i < 60 && best > limit; ++i) best = Math.min(best, await measure());
-  return best;
-}
-
-// Times are judged where nothing else uses the processor: scripts/check_thoroughly.sh asks for that.
-const timed = { skip: process.env.QUILL_INP_TEST_THOROUGHLY ? false : 'other programs would be measured, too' };
-test('from a letter to its result in 1,000 lines is within six frames of an empty page', timed, async () => {
-  const empty = await browser.newPage();
-  const frame = await shortest(1000 / 60, () => frameOf(empty));
-  await empty.close();
-  await tab.bringToFront();
-  await examined(tab, Buffer.from(manyAtoms(1000)));
-  await drawn();
-  const result = await shortest(6 * frame, letterToResult);
-  assert.ok(result < 6 * frame, `${result} ms, and a frame of an empty page takes ${frame} ms`);
-});
-
-/** Shows 10,000 atoms and waits for their picture. */
-async function showLargeInput() {
-  await tab.evaluate((text) => globalThis.tryIt.showBytes(new TextEncoder().encode(text)), manyAtoms(10000));
-  await settle();
-  await pictureOf(10000);
-}
-
-const pictureOf = (count) =>
-  tab.waitForFunction((wanted) => globalThis.tryIt.picture.view.drawn().atoms === wanted, { timeout: 60000 }, count);
-
-test('of 10,000 atoms, only the lines that can be seen are drawn', async () => {
-  await showLargeInput();
-  assert.ok((await inEditor('.cm-line')).length < 200);
-  await go(9000);
-  assert.match(await textOf('line'), /^Line 9000: atom 8997/);
-  assert.ok((await inEditor('.cm-line')).length < 200);
-});
-
-test('of 10,000 atoms, a letter is seen before the text is read', async () => {
-  const { line, answers } = await tab.evaluate(() => {
-    const { editor, shown } = globalThis.tryIt;
-    editor.go(1);
-    const before = shown().answers;
-    editor.view.dispatch({ changes: { from: 4, insert: 's' } });
-    const [first] = document.getElementById('editor').shadowRoot.querySelectorAll('.cm-line');
-    return { line: first.textContent, answers: shown().answers - before };
-  });
-  assert.deepEqual({ line, answers }, { line: '#opts', answers: 0 });
-});
-
-test('of 10,000 atoms, typing goes on while the text is read, and the picture follows', async () => {
-  await settle();
-  const before = await tab.evaluate(() => globalThis.tryIt.shown().answers);
-  await go(10003);
-  await tab.keyboard.press('End');
-  const typed = '\nH 0 0 90\nH 0 0 91';
-  await tab.keyboard.type(typed);
-  await settle();
-  await pictureOf(10002);
-  const { answers, end } = await tab.evaluate(() => {
-    const { answers, bytes } = globalThis.tryIt.shown();
-    return { answers, end: new TextDecoder().decode(bytes.slice(-19)) };
-  });
-  assert.equal(end, `${typed}\n`);
-  assert.ok(answers > before && answers - before <= typed.length, `${answers - before} answers`);
-});
-
-test('a letter in 10,000 atoms is seen within three frames of an empty page', timed, async () => {
-  const frame = 1000 / 60;
-  await showLargeInput();
-  const letterToSight = () => tab.evaluate(async () => {
-    await globalThis.tryIt.settled();
-    const begin = performance.now();
-    globalThis.tryIt.editor.view.dispatch({ changes: { from: 4, insert: 't' } });
-    await new Promise(requestAnimationFrame);
-    return performance.now() - begin;
-  });
-  const seen = await shortest(3 * frame, letterToSight);
-  assert.ok(seen < 3 * frame, `${seen} ms`);
 });
