@@ -3,34 +3,13 @@
 #include <cstddef>
 #include <vector>
 
+#include "quill-inp/text/percent_encoding.hpp"
+
 namespace kelp::input::quill::language_server {
 
 namespace {
 
 constexpr std::size_t npos = std::string_view::npos;
-
-/// Whether a byte stands for itself in a path of an address.
-bool is_plain(char c) {
-  const bool is_letter = ('a' <= c && c <= 'z') || ('A' <= c && c <= 'Z');
-  const bool is_digit = '0' <= c && c <= '9';
-  return is_letter || is_digit || std::string_view("-._~/").find(c) != npos;
-}
-
-std::string percent_encoded(std::string_view path) {
-  constexpr std::string_view digits = "0123456789ABCDEF";
-  std::string text;
-  for (const char c : path) {
-    if (is_plain(c)) {
-      text += c;
-      continue;
-    }
-    const auto byte = static_cast<unsigned char>(c);
-    text += '%';
-    text += digits[byte / 16U];
-    text += digits[byte % 16U];
-  }
-  return text;
-}
 
 /// Returns where the path of an address begins: "/a" in "file:///a", "file://host/a" and "file:/a".
 std::size_t start_of_path(std::string_view address) {
@@ -66,9 +45,9 @@ std::optional<std::string> address_of_reference(std::string_view document, std::
   const std::size_t start = start_of_path(document);
   if (start == npos) return std::nullopt;
   const std::string root(document.substr(0, start));
-  if (path.substr(0, 1) == "/") return root + without_dots(percent_encoded(path));
+  if (path.substr(0, 1) == "/") return root + without_dots(tool::percent_encoded(path));
   const std::string folder(document.substr(start, document.rfind('/') + 1 - start));
-  return root + without_dots(folder + percent_encoded(path));
+  return root + without_dots(folder + tool::percent_encoded(path));
 }
 
 }  // namespace kelp::input::quill::language_server

@@ -7,7 +7,7 @@
 #include "lint/wording.hpp"
 #include "quill-inp/findings/more_findings.hpp"
 #include "quill-inp/text/character_index.hpp"
-#include "quill-inp/text/hexadecimal.hpp"
+#include "quill-inp/text/percent_encoding.hpp"
 #include "quill-inp/text/terminal_text.hpp"
 
 namespace kelp::input::quill::tool {
@@ -33,23 +33,9 @@ void write_message(JsonWriter& json, std::string_view name, std::string_view tex
   json.end_object();
 }
 
-bool is_plain_in_address(char c) {
-  return ('a' <= c && c <= 'z') || ('A' <= c && c <= 'Z') || ('0' <= c && c <= '9') ||
-         std::string_view("-._~/").find(c) != std::string_view::npos;
-}
-
 /// Returns the address of a path: relative, or beginning with "file://" for an absolute path.
 std::string address_of(std::string_view path) {
-  std::string address = path.substr(0, 1) == "/" ? "file://" : "";
-  for (const char c : path) {
-    if (is_plain_in_address(c)) {
-      address += c;
-    } else {
-      address += '%';
-      append_hexadecimal(address, static_cast<unsigned char>(c), 2);
-    }
-  }
-  return address;
+  return (path.substr(0, 1) == "/" ? "file://" : "") + percent_encoded(path);
 }
 
 /// A report, and where the characters of its text are.

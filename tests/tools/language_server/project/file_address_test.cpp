@@ -34,7 +34,7 @@ TEST(FileAddress, IsAPath) {
 
 TEST(FileAddress, IsMadeOfAPath) {
   EXPECT_EQ(address_of_path("/home/a-b_c.~/1"), "file:///home/a-b_c.~/1");
-  EXPECT_EQ(address_of_path("/a b#?%\xC3\xA9"), "file:///a%20b%23%3f%25%c3%a9");
+  EXPECT_EQ(address_of_path("/a b#?%\xC3\xA9"), "file:///a%20b%23%3F%25%C3%A9");
 }
 
 TEST(ReferencedPath, IsFromTheFolderOfTheInput) {
