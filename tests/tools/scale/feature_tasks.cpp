@@ -8,7 +8,11 @@
 #include <string_view>
 #include <vector>
 
+#include "language_server/diagnostics/diagnostic_list.hpp"
+#include "language_server/editing/code_actions.hpp"
 #include "language_server/features/features.hpp"
+#include "language_server/server.hpp"
+#include "lint/lint.hpp"
 #include "scale/tasks.hpp"
 
 namespace kelp::input::quill {
@@ -40,10 +44,16 @@ std::string references(std::size_t n) { return "0 1\n" + repeated("XYZ water.xyz
 /// One line, which does not end.
 std::string parameters(std::size_t n) { return "#opt(" + repeated("maxiter=50, ", n) + "tight"; }
 
+// Large enough for a quadratic cost to show, small enough for callgrind to count in a minute.
+constexpr std::size_t size_of_tasks = 500;
+// For those that take many instructions for each finding or atom.
+constexpr std::size_t size_of_long_tasks = 250;
+
 struct FeatureTask {
   std::string_view name;
   std::string (*text)(std::size_t size);
   std::function<Json(const Snapshot&, std::size_t last, const Surroundings&)> answer;
+  std::size_t size = size_of_tasks;
 };
 
 Json all_tokens(const Snapshot& snapshot, std::size_t /*last*/, const Surroundings& surroundings) {
@@ -86,6 +96,26 @@ Json atom_of_last_line(const Snapshot& snapshot, std::size_t last,
   return server::definition(snapshot, last - 1, surroundings);
 }
 
+/// Every parameter but the first has a finding with a related place.
+Json diagnostics(const Snapshot& snapshot, std::size_t /*last*/, const Surroundings& /*unused*/) {
+  server::ClientAbilities client;
+  client.has_related_places = true;
+  const lint::Findings findings = lint::find_all(snapshot.read(), lint::Options());
+  return server::diagnostic_list(findings, snapshot, client, {});
+}
+
+/// What an editor asks for when all of its text is selected.
+Json corrections_of_all(const Snapshot& snapshot, std::size_t last,
+                        const Surroundings& /*unused*/) {
+  server::ClientAbilities client;
+  client.has_literal_code_actions = true;
+  const lint::Findings findings = lint::find_all(snapshot.read(), lint::Options());
+  const Json context = {{"diagnostics", server::diagnostic_list(findings, snapshot, client, {})}};
+  const server::Corrections corrections{findings, [] { return std::string(); }};
+  const Json actions = server::code_actions(snapshot, {0, last}, context, corrections, client);
+  return actions.size() > 1 ? actions : Json();
+}
+
 const FeatureTask feature_tasks[] = {
     {"SemanticTokensOfAtoms", atoms, all_tokens},
     {"SemanticTokensOfParameters", parameters, all_tokens},
@@ -103,10 +133,9 @@ const FeatureTask feature_tasks[] = {
     {"HoverOfParameters", parameters, server::hover},
     {"CompletionAfterAtoms", atoms, server::completion},
     {"CompletionOfParameters", parameters, server::completion},
+    {"DiagnosticsOfParameters", parameters, diagnostics, size_of_long_tasks},
+    {"CorrectionsOfParameters", parameters, corrections_of_all, size_of_long_tasks},
 };
-
-// Large enough for a quadratic cost to show, small enough for callgrind to count in a minute.
-constexpr std::size_t size_of_tasks = 500;
 
 std::shared_ptr<const Snapshot> prepare(const FeatureTask& task, std::size_t size) {
   const std::string text = task.text(size);
@@ -115,7 +144,7 @@ std::shared_ptr<const Snapshot> prepare(const FeatureTask& task, std::size_t siz
 }
 
 Task task_of(const FeatureTask& task) {
-  return {std::string(task.name), size_of_tasks, [&task](std::size_t size) {
+  return {std::string(task.name), task.size, [&task](std::size_t size) {
             return [&task, snapshot = prepare(task, size)] {
               const server::Settings settings;
               const server::ClientAbilities client;
@@ -126,9 +155,52 @@ Task task_of(const FeatureTask& task) {
           }};
 }
 
+/// A server with a text, as a client changes it.
+class Session {
+ public:
+  explicit Session(const std::string& text) {
+    send({{"id", 1}, {"method", "initialize"}, {"params", {{"capabilities", Json::object()}}}});
+    const Json document = {{"uri", uri}, {"languageId", "quill"}, {"version", 1}, {"text", text}};
+    send({{"method", "textDocument/didOpen"}, {"params", {{"textDocument", document}}}});
+  }
+
+  /// Types a blank at the end of the first line. Returns whether the findings were published.
+  bool change() {
+    const std::size_t published = published_;
+    const Json end = {{"line", 0}, {"character", 1U << 30U}};
+    const Json change = {{"range", {{"start", end}, {"end", end}}}, {"text", " "}};
+    send({{"method", "textDocument/didChange"},
+          {"params",
+           {{"textDocument", {{"uri", uri}, {"version", 2}}},
+            {"contentChanges", Json::array({change})}}}});
+    return published_ == published + 1;
+  }
+
+ private:
+  void send(Json message) {
+    message["jsonrpc"] = "2.0";
+    server_.receive(message.dump());
+    while (server_.has_work()) server_.work();
+  }
+
+  static constexpr const char* uri = "file:///nowhere/job.qin";
+  std::size_t published_ = 0;
+  server::Server server_{server::ServerOptions(), [this](const Json& message) {
+                           if (message.value("method", "") == "textDocument/publishDiagnostics")
+                             ++published_;
+                         }};
+};
+
+Task change_before_atoms() {
+  return {"ChangeBeforeAtoms", size_of_long_tasks, [](std::size_t size) {
+            return [session = std::make_shared<Session>(atoms(size))] { return session->change(); };
+          }};
+}
+
 std::vector<Task> all_tasks() {
   std::vector<Task> all;
   for (const FeatureTask& task : feature_tasks) all.push_back(task_of(task));
+  all.push_back(change_before_atoms());
   return all;
 }
 

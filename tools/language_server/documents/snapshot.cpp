@@ -14,7 +14,8 @@ Snapshot::Snapshot(std::string uri, std::int64_t version, lossless::ReadText rea
       version_(version),
       read_(std::move(read)),
       line_starts_(std::move(line_starts)),
-      encoding_(encoding) {}
+      encoding_(encoding),
+      units_(read_.text, encoding) {}
 
 std::size_t Snapshot::line_at(std::size_t offset) const {
   return lines().empty() ? 0 : lint::place_of(offset, lines()).line - 1;
@@ -45,7 +46,7 @@ lint::Range Snapshot::range_of(const PositionRange& range) const {
 }
 
 Position Snapshot::position_of(std::size_t offset) const {
-  return position_at(offset, text(), line_starts_, encoding_);
+  return position_at(offset, text(), line_starts_, units_);
 }
 
 PositionRange Snapshot::position_range_of(const lint::Range& range) const {

@@ -10,6 +10,7 @@
 #include "kelp/input/quill/lossless/read_text.hpp"
 #include "language_server/documents/line_starts.hpp"
 #include "language_server/documents/position_encoding.hpp"
+#include "language_server/documents/unit_counts.hpp"
 #include "language_server/protocol/position.hpp"
 #include "lint/finding.hpp"
 
@@ -66,6 +67,7 @@ class Snapshot {
   lossless::ReadText read_;
   LineStarts line_starts_;
   PositionEncoding encoding_;
+  UnitCounts units_;
 };
 
 }  // namespace kelp::input::quill::language_server

@@ -14,11 +14,11 @@ std::optional<std::size_t> find_offset(const Position& position, std::string_vie
 }
 
 Position position_at(std::size_t offset, std::string_view text, const LineStarts& lines,
-                     PositionEncoding encoding) {
+                     const UnitCounts& units) {
   const std::size_t line = lines.line_at(offset);
-  const std::string_view content = lines.content(line, text);
-  const std::size_t bytes = std::min(offset - lines.start_of(line), content.size());
-  return {line, count_units(content.substr(0, bytes), encoding)};
+  const std::size_t start = lines.start_of(line);
+  const std::size_t end = std::min(offset, start + lines.content(line, text).size());
+  return {line, units.between(start, end, text)};
 }
 
 }  // namespace kelp::input::quill::language_server

@@ -7,6 +7,7 @@
 
 #include "language_server/documents/line_starts.hpp"
 #include "language_server/documents/position_encoding.hpp"
+#include "language_server/documents/unit_counts.hpp"
 #include "language_server/protocol/position.hpp"
 
 namespace kelp::input::quill::language_server {
@@ -17,10 +18,11 @@ namespace kelp::input::quill::language_server {
 std::optional<std::size_t> find_offset(const Position& position, std::string_view text,
                                        const LineStarts& lines, PositionEncoding encoding);
 
-/// Returns the position of a byte, or of the end of the text. A byte in the middle of a character
-/// counts as after it, and one in the middle of CR LF as the end of the line.
+/// Returns the position of a byte, or of the end of a text with these lines and units. A byte in
+/// the middle of a character counts as after it, and one in the middle of CR LF as the end of the
+/// line.
 Position position_at(std::size_t offset, std::string_view text, const LineStarts& lines,
-                     PositionEncoding encoding);
+                     const UnitCounts& units);
 
 }  // namespace kelp::input::quill::language_server
 

@@ -1,6 +1,7 @@
 #include "language_server/editing/code_actions.hpp"
 
 #include <algorithm>
+#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -32,19 +33,29 @@ bool touch(const lint::Range& left, const lint::Range& right) {
   return left.offset <= right.end() && right.offset <= left.end();
 }
 
-/// Returns those of the client's diagnostics that are about a finding.
-Json diagnostics_of(const lint::Finding& finding, const Json& context, const Snapshot& snapshot) {
-  Json list = Json::array();
-  const Json& shown = find_member(context, "diagnostics");
-  if (!shown.is_array()) return list;
-  const Json range = to_json(snapshot.position_range_of(finding.range));
-  for (const Json& diagnostic : shown) {
-    if (find_member(diagnostic, "code") == finding.code &&
-        find_member(diagnostic, "range") == range)
-      list.push_back(diagnostic);
+/// The diagnostics that a client shows, by their codes and ranges.
+class ShownDiagnostics {
+ public:
+  explicit ShownDiagnostics(const Json& context) {
+    const Json& shown = find_member(context, "diagnostics");
+    if (!shown.is_array()) return;
+    for (const Json& diagnostic : shown)
+      lists_[key(find_member(diagnostic, "code"), find_member(diagnostic, "range"))].push_back(
+          diagnostic);
   }
-  return list;
-}
+
+  /// Returns those about a finding.
+  Json about(const lint::Finding& finding, const Snapshot& snapshot) const {
+    const Json range = to_json(snapshot.position_range_of(finding.range));
+    const auto list = lists_.find(key(finding.code, range));
+    return list == lists_.end() ? Json::array() : list->second;
+  }
+
+ private:
+  static Json key(const Json& code, const Json& range) { return Json::array({code, range}); }
+
+  std::map<Json, Json> lists_ = {};
+};
 
 bool has_safe_mend(const lint::Finding& finding) { return finding.mend && finding.mend->is_safe; }
 
@@ -53,12 +64,13 @@ void append_quick_fixes(Json& actions, const Snapshot& snapshot, const lint::Ran
                         const Json& context, const lint::Findings& findings,
                         const ClientAbilities& client) {
   const SourceOfText source(snapshot.read());
+  const ShownDiagnostics shown(context);
   for (const lint::Finding& finding : findings) {
     if (!touch(finding.range, range)) continue;
     for (const OfferedEdit& offer : offered_edits(finding, *source)) {
       Json action = {{"title", offer.title},
                      {"kind", quick_fix},
-                     {"diagnostics", diagnostics_of(finding, context, snapshot)},
+                     {"diagnostics", shown.about(finding, snapshot)},
                      {"edit", workspace_edit(offer.edits, snapshot, client)}};
       if (offer.is_safe) action["isPreferred"] = true;
       actions.push_back(std::move(action));

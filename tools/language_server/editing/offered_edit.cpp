@@ -37,17 +37,16 @@ Offer line_removal(const lint::Finding& finding, const lint::Source& source) {
   return OfferedEdit{"remove this line", {{whole_line(source, line_of(finding, source)), {}}}};
 }
 
-/// Removes an entry of a list with the comma before it. It is not the first one.
+/// Removes an entry of a list with the comma before it. It is not the first one. The entries before
+/// it are not read, so that a list with many findings takes no more time than many lists.
 Offer entry_removal(const lint::Finding& finding, const lint::Source& source) {
-  const HeaderPieces pieces = find_header_pieces(source.content(line_of(finding, source)));
-  for (ParameterEntries entries(pieces.list); !entries.at_end();) {
-    const ParameterPieces entry = entries.next();
-    if (source.range_of(trimmed_view(entry.name)).offset != finding.range.offset) continue;
-    const std::size_t comma = source.range_of(entry.name).offset - 1;
-    const std::size_t end = source.range_of(entry.value.value_or(entry.name)).end();
-    return OfferedEdit{"remove this parameter", {{{comma, end - comma}, {}}}};
-  }
-  return std::nullopt;
+  const std::size_t comma = source.text().rfind(',', finding.range.offset);
+  const LineRecord& line = source.lines()[line_of(finding, source)];
+  const std::string_view list = source.header_pieces()[*line.index].list;
+  ParameterEntries entries(list.substr(comma + 1 - source.range_of(list).offset));
+  const ParameterPieces entry = entries.next();
+  const std::size_t end = source.range_of(entry.value.value_or(entry.name)).end();
+  return OfferedEdit{"remove this parameter", {{{comma, end - comma}, {}}}};
 }
 
 /// Returns the end of the piece that begins at `begin` and has as many closing parentheses as

@@ -30,7 +30,7 @@ TEST_P(PositionIn, IsAnOffset) {
   const auto offset = find_offset(row.position, row.text, lines, row.encoding);
   EXPECT_EQ(offset, row.offset);
   if (!offset) return;
-  const Position again = position_at(*offset, row.text, lines, row.encoding);
+  const Position again = position_at(*offset, row.text, lines, {row.text, row.encoding});
   EXPECT_EQ(again.line, row.again.line);
   EXPECT_EQ(again.character, row.again.character);
 }
@@ -84,12 +84,12 @@ INSTANTIATE_TEST_SUITE_P(Table, PositionIn, testing::ValuesIn(rows),
                          [](const auto& row) { return row.param.name; });
 
 TEST(PositionAt, IsAfterACharacterForABytesWithinIt) {
-  EXPECT_EQ(position_at(2, mixed, LineStarts(mixed), utf16), (Position{0, 2}));
-  EXPECT_EQ(position_at(2, mixed, LineStarts(mixed), utf32), (Position{0, 2}));
+  EXPECT_EQ(position_at(2, mixed, LineStarts(mixed), {mixed, utf16}), (Position{0, 2}));
+  EXPECT_EQ(position_at(2, mixed, LineStarts(mixed), {mixed, utf32}), (Position{0, 2}));
 }
 
 TEST(PositionAt, IsTheEndOfTheLineWithinALineEnd) {
-  EXPECT_EQ(position_at(2, "a\r\nb", LineStarts("a\r\nb"), utf16), (Position{0, 1}));
+  EXPECT_EQ(position_at(2, "a\r\nb", LineStarts("a\r\nb"), {"a\r\nb", utf16}), (Position{0, 1}));
 }
 
 TEST(PositionEncoding, HasTheNamesOfTheProtocol) {

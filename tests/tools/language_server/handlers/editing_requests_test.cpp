@@ -109,6 +109,14 @@ const Row rows[] = {
      "#sp(a=1, b, A = 2, c)\n0 1\nO 0 0 0\n",
      {{0, 12}, {0, 12}},
      "remove this parameter\n#sp(a=1, b, c)\n0 1\nO 0 0 0\n"},
+    {"ARepeatedParameterAtTheEnd",
+     "#sp( 'a,b', c, \"d,e\", c )\n0 1\nO 0 0 0\n",
+     {{0, 0}, {0, 30}},
+     "remove this parameter\n#sp( 'a,b', c, \"d,e\")\n0 1\nO 0 0 0\n"},
+    {"ARepeatedParameterOfAListWithoutAnEnd",
+     "#sp(a, b, a=1\n0 1\nO 0 0 0\n",
+     {{0, 10}, {0, 10}},
+     "remove this parameter\n#sp(a, b\n0 1\nO 0 0 0\n"},
     {"ARepeatedAssignment",
      "#sp\n#model=a\n#model=b\n0 1\nO 0 0 0\n",
      {{2, 1}, {2, 1}},
@@ -177,10 +185,15 @@ TEST(CodeActions, NameTheDiagnosticThatTheyCorrect) {
   Client client(literal);
   client.open(uri, commas);
   const Json shown = client.take("textDocument/publishDiagnostics").at(0)["params"]["diagnostics"];
+  Json of_another_code = shown[0];
+  of_another_code["code"] = "QL999";
+  Json elsewhere = shown[0];
+  elsewhere["range"]["start"]["line"] = 1;
+  const Json context = {
+      {"diagnostics", Json::array({of_another_code, shown[0], elsewhere, 1, nullptr})},
+      {"only", Json::array({"quickfix"})}};
   const Json actions =
-      client.result("textDocument/codeAction",
-                    action_params({{2, 6}, {2, 6}},
-                                  {{"diagnostics", shown}, {"only", Json::array({"quickfix"})}}));
+      client.result("textDocument/codeAction", action_params({{2, 6}, {2, 6}}, context));
   ASSERT_EQ(actions.size(), 1U);
   EXPECT_EQ(actions[0]["diagnostics"], Json::array({shown[0]}));
 }
