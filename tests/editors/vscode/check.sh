@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Makes the extension for Visual Studio Code, looks at what is in it, and runs the tests of its parts.
+# Makes the extension for Visual Studio Code, looks at what is in it, checks the types of the tests of its
+# parts and runs them. Its own sources are checked when it is made.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../../.."
 tests=tests/editors/vscode
@@ -15,6 +16,7 @@ if ! grep -q '"version": "'"$(sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p' CMakeLists
 fi
 
 cd build/editors/vscode
+npx --no-install tsc --project "../../../$tests"
 bundles=()
 for test in "../../../$tests"/*.test.ts; do
   bundle=../tests/$(basename "$test" .ts).cjs
