@@ -5,12 +5,12 @@
 
 #include "kelp/input/quill/lossless/input_doubt.hpp"
 #include "kelp/input/quill/lossless/proof.hpp"
-#include "kelp/input/quill/lossless/quoting.hpp"
 #include "kelp/input/quill/lossless/wording.hpp"
 #include "language_server/editing/changed_lines.hpp"
 #include "language_server/protocol/response_error.hpp"
 #include "lint/line_repair.hpp"
 #include "lint/source.hpp"
+#include "quill-inp/editing/canonical_text.hpp"
 #include "quill-inp/editing/losses.hpp"
 #include "quill-inp/editing/wording.hpp"
 #include "quill-inp/text/terminal_text.hpp"
@@ -38,11 +38,10 @@ std::string formatted_text(const lossless::ReadText& read) {
   if (const auto doubt = lossless::find_input_doubt(read))
     refuse("the text " + lossless::words(*doubt));
   const QuillInput& document = read.result.input;
-  lossless::QuotedDocument quoted = lossless::quote(document);
-  std::string text = quoted.document.to_string();
-  const lossless::Proof proof = lossless::prove(text, document, max_change());
-  refuse_losses({{}, tool::list_line_losses(read), std::move(quoted.problems), proof, document});
-  return text;
+  tool::CanonicalText canonical = tool::canonical_text(document);
+  const lossless::Proof proof = lossless::prove(canonical.text, document, max_change());
+  refuse_losses({{}, tool::list_line_losses(read), std::move(canonical.problems), proof, document});
+  return std::move(canonical.text);
 }
 
 std::vector<lint::ByteEdit> formatting_of_range(const lossless::ReadText& read,
