@@ -27,7 +27,7 @@ lint::Range whole_line(const lint::Source& source, std::size_t line) {
   return {record.offset, record.length + record.terminator_length};
 }
 
-Offer mend_of(const lint::Finding& finding, const lint::Source&) {
+Offer mend_of(const lint::Finding& finding, const lint::Source& /*source*/) {
   if (!finding.mend) return std::nullopt;
   std::string title = tool::shown_on_one_line(lint::words_of(finding).advice);
   return OfferedEdit{std::move(title), finding.mend->edits, finding.mend->is_safe};

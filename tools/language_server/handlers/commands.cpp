@@ -18,14 +18,14 @@ namespace kelp::input::quill::language_server {
 
 namespace {
 
-Json shown_lines(ServerState&, OpenDocument& document) {
+Json shown_lines(ServerState& /*state*/, OpenDocument& document) {
   std::string text;
   tool::write_lines_text(document.snapshot().read(), false,
                          [&](std::string_view piece) { text += piece; });
   return text;
 }
 
-Json shown_canonical_text(ServerState&, OpenDocument& document) {
+Json shown_canonical_text(ServerState& /*state*/, OpenDocument& document) {
   return lossless::quote(document.snapshot().input()).document.to_string();
 }
 

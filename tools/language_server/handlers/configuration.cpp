@@ -41,7 +41,7 @@ void ask_for_settings(ServerState& state) {
 
 }  // namespace
 
-void take_initialized(ServerState& state, const Json&) {
+void take_initialized(ServerState& state, const Json& /*params*/) {
   if (state.client.can_register_watchers)
     register_for(state, "workspace/didChangeWatchedFiles", watched_files());
   if (state.client.has_configuration_events)

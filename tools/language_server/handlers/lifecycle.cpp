@@ -42,12 +42,12 @@ Json initialize(ServerState& state, const Json& params) {
           {"serverInfo", {{"name", "quill-inp"}, {"version", state.options.version}}}};
 }
 
-Json shut_down(ServerState& state, const Json&) {
+Json shut_down(ServerState& state, const Json& /*params*/) {
   state.phase = Phase::ShutDown;
   return nullptr;
 }
 
-void exit(ServerState& state, const Json&) {
+void exit(ServerState& state, const Json& /*params*/) {
   state.was_shut_down = state.phase == Phase::ShutDown;
   state.phase = Phase::Over;
 }
