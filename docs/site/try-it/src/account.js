@@ -1,32 +1,39 @@
 // What the reader made of the lines of a text, by the positions that the editor counts in.
 
-import { positionFinder, shown } from "./text_bytes.js";
+import { positionsOf, shown } from "./text_bytes.js";
 
 /// The class of a role in style sheets.
 export function roleClass(role) {
   return `role-${role.replaceAll(" ", "-")}`;
 }
 
-/// A finding with its place in the text, from 0.
-function placed(finding, find) {
-  const from = find(finding.offset);
-  const to = find(finding.offset + finding.length);
-  return { ...finding, from, to, message: shown(finding.message), advice: shown(finding.advice) };
+/// The findings with their places in the text, from 0.
+function placed(findings, text) {
+  const ends = findings.flatMap(({ offset, length }) => [offset, offset + length]);
+  const positions = positionsOf(text, ends);
+  return findings.map((finding) => ({ ...finding, from: positions.get(finding.offset),
+    to: positions.get(finding.offset + finding.length), message: shown(finding.message), advice: shown(finding.advice) }));
+}
+
+/// The problems of each line that has any, in their order.
+function byLine(problems) {
+  const ofLine = new Map();
+  for (const problem of problems) {
+    if (problem.line === null) continue;
+    const same = ofLine.get(problem.line);
+    if (same) same.push(problem);
+    else ofLine.set(problem.line, [problem]);
+  }
+  return ofLine;
 }
 
 /// Returns { lines, problems } from the reader's answer about `text`. `problems` are the warnings of the
 /// reader and the findings, in the order of their lines.
 export function accountOf(text, answer) {
   const { lines, warnings } = answer.account;
-  const find = positionFinder(text);
-  const findings = answer.findings.map((finding) => placed(finding, find));
+  const findings = placed(answer.findings, text);
   const ofReader = warnings.map(({ line, message }) => ({
     line, message: shown(message), severity: "reader", advice: "", code: null, fix: null }));
   const problems = [...ofReader, ...findings].sort((a, b) => (a.line ?? 0) - (b.line ?? 0));
-  const ofLine = new Map();
-  for (const problem of problems) {
-    if (problem.line === null) continue;
-    ofLine.set(problem.line, [...(ofLine.get(problem.line) ?? []), problem]);
-  }
-  return { lines, problems, ofLine };
+  return { lines, problems, ofLine: byLine(problems) };
 }

@@ -73,20 +73,21 @@ function byteLength(point) {
   return point < 0x800 ? 2 : point < 0x10000 ? 3 : 4;
 }
 
-/// Returns a function from an offset in bytes to one in the text. Asked with offsets that grow, it goes
-/// over the text once.
-export function positionFinder(text) {
+/// Returns a map from each of these offsets in bytes, in any order, to the one in the text. It goes over the
+/// text once.
+export function positionsOf(text, offsets) {
+  const positions = new Map();
   let position = 0;
   let offset = 0;
-  return (wanted) => {
-    if (wanted < offset) position = offset = 0;
+  for (const wanted of [...offsets].sort((a, b) => a - b)) {
     while (offset < wanted && position < text.length) {
       const point = text.codePointAt(position);
       offset += byteLength(point);
       position += point > 0xffff ? 2 : 1;
     }
-    return position;
-  };
+    positions.set(wanted, position);
+  }
+  return positions;
 }
 
 /// Returns the bytes of a text in the reader's JSON: a string, or {"bytes": "ff"} for other bytes.
