@@ -8,6 +8,7 @@ import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
 
+import { changesBetween } from '../try-it/src/text_changes.js';
 import { actionsOn, examined, openPage, startBrowser } from './try_it_page.mjs';
 
 const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
@@ -120,6 +121,70 @@ test('a finding leads to its place and a button fixes it', async () => {
   await settle();
   assert.equal(await tab.evaluate(() => globalThis.tryIt.editor.text), '#opt\n\n0 1\nO 0 0 0.1\nH 0 0 1\n');
 });
+
+/** Puts the cursor, clicks a button, and types at the end before the click, after it, or not at all. */
+async function fixed(button, cursor, typing = {}) {
+  await tab.evaluate((name, at, { before = '', after = '' }) => {
+    const { view } = globalThis.tryIt.editor;
+    const type = (insert) => insert && view.dispatch({ changes: { from: view.state.doc.length, insert } });
+    view.dispatch({ selection: { anchor: at } });
+    type(before);
+    [...document.querySelectorAll('button')].find((one) => one.textContent === name).click();
+    type(after);
+  }, button, cursor, typing);
+  await tab.waitForFunction(() => document.getElementById('told').textContent !== '');
+  await settle();
+  return tab.evaluate(() => {
+    const { editor } = globalThis.tryIt;
+    return { text: editor.text, cursor: editor.view.state.selection.main.head, told: document.getElementById('told').textContent };
+  });
+}
+
+const NOT_FIXED = 'Nothing is fixed: the text has changed since then, and is read again.';
+const FIXED = 'Fixed. Ctrl+Z in the text takes it back.';
+const COMMAS = '#opt\n# å🧪\n\n0 1\nO 0 0 0,12\nH 0 0 1,5\n';
+const WITH_POINTS = COMMAS.replaceAll(',', '.');
+const AT_THE_H = COMMAS.indexOf('H');
+
+for (const [name, button, typing, expected] of [
+  ['a fix changes only its places, and the cursor stays', 'Fix', {}, [WITH_POINTS, FIXED]],
+  ['a fix leaves what was typed before it', 'Fix', { before: '#a' }, [`${COMMAS}#a`, NOT_FIXED]],
+  ['all fixes change only their places, and the cursor stays', 'Make all safe fixes', {},
+    [WITH_POINTS, FIXED]],
+  ['all fixes leave what is typed while they are looked for', 'Make all safe fixes', { after: '#a' },
+    [`${COMMAS}#a`, NOT_FIXED]],
+]) {
+  test(name, async () => {
+    await examined(tab, Buffer.from(COMMAS));
+    await tab.evaluate(() => { document.getElementById('told').textContent = ''; });
+    const [text, told] = expected;
+    assert.deepEqual(await fixed(button, AT_THE_H, typing), { text, cursor: AT_THE_H, told });
+  });
+}
+
+test('a fix of an earlier text does nothing', async () => {
+  await examined(tab, Buffer.from(COMMAS));
+  const text = await tab.evaluate(async () => {
+    const { editor, settled } = globalThis.tryIt;
+    const fix = [...document.querySelectorAll('#problems button')].find((one) => one.textContent === 'Fix');
+    editor.view.dispatch({ changes: { from: 0, insert: '#sp\n' } });
+    await settled();
+    fix.click();
+    return editor.text;
+  });
+  assert.equal(text, `#sp\n${COMMAS}`);
+  assert.equal(await textOf('told'), NOT_FIXED);
+});
+
+for (const [text, other, expected] of [
+  ['a\nb\n', 'a\nb\n', []],
+  ['ab\nab\naa\n', 'ab\nb\naaa\n', [{ from: 3, to: 4, insert: '' }, { from: 8, to: 8, insert: 'a' }]],
+  ['a\nb\nc\n', 'a\nc\n', [{ from: 2, to: 4, insert: '' }]],
+  ['a\rb', 'a\nb', [{ from: 1, to: 2, insert: '\n' }]],
+]) {
+  test(`of ${JSON.stringify(text)}, only what differs is changed to ${JSON.stringify(other)}`, () =>
+    assert.deepEqual(changesBetween(text, other), expected));
+}
 
 test('the canonical text marks what formatting adds', async () => {
   await examined(tab, Buffer.from('#opt\n0 1\nhe 0 0 0\n'));

@@ -97,8 +97,9 @@ function shadowOf(element) {
 const line_ends = EditorState.lineSeparator.of("\n");
 
 /// Makes the editor in `element`. `events` has onChange(), onLine(number) and describe(problems), which
-/// returns an element. Returns an object with `text`, the text; show(text), account(account), the line
-/// where the cursor is, and go(line).
+/// returns an element. Returns an object with `text`, the text; `version`, a value that is another one after each
+/// change of the text; show(text) for another text, change(changes), account(account), the line where the cursor
+/// is, and go(line).
 export function makeEditor(element, events) {
   let lastLine = 0;
   const listener = EditorView.updateListener.of((update) => {
@@ -126,6 +127,8 @@ export function makeEditor(element, events) {
       view.dispatch({ changes: { from: 0, to: view.state.doc.length, insert: view.state.toText(text) },
                       selection: EditorSelection.cursor(0), scrollIntoView: true });
     },
+    get version() { return view.state.doc; },
+    change: (changes) => view.dispatch({ changes }),
     account: (account) => view.dispatch({ effects: setAccount.of(account) }),
     get line() { return view.state.doc.lineAt(view.state.selection.main.head).number; },
     go(number, position) {

@@ -10,7 +10,8 @@ import { makePicture } from "./picture.js";
 import { describeProblems, showProblems } from "./problems.js";
 import { Reader } from "./reader.js";
 import { makeTabs } from "./tabs.js";
-import { bytesOf, mended, shown, textOf } from "./text_bytes.js";
+import { bytesOf, shown, textOf } from "./text_bytes.js";
+import { changesBetween, changesOfEdits } from "./text_changes.js";
 
 // Milliseconds without a change. Typing waits for the picture, which takes longer for a long text.
 const pauseBeforePicture = (lineCount) => 150 + lineCount / 20;
@@ -47,12 +48,12 @@ function examineSoon() {
 }
 
 async function examine() {
-  const text = editor.text;
+  const { text, version } = editor;
   const bytes = bytesOf(text);
   const answer = await reader.examine(bytes);
   if (!answer) return;
   ++answers;
-  current = { bytes, answer, account: accountOf(text, answer) };
+  current = { bytes, version, answer, account: accountOf(text, answer) };
   editor.account(current.account);
   tellLine(editor.line);
   tellProblems();
@@ -134,14 +135,27 @@ function goToAtom(number) {
 
 // Fixes.
 
+/// Makes the changes if the text is still the one that they were made for, and otherwise loses nothing of it.
+function change(version, changesOf) {
+  if (version === editor.version) {
+    editor.change(changesOf());
+    at("told").textContent = "Fixed. Ctrl+Z in the text takes it back.";
+  } else {
+    examineSoon();
+    at("told").textContent = "Nothing is fixed: the text has changed since then, and is read again.";
+  }
+}
+
+/// A problem of an earlier answer, in a hint that is still open, has its places in an earlier text.
 function makeMend(problem) {
-  editor.show(textOf(mended(current.bytes, problem.fix.edits)));
-  at("told").textContent = "Fixed. Ctrl+Z in the text takes it back.";
+  const version = current.account.problems.includes(problem) ? current.version : null;
+  change(version, () => changesOfEdits(editor.text, problem.fix.edits));
 }
 
 at("fix-all").addEventListener("click", async () => {
-  const bytes = await reader.mend(bytesOf(editor.text));
-  if (bytes) editor.show(textOf(bytes));
+  const { text, version } = editor;
+  const bytes = await reader.mend(bytesOf(text));
+  if (bytes) change(version, () => changesBetween(text, textOf(bytes)));
 });
 
 // Inputs and links.

@@ -100,14 +100,3 @@ export function bytesOfJson(value) {
 export function shown(value) {
   return typeof value === "string" ? value : textOf(bytesOfJson(value));
 }
-
-/// Returns bytes with the edits of a fix made, which are in order and do not overlap.
-export function mended(bytes, edits) {
-  const parts = [];
-  let begin = 0;
-  for (const edit of edits) {
-    parts.push(bytes.subarray(begin, edit.offset), bytesOfJson(edit.text));
-    begin = edit.offset + edit.length;
-  }
-  return joined([...parts, bytes.subarray(begin)]);
-}
