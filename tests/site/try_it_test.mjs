@@ -9,7 +9,7 @@ import { join } from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
 
 import { changesBetween } from '../try-it/src/text_changes.js';
-import { actionsOn, examined, openPage, startBrowser } from './try_it_page.mjs';
+import { actionsOn, address, examined, openPage, startBrowser } from './try_it_page.mjs';
 
 const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
 
@@ -184,6 +184,48 @@ for (const [text, other, expected] of [
 ]) {
   test(`of ${JSON.stringify(text)}, only what differs is changed to ${JSON.stringify(other)}`, () =>
     assert.deepEqual(changesBetween(text, other), expected));
+}
+
+/** Changes the text; the message to the reader is without it, so that the reader fails. */
+const changeAndFail = () => tab.evaluate(() => {
+  const send = Worker.prototype.postMessage;
+  Worker.prototype.postMessage = function postMessage(message) {
+    Worker.prototype.postMessage = send;
+    send.call(this, { ...message, bytes: null });
+  };
+  globalThis.tryIt.editor.view.dispatch({ changes: { from: 0, insert: '#sp\n' } });
+});
+
+test('the page says that the reader has failed, and reads the next text', async () => {
+  await examined(tab, Buffer.from(water));
+  await changeAndFail();
+  await settle();
+  assert.match(await textOf('failure'), /^The reader has failed \(TypeError: .*\)\. What is shown may be about an earlier text\.$/);
+  await examined(tab, Buffer.from('#freq\n'));
+  assert.equal(await textOf('failure'), '');
+  assert.equal(await tab.evaluate(() => globalThis.tryIt.shown().canonicalText), '#freq\n');
+});
+
+for (const [name, breakReader] of [
+  ['is no WebAssembly', () => {
+    const send = Worker.prototype.postMessage;
+    Worker.prototype.postMessage = function postMessage(message) {
+      send.call(this, message.wasm ? { wasm: new Uint8Array(4) } : message);
+    };
+  }],
+  ['is no script', () => {
+    const made = URL.createObjectURL;
+    URL.createObjectURL = () => made.call(URL, new Blob(['(']));
+  }],
+]) {
+  test(`the page says that a reader that ${name} does not start`, async () => {
+    const other = await browser.newPage();
+    await other.evaluateOnNewDocument(breakReader);
+    await other.goto(address);
+    await other.waitForFunction(() => document.getElementById('failure').textContent !== '', { timeout: 30000 });
+    assert.match(await other.$eval('#failure', (failure) => failure.textContent), /^The reader has failed \(.+\)\./);
+    await other.close();
+  });
 }
 
 test('the canonical text marks what formatting adds', async () => {

@@ -47,11 +47,22 @@ function examineSoon() {
   });
 }
 
+/// Returns an answer of the reader. If it fails, the page says so, and this is null.
+async function answerOf(asked) {
+  try {
+    return await asked;
+  } catch (error) {
+    at("failure").textContent = `The reader has failed (${error.message}). What is shown may be about an earlier text.`;
+    return null;
+  }
+}
+
 async function examine() {
   const { text, version } = editor;
   const bytes = bytesOf(text);
-  const answer = await reader.examine(bytes);
+  const answer = await answerOf(reader.examine(bytes));
   if (!answer) return;
+  at("failure").textContent = "";
   ++answers;
   current = { bytes, version, answer, account: accountOf(text, answer) };
   editor.account(current.account);
@@ -94,7 +105,7 @@ function showOpenTab() {
 }
 
 async function showDocument() {
-  const document = await reader.document(current.bytes);
+  const document = await answerOf(reader.document(current.bytes));
   if (document) json.show(document);
 }
 
@@ -106,7 +117,7 @@ function drawSoon() {
 }
 
 async function draw() {
-  const document = await reader.document(current.bytes);
+  const document = await answerOf(reader.document(current.bytes));
   if (!document) return;
   picture.show(moleculeOf(JSON.parse(document)));
   markLine(editor.line);
@@ -154,7 +165,7 @@ function makeMend(problem) {
 
 at("fix-all").addEventListener("click", async () => {
   const { text, version } = editor;
-  const bytes = await reader.mend(bytesOf(text));
+  const bytes = await answerOf(reader.mend(bytesOf(text)));
   if (bytes) change(version, () => changesBetween(text, textOf(bytes)));
 });
 

@@ -10,7 +10,7 @@ function bytesOfBase64(digits) {
 
 export class Reader {
   #worker;
-  #ready;
+  #failure = null;
   #number = 0;
   #busy = null;
   #waiting = new Map();
@@ -19,14 +19,13 @@ export class Reader {
   constructor(source, wasm) {
     const address = URL.createObjectURL(new Blob([source], { type: "text/javascript" }));
     this.#worker = new Worker(address);
-    this.#ready = new Promise((resolve, reject) => {
-      this.#worker.onmessage = resolve;
-      this.#worker.onerror = reject;
-    }).then(() => (this.#worker.onmessage = (event) => this.#finish(event.data)));
+    this.#worker.onmessage = (event) => this.#finish(event.data);
+    this.#worker.onerror = (event) => this.#fail(event.message || "it does not start");
     this.#worker.postMessage({ wasm: bytesOfBase64(wasm) });
   }
 
-  /// Returns all about a text but its document; null if another text came before this one was begun.
+  /// Returns all about a text but its document; null if another text came before this one was begun. Rejected
+  /// with an Error if the reader fails, as the others are; the next text can still be read.
   examine(bytes) {
     return this.#ask("examine", bytes);
   }
@@ -43,11 +42,10 @@ export class Reader {
     return answer && answer.mended;
   }
 
-  async #ask(task, bytes) {
-    await this.#ready;
-    return new Promise((resolve) => {
+  #ask(task, bytes) {
+    return new Promise((resolve, reject) => {
       this.#waiting.get(task)?.resolve(null);
-      this.#waiting.set(task, { task, bytes, resolve, number: ++this.#number });
+      this.#waiting.set(task, { task, bytes, resolve, reject, number: ++this.#number });
       this.#next();
     });
   }
@@ -58,13 +56,21 @@ export class Reader {
     this.#busy = this.#waiting.get(next);
     this.#waiting.delete(next);
     const { task, bytes, number } = this.#busy;
-    this.#worker.postMessage({ task, bytes, number });
+    if (this.#failure) this.#finish({ number, error: this.#failure });
+    else this.#worker.postMessage({ task, bytes, number });
   }
 
   #finish(answer) {
-    const { resolve } = this.#busy;
+    const { resolve, reject } = this.#busy;
     this.#busy = null;
-    resolve(answer);
+    if (answer.error) reject(new Error(answer.error));
+    else resolve(answer);
     this.#next();
+  }
+
+  /// The worker itself fails, and answers nothing from now on.
+  #fail(words) {
+    this.#failure = words;
+    if (this.#busy) this.#finish({ error: words });
   }
 }

@@ -1,7 +1,9 @@
 // Runs the reader beside the page, so that typing never waits for it. The first message holds the
-// WebAssembly; each later one { number, bytes, task } is answered by one with the same number.
+// WebAssembly; each later one { number, bytes, task } is answered by one with the same number, which has an
+// `error` in words if the reader fails.
 
 const utf8 = new TextDecoder("utf-8", { ignoreBOM: true });
+let wasm = null;
 let reader = null;
 
 function answer(make) {
@@ -27,12 +29,19 @@ const tasks = {
   mend: () => ({ mended: answer("_web_mended_text") }),
 };
 
-self.onmessage = async ({ data }) => {
-  if (data.wasm) {
-    reader = await self.makeQuillReader({ wasmBinary: data.wasm });
-    self.postMessage({ ready: true });
-    return;
+async function answerTo({ number, bytes, task }) {
+  try {
+    reader ??= await self.makeQuillReader({ wasmBinary: wasm });
+    read(bytes);
+    return { number, ...tasks[task]() };
+  } catch (error) {
+    // Its memory may be in any state, so the next text gets a new reader.
+    reader = null;
+    return { number, error: String(error) };
   }
-  read(data.bytes);
-  self.postMessage({ number: data.number, ...tasks[data.task]() });
+}
+
+self.onmessage = async ({ data }) => {
+  if (data.wasm) wasm = data.wasm;
+  else self.postMessage(await answerTo(data));
 };
