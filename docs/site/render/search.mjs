@@ -7,7 +7,7 @@ export function searchEntries({ file, title, sections }) {
     page: title,
     heading,
     href: anchor ? `${file}#${anchor}` : file,
-    text: text.slice(0, 4000),
+    text,
   }));
 }
 

@@ -29,8 +29,10 @@ function hasWebGl() {
   return Boolean(canvas.getContext("webgl2") ?? canvas.getContext("webgl"));
 }
 
-/// Returns { show, mark, redraw, turn }, or null where the browser has no WebGL. `options.onPick` is
-/// called with the number of an atom that the user picks; `options.isDark` says which colours fit.
+/// Returns { show, mark, redraw, turn, placeOf, zoom, resize, marked, drawn }, or null where the browser has no
+/// WebGL: zoom(factor) enlarges the picture, resize() fits it to its element, marked() returns the numbers of the
+/// marked atoms, and drawn() how many { atoms, shapes } are drawn. `options.onPick` is called with the number of
+/// an atom that the user picks; `options.isDark` says which colours fit.
 export function makeMoleculeView(library, element, options = {}) {
   // Without WebGL, some browsers give a viewer that draws nothing, and some an exception.
   const viewer = hasWebGl() ? library.createViewer(element, { backgroundAlpha: 0, antialias: true }) : null;
