@@ -20,7 +20,7 @@ class Server {
   /// waits, and answers to the server's own requests, are carried out at once.
   void receive(std::string_view text);
 
-  /// Tells the client that a message could not be understood. It may have been a change of a text.
+  /// Tells the client that a message could not be taken apart. It may have been a change of a text.
   void refuse(const ResponseError& error);
 
   /// Whether there is something to do without another message.

@@ -12,13 +12,15 @@ end
 
 -- The nearest folder above the file that has one of the markers, or the folder of the file.
 local function root_of(buffer, markers)
-  local folder = vim.fn.fnamemodify(vim.api.nvim_buf_get_name(buffer), ':p:h')
+  local start = vim.fn.fnamemodify(vim.api.nvim_buf_get_name(buffer), ':p:h')
   for _, marker in ipairs(markers) do
-    local file = vim.fn.findfile(marker, folder .. ';')
-    local found = file ~= '' and file or vim.fn.finddir(marker, folder .. ';')
-    if found ~= '' then return vim.fn.fnamemodify(found, marker == '.git' and ':p:h:h' or ':p:h') end
+    local folder, above = start, nil
+    while folder ~= above do
+      if vim.loop.fs_stat(folder .. '/' .. marker) then return folder end
+      folder, above = vim.fn.fnamemodify(folder, ':h'), folder
+    end
   end
-  return folder
+  return start
 end
 
 -- Before Neovim 0.8, nobody else keeps the one server of each folder.

@@ -31,7 +31,8 @@ export class Server implements vscode.Disposable {
       await client.start();
       this.started.fire();
     } catch (error) {
-      this.client = undefined;
+      // After a restart there may be another client.
+      if (this.client === client) this.client = undefined;
       await this.explain(path, error);
     }
   }

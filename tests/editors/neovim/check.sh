@@ -16,6 +16,7 @@ printf '#opt(maxiter=50\n0 1\nH 0 0 0\nH 0 0 0,74\nb 1 x\n' >careless.qin
 printf '%s\n' '#opt(maxiter=50)' '#model = small-organic' '' '0 1' 'O 0.0 0.0 0.117176' 'H 0.0 0.756950 -0.468706' \
   'H 0.0 -0.756950 -0.468706' '' 'B 1 2' 'S 2 1 3 120.0 10' >water.qin
 printf '#sp\n0 1\nXYZ wa\n' >path.qin
+printf '#sp\n0 1\nO 0 0 0\nb 1 x' >unended.qin
 printf '1\nhelium\nHe 0 0 0\n' >water.xyz
 
 # The server's messages and those of the client are in this log if something fails.

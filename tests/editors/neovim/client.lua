@@ -48,6 +48,14 @@ function steps.findings_are_shown_and_follow_what_is_typed()
   wait_for_codes('QL201', 'QL104', 'QL301')
 end
 
+-- Neovim names a line that the text does not have.
+function steps.a_last_line_without_a_line_end_can_be_removed()
+  open('unended.qin')
+  wait_for_codes('QL301')
+  type_keys('Gdd')
+  wait_for_codes()
+end
+
 function steps.a_code_action_corrects_the_line()
   open('careless.qin')
   wait_for_codes('QL201', 'QL104', 'QL301')
@@ -131,7 +139,7 @@ end
 
 require('quill_inp').setup()
 local order = {
-  'findings_are_shown_and_follow_what_is_typed', 'a_code_action_corrects_the_line',
+  'findings_are_shown_and_follow_what_is_typed', 'a_last_line_without_a_line_end_can_be_removed', 'a_code_action_corrects_the_line',
   'the_whole_text_is_formatted', 'a_text_that_would_lose_something_stays', 'hover_says_what_the_line_means',
   'an_atom_number_leads_to_its_atom', 'elements_are_completed', 'files_are_completed',
   'the_server_ends_with_the_editor',

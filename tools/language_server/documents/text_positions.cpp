@@ -6,7 +6,7 @@ namespace kelp::input::quill::language_server {
 
 std::optional<std::size_t> find_offset(const Position& position, std::string_view text,
                                        const LineStarts& lines, PositionEncoding encoding) {
-  if (position.line >= lines.count()) return std::nullopt;
+  if (position.line >= lines.count()) return text.size();
   const std::optional<std::size_t> bytes =
       bytes_of_units(lines.content(position.line, text), position.character, encoding);
   if (!bytes) return std::nullopt;

@@ -47,8 +47,11 @@ std::string formatted_text(const lossless::ReadText& read) {
 std::vector<lint::ByteEdit> formatting_of_range(const lossless::ReadText& read,
                                                 const lint::Range& range) {
   std::vector<lint::ByteEdit> edits = changed_lines(read.text, formatted_text(read));
+  // A range ends where the line after it begins, and that line is not selected.
   const auto is_outside = [&](const lint::ByteEdit& edit) {
-    return edit.range.end() < range.offset || range.end() < edit.range.offset;
+    return edit.range.length == 0 || range.length == 0
+               ? edit.range.end() < range.offset || range.end() < edit.range.offset
+               : edit.range.end() <= range.offset || range.end() <= edit.range.offset;
   };
   edits.erase(std::remove_if(edits.begin(), edits.end(), is_outside), edits.end());
   const lossless::Proof proof =

@@ -78,7 +78,10 @@ std::string as_line_after(const lint::Source& source, std::size_t line, std::siz
   if (record.terminator_length > 0)
     return content + std::string(source.text().substr(record.offset + record.length,
                                                       record.terminator_length));
-  return "\n" + content;
+  // A line that is moved down has a line end, which is the one of the text.
+  const LineRecord& moved = source.lines()[line];
+  return std::string(source.text().substr(moved.offset + moved.length, moved.terminator_length)) +
+         content;
 }
 
 /// Moves a constraint that is read as an atom after the first post-processing line, if it is then
@@ -92,8 +95,10 @@ Offer moved_constraint(const lint::Finding& finding, const lint::Source& source)
                      {{whole_line(source, target).end(), 0}, as_line_after(source, line, target)}}};
   const lossless::ReadText read = lossless::read_text(lint::with_edits(source.text(), offer.edits));
   const auto count = [](const QuillInput& input) { return input.geometry.atoms.size(); };
-  const bool is_moved = count(read.result.input) + 1 == count(source.input()) &&
-                        read.lines[target].role == LineRole::PostCommand;
+  const bool is_moved =
+      count(read.result.input) + 1 == count(source.input()) &&
+      read.lines[target].role == LineRole::PostCommand &&
+      read.result.input.post_commands[*read.lines[target].index].kind != PostCommandKind::Raw;
   return is_moved ? Offer(std::move(offer)) : std::nullopt;
 }
 
@@ -103,9 +108,9 @@ struct Row {
 };
 
 constexpr Row rows[] = {
-    {"QL105", moved_constraint}, {"QL106", moved_constraint}, {"QL203", line_removal},
-    {"QL206", line_removal},     {"QL210", line_removal},     {"QL211", entry_removal},
-    {"QL215", quoted_value},     {"QL301", line_removal},
+    {"QL106", moved_constraint}, {"QL203", line_removal},  {"QL206", line_removal},
+    {"QL210", line_removal},     {"QL211", entry_removal}, {"QL215", quoted_value},
+    {"QL301", line_removal},
 };
 
 }  // namespace

@@ -33,6 +33,7 @@ Markup& Markup::add_strong(std::string_view words) {
 
 // The blanks inside the backticks let the piece begin and end with backticks; they are not shown.
 Markup& Markup::add_code(std::string_view piece) {
+  if (piece.empty()) return add("(empty)");
   const std::size_t run = longest_run_of_backticks(piece);
   const std::string fence(is_markdown_ ? run + 1 : 0, '`');
   const std::string_view padding = is_markdown_ && run > 0 ? " " : "";

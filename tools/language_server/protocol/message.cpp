@@ -31,7 +31,8 @@ Message parse_message(std::string_view text) {
   if (json.contains("id") && !message.id.is_null() && !is_identity(message.id))
     refuse("'id' is neither an integer nor a string");
   if (!json.contains("method")) {
-    if (!json.contains("result") && !json.contains("error")) refuse("'method' is missing");
+    // Some clients leave out a result that is null.
+    if (message.id.is_null() && !json.contains("error")) refuse("'method' is missing");
     message.kind = Message::Kind::Response;
     message.is_error = json.contains("error");
     message.result = take(json, "result");
@@ -42,8 +43,6 @@ Message parse_message(std::string_view text) {
   message.kind = json.contains("id") ? Message::Kind::Request : Message::Kind::Notification;
   message.method = json["method"].get<std::string>();
   message.params = take(json, "params");
-  if (!message.params.is_structured() && !message.params.is_null())
-    refuse("'params' is neither an object nor a list");
   return message;
 }
 

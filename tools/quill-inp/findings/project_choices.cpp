@@ -107,9 +107,12 @@ fs::path find_file(fs::path folder) {
   }
 }
 
+// A pipe without a writer would never be opened.
 std::string read_text(const std::string& path) {
+  std::error_code error;
+  if (!fs::is_regular_file(path, error)) throw Trouble("cannot read " + path);
   std::ifstream file(path, std::ios_base::binary);
-  if (!file || fs::is_directory(path)) throw Trouble("cannot read " + path);
+  if (!file) throw Trouble("cannot read " + path);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 

@@ -31,7 +31,7 @@ TEST_P(Hover, SaysWhatTheReaderMadeOfTheLine) {
 const Row rows[] = {
     {"OfATask", "[[#o^pt]]\n", "command 1, a task\nopt"},
     {"OfAnAssignment", "#opt\n[[#mod^el]] = 'a b'\n", "command 2\nmodel has the value a b"},
-    {"OfAnEmptyAssignment", "[[#mod^el]] =\n", "command 1\nmodel has the value "},
+    {"OfAnEmptyAssignment", "[[#mod^el]] =\n", "command 1\nmodel has the value (empty)"},
     {"OfAParameterList", "[[#op^t]](maxiter=50, tight)\n",
      "command 1, a task\nopt has 2 parameters"},
     {"OfAParameter", "#opt(maxiter=50, [[ti^ght]])\n",
@@ -41,7 +41,7 @@ const Row rows[] = {
     {"OfTheValueOfAParameter", "#grid(a, b=[['1, ^2']])\n",
      "command 1\ngrid has 2 parameters\nparameter 2: b with the value 1, 2"},
     {"OfAParameterWithAnEmptyValue", "#grid([[^a]]=, b)\n",
-     "command 1\ngrid has 2 parameters\nparameter 1: a with the value "},
+     "command 1\ngrid has 2 parameters\nparameter 1: a with the value (empty)"},
     {"OfACharge", "[[^-1]] 2\nO 0 0 0\n", "charge and multiplicity\ncharge -1, multiplicity 2"},
     {"OfAnAtom", "0 1\nO 0 0 0\n[[C^L]] 0 0 1\n", "atom 2\natom 2: Cl, element 17"},
     {"OfAnAtomBetweenItsPieces", "0 1\n[[Xx ^  0 0 1]]\n",

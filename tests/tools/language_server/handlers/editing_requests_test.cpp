@@ -67,6 +67,20 @@ TEST(Formatting, OfARangeLeavesOtherLinesAlone) {
   EXPECT_NE(text.find("O 0 0 0.117\n"), std::string::npos) << text;
 }
 
+TEST(Formatting, OfALineLeavesTheLineBeforeAlone) {
+  const std::string text = "#sp\n#  freq\n0 1\nO 0 0 0\n";
+  Client client;
+  client.open(uri, text);
+  Json params = names(uri);
+  params["range"] = to_json(PositionRange{{2, 0}, {2, 3}});
+  EXPECT_EQ(edited(text, client.result("textDocument/rangeFormatting", params)), text);
+  params["range"] = to_json(PositionRange{{0, 0}, {1, 0}});
+  EXPECT_EQ(edited(text, client.result("textDocument/rangeFormatting", params)), text);
+  params["range"] = to_json(PositionRange{{1, 2}, {1, 2}});
+  EXPECT_EQ(edited(text, client.result("textDocument/rangeFormatting", params)),
+            "#sp\n#freq\n\n0 1\nO 0 0 0\n");
+}
+
 Json action_params(const PositionRange& range, const Json& context) {
   Json params = names(uri);
   params["range"] = to_json(range);
@@ -135,6 +149,15 @@ const Row rows[] = {
      {{5, 0}, {5, 0}},
      "move this line after the first post-processing line\n"
      "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nB 1 2\nA 1 2 3"},
+    {"AConstraintBeforeTheLastLineOfATextWithCarriageReturns",
+     "#sp\r\n0 1\r\nO 0 0 0.1\r\nH 0 1 0.5\r\nH 1 0 0.5\r\nA 1 2 3\r\nB 1 2",
+     {{5, 0}, {5, 0}},
+     "move this line after the first post-processing line\n"
+     "#sp\r\n0 1\r\nO 0 0 0.1\r\nH 0 1 0.5\r\nH 1 0 0.5\r\nB 1 2\r\nA 1 2 3"},
+    {"AConstraintThatWouldBeRawText",
+     "#sp\n0 1\nC 0 0 0\nO 0 0 3\n\nB 1 2 3\nC 1\n",
+     {{5, 0}, {5, 0}},
+     ""},
     {"AConstraintThatCannotBeMoved",
      "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nA 1 2 3\n",
      {{5, 0}, {5, 0}},

@@ -40,6 +40,7 @@ const Row rows[] = {
     {"AReplacementOverALineEnd", "a\r\nb", {replacement({0, 0}, {1, 1}, "x\ny\nz")}, "x\ny\nz"},
     {"AnEmptyRangeWithNothing", "ab", {replacement({0, 1}, {0, 1}, "")}, "ab"},
     {"AfterTheEndOfALine", "a\nb", {replacement({0, 9}, {0, 9}, "x")}, "ax\nb"},
+    {"TheLastLineWithoutItsLineEnd", "a\nb", {replacement({1, 0}, {2, 0}, "")}, "a\n"},
     {"AtTheEndOfTheText", "a\n", {replacement({1, 0}, {1, 0}, "b")}, "a\nb"},
     {"EachChangeSeesThoseBeforeIt",
      "ab",
@@ -95,7 +96,6 @@ TEST_P(Misfit, LosesTheTextUntilAllOfItComes) {
 }
 
 const MisfitRow misfit_rows[] = {
-    {"AfterTheLastLine", replacement({0, 0}, {4, 0}, "")},
     {"TheEndBeforeTheBeginning", replacement({1, 1}, {1, 0}, "")},
     {"HalfASurrogatePair", replacement({2, 1}, {2, 1}, "x")},
     {"NoText", {{"range", to_json(PositionRange{})}}},

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -120,6 +121,12 @@ TEST(ProjectFinder, LooksOnceForAFolder) {
 TEST(ProjectFinder, TakesStandardInputForAFileOfTheCurrentFolder) {
   ProjectFinder finder;
   EXPECT_EQ(&finder.choices_for("-"), &finder.choices_for("job.qin"));
+}
+
+TEST(ProjectFinder, RefusesAPipeInPlaceOfTheFile) {
+  const TemporaryFolder folder;
+  ASSERT_EQ(mkfifo(folder.path(".quill-inp.toml").c_str(), 0600), 0);
+  EXPECT_THROW(ProjectFinder().choices_for(folder.path("job.qin")), Trouble);
 }
 
 TEST(ProjectFinder, RefusesAFolderInPlaceOfTheFile) {
