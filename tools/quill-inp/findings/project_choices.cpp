@@ -99,7 +99,7 @@ toml::table parse(std::string_view text, const std::string& name) {
 fs::path find_file(fs::path folder) {
   for (;;) {
     std::error_code error;
-    const fs::path file = folder / project_file_name;
+    fs::path file = folder / project_file_name;
     if (fs::exists(file, error)) return file;
     const fs::path parent = folder.parent_path();
     if (parent == folder || parent.empty()) return {};

@@ -182,7 +182,7 @@ TEST(LintOfManyFindings, CountsThemInEveryForm) {
       "          \"toolExecutionNotifications\": [\n"
       "            {\"level\": \"warning\", \"message\": {\"text\": \"and 2 more of QL212\"}, "
       "\"associatedRule\": {\"id\": \"QL212\"}, \"locations\": [{\"physicalLocation\": "
-      "{\"artifactLocation\": {\"uri\": \"%3cstdin%3e\"}}}]}\n"
+      "{\"artifactLocation\": {\"uri\": \"%3Cstdin%3E\"}}}]}\n"
       "          ]\n"
       "        }\n"
       "      ],\n"
