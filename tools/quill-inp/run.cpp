@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <exception>
+#include <iterator>
 #include <memory>
 #include <new>
 #include <optional>
+#include <string_view>
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
@@ -39,7 +41,36 @@ struct CommandLine {
   std::vector<Verb> verbs = {};
 };
 
-void describe(CommandLine& line) {
+struct KnownVerb {
+  std::string_view name;
+  Verb (*add)(CLI::App& program);
+};
+
+// In the order in which the help names them.
+constexpr KnownVerb known_verbs[] = {
+    {"show", add_show}, {"fmt", add_fmt},     {"get", add_get},
+    {"set", add_set},   {"unset", add_unset}, {"add", add_add},
+    {"new", add_new},   {"sweep", add_sweep}, {"hash", add_hash},
+    {"diff", add_diff}, {"json", add_json},   {"from-json", add_from_json},
+    {"lint", add_lint}, {"check", add_check}, {"explain", add_explain},
+    {"lsp", add_lsp},   {"help", add_help},
+};
+
+/// To describe the options of all verbs takes as long as the work on a small file. So these are
+/// only the verbs that the arguments name, or all if they name none, or ask for help.
+std::vector<KnownVerb> verbs_to_describe(const std::vector<std::string>& arguments) {
+  const auto is_named = [&](std::string_view name) {
+    return std::find(arguments.begin(), arguments.end(), name) != arguments.end();
+  };
+  std::vector<KnownVerb> named;
+  std::copy_if(std::begin(known_verbs), std::end(known_verbs), std::back_inserter(named),
+               [&](const KnownVerb& verb) { return is_named(verb.name); });
+  const bool is_help = is_named("help") || is_named("--help") || is_named("-h");
+  if (named.empty() || is_help) named.assign(std::begin(known_verbs), std::end(known_verbs));
+  return named;
+}
+
+void describe(CommandLine& line, const std::vector<std::string>& arguments) {
   line.program.formatter(std::make_shared<HelpFormatter>());
   line.program.require_subcommand(0, 1)->allow_extras();
   line.program.footer(footer);
@@ -47,10 +78,8 @@ void describe(CommandLine& line) {
   line.program.set_help_flag("-h,--help", "Print this help");
   line.program.set_version_flag("--version", std::string("quill-inp ") + KELP_QUILL_INP_VERSION,
                                 "Print the version");
-  for (const auto add :
-       {add_show, add_fmt, add_get, add_set, add_unset, add_add, add_new, add_sweep, add_hash,
-        add_diff, add_json, add_from_json, add_lint, add_check, add_explain, add_lsp, add_help})
-    line.verbs.push_back(add(line.program));
+  for (const KnownVerb& verb : verbs_to_describe(arguments))
+    line.verbs.push_back(verb.add(line.program));
 }
 
 std::vector<std::string> names_of(const std::vector<Verb>& verbs) {
@@ -144,7 +173,7 @@ void parse(CommandLine& line, const std::vector<std::string>& arguments) {
 ExitCode run_program(const std::vector<std::string>& arguments, const StandardStreams& streams,
                      Output& out) {
   CommandLine line;
-  describe(line);
+  describe(line, arguments);
   if (arguments.empty()) {
     out.write_shown(line.program.help());
     return ExitCode::Done;
