@@ -203,11 +203,11 @@ void for_each_close_pair(const std::vector<AtomRecord>& atoms, double limit,
   std::size_t from = 0;
   while (const std::size_t count = take_next(atoms, table, from, next)) {
     for (std::size_t i = 0; i < count; ++i) {
-      const auto& [number, around] = next[i];
-      if (const auto first = table.find_close(around)) {
-        use({*first, number, distance(place_of(atoms[*first]), around.place)});
+      const NextAtom& atom = next[i];
+      if (const auto first = table.find_close(atom.around)) {
+        use({*first, atom.number, distance(place_of(atoms[*first]), atom.around.place)});
       } else {
-        table.insert(around, number);
+        table.insert(atom.around, atom.number);
       }
     }
   }
