@@ -8,8 +8,8 @@ namespace {
 
 bool is_visible(char c) { return c > ' ' && c <= '~'; }
 
-/// No definition of white space has characters that are seen. So most lines of an input, those of
-/// atoms, need no copy.
+/// A visible ASCII character is never white space. So most lines of an input, which are atoms, need
+/// no copy.
 bool has_no_outer_blanks(const std::string& line) {
   return !line.empty() && is_visible(line.front()) && is_visible(line.back());
 }

@@ -46,7 +46,7 @@ class OpenDocument {
   std::int64_t version_;
   PositionEncoding encoding_;
   bool is_lost_ = false;
-  // Used only while there is no snapshot; a snapshot holds the text and its lines itself.
+  // Valid only while there is no snapshot, because a snapshot takes the text and its lines.
   std::string text_;
   LineStarts line_starts_;
   std::optional<Snapshot> snapshot_ = std::nullopt;

@@ -13,8 +13,8 @@
 namespace kelp::input::quill::language_server {
 
 /// Returns the offset of a position in a text with these lines. A position after the end of its
-/// line means that end, and one after the last line the end of the text: editors name it when they
-/// remove a last line that has no line end. Returns nothing for the middle of a character.
+/// line means the end of that line. A position after the last line means the end of the text; some
+/// editors send it when the last line is removed. Returns nothing for the middle of a character.
 std::optional<std::size_t> find_offset(const Position& position, std::string_view text,
                                        const LineStarts& lines, PositionEncoding encoding);
 

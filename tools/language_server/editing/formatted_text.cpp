@@ -47,7 +47,7 @@ std::string formatted_text(const lossless::ReadText& read) {
 std::vector<lint::ByteEdit> formatting_of_range(const lossless::ReadText& read,
                                                 const lint::Range& range) {
   std::vector<lint::ByteEdit> edits = changed_lines(read.text, formatted_text(read));
-  // A range ends where the line after it begins, and that line is not selected.
+  // A selection of whole lines ends where the next line begins, which is not selected.
   const auto is_outside = [&](const lint::ByteEdit& edit) {
     return edit.range.length == 0 || range.length == 0
                ? edit.range.end() < range.offset || range.end() < edit.range.offset

@@ -78,7 +78,7 @@ std::string as_line_after(const lint::Source& source, std::size_t line, std::siz
   if (record.terminator_length > 0)
     return content + std::string(source.text().substr(record.offset + record.length,
                                                       record.terminator_length));
-  // A line that is moved down has a line end, which is the one of the text.
+  // The line that is moved is not the last one, so it has a line end.
   const LineRecord& moved = source.lines()[line];
   return std::string(source.text().substr(moved.offset + moved.length, moved.terminator_length)) +
          content;

@@ -21,7 +21,7 @@ struct Message {
   Kind kind = Kind::Notification;
   Json id = nullptr;  // an integer or a text
   std::string method = {};
-  Json params = nullptr;  // as they came; who needs a member refuses those without it
+  Json params = nullptr;  // of any kind; handlers refuse what they cannot use
   bool is_error = false;
   Json result = nullptr;  // of a response
 };
