@@ -17,8 +17,11 @@ call writefile([synIDattr(synID(line('$'), 1, 0), 'name'), &redrawtime], 'shown'
 qa!
 E2
 cd "$scratch"
-script --quiet --return --command "timeout 60 vim -u NONE -i NONE -N --cmd 'set runtimepath^=$EDITORS' \
-  -c 'syntax on' -c 'edit chain.qin' -c 'setfiletype qin' -S look.vim" /dev/null </dev/null >screen
+# The time limit is around the terminal. Inside it, where the shell may be one that starts a job of its own
+# for it, Vim would be in the background and be stopped when it touches the terminal.
+timeout --kill-after=10 60 script --quiet --return --command "vim -u NONE -i NONE -N \
+  --cmd 'set runtimepath^=$EDITORS' -c 'syntax on' -c 'edit chain.qin' -c 'setfiletype qin' -S look.vim" \
+  /dev/null </dev/null >screen
 if ! diff -u <(printf 'qinConstrains\n2000\n') shown; then
   echo "Vim gave up before it came to the last line of 10,000 atoms" >&2
   exit 1
