@@ -57,8 +57,10 @@ constexpr KnownVerb known_verbs[] = {
 };
 
 /// To describe the options of all verbs takes as long as the work on a small file. So these are
-/// only the verbs that the arguments name, or all if they name none, or ask for help.
+/// only the verbs that the arguments name, or all if they name none, or ask for help. The version
+/// needs none.
 std::vector<KnownVerb> verbs_to_describe(const std::vector<std::string>& arguments) {
+  if (arguments == std::vector<std::string>{"--version"}) return {};
   const auto is_named = [&](std::string_view name) {
     return std::find(arguments.begin(), arguments.end(), name) != arguments.end();
   };
