@@ -35,19 +35,24 @@ function expectWords(account, printed) {
   });
 }
 
+function findingsIn(printed) {
+  const { findings, more } = JSON.parse(printed);
+  return { findings, more };
+}
+
 /** What the program says of the file that was written, in the form of the page. The page has no other files. */
 async function saidByProgram() {
   const [shown, linted, canonical, difference, document] = await Promise.all([
     program.run('show', '--json'), program.run('lint', '--format', 'json', '--ignore', RULES_ON_FILES),
     program.run('fmt', '-q', '--allow-loss'), program.run('fmt', '-q', '--allow-loss', '--diff'), program.run('json')]);
-  return { warnings: JSON.parse(shown).warnings, findings: JSON.parse(linted).findings, canonical, difference,
+  return { warnings: JSON.parse(shown).warnings, ...findingsIn(linted), canonical, difference,
     document: document.toString() };
 }
 
 const RULES_ON_FILES = 'QL402,QL403,QL404';
 
-function saidByPage({ account, findings, canonical, difference, document }) {
-  return { warnings: account.warnings, findings, canonical: asBytes(canonical), difference: asBytes(difference), document };
+function saidByPage({ account, findings, more, canonical, difference, document }) {
+  return { warnings: account.warnings, findings, more, canonical: asBytes(canonical), difference: asBytes(difference), document };
 }
 
 test('the page says that a browser without WebGL draws no pictures', async () => {

@@ -45,9 +45,9 @@ export function examined(tab, bytes) {
     const digitsOf = (all) => btoa(Array.from(all, (byte) => String.fromCharCode(byte)).join(''));
     globalThis.tryIt.showBytes(fromDigits);
     await globalThis.tryIt.settled();
-    const { account, findings, canonical, difference, bytes: read } = globalThis.tryIt.shown();
+    const { account, findings, more, canonical, difference, bytes: read } = globalThis.tryIt.shown();
     const document = await globalThis.tryIt.document();
-    return { account, findings, document, canonical: digitsOf(canonical), difference: digitsOf(difference),
+    return { account, findings, more, document, canonical: digitsOf(canonical), difference: digitsOf(difference),
       read: digitsOf(read) };
   }, Buffer.from(bytes).toString('base64'));
 }

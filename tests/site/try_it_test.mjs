@@ -228,6 +228,13 @@ for (const [name, breakReader] of [
   });
 }
 
+test('of findings without number, the first are shown and the others counted', async () => {
+  await examined(tab, Buffer.from(`#sp\n\n0 1\nH 0 0 0\n${'B 9 9\n'.repeat(1003)}`));
+  const rows = await tab.$$eval('#problems li', (all) => all.slice(200).map((row) => row.textContent));
+  assert.deepEqual({ rows, count: await textOf('count') }, {
+    rows: ['and 1801 more', 'and 3 more of QL304', 'and 1006 more of QL305'], count: '3010 in all.' });
+});
+
 test('the canonical text marks what formatting adds', async () => {
   await examined(tab, Buffer.from('#opt\n0 1\nhe 0 0 0\n'));
   const marked = await tab.evaluate(() =>

@@ -48,8 +48,9 @@ void web_account() {
 
 void web_findings() {
   const web::ExaminedText& examined = state().examined;
+  const auto& [findings, more] = examined.found;
   state().answer.clear();
-  tool::write_json_form({name_of_text, examined.read, examined.findings}, add_to_answer);
+  tool::write_json_form({name_of_text, examined.read, findings, more}, add_to_answer);
 }
 
 void web_canonical_text() { state().answer = state().examined.canonical_text; }

@@ -7,10 +7,10 @@
 #include "kelp/input/quill/lossless/input_doubt.hpp"
 #include "kelp/input/quill/lossless/proof.hpp"
 #include "kelp/input/quill/lossless/wording.hpp"
-#include "lint/lint.hpp"
 #include "lint/mending.hpp"
 #include "quill-inp/editing/canonical_text.hpp"
 #include "quill-inp/editing/losses.hpp"
+#include "quill-inp/findings/file_report.hpp"
 
 namespace kelp::input::quill::web {
 
@@ -38,7 +38,7 @@ std::vector<tool::LossWords> list_losses(const lossless::ReadText& read,
 ExaminedText examine(std::string text) {
   ExaminedText examined;
   examined.read = lossless::read_text(std::move(text));
-  examined.findings = lint::find_all(examined.read, lint::Options());
+  examined.found = lint::find_first(examined.read, lint::Options(), tool::most_of_a_rule);
   tool::CanonicalText canonical = tool::canonical_text(examined.read.result.input);
   examined.losses = list_losses(examined.read, canonical);
   examined.canonical_text = std::move(canonical.text);

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "kelp/input/quill/lossless/read_text.hpp"
-#include "lint/finding.hpp"
+#include "lint/lint.hpp"
 #include "quill-inp/editing/wording.hpp"
 
 namespace kelp::input::quill::web {
@@ -13,7 +13,7 @@ namespace kelp::input::quill::web {
 /// A text, and everything that a page shows about it.
 struct ExaminedText {
   lossless::ReadText read = {};
-  lint::Findings findings = {};  // of all rules but those about other files
+  lint::FirstFindings found = {};  // by all rules but those about other files
   std::string canonical_text = {};
 
   /// Why the program refuses to put the canonical text in the place of the text: what would be

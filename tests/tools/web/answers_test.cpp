@@ -173,6 +173,16 @@ TEST(Answers, TellOfAtMostTwentyLosses) {
   EXPECT_EQ(account.find("line 22 would be left out"), std::string::npos);
 }
 
+TEST(Answers, HoldTheFirstThousandFindingsOfARuleAndTheNumberOfTheOthers) {
+  std::string text = "#sp\n\n0 1\nH 0 0 0\n";
+  for (int i = 0; i < 1003; ++i) text += "B 9 9\n";
+  read(text);
+  const std::string found = answer(web_findings);
+  const std::string_view more = R"("more": {"QL304": 3, "QL305": 1006}}
+)";
+  EXPECT_EQ(found.substr(found.rfind(R"("more")")), more);
+}
+
 TEST(Answers, AreAboutTheLastText) {
   read("#opt\n");
   read("#freq\n");

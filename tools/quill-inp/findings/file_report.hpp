@@ -11,6 +11,10 @@
 
 namespace kelp::input::quill::tool {
 
+/// So many findings of a rule are shown for a file, since nobody reads more, and since they take
+/// much more memory than the text. The others are counted.
+constexpr std::size_t most_of_a_rule = 1000;
+
 /// What was found in a file: its name as it is shown, what the reader made of it, the findings to
 /// show, in their order, and how many more there are.
 struct FileReport {

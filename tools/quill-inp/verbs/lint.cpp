@@ -40,10 +40,6 @@ constexpr Option files{"FILE", "", "The inputs"};
 constexpr Option fix{"--fix", "", "Write files in which the safe corrections are made"};
 constexpr Option diff{"--diff", "", "With --fix, only print the changes; exit code 1 if any"};
 
-/// So many findings of a rule are shown for a file, since nobody reads more, and since they take
-/// much more memory than the text. The others are counted.
-constexpr std::size_t most_of_a_rule = 1000;
-
 constexpr lint::Severity default_fail_on = lint::Severity::Warning;
 
 /// What a call does with every file.

@@ -27,13 +27,14 @@ function byLine(problems) {
   return ofLine;
 }
 
-/// Returns { lines, problems } from the reader's answer about `text`. `problems` are the warnings of the
-/// reader and the findings, in the order of their lines.
+/// Returns { lines, problems, ofLine, more } from the reader's answer about `text`. `problems` are the warnings of the
+/// reader and the findings, in the order of their lines. `ofLine` has those of each line that has
+/// any. `more` says how many other findings there are, as pairs of a code and a number.
 export function accountOf(text, answer) {
   const { lines, warnings } = answer.account;
   const findings = placed(answer.findings, text);
   const ofReader = warnings.map(({ line, message }) => ({
     line, message: shown(message), severity: "reader", advice: "", code: null, fix: null }));
   const problems = [...ofReader, ...findings].sort((a, b) => (a.line ?? 0) - (b.line ?? 0));
-  return { lines, problems, ofLine: byLine(problems) };
+  return { lines, problems, ofLine: byLine(problems), more: Object.entries(answer.more) };
 }

@@ -18,7 +18,7 @@ const pauseBeforePicture = (lineCount) => 150 + lineCount / 20;
 
 const at = (id) => document.getElementById(id);
 const reader = new Reader(globalThis.quillReaderSource, globalThis.quillReaderWasm);
-let current = { bytes: new Uint8Array(), answer: null, account: { lines: [], problems: [], ofLine: new Map() } };
+let current = { bytes: new Uint8Array(), answer: null, account: { lines: [], problems: [], ofLine: new Map(), more: [] } };
 let changes = changesOf("");
 let answers = 0;
 
@@ -73,11 +73,12 @@ async function examine() {
 }
 
 function tellProblems() {
-  const { problems } = current.account;
-  const count = problems.length === 0 ? "None." : problems.length === 1 ? "1 in all." : `${problems.length} in all.`;
-  at("count").textContent = count;
-  at("fix-all").disabled = !problems.some((problem) => problem.fix?.safe);
-  showProblems(at("problems"), problems, {
+  const { problems, more } = current.account;
+  const count = more.reduce((sum, [, others]) => sum + others, problems.length);
+  at("count").textContent = count === 0 ? "None." : `${count} in all.`;
+  // Those that are not shown may have safe fixes, too.
+  at("fix-all").disabled = more.length === 0 && !problems.some((problem) => problem.fix?.safe);
+  showProblems(at("problems"), current.account, {
     go: (problem) => editor.go(problem.line, problem.from), mend: makeMend });
 }
 

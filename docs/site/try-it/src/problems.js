@@ -42,8 +42,8 @@ export function describeProblems(problems, onMend) {
   return all;
 }
 
-/// Shows problems in a list. `actions` has go(problem) and mend(problem).
-export function showProblems(list, problems, actions) {
+/// Shows the problems of an account in a list. `actions` has go(problem) and mend(problem).
+export function showProblems(list, { problems, more }, actions) {
   const rows = problems.slice(0, most_shown).map((problem) => {
     const row = element("li", problem.severity);
     if (problem.line !== null) {
@@ -56,5 +56,6 @@ export function showProblems(list, problems, actions) {
   });
   if (problems.length > most_shown)
     rows.push(element("li", "", `and ${problems.length - most_shown} more`));
+  for (const [code, count] of more) rows.push(element("li", "", `and ${count} more of ${code}`));
   list.replaceChildren(...rows);
 }

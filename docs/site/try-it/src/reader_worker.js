@@ -18,10 +18,15 @@ function read(bytes) {
   reader._web_read();
 }
 
+function found() {
+  const { findings, more } = JSON.parse(utf8.decode(answer("_web_findings")));
+  return { findings, more };
+}
+
 const tasks = {
   examine: () => ({
     account: JSON.parse(utf8.decode(answer("_web_account"))),
-    findings: JSON.parse(utf8.decode(answer("_web_findings"))).findings,
+    ...found(),
     canonical: answer("_web_canonical_text"),
     difference: answer("_web_difference"),
   }),
