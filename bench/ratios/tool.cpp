@@ -6,6 +6,7 @@
 
 #include "kelp/input/quill/quill.hpp"
 #include "lint/lint.hpp"
+#include "quill-inp/findings/file_report.hpp"
 #include "quill-inp/run.hpp"
 #include "ratios/ratios.hpp"
 #include "support/inputs.hpp"
@@ -55,10 +56,9 @@ void compare_lint(RatioTable& table, const ManyInputs& inputs) {
 
 /// The findings that the tool would show.
 void compare_lint_with_reading(RatioTable& table, const std::string& row, const std::string& text) {
-  constexpr std::size_t most_of_a_rule = 1000;
   const Work lint_text = [&text] {
     benchmark::DoNotOptimize(
-        lint::find_first(lossless::read_text(text), lint::Options(), most_of_a_rule));
+        lint::find_first(lossless::read_text(text), lint::Options(), tool::most_of_a_rule));
   };
   table.compare(
       row + " : parse_string", lint_text, [&text] { benchmark::DoNotOptimize(parse_string(text)); },

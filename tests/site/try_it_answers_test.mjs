@@ -4,7 +4,7 @@
 import assert from 'node:assert/strict';
 import { after, before, test } from 'node:test';
 
-import { Program, allTexts, examined, openPage, startBrowser } from './try_it_page.mjs';
+import { Program, allTexts, examined, makeAllFixes, openPage, startBrowser } from './try_it_page.mjs';
 
 let browser;
 let tab;
@@ -82,8 +82,7 @@ test('all safe fixes make the text that the program writes', async () => {
     if (expected.equals(bytes)) continue;
     ++differing;
     await examined(tab, bytes);
-    await tab.click('#fix-all');
-    await tab.waitForFunction(() => document.getElementById('fix-all').disabled);
+    await makeAllFixes(tab);
     const mended = await tab.evaluate(() => Array.from(globalThis.tryIt.shown().bytes));
     assert.deepEqual(Buffer.from(mended), expected, name);
   }

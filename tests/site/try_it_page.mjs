@@ -52,6 +52,21 @@ export function examined(tab, bytes) {
   }, Buffer.from(bytes).toString('base64'));
 }
 
+/** Makes all safe fixes, and returns what the page says about that. */
+export function makeAllFixes(tab) {
+  return tab.evaluate(async () => {
+    const told = document.getElementById('told');
+    told.textContent = '';
+    const isTold = new Promise((resolve) => {
+      new MutationObserver(resolve).observe(told, { childList: true });
+    });
+    document.getElementById('fix-all').click();
+    await isTold;
+    await globalThis.tryIt.settled();
+    return told.textContent;
+  });
+}
+
 /** What tests do and see on the page; `tabOf()` is its tab. */
 export function actionsOn(tabOf) {
   return {

@@ -9,7 +9,7 @@ import { join } from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
 
 import { changesBetween } from '../try-it/src/text_changes.js';
-import { actionsOn, address, examined, openPage, startBrowser } from './try_it_page.mjs';
+import { actionsOn, address, examined, makeAllFixes, openPage, startBrowser } from './try_it_page.mjs';
 
 const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
 
@@ -159,6 +159,32 @@ for (const [name, button, typing, expected] of [
     await tab.evaluate(() => { document.getElementById('told').textContent = ''; });
     const [text, told] = expected;
     assert.deepEqual(await fixed(button, AT_THE_H, typing), { text, cursor: AT_THE_H, told });
+  });
+}
+
+test('all fixes make one with more edits than the page lists', async () => {
+  const text = `#opt\n0 1\nO 0 0 0\n${'H 0 0 1,5\n'.repeat(1001)}`;
+  await examined(tab, Buffer.from(text));
+  assert.deepEqual(await tab.$$eval('#problems li', (all) => all.map((row) => row.querySelectorAll('button').length)), [1],
+    'one finding, with a way to its place and no fix');
+  assert.equal(await makeAllFixes(tab), FIXED);
+  assert.equal(await tab.evaluate(() => globalThis.tryIt.editor.text), text.replaceAll(',', '.'));
+});
+
+test('all fixes say that no finding has a safe one', async () => {
+  const text = '#opt freq\n0 1\nHe 0 0 0\n';
+  await examined(tab, Buffer.from(text));
+  assert.equal(await makeAllFixes(tab), 'Nothing is fixed: no finding has a safe fix.');
+  assert.equal(await tab.evaluate(() => globalThis.tryIt.editor.text), text);
+});
+
+for (const [about, text, expected] of [
+  ['without findings', '#opt\n0 1\nHe 0 0 0\n', true],
+  ['with a finding', '#opt freq\n0 1\nHe 0 0 0\n', false],
+]) {
+  test(`in a text ${about}, the button for all fixes is ${expected ? 'off' : 'on'}`, async () => {
+    await examined(tab, Buffer.from(text));
+    assert.equal(await tab.$eval('#fix-all', (button) => button.disabled), expected);
   });
 }
 

@@ -76,8 +76,8 @@ function tellProblems() {
   const { problems, more } = current.account;
   const count = more.reduce((sum, [, others]) => sum + others, problems.length);
   at("count").textContent = count === 0 ? "None." : `${count} in all.`;
-  // Those that are not shown may have safe fixes, too.
-  at("fix-all").disabled = more.length === 0 && !problems.some((problem) => problem.fix?.safe);
+  // Findings that are not shown may have safe fixes, too, and so may one whose fix has too many edits to be listed.
+  at("fix-all").disabled = !problems.some((problem) => problem.code !== null);
   showProblems(at("problems"), current.account, {
     go: (problem) => editor.go(problem.line, problem.from), mend: makeMend });
 }
@@ -149,13 +149,15 @@ function goToAtom(number) {
 
 /// Makes the changes if the text is still the one that they were made for, and otherwise loses nothing of it.
 function change(version, changesOf) {
-  if (version === editor.version) {
-    editor.change(changesOf());
-    at("told").textContent = "Fixed. Ctrl+Z in the text takes it back.";
-  } else {
+  if (version !== editor.version) {
     examineSoon();
     at("told").textContent = "Nothing is fixed: the text has changed since then, and is read again.";
+    return;
   }
+  const made = changesOf();
+  if (made.length > 0) editor.change(made);
+  at("told").textContent = made.length > 0 ? "Fixed. Ctrl+Z in the text takes it back."
+    : "Nothing is fixed: no finding has a safe fix.";
 }
 
 /// A problem of an earlier answer, in a hint that is still open, has its places in an earlier text.
