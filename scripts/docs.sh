@@ -19,8 +19,9 @@ site=build/docs
 rm -rf "$site" "$tools"/{render,tests,try-it,xml}
 mkdir -p "$site"
 
+scripts/support/figures_test.sh
 python3 scripts/support/figures.py --check SECURITY.md properties fuzz corpus mutants scale
-python3 scripts/support/figures.py --check docs/performance.md times reading writing memory tool
+python3 scripts/support/figures.py --check docs/performance.md times reading writing tools all
 
 SITE_BUILD=$tools doxygen docs/site/Doxyfile
 scripts/support/descriptions_test.sh

@@ -5,19 +5,25 @@
 #   scripts/figures.sh fuzz RUNS [TARGET...]    the runs of these fuzz targets
 #   scripts/figures.sh mutants                  the changes of the sources that the tests notice
 #   scripts/figures.sh scale                    the largest texts
-#   scripts/figures.sh bench                    the tables of docs/performance.md
+#   scripts/figures.sh bench [OPTION...]        the tables of docs/performance.md
 #   scripts/figures.sh times                    the times at its beginning
+#   scripts/figures.sh --again WHAT [...]       measures nothing, and takes what was printed last time
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/support/packages.sh
 
+is_again=
+if [ "${1:-}" = --again ]; then
+  is_again=yes
+  shift
+fi
 what=${1:-}
 shift $(($# > 0 ? 1 : 0))
 printed=build/figures/$what.txt
 
-measure() { "$@" | tee "$printed"; }
-# The rows of the table of ratios that match, below its heading.
-rows() { grep -E "^what |$2" "$printed" | put docs/performance.md "$1"; }
+measure() {
+  if [ "$is_again" ]; then cat "$printed"; else "$@" | tee "$printed"; fi
+}
 put() { python3 scripts/support/figures.py "$@"; }
 
 need_packages python3
@@ -41,17 +47,14 @@ case $what in
     ;;
   bench)
     measure scripts/bench.sh "$@"
-    rows reading '^(read|parse_file),? '
-    rows writing '^(write|write_file),? '
-    rows memory '^(allocations|peak|builder|parse,) '
-    rows tool '^(start|lint|show|fmt|set),? '
+    put --ratios docs/performance.md <"$printed"
     ;;
   times)
     measure scripts/bench.sh --times
     sed 1d "$printed" | put docs/performance.md times
     ;;
   *)
-    sed -n '4,9s/^# *//p' "$0" >&2
+    sed -n '4,10s/^# *//p' "$0" >&2
     exit 2
     ;;
 esac
