@@ -27,7 +27,7 @@ tests/editors/vim/use.sh "$tool" nvim
 tests/editors/neovim/check.sh "$tool"
 tests/editors/emacs/check.sh "$tool"
 tests/editors/kate/check.sh "${refresh[@]}"
-python3 -c 'import tomllib; tomllib.load(open("editors/helix/languages.toml", "rb"))'
+/usr/bin/python3 -c 'import tomllib; tomllib.load(open("editors/helix/languages.toml", "rb"))'
 tests/editors/textmate/check.sh "${refresh[@]}"
 tests/editors/node/check.sh "$tool"
 tests/editors/vscode/check.sh

@@ -42,5 +42,5 @@ if [ -x "$build/tools/quill-inp/quill-inp" ]; then
 fi
 llvm-cov-14 export -instr-profile="$build/counts.profdata" "${objects[@]}" \
   -ignore-filename-regex='^/usr/' >"$build/coverage.json"
-python3 -B scripts/support/coverage.py "$build/coverage.json" tests/coverage/unreached.txt \
+/usr/bin/python3 -B scripts/support/coverage.py "$build/coverage.json" tests/coverage/unreached.txt \
   "$with_tools"

@@ -20,12 +20,12 @@ rm -rf "$site" "$tools"/{render,tests,try-it,xml}
 mkdir -p "$site"
 
 scripts/support/figures_test.sh
-python3 scripts/support/figures.py --check SECURITY.md properties fuzz corpus mutants scale
-python3 scripts/support/figures.py --check docs/performance.md times reading writing tools all
+/usr/bin/python3 scripts/support/figures.py --check SECURITY.md properties fuzz corpus mutants scale
+/usr/bin/python3 scripts/support/figures.py --check docs/performance.md times reading writing tools all
 
 SITE_BUILD=$tools doxygen docs/site/Doxyfile
 scripts/support/descriptions_test.sh
-python3 scripts/support/descriptions.py "$tools/xml"
+/usr/bin/python3 scripts/support/descriptions.py "$tools/xml"
 
 # Node looks for packages in the folders above a module.
 cp -r docs/site/{render,try-it} "$tools"

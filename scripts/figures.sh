@@ -24,7 +24,7 @@ printed=build/figures/$what.txt
 measure() {
   if [ "$is_again" ]; then cat "$printed"; else "$@" | tee "$printed"; fi
 }
-put() { python3 scripts/support/figures.py "$@"; }
+put() { /usr/bin/python3 scripts/support/figures.py "$@"; }
 
 need_packages python3
 mkdir -p build/figures

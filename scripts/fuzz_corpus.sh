@@ -36,4 +36,4 @@ pack_corpus
 find "${fuzz_targets[@]/#/$corpus/}" -type f -printf '%s\n' |
   awk -v targets="${#fuzz_targets[@]}" '{ bytes += $1 }
     END { print NR " inputs with " bytes " bytes, for " targets " targets" }' |
-  python3 scripts/support/figures.py SECURITY.md corpus
+  /usr/bin/python3 scripts/support/figures.py SECURITY.md corpus

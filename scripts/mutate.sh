@@ -18,4 +18,4 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 need_packages "${test_packages[@]}" python3
 
 build_preset dev
-exec python3 -B scripts/support/mutation "$@"
+exec /usr/bin/python3 -B scripts/support/mutation "$@"

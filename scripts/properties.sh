@@ -17,7 +17,7 @@ for program in "${programs[@]}"; do
     --gtest_output="json:$reports/$program.json"
 done
 
-python3 - "${programs[@]/#/$reports/}" <<'PYTHON'
+/usr/bin/python3 - "${programs[@]/#/$reports/}" <<'PYTHON'
 import json
 import sys
 

@@ -72,10 +72,10 @@ scripts/support/source_archive.sh "$tree/build/docs" "$name-documentation" "$SOU
   "$release/$name-documentation.tar.xz"
 
 step "what is in it and on what it was built"
-python3 scripts/support/spdx.py write --name "$name" --version "$version" --commit "$commit" \
+/usr/bin/python3 scripts/support/spdx.py write --name "$name" --version "$version" --commit "$commit" \
   --sources "$scratch/committed" --built-with "${test_packages[*]}" "$release"/* >"$scratch/spdx.json"
 mv "$scratch/spdx.json" "$release/$name.spdx.json"
-python3 scripts/support/spdx.py check "$release/$name.spdx.json"
+/usr/bin/python3 scripts/support/spdx.py check "$release/$name.spdx.json"
 
 (cd "$release" && sha256sum -- * >"$scratch/SHA256SUMS" && mv "$scratch/SHA256SUMS" .)
 echo "the release is in build/releases/$version:"

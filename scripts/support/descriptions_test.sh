@@ -18,7 +18,7 @@ try() {
     echo 'FILTER_PATTERNS = *.hpp="awk -f docs/site/header_filter.awk"'
   ) | doxygen - >"$scratch/log" 2>&1
   # A failure of the script is what some rows expect: what it said is compared below.
-  python3 scripts/support/descriptions.py "$scratch/xml" >"$scratch/said" 2>&1 || true
+  /usr/bin/python3 scripts/support/descriptions.py "$scratch/xml" >"$scratch/said" 2>&1 || true
   diff -u <(echo "$1") "$scratch/said"
 }
 

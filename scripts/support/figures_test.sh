@@ -31,7 +31,7 @@ try() {
   local expected=$1
   shift
   # A failure of the script is what some rows expect: what it said is compared below.
-  python3 scripts/support/figures.py "$@" >"$scratch/said" 2>&1 || true
+  /usr/bin/python3 scripts/support/figures.py "$@" >"$scratch/said" 2>&1 || true
   diff -u <(printf '%s' "${expected:+$expected$'\n'}") "$scratch/said"
 }
 

@@ -26,12 +26,12 @@ printf 'packed' >"$scratch/release/kelp-1.0.tar.xz"
 
 # list PACKAGES
 list() {
-  PATH="$scratch/bin:$PATH" SOURCE_DATE_EPOCH=1767225600 python3 "$spdx" write --name kelp-1.0 \
+  PATH="$scratch/bin:$PATH" SOURCE_DATE_EPOCH=1767225600 /usr/bin/python3 "$spdx" write --name kelp-1.0 \
     --version 1.0 --commit 1a2b3c --sources "$scratch/sources" --built-with "$1" \
     "$scratch/release/kelp-1.0.tar.xz"
 }
 list g++ >"$scratch/list.json"
-python3 "$spdx" check "$scratch/list.json" >/dev/null
+/usr/bin/python3 "$spdx" check "$scratch/list.json" >/dev/null
 
 # contains TEXT...: the list does.
 contains() {
@@ -54,7 +54,7 @@ is_refused() {
   if cmp --silent "$scratch/list.json" "$scratch/damaged.json"; then
     echo "nothing is damaged: $1" >&2
     failures=$((failures + 1))
-  elif python3 "$spdx" check "$scratch/damaged.json" >/dev/null 2>&1; then
+  elif /usr/bin/python3 "$spdx" check "$scratch/damaged.json" >/dev/null 2>&1; then
     echo "a list is accepted: $1" >&2
     failures=$((failures + 1))
   fi

@@ -9,7 +9,7 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
 xmllint --noout editors/kate/quill.xml
-python3 -c 'import json, sys; json.load(open(sys.argv[1]))' editors/kate/lspclient.json
+/usr/bin/python3 -c 'import json, sys; json.load(open(sys.argv[1]))' editors/kate/lspclient.json
 mkdir -p "$scratch/org.kde.syntax-highlighting/syntax"
 cp editors/kate/quill.xml "$scratch/org.kde.syntax-highlighting/syntax"
 

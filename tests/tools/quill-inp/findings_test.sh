@@ -47,7 +47,7 @@ else
   left_out+=('the schema of SARIF')
 fi
 
-python3 - "$source/editors/problem_matcher.json" <<'EOF' || fail 'the forms do not agree'
+/usr/bin/python3 - "$source/editors/problem_matcher.json" <<'EOF' || fail 'the forms do not agree'
 import json, re, sys, urllib.parse
 
 pattern = json.load(open(sys.argv[1]))["problemMatcher"][0]["pattern"][0]
