@@ -2,6 +2,8 @@
 #define KELP_INPUT_QUILL_PYTHON_EDITING_HPP
 
 #include <memory>
+#include <mutex>
+#include <shared_mutex>
 #include <utility>
 
 #include "core/handles.hpp"
@@ -50,6 +52,7 @@ auto edit(const Document& document, Touches touches, Operation operation) {
 /// Calls it for a text under edit, of which no object shows an entry.
 template <typename Operation>
 auto edit(TextEdit& text, Touches /*touches*/, Operation operation) {
+  const std::unique_lock<std::shared_mutex> lock(text.in_use);
   return operation(text.document);
 }
 

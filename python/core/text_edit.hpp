@@ -1,6 +1,7 @@
 #ifndef KELP_INPUT_QUILL_PYTHON_TEXT_EDIT_HPP
 #define KELP_INPUT_QUILL_PYTHON_TEXT_EDIT_HPP
 
+#include <shared_mutex>
 #include <string>
 #include <utility>
 
@@ -9,13 +10,15 @@
 
 namespace kelp::input::quill::python {
 
-/// A text and the document under edit that it was read as.
+/// A text and the document under edit that it was read as. As with a Tree, a change waits until no
+/// thread makes the new text without the interpreter's lock.
 struct TextEdit {
   explicit TextEdit(std::string text)
       : read(lossless::read_text(std::move(text))), document(read.result.input) {}
 
   lossless::ReadText read;
   lossless::TrackedDocument document;
+  mutable std::shared_mutex in_use;
 };
 
 /// What a new text may lose.

@@ -1,6 +1,7 @@
 """Objects live as long as they are needed, and no misuse reaches memory that is not theirs."""
 
 import copyreg
+import functools
 import gc
 import pickle
 import sys
@@ -182,8 +183,45 @@ def test_a_document_that_is_changed_while_it_is_written_is_written_whole(water_t
         assert text.count("He ") == 2000 and text.count("Ne ") <= 1
 
 
-def test_other_threads_run_while_a_long_text_is_read(water_text):
-    text = "#sp\n\n" + "H 0 0 0\n" * 300000
+LONG_TEXT = "#sp\n\n0 1\n" + "".join(f"H {i} 0 0\n" for i in range(100_000))
+
+
+def edited(text):
+    edit = quill_inp.edit(text)
+    edit.set_flag("freq")
+    return edit
+
+
+def wait_for_the_lock(path):
+    with quill_inp.edit_file(path):
+        with pytest.raises(TimeoutError):
+            quill_inp.edit_file(path, lock_timeout=0.2).__enter__()
+
+
+# Each makes a call that takes long, of a text, the document that it says and the path of a file with it.
+LONG_CALLS = {
+    "parse_string": lambda text, document, path: lambda: quill_inp.parse_string(text),
+    "parse_lines": lambda text, document, path: lambda: quill_inp.parse_lines(text),
+    "parse_file": lambda text, document, path: lambda: quill_inp.parse_file(path),
+    "lint": lambda text, document, path: lambda: quill_inp.lint(text),
+    "to_string": lambda text, document, path: document.to_string,
+    "text of a geometry": lambda text, document, path: document.geometry.__str__,
+    "write_file": lambda text, document, path: lambda: document.write_file(path),
+    "proof": lambda text, document, path: lambda: _core.proved_text(document._part, 1e-6, False),
+    "to_dict": lambda text, document, path: lambda: _core.json_of(document._part),
+    "from_dict": lambda text, document, path: functools.partial(
+        _core.document_from_json, _core.json_of(document._part)
+    ),
+    "edit": lambda text, document, path: lambda: quill_inp.edit(text),
+    "text of an edit": lambda text, document, path: lambda edit=edited(text): edit.text,
+    "lock of a file": lambda text, document, path: lambda: wait_for_the_lock(path),
+}
+
+
+def others_run_during(call):
+    """Returns whether another thread ran while a function was called. No thread that holds the
+    interpreter's lock is asked to give it up meanwhile.
+    """
     wanted = threading.Event()
     ran = threading.Event()
 
@@ -191,7 +229,6 @@ def test_other_threads_run_while_a_long_text_is_read(water_text):
         wanted.wait()
         ran.set()
 
-    # No thread that holds the interpreter's lock is asked to give it up while this one reads.
     interval = sys.getswitchinterval()
     sys.setswitchinterval(1000)
     thread = threading.Thread(target=answer)
@@ -199,8 +236,47 @@ def test_other_threads_run_while_a_long_text_is_read(water_text):
         thread.start()
         wanted.set()
         assert not ran.is_set()
-        quill_inp.parse_string(text)
-        assert ran.is_set()
+        call()
+        return ran.is_set()
     finally:
         sys.setswitchinterval(interval)
         thread.join()
+
+
+@pytest.fixture(scope="module")
+def long_document():
+    return quill_inp.parse_string(LONG_TEXT).input
+
+
+@pytest.mark.parametrize("name", LONG_CALLS)
+def test_other_threads_run_during_a_call_that_takes_long(name, long_document, tmp_path):
+    path = tmp_path / "long.qin"
+    path.write_text(LONG_TEXT)
+    call = LONG_CALLS[name](LONG_TEXT, long_document, path)
+    assert others_run_during(call)
+
+
+def test_the_lock_of_the_interpreter_is_seen(long_document):
+    assert not others_run_during(lambda: long_document.geometry.symbols)
+
+
+def test_a_text_is_edited_while_its_new_text_is_made(water_text):
+    edit = quill_inp.edit(water_text + "free text\n" * 2000)
+    done = threading.Event()
+
+    def change():
+        while not done.is_set():
+            edit.set_parameter("opt", "maxiter", "7")
+            edit.remove_parameter("opt", "maxiter")
+            edit.remove_command("freq")
+
+    thread = threading.Thread(target=change)
+    thread.start()
+    try:
+        texts = [edit.text for i in range(50)]
+    finally:
+        done.set()
+        thread.join()
+    commands = {text.splitlines()[0] for text in texts}
+    values = ["maxiter=50, tight", "maxiter=7, tight", "tight", "tight, maxiter=7"]
+    assert commands <= {f"#opt({value})" for value in values}
