@@ -9,7 +9,7 @@ import time
 import pytest
 
 import quill_inp
-from quill_inp import FileEdit, InputBuilder, LossError
+from quill_inp import FileEdit, FileWarning, InputBuilder, LossError
 
 TEXT = b"#Opt( tight )\n#t = caf\xe9\n\n0  1\nO 0 0 .1\n"
 CHANGED = b"#Opt(tight, maxiter=7)\n#t = caf\xe9\n\n0  1\nO 0 0 .1\n"
@@ -108,6 +108,34 @@ def test_a_file_with_several_names_is_replaced_only_if_that_is_allowed(path):
         set_parameter(editor)
     assert path.read_bytes() == CHANGED
     assert (path.parent / "other.qin").read_bytes() == TEXT
+
+
+class FileOfAnother:
+    """A file under edit that cannot keep its owner."""
+
+    def text(self):
+        return TEXT
+
+    def replace(self, text, backup, break_hard_links):
+        return ["the owner could not be kept", "the group could not be kept"]
+
+    def close(self):
+        pass
+
+
+def test_what_a_file_cannot_keep_is_a_warning_for_the_line_of_the_caller(path, monkeypatch):
+    monkeypatch.setattr(quill_inp._core, "open_file", lambda path, patience: FileOfAnother())
+    monkeypatch.setattr(quill_inp._core, "write_file", lambda *_: (True, ["the owner could not be kept"]))
+    with pytest.warns(FileWarning) as issued:
+        with quill_inp.edit_file(path) as editor:
+            set_parameter(editor)
+        assert quill_inp.write_file(path, document()) is True
+    assert [str(one.message) for one in issued] == [
+        f"{path}: the owner could not be kept",
+        f"{path}: the group could not be kept",
+        f"{path}: the owner could not be kept",
+    ]
+    assert {one.filename for one in issued} == {__file__}
 
 
 def test_a_change_by_another_program_is_not_overwritten(path):

@@ -1,8 +1,11 @@
 """Documents and their parts are values: compared, copied, pickled and shown by their contents."""
 
 import copy
+import enum
 import math
+import pathlib
 import pickle
+import re
 
 import pytest
 from hypothesis import given
@@ -21,6 +24,7 @@ from quill_inp import (
     PostCommand,
     PostCommandKind,
     QuillInput,
+    Severity,
 )
 from strategies import documents, values
 
@@ -154,16 +158,30 @@ def test_results_are_values_too(water_text):
     assert ParseResult(QuillInput()) == ParseResult(QuillInput(), False, "", [])
 
 
-def test_enumerations_have_the_numbers_of_cpp():
-    assert [(kind.name, kind.value) for kind in GeometryKind] == [
-        ("NONE", 0),
-        ("ATOMS", 1),
-        ("XYZ_FILE", 2),
-        ("XYZ_TRAJECTORY", 3),
-    ]
-    assert [kind.value for kind in PostCommandKind] == list(range(7))
-    assert [kind.value for kind in HeaderCommandKind] == [0, 1, 2]
-    assert [role.value for role in LineRole] == list(range(8))
+ROOT = pathlib.Path(__file__).parents[2]
+HEADERS = [
+    ROOT / "include/kelp/input/quill/document.hpp",
+    ROOT / "include/kelp/input/quill/lines.hpp",
+    ROOT / "tools/lint/rule.hpp",
+]
+
+
+def enumerators_of(kind):
+    """Returns the names that an enumeration has in C++, in their order, as they are in Python."""
+    text = re.sub("//.*", "", "".join(path.read_text(encoding="utf-8") for path in HEADERS))
+    (body,) = re.findall(rf"enum class {kind.__name__}\b[^{{]*{{([^}}]*)}}", text)
+    names = re.findall(r"([A-Z]\w*)(?: = (\d+))?", body)
+    assert all(number in ("", str(place)) for place, (_, number) in enumerate(names))
+    return [re.sub("(?<=[a-z])(?=[A-Z])", "_", name).upper() for name, _ in names]
+
+
+@pytest.mark.parametrize(
+    "kind", [GeometryKind, HeaderCommandKind, LineRole, PostCommandKind, Severity]
+)
+def test_enumerations_have_the_names_and_numbers_of_cpp(kind):
+    assert issubclass(kind, enum.Enum)
+    assert list(kind.__members__) == enumerators_of(kind)
+    assert [one.value for one in kind] == list(range(len(kind)))
 
 
 REFUSED = [
