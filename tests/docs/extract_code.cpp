@@ -6,8 +6,9 @@
 //
 // Include lines and using directives of the page are gathered at the top; nothing else is included
 // before its code, so that code which needs a header that the page does not show does not compile.
-// Each block becomes a function, or, if it defines main, a namespace whose main is called. Compiler
-// messages name the page and its lines.
+// Each block becomes a function, or, if it defines main, a namespace whose main is called; one that
+// defines functions for other languages is compiled as it is. Compiler messages name the page and
+// its lines.
 //
 // A block of "text", or of no language, right after a C++ block is what that block prints.
 //
@@ -84,22 +85,35 @@ bool belongs_on_top(const std::string& line) {
   return starts_with(line, "#include") || starts_with(line, "using namespace");
 }
 
-bool defines_main(const Block& block) {
+bool has_line(const Block& block, const std::string& beginning) {
   return std::any_of(block.lines.begin(), block.lines.end(),
-                     [](const auto& line) { return starts_with(line, "int main("); });
+                     [&](const auto& line) { return starts_with(line, beginning); });
+}
+
+bool defines_main(const Block& block) { return has_line(block, "int main("); }
+
+bool is_for_other_languages(const Block& block) { return has_line(block, "extern \"C\""); }
+
+void write_lines(std::ostream& out, const Block& block, const std::string& page) {
+  out << "#line " << block.first_line << " \"" << page << "\"\n";
+  for (const std::string& line : block.lines) out << (belongs_on_top(line) ? "" : line) << "\n";
 }
 
 void write_block(std::ostream& out, const Block& block, const std::string& page,
                  const std::string& name) {
+  if (is_for_other_languages(block)) {
+    write_lines(out, block, page);
+    return;
+  }
   const bool is_program = defines_main(block);
   out << (is_program ? "namespace " : "void ") << name << (is_program ? " {\n" : "() {\n");
-  out << "#line " << block.first_line << " \"" << page << "\"\n";
-  for (const std::string& line : block.lines) out << (belongs_on_top(line) ? "" : line) << "\n";
+  write_lines(out, block, page);
   out << "}\n";
 }
 
 /// Calls a block; if the page says what that prints, compares.
 void write_call(std::ostream& out, const Block& block, const std::string& name) {
+  if (is_for_other_languages(block)) return;
   const std::string call = name + (defines_main(block) ? "::main_of_block();" : "();");
   if (block.printed.empty()) {
     out << "  " << call << "\n";

@@ -5,19 +5,14 @@
 #
 #   first_program.sh TREE SCRATCH CXX [and-the-tool]
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/blocks.sh"
 tree=$1
 scratch=$2
 export CXX=$3
 what=${4:-}
 page=$tree/docs/getting-started.md
 
-# block LANGUAGE NUMBER: one of the page's code blocks.
-block() {
-  awk -v fence="\`\`\`$1" -v wanted="$2" '
-    /^```/ { inside = !inside; counts = inside && $0 == fence; count += counts; next }
-    inside && counts && count == wanted
-  ' "$page"
-}
+block() { block_of "$page" "$@"; }
 
 rm -rf "$scratch"
 mkdir -p "$scratch/my_program" "$scratch/home"

@@ -8,7 +8,8 @@
 //                    read and written (format_page_test.cpp)
 //   console          carried out in a shell, with what it prints (tests/tools/quill_inp);
 //                    on docs/traps.md with the input before it (qin, escaped)
-//   cmake, meson, sh built and run (first_program.sh, tests/package, and the scripts of CI)
+//   cmake, meson, sh built and run (first_program.sh, projects_of_embedding.sh, tests/package,
+//                    and the scripts of CI)
 //   python           run, with what it prints (tests/python/documentation_test.py); on
 //                    docs/python-reference.md, what the package says
 //                    (tests/python/reference_test.py)
@@ -41,7 +42,7 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/cheat-sheet.md", {"qin"}},
     {"docs/editing.md", {"cpp"}},
     {"docs/editors.md", {"elisp", "lua", "sh", "vim"}},
-    {"docs/embedding.md", {"cpp"}},
+    {"docs/embedding.md", {"cmake", "cpp", "sh"}},
     {"docs/findings.md", {}},
     {"docs/format.md", {"abnf", "cpp", "diagnostics", "qin", "written"}},
     {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
