@@ -17,14 +17,14 @@ class Collector {
   /// Returns whether a finding, which has its code, is taken.
   using Accept = std::function<bool(const Finding&)>;
 
-  /// Keeps at most `most` findings of this rule.
-  Collector(const Rule& rule, std::size_t most, Accept accept)
-      : rule_(rule), most_(most), accept_(std::move(accept)) {}
+  /// Keeps findings of this rule within the limits.
+  Collector(const Rule& rule, const Limits& limits, Accept accept)
+      : rule_(rule), limits_(limits), accept_(std::move(accept)) {}
 
   void add(Finding finding) {
     finding.code = rule_.code;
     if (!accept_(finding)) return;
-    if (kept_.size() < most_) {
+    if (kept_.size() < limits_.findings) {
       kept_.push_back(std::move(finding));
     } else {
       ++more_;
@@ -32,7 +32,7 @@ class Collector {
   }
 
   /// The largest number of edits that a finding may have. A rule leaves a mend with more edits out.
-  std::size_t most_edits() const { return most_; }
+  std::size_t most_edits() const { return limits_.edits; }
 
   /// The findings that were kept, which may be moved from, and the number of the others.
   Findings& kept() { return kept_; }
@@ -40,7 +40,7 @@ class Collector {
 
  private:
   const Rule& rule_;
-  std::size_t most_;
+  Limits limits_;
   Accept accept_;
   Findings kept_ = {};
   std::size_t more_ = 0;

@@ -67,6 +67,12 @@ struct Finding {
 
 using Findings = std::vector<Finding>;
 
+/// How many findings of a rule are kept, and how many edits a mend may have.
+struct Limits {
+  std::size_t findings = 0;
+  std::size_t edits = 0;
+};
+
 }  // namespace kelp::input::quill::lint
 
 #endif  // KELP_INPUT_QUILL_LINT_FINDING_HPP

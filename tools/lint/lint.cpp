@@ -13,6 +13,9 @@ namespace kelp::input::quill::lint {
 
 namespace {
 
+constexpr std::size_t endless = std::numeric_limits<std::size_t>::max();
+constexpr Limits no_limits{endless, endless};
+
 bool comes_first(const Finding& left, const Finding& right) {
   return left.range.offset != right.range.offset ? left.range.offset < right.range.offset
                                                  : left.code < right.code;
@@ -21,9 +24,9 @@ bool comes_first(const Finding& left, const Finding& right) {
 bool takes_all(const Finding& /*finding*/) { return true; }
 
 /// Adds what a rule finds to the other findings. Returns whether it finds anything.
-bool collect(const Rule& rule, const Source& source, std::size_t most, Collector::Accept accept,
+bool collect(const Rule& rule, const Source& source, const Limits& limits, Collector::Accept accept,
              FirstFindings& first) {
-  Collector collector(rule, most, std::move(accept));
+  Collector collector(rule, limits, std::move(accept));
   rule.check(source, collector);
   std::move(collector.kept().begin(), collector.kept().end(), std::back_inserter(first.findings));
   if (collector.more() > 0) first.more.emplace(rule.code, collector.more());
@@ -31,10 +34,10 @@ bool collect(const Rule& rule, const Source& source, std::size_t most, Collector
 }
 
 /// A rule that explains the whole text leaves nothing for the others to find.
-bool collect_explanation_of_text(const Source& source, std::size_t most, FirstFindings& first) {
+bool collect_explanation_of_text(const Source& source, const Limits& limits, FirstFindings& first) {
   const RuleTable rules = all_rules();
   return std::any_of(rules.begin(), rules.end(), [&](const Rule& rule) {
-    return rule.explains == Explains::Text && collect(rule, source, most, takes_all, first);
+    return rule.explains == Explains::Text && collect(rule, source, limits, takes_all, first);
   });
 }
 
@@ -44,7 +47,7 @@ Explanations explain_lines(const Source& source, std::set<const Rule*>& silent) 
   for (const Rule& rule : all_rules()) {
     if (rule.explains != Explains::Line) continue;
     bool is_silent = true;
-    Collector collector(rule, 0, [&](const Finding& finding) {
+    Collector collector(rule, {}, [&](const Finding& finding) {
       explanations.note(rule, finding);
       is_silent = false;
       return false;
@@ -55,36 +58,37 @@ Explanations explain_lines(const Source& source, std::set<const Rule*>& silent) 
   return explanations;
 }
 
-void collect_unexplained(const Source& source, std::size_t most, FirstFindings& first) {
+void collect_unexplained(const Source& source, const Limits& limits, FirstFindings& first) {
   std::set<const Rule*> silent;
   const Explanations explanations = explain_lines(source, silent);
   for (const Rule& rule : all_rules()) {
     if (rule.explains == Explains::Text || silent.count(&rule) > 0) continue;
     collect(
-        rule, source, most,
+        rule, source, limits,
         [&](const Finding& finding) { return !explanations.leave_out(finding); }, first);
   }
 }
 
 }  // namespace
 
-FirstFindings find_first(const lossless::ReadText& read, const Options& options, std::size_t most) {
+FirstFindings find_first(const lossless::ReadText& read, const Options& options,
+                         const Limits& limits) {
   const Source source(read, options);
   FirstFindings first;
-  if (!collect_explanation_of_text(source, most, first)) collect_unexplained(source, most, first);
+  if (!collect_explanation_of_text(source, limits, first))
+    collect_unexplained(source, limits, first);
   std::stable_sort(first.findings.begin(), first.findings.end(), comes_first);
   return first;
 }
 
 Findings find_all(const lossless::ReadText& read, const Options& options) {
-  return find_first(read, options, std::numeric_limits<std::size_t>::max()).findings;
+  return find_first(read, options, no_limits).findings;
 }
 
 Findings find_unexplained(const lossless::ReadText& read, const Options& options) {
   const Source source(read, options);
   FirstFindings all;
-  for (const Rule& rule : all_rules())
-    collect(rule, source, std::numeric_limits<std::size_t>::max(), takes_all, all);
+  for (const Rule& rule : all_rules()) collect(rule, source, no_limits, takes_all, all);
   std::stable_sort(all.findings.begin(), all.findings.end(), comes_first);
   return std::move(all.findings);
 }

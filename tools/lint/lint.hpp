@@ -33,9 +33,10 @@ struct FirstFindings {
   std::map<std::string_view, std::size_t> more = {};  // no entry if there are no more
 };
 
-/// Returns the same findings, but at most the first `most` of each rule, so that the memory for
-/// them has a limit. A mend of more than `most` edits is left out of its finding, too.
-FirstFindings find_first(const lossless::ReadText& read, const Options& options, std::size_t most);
+/// Returns the same findings, but only the first ones of each rule, so that the memory for them has
+/// a limit. A mend of more edits than the limits allow is left out of its finding, too.
+FirstFindings find_first(const lossless::ReadText& read, const Options& options,
+                         const Limits& limits);
 
 /// Returns the findings of every rule, those that another one explains included.
 Findings find_unexplained(const lossless::ReadText& read, const Options& options);

@@ -38,7 +38,8 @@ std::vector<tool::LossWords> list_losses(const lossless::ReadText& read,
 ExaminedText examine(std::string text) {
   ExaminedText examined;
   examined.read = lossless::read_text(std::move(text));
-  examined.found = lint::find_first(examined.read, lint::Options(), tool::most_of_a_rule);
+  examined.found = lint::find_first(examined.read, lint::Options(),
+                                    {tool::most_of_a_rule, tool::most_of_a_rule});
   tool::CanonicalText canonical = tool::canonical_text(examined.read.result.input);
   examined.losses = list_losses(examined.read, canonical);
   examined.canonical_text = std::move(canonical.text);

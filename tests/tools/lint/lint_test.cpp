@@ -84,34 +84,36 @@ std::string listed(const FirstFindings& first, const std::vector<LineRecord>& li
 TEST(FirstFindings, AreThoseAtTheBeginningOfEachRuleAndTheOthersAreCounted) {
   const lossless::ReadText read = lossless::read_text(
       "#opt(a,,,,b)\n0 1\nHe 0 0 0\nC 0\nB 1 x\nC -1\nB 0 1\nB x 1\nC 5\nB y 1\nC 1\nB 2 2 2\n");
-  EXPECT_EQ(listed(find_first(read, Options(), 100), read.lines),
+  EXPECT_EQ(listed(find_first(read, Options(), {100, 100}), read.lines),
             "QL212:1 QL212:1 QL212:1 QL303:4 QL301:5 QL303:6 QL303:7 QL301:8 QL305:9 QL301:10 "
             "QL302:12 ");
-  EXPECT_EQ(listed(find_first(read, Options(), 3), read.lines),
+  EXPECT_EQ(listed(find_first(read, Options(), {3, 3}), read.lines),
             "QL212:1 QL212:1 QL212:1 QL303:4 QL301:5 QL303:6 QL303:7 QL301:8 QL305:9 QL301:10 "
             "QL302:12 ");
-  EXPECT_EQ(listed(find_first(read, Options(), 2), read.lines),
+  EXPECT_EQ(listed(find_first(read, Options(), {2, 2}), read.lines),
             "QL212:1 QL212:1 QL303:4 QL301:5 QL303:6 QL301:8 QL305:9 QL302:12 "
             "+1 QL212 +1 QL301 +1 QL303 ");
-  EXPECT_EQ(listed(find_first(read, Options(), 0), read.lines),
+  EXPECT_EQ(listed(find_first(read, Options(), {0, 0}), read.lines),
             "+3 QL212 +3 QL301 +1 QL302 +3 QL303 +1 QL305 ");
 }
 
 TEST(FirstFindings, AreNotThoseThatAFindingExplainsThatIsCountedAlone) {
   const lossless::ReadText read = lossless::read_text(
       "#opt\n0 1\nH 0 0 0\nH 0 0 0.741\nB 1 2\nB x \xC2\xA0\nB x \xC2\xA0\nA \xC2\xA0\n");
-  EXPECT_EQ(listed(find_first(read, Options(), 1), read.lines), "QL301:6 QL004:8 +1 QL301 ");
+  EXPECT_EQ(listed(find_first(read, Options(), {1, 1}), read.lines), "QL301:6 QL004:8 +1 QL301 ");
 }
 
 TEST(FirstFindings, OfAWholeTextAreCountedToo) {
   const lossless::ReadText read = lossless::read_text("#opt\ra\n#b\rc\n0 1\nHe 0 0 0\n");
-  EXPECT_EQ(listed(find_first(read, Options(), 1), read.lines), "QL002:1 +1 QL002 ");
-  EXPECT_EQ(listed(find_first(read, Options(), 0), read.lines), "+2 QL002 ");
+  EXPECT_EQ(listed(find_first(read, Options(), {1, 1}), read.lines), "QL002:1 +1 QL002 ");
+  EXPECT_EQ(listed(find_first(read, Options(), {0, 0}), read.lines), "+2 QL002 ");
 }
 
 /// Whether the first finding can be mended, where a mend may have so many edits.
 bool has_mend(const std::string& text, std::size_t most) {
-  return find_first(lossless::read_text(text), Options(), most).findings.at(0).mend.has_value();
+  return find_first(lossless::read_text(text), Options(), {1, most})
+      .findings.at(0)
+      .mend.has_value();
 }
 
 TEST(FirstFindings, HaveNoMendOfMoreEdits) {

@@ -100,8 +100,8 @@ Json atom_of_last_line(const Snapshot& snapshot, std::size_t last,
 Json diagnostics(const Snapshot& snapshot, std::size_t /*last*/, const Surroundings& /*unused*/) {
   server::ClientAbilities client;
   client.has_related_places = true;
-  const lint::Findings findings = lint::find_all(snapshot.read(), lint::Options());
-  return server::diagnostic_list(findings, snapshot, client, {});
+  const lint::FirstFindings found{lint::find_all(snapshot.read(), lint::Options()), {}};
+  return server::diagnostic_list(found, snapshot, client, {});
 }
 
 /// What an editor asks for when all of its text is selected.
@@ -109,9 +109,9 @@ Json corrections_of_all(const Snapshot& snapshot, std::size_t last,
                         const Surroundings& /*unused*/) {
   server::ClientAbilities client;
   client.has_literal_code_actions = true;
-  const lint::Findings findings = lint::find_all(snapshot.read(), lint::Options());
-  const Json context = {{"diagnostics", server::diagnostic_list(findings, snapshot, client, {})}};
-  const server::Corrections corrections{findings, [] { return std::string(); }};
+  const lint::FirstFindings found{lint::find_all(snapshot.read(), lint::Options()), {}};
+  const Json context = {{"diagnostics", server::diagnostic_list(found, snapshot, client, {})}};
+  const server::Corrections corrections{found.findings, [] { return std::string(); }};
   const Json actions = server::code_actions(snapshot, {0, last}, context, corrections, client);
   return actions.size() > 1 ? actions : Json();
 }

@@ -5,7 +5,7 @@
 #include "language_server/documents/snapshot.hpp"
 #include "language_server/features/feature.hpp"
 #include "language_server/protocol/json.hpp"
-#include "lint/finding.hpp"
+#include "lint/lint.hpp"
 
 namespace kelp::input::quill::language_server {
 
@@ -14,8 +14,10 @@ namespace kelp::input::quill::language_server {
 Json diagnostic_of(const lint::Finding& finding, const Snapshot& snapshot,
                    const ClientAbilities& client, const Pages& pages);
 
-/// Returns all findings as diagnostics, in their order.
-Json diagnostic_list(const lint::Findings& findings, const Snapshot& snapshot,
+/// Returns findings as diagnostics, in their order. For each code of which there are more, one
+/// diagnostic follows that says how many, at the place of the last finding with this code. It has
+/// no code itself, because it is no finding that could be corrected.
+Json diagnostic_list(const lint::FirstFindings& found, const Snapshot& snapshot,
                      const ClientAbilities& client, const Pages& pages);
 
 }  // namespace kelp::input::quill::language_server

@@ -1,5 +1,6 @@
 #include "language_server/handlers/checking.hpp"
 
+#include <limits>
 #include <utility>
 
 #include "language_server/diagnostics/diagnostic_list.hpp"
@@ -7,6 +8,7 @@
 #include "lint/lint.hpp"
 #include "lint/mending.hpp"
 #include "lint/selection.hpp"
+#include "quill-inp/findings/file_report.hpp"
 #include "quill-inp/findings/referenced_files.hpp"
 
 namespace kelp::input::quill::language_server {
@@ -15,6 +17,9 @@ namespace {
 
 // Texts that take long enough to be shown: some ten thousand atoms.
 constexpr std::size_t long_text = std::size_t{1} << 19U;
+
+// An editor makes a correction by its edits, so none of them may be missing.
+constexpr lint::Limits limits{tool::most_of_a_rule, std::numeric_limits<std::size_t>::max()};
 
 std::string name_of_file(const std::string& uri) { return uri.substr(uri.rfind('/') + 1); }
 
@@ -41,8 +46,8 @@ Check make_check(ServerState& state, OpenDocument& document, const ProjectFiles:
   if (is_long) state.progress.begin(state.outbox, "Checking " + name_of_file(document.uri()));
   const Snapshot& snapshot = document.snapshot();
   if (is_long) state.progress.report(state.outbox, 30);
-  check.findings = lint::find_all(snapshot.read(), options);
-  lint::keep_selected(check.findings, {{}, project.choices.ignored});
+  check.found = lint::find_first(snapshot.read(), options, limits);
+  lint::keep_selected(check.found, {{}, project.choices.ignored});
   if (is_long) state.progress.end(state.outbox);
   return check;
 }
@@ -59,7 +64,7 @@ void publish(ServerState& state, const Snapshot& snapshot, const Check& check) {
       "textDocument/publishDiagnostics",
       {{"uri", snapshot.uri()},
        {"version", snapshot.version()},
-       {"diagnostics", diagnostic_list(check.findings, snapshot, state.client, pages_of(state))}});
+       {"diagnostics", diagnostic_list(check.found, snapshot, state.client, pages_of(state))}});
 }
 
 /// Asks for the findings of a text again.

@@ -24,7 +24,7 @@ Json list_code_actions(ServerState& state, const Json& params) {
   OpenDocument& document = document_of(state, params);
   const Snapshot& snapshot = document.snapshot();
   const lint::Range range = snapshot.range_of(read_range(object_member(params, "range")));
-  const Corrections corrections{check_of(state, document).findings,
+  const Corrections corrections{check_of(state, document).found.findings,
                                 [&] { return mended_text(state, document); }};
   return code_actions(snapshot, range, object_member(params, "context"), corrections, state.client);
 }

@@ -31,7 +31,7 @@ Surroundings surroundings_of(ServerState& state, OpenDocument& document) {
   surroundings.path = path_of_address(document.uri());
   surroundings.known_commands = project_of(state, document).choices.known_commands;
   surroundings.findings = [&]() -> const lint::Findings& {
-    return check_of(state, document).findings;
+    return check_of(state, document).found.findings;
   };
   if (surroundings.path.empty()) return surroundings;
   surroundings.read_reference = [&](const std::string& path) {

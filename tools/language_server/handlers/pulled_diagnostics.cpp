@@ -12,10 +12,10 @@ Json pull_diagnostics(ServerState& state, const Json& params) {
   const std::string result = std::to_string(check.number);
   if (find_member(params, "previousResultId") == result)
     return {{"kind", "unchanged"}, {"resultId", result}};
-  return {{"kind", "full"},
-          {"resultId", result},
-          {"items",
-           diagnostic_list(check.findings, document.snapshot(), state.client, pages_of(state))}};
+  return {
+      {"kind", "full"},
+      {"resultId", result},
+      {"items", diagnostic_list(check.found, document.snapshot(), state.client, pages_of(state))}};
 }
 
 }  // namespace kelp::input::quill::language_server

@@ -7,13 +7,13 @@
 #include <set>
 #include <string>
 
-#include "lint/finding.hpp"
+#include "lint/lint.hpp"
 
 namespace kelp::input::quill::language_server {
 
 /// What was found in a text, and what that depends on besides the text.
 struct Check {
-  lint::Findings findings = {};
+  lint::FirstFindings found = {};
   std::set<std::string> references = {};  // the absolute paths of the files that it refers to
   std::uint64_t project = 0;              // see ProjectFiles::Reading::number
   std::uint64_t number = 0;               // differs from that of every other check

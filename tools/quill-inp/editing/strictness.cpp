@@ -17,7 +17,7 @@ bool accept_read_text(Session& session, const std::string& argument,
   lint::Options options;
   options.known_commands = project.known_commands;
   // Every finding of a rule is an error, or none is.
-  for (const lint::Finding& finding : lint::find_first(read, options, 1).findings) {
+  for (const lint::Finding& finding : lint::find_first(read, options, {1, 0}).findings) {
     const bool is_error = lint::find_rule(finding.code)->severity == lint::Severity::Error;
     if (!is_error || !lint::is_selected(finding.code, {{}, project.ignored})) continue;
     const std::size_t line = lint::place_of(finding.range.offset, read.lines).line;

@@ -109,7 +109,8 @@ class Linter {
       if (call_.shows_diff) return code;
     }
     FileReport report{input.name, std::move(input.read), {}};
-    lint::FirstFindings first = lint::find_first(report.read, options, most_of_a_rule);
+    lint::FirstFindings first =
+        lint::find_first(report.read, options, {most_of_a_rule, most_of_a_rule});
     lint::keep_selected(first, selection);
     report.findings = std::move(first.findings);
     report.more = std::move(first.more);

@@ -16,7 +16,8 @@ const Pages pages = {"https://host/", ""};
 /// Returns the diagnostics of all that is found in a text.
 Json diagnostics_of(const std::string& text, const ClientAbilities& client) {
   const Snapshot snapshot = snapshot_of(text);
-  return diagnostic_list(lint::find_all(snapshot.read(), lint::Options()), snapshot, client, pages);
+  return diagnostic_list({lint::find_all(snapshot.read(), lint::Options()), {}}, snapshot, client,
+                         pages);
 }
 
 ClientAbilities able(bool ClientAbilities::*ability) {
@@ -62,8 +63,8 @@ TEST(DiagnosticList, HasWhatElseAClientCanShow) {
 
 TEST(DiagnosticList, HasNoLinkToAPageThatIsNowhere) {
   const Snapshot snapshot = snapshot_of(twice);
-  const lint::Findings findings = lint::find_all(snapshot.read(), lint::Options());
-  EXPECT_EQ(diagnostic_list(findings, snapshot, able(&ClientAbilities::has_code_links), {}),
+  const lint::FirstFindings found{lint::find_all(snapshot.read(), lint::Options()), {}};
+  EXPECT_EQ(diagnostic_list(found, snapshot, able(&ClientAbilities::has_code_links), {}),
             Json::array({plain()}));
 }
 
@@ -93,6 +94,21 @@ TEST(DiagnosticList, ShowsBytesThatCannotBeSeenAndKeepsTheAdviceOnALineOfItsOwn)
   EXPECT_EQ(list[0]["message"],
             "the parameter 'a\\x01' was given before, and only the first one is found\n"
             "to fix: keep one of the two");
+}
+
+TEST(DiagnosticList, SaysHowManyMoreThereAreOfACodeAtTheLastOneThatItHas) {
+  const Snapshot snapshot = snapshot_of("#opt(a, a,, a,,)\n0 1\nO 0 0 0\nB 1 x\nB 1 y\n");
+  const lint::FirstFindings found = lint::find_first(snapshot.read(), lint::Options(), {1, 0});
+  Json expected = diagnostic_list({found.findings, {}}, snapshot, {}, {});
+  ASSERT_EQ(shown(expected), "QL211:2 QL212:2 QL301:1 ");
+  const auto add_more = [&](const Json& range, const std::string& message) {
+    expected.push_back(
+        {{"range", range}, {"severity", 3}, {"source", "quill-inp"}, {"message", message}});
+  };
+  add_more(expected[0]["range"], "and 1 more of QL211");
+  add_more(expected[1]["range"], "and 2 more of QL212");
+  add_more(expected[2]["range"], "and 1 more of QL301");
+  EXPECT_EQ(diagnostic_list(found, snapshot, {}, {}), expected);
 }
 
 TEST(DiagnosticList, IsEmptyWithoutFindings) {

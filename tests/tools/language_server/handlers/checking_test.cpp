@@ -256,6 +256,46 @@ TEST(Checking, LooksForNoFilesOfATextWithoutAPath) {
   EXPECT_EQ(client.published("untitled:Untitled-1"), "");
 }
 
+/// An input with so many empty entries, a line that is dropped, and a command that comes too late.
+std::string with_empty_entries(std::size_t count) {
+  return "#opt(a," + std::string(count, ',') + "b)\n0 1\nO 0 0 0\nB 1 x\n#sp\n";
+}
+
+Json published_diagnostics(const std::string& text) {
+  Client client;
+  client.open(uri, text);
+  return client.take("textDocument/publishDiagnostics").at(0)["params"]["diagnostics"];
+}
+
+Json pulled_diagnostics(const std::string& text) {
+  Client client(pulling);
+  client.open(uri, text);
+  return client.result("textDocument/diagnostic", names(uri))["items"];
+}
+
+TEST(Checking, ShowsAThousandFindingsOfACodeAndHowManyMoreThereAre) {
+  const Json all = published_diagnostics(with_empty_entries(1000));
+  ASSERT_EQ(all.size(), 1002U);
+  for (const std::size_t more : {1U, 99'000U}) {
+    Json expected = all;
+    expected.push_back({{"range", all[999]["range"]},
+                        {"severity", 3},
+                        {"source", "quill-inp"},
+                        {"message", "and " + std::to_string(more) + " more of QL212"}});
+    EXPECT_EQ(published_diagnostics(with_empty_entries(1000 + more)), expected) << more;
+    EXPECT_EQ(pulled_diagnostics(with_empty_entries(1000 + more)), expected) << more;
+  }
+}
+
+TEST(Checking, DoesNotCountFindingsThatTheProjectIgnores) {
+  const Project project;
+  const std::string job = project.address("job.qin");
+  project.folder.write(".quill-inp.toml", "ignore = [\"QL212\", \"QL107\", \"QL108\"]\n");
+  Client client;
+  client.open(job, with_empty_entries(2000));
+  EXPECT_EQ(client.published(job), "3:4-3:5 QL301\n");
+}
+
 std::string long_text() {
   std::string text = "#sp\n0 1\n";
   for (int i = 0; i < 30000; ++i) text += "O 0 0 " + std::to_string(2 * i) + "\n";
