@@ -161,12 +161,25 @@ lint::Range replaced_by_offers(const Snapshot& snapshot, const TypedPlace& place
   return {place.word.offset + kept, place.word.length - kept};
 }
 
+/// Whether the editor has a range on one line, where alone it can be replaced. A CR alone ends a
+/// line there, but not for the reader.
+bool is_on_one_line(const lint::Range& range, const Snapshot& snapshot) {
+  const PositionRange positions = snapshot.position_range_of(range);
+  return positions.start.line == positions.end.line;
+}
+
+/// Returns what can be typed at a place and then replaced.
+TypedPlace replaceable_place(const Snapshot& snapshot, std::size_t offset) {
+  TypedPlace place = find_typed_place(snapshot.read(), offset);
+  return is_on_one_line(place.word, snapshot) ? place : TypedPlace();
+}
+
 }  // namespace
 
 Json completion_options() { return {{"triggerCharacters", Json::array({"#", "(", ",", "/"})}}; }
 
 Json completion(const Snapshot& snapshot, std::size_t offset, const Surroundings& surroundings) {
-  const TypedPlace place = find_typed_place(snapshot.read(), offset);
+  const TypedPlace place = replaceable_place(snapshot, offset);
   Offers offers(snapshot, replaced_by_offers(snapshot, place), surroundings.client.has_snippets);
   switch (place.kind) {
     case TypedPlace::Kind::CommandName:

@@ -65,6 +65,8 @@ const Row rows[] = {
     {"BeforeAPostProcessingLine", "O 0 0 0\n^\nC 1\n", "post element "},
     {"NotAfterAFirstWord", "O 0 0 0\nH ^", ""},
     {"NotInASecondWord", "O 0 0 0\nH 0^", ""},
+    {"AfterACarriageReturnAlone", "O 0 0 0\n\rH^", "post element "},
+    {"NotAfterTheLineOfAnAtomAndACarriageReturnAlone", "O 0 0 0\rH^", ""},
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, FirstWords, testing::ValuesIn(rows),
@@ -128,6 +130,21 @@ TEST(Completion, OffersTheParametersOfTheSameCommandElsewhere) {
   EXPECT_THAT(offers_at(text + "#opt(a)^\n", world), IsEmpty());
   EXPECT_THAT(offers_at(text + "#opt=^\n", world), IsEmpty());
   EXPECT_THAT(offers_at(text + "#sp(^)\n", world), IsEmpty());
+}
+
+TEST(Completion, ReplacesNothingOnAnotherLineOfTheEditor) {
+  const TemporaryFolder folder;
+  World world;
+  world.path = folder.path("job.qin");
+  folder.write("water.xyz", "");
+  const std::string text = "#opt(tight)\n";
+  EXPECT_THAT(offers_at(text + "#\rti^", world),
+              ElementsAre("2device", "2freq", "2irc", "2model", "2opt", "2scan", "2sp", "2ts"));
+  EXPECT_THAT(offers_at(text + "#opt\rti^", world), IsEmpty());
+  EXPECT_THAT(offers_at(text + "#opt(a,\rti^", world), ElementsAre("2tight"));
+  EXPECT_THAT(offers_at(text + "#opt(a\rti^", world), IsEmpty());
+  EXPECT_THAT(offers_at(text + "XYZ\rwa^", world), ElementsAre("2water.xyz"));
+  EXPECT_THAT(offers_at(text + "XYZ a\rwa^", world), IsEmpty());
 }
 
 TEST(Completion, OffersTheNamesInOtherInputsOfTheFolder) {
