@@ -1,5 +1,6 @@
 #include "language_server/facts/typed_place.hpp"
 
+#include <algorithm>
 #include <string_view>
 
 #include "kelp/core/text.hpp"
@@ -17,6 +18,11 @@ using Kind = TypedPlace::Kind;
 std::size_t line_start(std::string_view text, std::size_t offset) {
   const std::size_t end = text.substr(0, offset).rfind('\n');
   return end == std::string_view::npos ? 0 : end + 1;
+}
+
+std::string_view rest_of_line(std::string_view text, std::size_t offset) {
+  const std::string_view rest = text.substr(offset);
+  return rest.substr(0, rest.find('\n'));
 }
 
 /// Returns what the last line with a meaning before a place is; a blank line if there is none.
@@ -42,8 +48,16 @@ void set_word(TypedPlace& place, std::string_view word, std::size_t offset) {
   place.word = {offset - word.size(), word.size()};
 }
 
-/// `line` ends at the place, and its first character that is not a blank is "#".
-TypedPlace place_in_command(std::string_view line, std::size_t offset) {
+/// Whether a place in a line with a parameter list is in the list. Its last ")" ends it; one after
+/// the place may not be typed yet.
+bool is_in_list(std::string_view line, std::string_view rest) {
+  const auto count = [&](char c) { return std::count(line.begin(), line.end(), c); };
+  return rest.find(')') != std::string_view::npos || count('(') > count(')');
+}
+
+/// `line` ends at the place, where the `rest` of the line begins. Its first character that is not a
+/// blank is "#".
+TypedPlace place_in_command(std::string_view line, std::string_view rest, std::size_t offset) {
   TypedPlace place;
   const HeaderPieces pieces = find_header_pieces(line);
   if (pieces.kind == HeaderCommandKind::Flag) {
@@ -51,7 +65,7 @@ TypedPlace place_in_command(std::string_view line, std::size_t offset) {
     set_word(place, without_leading_blanks(line.substr(line.find('#') + 1)), offset);
     return place;
   }
-  if (pieces.kind == HeaderCommandKind::Assignment || pieces.is_closed) return place;
+  if (pieces.kind == HeaderCommandKind::Assignment || !is_in_list(line, rest)) return place;
   ParameterPieces last;
   // Not the list of the pieces, which has lost the blanks before the place.
   const std::string_view list = line.substr(line.find('(') + 1);
@@ -101,7 +115,8 @@ TypedPlace find_typed_place(const lossless::ReadText& read, std::size_t offset) 
   const std::string_view line = text.substr(start, offset - start);
   const LineRole before = role_before(read.lines, start);
   const bool is_command = trimmed_view(line).substr(0, 1) == "#";
-  if (is_command && is_header(before)) return place_in_command(line, offset);
+  if (is_command && is_header(before))
+    return place_in_command(line, rest_of_line(text, offset), offset);
   if (is_command) return {};
   if (is_reference_begun(line)) return place_in_reference(line, offset);
   return place_of_first_word(line, before, offset);

@@ -27,7 +27,8 @@ struct TypedPlace {
 };
 
 /// Returns what can be typed at `offset`, from its line up to there and from the lines before it.
-/// Linear in the number of lines before.
+/// Of the rest of its line only counts whether it ends a parameter list. Linear in the number of
+/// lines before.
 TypedPlace find_typed_place(const lossless::ReadText& read, std::size_t offset);
 
 }  // namespace kelp::input::quill::language_server

@@ -127,6 +127,10 @@ TEST(Completion, OffersTheParametersOfTheSameCommandElsewhere) {
   EXPECT_THAT(offers_at(text + "#opt(^\n", world), ElementsAre("0maxiter", "0Tight"));
   EXPECT_THAT(offers_at(text + "#opt(a='(,', ma^, b)\n", world), ElementsAre("2maxiter", "2Tight"));
   EXPECT_THAT(offers_at(text + "#opt(a=^)\n", world), IsEmpty());
+  EXPECT_THAT(offers_at(text + "#opt(a=f(x), ma^\n", world), ElementsAre("2maxiter", "2Tight"));
+  EXPECT_THAT(offers_at(text + "#opt(a), ma^)\n", world), ElementsAre("2maxiter", "2Tight"));
+  EXPECT_THAT(offers_at(text + "#opt(a=f(x)^\n", world), IsEmpty());
+  EXPECT_THAT(offers_at(text + "#opt(a=f(x)), ^\n#sp(a)\n", world), IsEmpty());
   EXPECT_THAT(offers_at(text + "#opt(a)^\n", world), IsEmpty());
   EXPECT_THAT(offers_at(text + "#opt=^\n", world), IsEmpty());
   EXPECT_THAT(offers_at(text + "#sp(^)\n", world), IsEmpty());
