@@ -10,9 +10,6 @@ namespace kelp::input::quill::language_server {
 
 namespace {
 
-// More messages than a client sends while it waits, and few enough to keep.
-constexpr std::size_t most_waiting = 1000;
-
 /// Takes the next message. Returns whether another one can come.
 bool take_message(MessageReader& reader, Server& server) {
   const Incoming incoming = reader.read();
@@ -39,8 +36,7 @@ int run(std::istream& in, std::ostream& out, const ServerOptions& options) {
   Server server(options, [&](const Json& message) { write_message(out, json_text(message)); });
   bool can_read = true;
   while (!server.is_over() && out) {
-    const bool wants_more =
-        !server.has_work() || (server.count_waiting() < most_waiting && reader.has_arrived());
+    const bool wants_more = !server.has_work() || (!server.is_full() && reader.has_arrived());
     if (can_read && wants_more) {
       can_read = take_message(reader, server);
     } else if (server.has_work()) {

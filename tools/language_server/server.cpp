@@ -14,6 +14,8 @@ namespace kelp::input::quill::language_server {
 
 namespace {
 
+constexpr std::size_t most_waiting = 1000;
+
 template <typename Row>
 const Row* find_row(const std::vector<Row>& rows, std::string_view method) {
   const auto row =
@@ -38,7 +40,7 @@ void Server::receive(std::string_view text) {
     } else if (message.method == "$/cancelRequest") {
       cancel(message);
     } else {
-      inbox_.add(std::move(message));
+      inbox_.add(std::move(message), text.size());
     }
   } catch (const ResponseError& error) {
     refuse(error);
@@ -49,7 +51,7 @@ void Server::refuse(const ResponseError& error) {
   state_.outbox.refuse(nullptr, error);
   Message unknown;
   unknown.kind = Message::Kind::Unknown;
-  inbox_.add(std::move(unknown));
+  inbox_.add(std::move(unknown), 0);
 }
 
 void Server::cancel(const Message& notification) {
@@ -61,6 +63,10 @@ void Server::cancel(const Message& notification) {
 bool Server::has_work() const {
   const bool is_running = state_.phase == Phase::Running;
   return !inbox_.is_empty() || (is_running && has_findings_to_publish(state_));
+}
+
+bool Server::is_full() const {
+  return inbox_.size() >= most_waiting || inbox_.bytes() >= state_.options.longest_message;
 }
 
 void Server::work() {

@@ -26,8 +26,10 @@ class Server {
   /// Whether there is something to do without another message.
   bool has_work() const;
 
-  /// How many messages wait.
-  std::size_t count_waiting() const { return inbox_.size(); }
+  /// Whether so many messages wait that the server should work before it receives another one: a
+  /// thousand, which is more than a client sends while it waits, or as many bytes as the longest
+  /// message has, since a message takes several times its bytes.
+  bool is_full() const;
 
   /// Does the next thing: answers a message or, if none waits, checks a text.
   void work();

@@ -89,6 +89,35 @@ TEST(Run, PublishesWhatIsFoundWhenNothingElseIsToBeDone) {
   EXPECT_EQ(outcome(initialize + text), "1:ok textDocument/publishDiagnostics 1");
 }
 
+/// Returns how a session ends in which a request is cancelled after so many bytes, with its own,
+/// that wait.
+std::string outcome_of_cancelling_after(std::size_t bytes) {
+  const std::string request = R"({"jsonrpc":"2.0","id":7,"method":"none"})";
+  const std::string unknown = R"({"jsonrpc":"2.0","method":"none"})";
+  const std::string blanks(bytes - request.size() - unknown.size(), ' ');
+  const std::string cancel = R"({"jsonrpc":"2.0","method":"$/cancelRequest","params":{"id":7}})";
+  return outcome(initialize + framed(request) + framed(unknown + blanks) + framed(cancel) +
+                 shutdown + exit_now);
+}
+
+TEST(Run, WorksBeforeMoreBytesWaitThanTheLongestMessageHas) {
+  EXPECT_EQ(outcome_of_cancelling_after(999), "1:ok 7:-32800 2:ok 0");
+  EXPECT_EQ(outcome_of_cancelling_after(1000), "1:ok 7:-32601 2:ok 0");
+}
+
+/// The same after so many messages, with the request.
+std::string outcome_of_cancelling_after_messages(std::size_t count) {
+  std::string bytes = initialize + framed(R"({"jsonrpc":"2.0","id":7,"method":"none"})");
+  for (std::size_t i = 1; i < count; ++i) bytes += framed(R"({"jsonrpc":"2.0","method":"none"})");
+  bytes += framed(R"({"jsonrpc":"2.0","method":"$/cancelRequest","params":{"id":7}})");
+  return outcome(bytes + shutdown + exit_now, 1'000'000);
+}
+
+TEST(Run, WorksBeforeMoreThanAThousandMessagesWait) {
+  EXPECT_EQ(outcome_of_cancelling_after_messages(999), "1:ok 7:-32800 2:ok 0");
+  EXPECT_EQ(outcome_of_cancelling_after_messages(1000), "1:ok 7:-32601 2:ok 0");
+}
+
 }  // namespace
 
 }  // namespace kelp::input::quill::language_server

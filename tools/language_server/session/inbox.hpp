@@ -1,6 +1,7 @@
 #ifndef KELP_INPUT_QUILL_LANGUAGE_SERVER_SESSION_INBOX_HPP
 #define KELP_INPUT_QUILL_LANGUAGE_SERVER_SESSION_INBOX_HPP
 
+#include <cstddef>
 #include <deque>
 
 #include "language_server/protocol/message.hpp"
@@ -10,10 +11,14 @@ namespace kelp::input::quill::language_server {
 /// The messages that have arrived and wait for their turn, in their order.
 class Inbox {
  public:
-  void add(Message message) { waiting_.push_back(std::move(message)); }
+  /// Adds a message that came as a text of so many bytes.
+  void add(Message message, std::size_t bytes);
 
   bool is_empty() const { return waiting_.empty(); }
+
+  /// Return how many messages wait, and the sum of their bytes.
   std::size_t size() const { return waiting_.size(); }
+  std::size_t bytes() const { return bytes_; }
 
   /// Returns the message that waits longest. There is one.
   Message take();
@@ -22,7 +27,13 @@ class Inbox {
   bool cancel(const Json& id);
 
  private:
-  std::deque<Message> waiting_ = {};
+  struct Waiting {
+    Message message;
+    std::size_t bytes;
+  };
+
+  std::deque<Waiting> waiting_ = {};
+  std::size_t bytes_ = 0;
 };
 
 }  // namespace kelp::input::quill::language_server
