@@ -24,8 +24,7 @@ std::vector<tool::LossWords> list_losses(const lossless::ReadText& read,
   if (const auto doubt = lossless::find_input_doubt(read))
     words.push_back({"the text " + lossless::words(*doubt), doubt->line});
   const QuillInput& document = read.result.input;
-  const lossless::Proof proof =
-      lossless::prove(canonical.text, document, lint::Options().max_change);
+  const lossless::Proof proof = lossless::prove(canonical.text, document, tool::accepted_change);
   const tool::Losses losses{
       {}, tool::list_line_losses(read), std::move(canonical.problems), proof, document};
   std::vector<tool::LossWords> of_losses = tool::words(losses, most_losses_told);

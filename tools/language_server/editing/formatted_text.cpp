@@ -9,7 +9,6 @@
 #include "language_server/editing/changed_lines.hpp"
 #include "language_server/protocol/response_error.hpp"
 #include "lint/line_repair.hpp"
-#include "lint/source.hpp"
 #include "quill-inp/editing/canonical_text.hpp"
 #include "quill-inp/editing/losses.hpp"
 #include "quill-inp/editing/wording.hpp"
@@ -24,9 +23,6 @@ namespace {
                       "not formatted: " + tool::shown_on_one_line(reason));
 }
 
-/// How much a number may change.
-double max_change() { return lint::Options().max_change; }
-
 void refuse_losses(const tool::Losses& losses) {
   if (losses.count() == 0) return;
   refuse(tool::words(losses, 1).front().text);
@@ -39,7 +35,7 @@ std::string formatted_text(const lossless::ReadText& read) {
     refuse("the text " + lossless::words(*doubt));
   const QuillInput& document = read.result.input;
   tool::CanonicalText canonical = tool::canonical_text(document);
-  const lossless::Proof proof = lossless::prove(canonical.text, document, max_change());
+  const lossless::Proof proof = lossless::prove(canonical.text, document, tool::accepted_change);
   refuse_losses({{}, tool::list_line_losses(read), std::move(canonical.problems), proof, document});
   return std::move(canonical.text);
 }
@@ -55,7 +51,7 @@ std::vector<lint::ByteEdit> formatting_of_range(const lossless::ReadText& read,
   };
   edits.erase(std::remove_if(edits.begin(), edits.end(), is_outside), edits.end());
   const lossless::Proof proof =
-      lossless::prove(lint::with_edits(read.text, edits), read.result.input, max_change());
+      lossless::prove(lint::with_edits(read.text, edits), read.result.input, tool::accepted_change);
   refuse_losses({{}, {}, {}, proof, read.result.input});
   return edits;
 }

@@ -10,8 +10,8 @@
 namespace kelp::input::quill::language_server {
 
 /// Returns the canonical text of an input, after the proof that nothing is lost by it: numbers may
-/// change as the linter accepts it. Throws ResponseError, RequestFailed, with the reason, when
-/// something would be lost.
+/// change as "fmt" accepts it, which does not ask the project. Throws ResponseError, RequestFailed,
+/// with the reason, when something would be lost.
 std::string formatted_text(const lossless::ReadText& read);
 
 /// Returns what of the canonical text changes the lines in a range, after the proof that the text

@@ -15,7 +15,7 @@ namespace kelp::input::quill::tool {
 /// What a new text may lose.
 struct LossPolicy {
   bool allows_loss = false;
-  double max_change = 1e-6;
+  double max_change = accepted_change;
   bool is_strict = false;  // no text with an error that the linter finds
 };
 

@@ -14,6 +14,9 @@
 
 namespace kelp::input::quill::tool {
 
+/// How much a number may change when a text is written again, unless the user says otherwise.
+inline constexpr double accepted_change = 1e-6;
+
 /// What a setting removes from a command or parameter without being asked to.
 struct SettingLoss {
   enum class Kind { Parameters, Value, ParameterValue };

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "language_server/documents/open_documents.hpp"
+#include "support/temporary_folder.hpp"
 #include "tools/language_server/support/client.hpp"
 
 namespace kelp::input::quill::language_server {
@@ -55,6 +56,18 @@ TEST(Formatting, IsRefusedForATextThatIsNoInput) {
       client.request("textDocument/formatting", names(uri))["error"]["message"];
   EXPECT_EQ(message.substr(0, 56), "not formatted: the text does not look like a QUILL input")
       << message;
+}
+
+TEST(Formatting, RoundsAsTheToolDoesWhateverTheProjectAccepts) {
+  const TemporaryFolder folder;
+  folder.write(".quill-inp.toml", "max-change = 0\n");
+  const std::string job = "file://" + folder.path("job.qin");
+  const std::string text = "#sp\n0 1\nHe 0 0 0.12345678\n";
+  Client client;
+  client.open(job, text);
+  EXPECT_EQ(client.published(job), "2:7-2:17 QL502\n");
+  EXPECT_EQ(edited(text, client.result("textDocument/formatting", names(job))),
+            "#sp\n\n0 1\nHe       0.000000      0.000000      0.123457\n");
 }
 
 TEST(Formatting, OfARangeLeavesOtherLinesAlone) {
