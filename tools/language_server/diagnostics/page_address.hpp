@@ -8,7 +8,10 @@ namespace kelp::input::quill::language_server {
 
 /// Where the pages of the codes are for a person who uses an editor.
 struct Pages {
-  std::string prefix = {};  // of an address, which the name of the page completes; or empty:
+  /// The address of a page, with "{CODE}" or, for the code in small letters, "{code}" in the place
+  /// of its code; without one, the address before the names of Markdown files. Or empty: the pages
+  /// are those that are installed.
+  std::string address = {};
   std::string folder = {};  // where they are installed
 };
 

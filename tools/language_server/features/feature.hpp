@@ -27,7 +27,7 @@ namespace kelp::input::quill::language_server {
 /// What the user of the editor has chosen.
 struct Settings {
   bool shows_atom_numbers = true;  // as inlay hints
-  std::string pages = {};          // the address before the name of a page: "https://host/lint/"
+  std::string pages = {};          // an address as in Pages: "https://host/{code}.html"
 };
 
 /// What the client can do with an answer.

@@ -11,7 +11,7 @@ inline constexpr const char* settings_section = "quillInp";
 
 /// Returns the settings of such a section:
 ///
-///   {"inlayHints": {"atomNumbers": true}, "pages": "https://host/lint/"}
+///   {"inlayHints": {"atomNumbers": true}, "pages": "https://host/{code}.html"}
 ///
 /// What is not in it, or is of another type, is as it is without settings.
 Settings settings_of(const Json& section);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <utility>
 
 #include "support/temporary_folder.hpp"
 
@@ -28,12 +29,19 @@ TEST(PageAddress, IsEmptyForAPageThatIsNotInstalled) {
   EXPECT_EQ(page_address("QL104", {"", ""}), "");
 }
 
-TEST(PageAddress, BeginsWithTheAddressThatWasChosenEvenIfThePageIsInstalled) {
+TEST(PageAddress, IsTheOneThatWasChosenEvenIfThePageIsInstalled) {
   const TemporaryFolder folder;
   folder.write("QL104.md", "");
-  EXPECT_EQ(page_address("QL104", {"https://host/lint/", folder.path()}),
-            "https://host/lint/QL104.md");
-  EXPECT_EQ(page_address("QL104", {"https://host/?page=", ""}), "https://host/?page=QL104.md");
+  const std::pair<const char*, const char*> rows[] = {
+      {"https://host/lint/", "https://host/lint/QL104.md"},
+      {"https://host/?page=", "https://host/?page=QL104.md"},
+      {"https://host/{code}.html", "https://host/ql104.html"},
+      {"https://host/{CODE}", "https://host/QL104"},
+      {"https://{code}/{CODE}/{code}#{code", "https://ql104/QL104/ql104#{code"},
+      {"https://host/{Code}", "https://host/{Code}QL104.md"},
+  };
+  for (const auto& [pages, address] : rows)
+    EXPECT_EQ(page_address("QL104", {pages, folder.path()}), address);
 }
 
 }  // namespace

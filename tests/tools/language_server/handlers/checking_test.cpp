@@ -78,11 +78,11 @@ TEST(Checking, TagsOnlyWhatHasNoEffect) {
 }
 
 TEST(Checking, TakesTheAddressesOfPagesFromTheSettings) {
-  Client client(everything, {}, {{"pages", "https://example.org/lint/"}});
+  Client client(everything, {}, {{"pages", "https://example.org/{code}.html"}});
   client.open(uri, "");
   const std::vector<Json> published = client.take("textDocument/publishDiagnostics");
   EXPECT_EQ(published.at(0)["params"]["diagnostics"][0]["codeDescription"]["href"],
-            "https://example.org/lint/QL009.md");
+            "https://example.org/ql009.html");
 }
 
 TEST(Checking, HasNoLinkToAPageThatIsNotInstalled) {
