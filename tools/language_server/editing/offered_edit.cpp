@@ -1,19 +1,22 @@
 #include "language_server/editing/offered_edit.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string_view>
 #include <utility>
 
-#include "lint/line_repair.hpp"
 #include "lint/lint.hpp"
 #include "lint/wording.hpp"
 #include "quill-inp/text/terminal_text.hpp"
 #include "reader/header_pieces.hpp"
+#include "reader/post_line.hpp"
 
 namespace kelp::input::quill::language_server {
 
 namespace {
+
+constexpr std::size_t longest_value = 10'000;
 
 using Offer = std::optional<OfferedEdit>;
 
@@ -60,11 +63,13 @@ std::optional<std::size_t> balanced_end(std::string_view text, std::size_t begin
   return std::nullopt;
 }
 
-/// Puts quotes around a value with commas in parentheses, unless it has quotes in it.
+/// Puts quotes around a value with commas in parentheses, unless it has quotes in it, or is so long
+/// that to look for its end would take long for many values.
 Offer quoted_value(const lint::Finding& finding, const lint::Source& source) {
   const std::size_t begin = finding.range.offset;
   const LineRecord& line = source.lines()[line_of(finding, source)];
-  const auto end = balanced_end(source.text().substr(0, line.offset + line.length), begin);
+  const std::size_t end_of_search = std::min(line.offset + line.length, begin + longest_value);
+  const auto end = balanced_end(source.text().substr(0, end_of_search), begin);
   if (!end) return std::nullopt;
   const std::string_view value = source.text().substr(begin, *end - begin);
   if (value.find_first_of("\"'") != std::string_view::npos) return std::nullopt;
@@ -85,21 +90,21 @@ std::string as_line_after(const lint::Source& source, std::size_t line, std::siz
 }
 
 /// Moves a constraint that is read as an atom after the first post-processing line, if it is then
-/// read as a constraint.
+/// read as a constraint. The text is not read again for that, which would take long for many
+/// constraints: there is an atom before each of them, so that the other atoms are still read as
+/// atoms, and a post-processing line is read as what it is whatever is before it.
 Offer moved_constraint(const lint::Finding& finding, const lint::Source& source) {
   if (source.post_lines().empty()) return std::nullopt;
   const std::size_t line = line_of(finding, source);
+  PostCommand command;
+  const bool is_constraint =
+      parse_post_line(source.trimmed(line), command) && command.kind != PostCommandKind::Raw;
+  if (!is_constraint) return std::nullopt;
   const std::size_t target = source.post_lines().front();
-  OfferedEdit offer{"move this line after the first post-processing line",
-                    {{whole_line(source, line), {}},
-                     {{whole_line(source, target).end(), 0}, as_line_after(source, line, target)}}};
-  const lossless::ReadText read = lossless::read_text(lint::with_edits(source.text(), offer.edits));
-  const auto count = [](const QuillInput& input) { return input.geometry.atoms.size(); };
-  const bool is_moved =
-      count(read.result.input) + 1 == count(source.input()) &&
-      read.lines[target].role == LineRole::PostCommand &&
-      read.result.input.post_commands[*read.lines[target].index].kind != PostCommandKind::Raw;
-  return is_moved ? Offer(std::move(offer)) : std::nullopt;
+  return OfferedEdit{
+      "move this line after the first post-processing line",
+      {{whole_line(source, line), {}},
+       {{whole_line(source, target).end(), 0}, as_line_after(source, line, target)}}};
 }
 
 struct Row {

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "kelp/input/quill/reader.hpp"
 #include "language_server/documents/open_documents.hpp"
 #include "support/temporary_folder.hpp"
 #include "tools/language_server/support/client.hpp"
@@ -152,6 +154,7 @@ const Row rows[] = {
      "#sp(d=(e,f), g)\n0 1\nO 0 0 0\n",
      {{0, 6}, {0, 6}},
      "put quotes around the value\n#sp(d=\"(e,f)\", g)\n0 1\nO 0 0 0\n"},
+    {"AValueThatIsCutAndHasNoEnd", "#sp(d=((e,f, g)\n0 1\nO 0 0 0\n", {{0, 6}, {0, 6}}, ""},
     {"AConstraintThatIsReadAsAnAtom",
      "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nA 1 2 3\nB 1 2\n",
      {{5, 0}, {5, 0}},
@@ -167,6 +170,13 @@ const Row rows[] = {
      {{5, 0}, {5, 0}},
      "move this line after the first post-processing line\n"
      "#sp\r\n0 1\r\nO 0 0 0.1\r\nH 0 1 0.5\r\nH 1 0 0.5\r\nB 1 2\r\nA 1 2 3"},
+    {"TwoConstraintsAfterALineThatIsDropped",
+     "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nA 1 2 3\nA 3 2 1\nB 1 x\nC 1\n",
+     {{5, 0}, {6, 0}},
+     "move this line after the first post-processing line\n"
+     "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nA 3 2 1\nB 1 x\nC 1\nA 1 2 3\n"
+     "move this line after the first post-processing line\n"
+     "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\nA 1 2 3\nB 1 x\nC 1\nA 3 2 1\n"},
     {"AConstraintThatWouldBeRawText",
      "#sp\n0 1\nC 0 0 0\nO 0 0 3\n\nB 1 2 3\nC 1\n",
      {{5, 0}, {5, 0}},
@@ -179,6 +189,42 @@ const Row rows[] = {
 
 INSTANTIATE_TEST_SUITE_P(Table, QuickFixes, testing::ValuesIn(rows),
                          [](const auto& row) { return row.param.name; });
+
+/// Returns how many quick fixes there are for a cut value of so many bytes.
+std::size_t count_fixes_of_value(std::size_t bytes) {
+  const std::string value = "(e," + std::string(bytes - 4, 'f') + ")";
+  const std::string fixed = fixes("#sp(d=" + value + ")\n0 1\nO 0 0 0\n", {{0, 6}, {0, 6}});
+  return static_cast<std::size_t>(std::count(fixed.begin(), fixed.end(), '"')) / 2;
+}
+
+TEST(QuickFixes, OfACutValueAreLookedForInTenThousandBytes) {
+  EXPECT_EQ(count_fixes_of_value(10'000), 1U);
+  EXPECT_EQ(count_fixes_of_value(10'001), 0U);
+}
+
+TEST(QuickFixes, MoveEachOfManyConstraintsSoThatItIsReadAsOne) {
+  const std::string start = "#sp\n0 1\nO 0 0 0.1\nH 0 1 0.5\nH 1 0 0.5\n";
+  std::string constraints;
+  for (int i = 1; i <= 7; ++i) constraints += "A 1 2 " + std::to_string(i + 2) + "\n";
+  Client client(literal);
+  const std::string text = start + constraints + "C 1\nC 2\n";
+  client.open(uri, text);
+  const Json context = {{"diagnostics", Json::array()}, {"only", Json::array({"quickfix"})}};
+  const Json actions =
+      client.result("textDocument/codeAction", action_params({{0, 0}, {12, 0}}, context));
+  ASSERT_EQ(actions.size(), 7U);
+  for (std::size_t i = 0; i < actions.size(); ++i) {
+    const std::string line = constraints.substr(8 * i, 8);
+    std::string others = constraints;
+    others.erase(8 * i, 8);
+    const std::string moved = start + others + "C 1\n" + line + "C 2\n";
+    EXPECT_EQ(edited(text, actions[i]["edit"]["changes"][uri]), moved);
+    const QuillInput input = parse_string(moved).input;
+    ASSERT_EQ(input.post_commands.size(), 3U);
+    EXPECT_EQ(input.post_commands[1].kind, PostCommandKind::AngleConstraint);
+    EXPECT_EQ(input.geometry.atoms.size(), 9U);
+  }
+}
 
 const std::string commas = "#sp\n0 1\nO 0 0 0,5\nH 0 0 1,5\n";
 
