@@ -46,6 +46,7 @@ bool print_table(const Options& options) {
   add_small_job_ratios(table);
   add_builder_ratios(table);
   add_start_ratios(table);
+  add_language_server_ratios(table);
   add_tool_ratios(table);
   return table.all_met();
 }

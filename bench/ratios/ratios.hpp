@@ -15,6 +15,7 @@ void add_small_job_ratios(RatioTable& table);
 void add_builder_ratios(RatioTable& table);
 void add_start_ratios(RatioTable& table);
 void add_tool_ratios(RatioTable& table);
+void add_language_server_ratios(RatioTable& table);
 
 }  // namespace kelp::input::quill::bench
 
