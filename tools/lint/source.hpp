@@ -24,7 +24,7 @@ struct ReferencedFile {
 
   State state = State::Missing;
   std::string reason = {};   // why it is unreadable
-  std::string content = {};  // of a file that was read
+  std::string content = {};  // of a file that was read, at least up to the end of its first frame
 };
 
 /// What the checks use besides the text.

@@ -37,4 +37,13 @@ std::optional<std::size_t> count_atoms_of_first_frame(std::string_view content) 
   return count;
 }
 
+bool has_whole_first_frame(std::string_view beginning) {
+  if (beginning.find('\n') == std::string_view::npos) return false;
+  const std::size_t atoms = lossless::find_xyz_count(beginning).value_or(0);
+  if (atoms == 0) return true;
+  const auto line_ends =
+      static_cast<std::size_t>(std::count(beginning.begin(), beginning.end(), '\n'));
+  return line_ends >= lines_before_atoms && line_ends - lines_before_atoms >= atoms;
+}
+
 }  // namespace kelp::input::quill::lint

@@ -38,6 +38,25 @@ TEST_P(XyzFrame, HasThisManyAtoms) {
 INSTANTIATE_TEST_SUITE_P(Table, XyzFrame, testing::ValuesIn(rows),
                          [](const auto& row) { return std::string(row.param.name); });
 
+/// Returns the shortest beginning of a text after which nothing can change its first frame.
+std::string_view whole_first_frame(std::string_view text) {
+  std::size_t length = 0;
+  while (length < text.size() && !has_whole_first_frame(text.substr(0, length))) ++length;
+  return text.substr(0, length);
+}
+
+TEST(WholeFirstFrame, EndsWithTheLineOfItsLastAtom) {
+  EXPECT_EQ(whole_first_frame("2\nhydrogen\nH 0 0 0\nH 0 0 0.741\n1\n\nHe 0 0 0\n"),
+            "2\nhydrogen\nH 0 0 0\nH 0 0 0.741\n");
+  EXPECT_EQ(whole_first_frame("1\r\n\r\nHe 0 0 0\r\n\r\n"), "1\r\n\r\nHe 0 0 0\r\n");
+  EXPECT_EQ(whole_first_frame("H 0 0 0\nH 0 0 1\n"), "H 0 0 0\n");
+  EXPECT_EQ(whole_first_frame("0\n\n\n"), "0\n");
+  EXPECT_FALSE(has_whole_first_frame(""));
+  EXPECT_FALSE(has_whole_first_frame("1\n"));
+  EXPECT_FALSE(has_whole_first_frame("2\n\nHe 0 0 0\nHe 0 0 1"));
+  EXPECT_FALSE(has_whole_first_frame("2147483647\n\nHe 0 0 0\n"));
+}
+
 }  // namespace
 
 }  // namespace kelp::input::quill::lint

@@ -9,7 +9,8 @@
 namespace kelp::input::quill::tool {
 
 /// Finds a file that an input refers to, by its path from `folder`, which is empty for the current
-/// folder. Only regular files are read, and only up to the size `limit`. Throws nothing.
+/// folder. Only regular files are read, and none that is larger than `limit`. Of a long trajectory,
+/// only the beginning is read. Throws nothing.
 lint::ReferencedFile find_referenced_file(const std::string& folder, const std::string& path,
                                           std::uint64_t limit);
 
