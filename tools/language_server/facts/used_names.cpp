@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <filesystem>
 #include <optional>
-#include <system_error>
 
 #include "kelp/core/text.hpp"
+#include "language_server/facts/folder_entries.hpp"
 #include "quill-inp/batch/file_header.hpp"
 
 namespace kelp::input::quill::language_server {
@@ -16,22 +16,17 @@ namespace {
 namespace fs = std::filesystem;
 
 // A person waits for the answer.
-constexpr std::size_t most_entries = 10000;
 constexpr std::size_t most_files = 100;
 
 /// Returns the files next to a file that have the same ending.
 std::vector<std::string> neighbours_of(const fs::path& file) {
   std::vector<std::string> found;
-  std::error_code error;
   const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
-  fs::directory_iterator entry(folder, error);
-  for (std::size_t seen = 0; !error && entry != fs::directory_iterator(); ++seen) {
-    if (seen == most_entries) break;
-    const fs::path& path = entry->path();
+  for_each_entry(folder, [&](const fs::directory_entry& entry) {
+    const fs::path& path = entry.path();
     const bool is_other = path.filename() != file.filename();
     if (is_other && path.extension() == file.extension()) found.push_back(path.string());
-    entry.increment(error);
-  }
+  });
   std::sort(found.begin(), found.end());
   found.resize(std::min(found.size(), most_files));
   return found;

@@ -1,11 +1,11 @@
 #include "language_server/facts/xyz_candidates.hpp"
 
 #include <algorithm>
-#include <cstddef>
 #include <filesystem>
 #include <system_error>
 
 #include "kelp/core/text.hpp"
+#include "language_server/facts/folder_entries.hpp"
 #include "quill-inp/text/utf8.hpp"
 
 namespace kelp::input::quill::language_server {
@@ -13,9 +13,6 @@ namespace kelp::input::quill::language_server {
 namespace {
 
 namespace fs = std::filesystem;
-
-// A person waits for the answer.
-constexpr std::size_t most_entries = 10000;
 
 bool is_shown(const std::string& name) { return name.front() != '.' && tool::is_utf8(name); }
 
@@ -35,13 +32,7 @@ void add_if_fitting(const fs::directory_entry& entry, std::vector<XyzCandidate>&
 
 std::vector<XyzCandidate> find_xyz_candidates(const std::string& folder) {
   std::vector<XyzCandidate> found;
-  std::error_code error;
-  fs::directory_iterator entry(folder, error);
-  for (std::size_t seen = 0; !error && entry != fs::directory_iterator(); ++seen) {
-    if (seen == most_entries) break;
-    add_if_fitting(*entry, found);
-    entry.increment(error);
-  }
+  for_each_entry(folder, [&](const fs::directory_entry& entry) { add_if_fitting(entry, found); });
   std::sort(found.begin(), found.end(), [](const XyzCandidate& left, const XyzCandidate& right) {
     return left.name < right.name;
   });

@@ -14,7 +14,7 @@ struct XyzCandidate {
 
 /// Returns the folders, and the files whose names end in ".xyz" in any letter case, in a folder,
 /// sorted by their names. Hidden ones are left out, and so are names that are not UTF-8. Looks at
-/// 10,000 entries at most. A folder that cannot be read has none.
+/// the entries of for_each_entry().
 std::vector<XyzCandidate> find_xyz_candidates(const std::string& folder);
 
 }  // namespace kelp::input::quill::language_server
