@@ -43,15 +43,17 @@ const std::map<std::string, Languages> languages_tried = {
     {"docs/editing.md", {"cpp"}},
     {"docs/editors.md", {"elisp", "lua", "sh", "vim"}},
     {"docs/embedding.md", {"cmake", "cpp", "sh"}},
-    {"docs/findings.md", {}},
+    {"docs/findings.md", {"toml"}},
     {"docs/format.md", {"abnf", "cpp", "diagnostics", "qin", "written"}},
     {"docs/getting-started.md", {"cmake", "console", "cpp", "sh", "text"}},
+    {"docs/language-server.md", {}},
     {"docs/packaging.md", {"cmake", "cpp", "meson", "sh"}},
     {"docs/performance.md", {"text"}},
     {"docs/python-reference.md", {"python"}},
     {"docs/python.md", {"python", "text"}},
-    {"docs/quill-inp.md", {"console", "text", "toml"}},
+    {"docs/quill-inp.md", {"console", "text"}},
     {"docs/traps.md", {"console", "escaped", "qin"}},
+    {"docs/writing-files.md", {}},
 };
 
 std::vector<std::string> pages() {

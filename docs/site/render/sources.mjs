@@ -8,11 +8,13 @@ const GROUPS = [
   ['Start', [
     ['docs/getting-started.md', 'Getting started'],
     ['docs/quill-inp.md', 'The tool'],
+    ['docs/writing-files.md', 'How files are written'],
     ['docs/python.md', 'Python'],
     ['docs/python-reference.md', 'Python reference'],
     ['docs/editing.md', 'C++ by example'],
     ['examples/inputs/README.md', 'Example inputs'],
     ['docs/editors.md', 'Editors'],
+    ['docs/language-server.md', 'The language server'],
     ['editors/vscode/README.md', 'Visual Studio Code'],
     ['editors/README.md', 'Files for editors'],
   ]],
