@@ -263,6 +263,38 @@ TEST(CodeActions, MakeAllSafeCorrectionsAtOnceForTheVersionOfTheText) {
   EXPECT_EQ(edited(commas, change["edits"]), "#sp\n0 1\nO 0 0 0.5\nH 0 0 1.5\n");
 }
 
+std::string repeated(const std::string& line, std::size_t count) {
+  std::string text;
+  for (std::size_t i = 0; i < count; ++i) text += line;
+  return text;
+}
+
+/// Returns a text after the only action of a kind at its end.
+std::string after_action(const std::string& text, const std::string& kind) {
+  Client client(literal);
+  client.open(uri, text);
+  const Json context = {{"diagnostics", Json::array()}, {"only", Json::array({kind})}};
+  const std::size_t end = 1'000'000;
+  const Json actions =
+      client.result("textDocument/codeAction", action_params({{3, 0}, {end, 0}}, context));
+  return actions.size() == 1 ? edited(text, actions[0]["edit"]["changes"][uri]) : "";
+}
+
+const std::string helium = "#sp\n0 1\nHe 0 0 0\n";
+
+TEST(CodeActions, CorrectFindingsThatAreNotShown) {
+  const std::string blanks = helium + repeated(
+                                          "C\xC2\xA0"
+                                          "1\n",
+                                          1001);
+  EXPECT_EQ(after_action(blanks, "source.fixAll"), helium + repeated("C 1\n", 1001));
+}
+
+TEST(CodeActions, CorrectAFindingInMoreThanAThousandPlaces) {
+  const std::string commas_in_lines = helium + repeated("He 0 0 1,5\n", 1001);
+  EXPECT_EQ(after_action(commas_in_lines, "quickfix"), helium + repeated("He 0 0 1.5\n", 1001));
+}
+
 TEST(CodeActions, NameTheDiagnosticThatTheyCorrect) {
   Client client(literal);
   client.open(uri, commas);
