@@ -37,7 +37,7 @@ function tabs(root, highlight) {
 function claims(root) {
   const count = findingPages(root).length;
   const cards = [
-    ['findings.html', 'It says what you did not mean', `A decimal comma ends the atoms, and nothing says so. The linter knows ${count} such slips, and mends those that have one possible correction.`, 'All findings'],
+    ['findings.html', 'It finds what you did not mean', `A decimal comma ends the atoms, and nothing says so. The linter knows ${count} such slips, and mends those that have one possible correction.`, 'All findings'],
     ['embedding.html#editing-a-file-of-a-user', 'It changes only what must change', 'An edit keeps the layout, the digits and the notes of every other line, and is proved by reading the new text again.', 'How an edit is proved'],
     ['security.html', 'It reads any text', 'No line is refused, and none is lost without a warning that names it. Fuzz targets search for a text that breaks this.', 'What is searched, and how long'],
     ['performance.html', 'It is fast', 'Reading takes less time than a plain loop that splits the same lines, and writing about a quarter of the time of the standard conversion.', 'What was measured'],
