@@ -63,8 +63,9 @@ export async function makeHighlighter(root) {
   });
   const known = new Set(shiki.getLoadedLanguages());
 
+  // With a limit of time for each line, colours would depend on what else the machine does.
   const colored = (code, lang) =>
-    shiki.codeToTokensBase(code, { lang, theme: 'classes' }).map(spans).join('\n');
+    shiki.codeToTokensBase(code, { lang, theme: 'classes', tokenizeTimeLimit: 0 }).map(spans).join('\n');
   const ofConsole = (line) =>
     line.startsWith('$ ')
       ? `<span class="prompt">$ </span>${colored(line.slice(2), 'bash')}`
