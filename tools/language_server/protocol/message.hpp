@@ -18,12 +18,16 @@ struct Message {
     Unknown,       // could not be understood, and may have been anything
   };
 
+  // The constructor from a null pointer says that it throws nothing, and calls another one that
+  // may.
+  static constexpr auto null = Json::value_t::null;
+
   Kind kind = Kind::Notification;
-  Json id = nullptr;  // an integer or a text
+  Json id = null;  // an integer or a text
   std::string method = {};
-  Json params = nullptr;  // of any kind; handlers refuse what they cannot use
+  Json params = null;  // of any kind; handlers refuse what they cannot use
   bool is_error = false;
-  Json result = nullptr;  // of a response
+  Json result = null;  // of a response
 };
 
 /// Takes a message apart. Throws ResponseError: ParseError for a text that is not JSON,
