@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 #include <limits>
-#include <set>
 #include <utility>
+#include <vector>
 
 #include "lint/collector.hpp"
 #include "lint/explanations.hpp"
@@ -42,7 +42,7 @@ bool collect_explanation_of_text(const Source& source, const Limits& limits, Fir
 }
 
 /// Returns what is explained on each line, and in `silent` the rules that find nothing for it.
-Explanations explain_lines(const Source& source, std::set<const Rule*>& silent) {
+Explanations explain_lines(const Source& source, std::vector<const Rule*>& silent) {
   Explanations explanations(source.lines());
   for (const Rule& rule : all_rules()) {
     if (rule.explains != Explains::Line) continue;
@@ -53,16 +53,17 @@ Explanations explain_lines(const Source& source, std::set<const Rule*>& silent) 
       return false;
     });
     rule.check(source, collector);
-    if (is_silent) silent.insert(&rule);
+    if (is_silent) silent.push_back(&rule);
   }
   return explanations;
 }
 
 void collect_unexplained(const Source& source, const Limits& limits, FirstFindings& first) {
-  std::set<const Rule*> silent;
+  std::vector<const Rule*> silent;  // in the order of the table
   const Explanations explanations = explain_lines(source, silent);
   for (const Rule& rule : all_rules()) {
-    if (rule.explains == Explains::Text || silent.count(&rule) > 0) continue;
+    const bool is_silent = std::binary_search(silent.begin(), silent.end(), &rule);
+    if (rule.explains == Explains::Text || is_silent) continue;
     collect(
         rule, source, limits,
         [&](const Finding& finding) { return !explanations.leave_out(finding); }, first);

@@ -28,10 +28,12 @@ std::string_view without_sign(std::string_view token) {
 }  // namespace
 
 std::vector<std::string_view> tokens_of(std::string_view line) {
+  const std::vector<std::string> words = text::split_whitespace(line);
   std::vector<std::string_view> tokens;
+  tokens.reserve(words.size());
   std::size_t at = 0;
   // Only blanks come between two tokens, so the first place where one is found is its own.
-  for (const std::string& token : text::split_whitespace(line)) {
+  for (const std::string& token : words) {
     at = line.find(token, at);
     tokens.push_back(line.substr(at, token.size()));
     at += token.size();

@@ -28,6 +28,8 @@ class Reporter {
   /// The stream that messages go to.
   std::ostream& stream() { return stream_; }
 
+  bool is_colored() const { return is_colored_; }
+
   /// Writes messages that another reporter of the same form has made.
   void write(std::string_view messages);
 

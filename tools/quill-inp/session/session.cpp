@@ -16,7 +16,7 @@ Session::Session(const Session& whole, std::ostream& messages, Output& out)
       messages_file_(whole.messages_file_),
       out_(out),
       options_(whole.options_),
-      reporter_(messages, options_.is_quiet, wants_color(options_.color, messages_file_)),
+      reporter_(messages, options_.is_quiet, whole.reporter_.is_colored()),
       has_taken_input_(whole.has_taken_input_) {}
 
 Session Session::for_one_file(std::ostream& messages, Output& out) const {

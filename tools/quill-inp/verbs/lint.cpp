@@ -47,6 +47,7 @@ struct LintCall {
   LintOptions options = {};
   bool fixes = false;
   bool shows_diff = false;
+  bool is_colored = false;
   std::vector<std::string> other_names = {};  // see lint::Options
 };
 
@@ -145,7 +146,7 @@ class Linter {
     Output& output = session.output();
     switch (call_.options.form) {
       case FindingForm::Text:
-        output.write_shown(text_form(report, wants_color(session.options().color, output.file())));
+        output.write_shown(text_form(report, call_.is_colored));
         return;
       case FindingForm::Json:
         write_json_form(report, [&](std::string_view piece) { output.write(piece); });
@@ -182,6 +183,7 @@ ExitCode lint_files(Session& session, const CLI::App& app) {
   call.options = read_lint_options(app);
   call.fixes = is_given(app, fix);
   call.shows_diff = is_given(app, diff);
+  call.is_colored = wants_color(session.options().color, session.output().file());
   if (call.shows_diff && !call.fixes) throw UsageError("--diff needs --fix");
   BatchOptions batch = read_batch_options(app);
   batch.counted = nullptr;  // the last line has other counts
