@@ -21,6 +21,7 @@ constexpr const char* small_file = KELP_QUILL_INP_EXAMPLE_INPUTS "/water_optimis
 /// Runs a program, whose output nobody reads, and waits for its end.
 void run_program(std::vector<std::string> words, const std::string& input = "/dev/null") {
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   char* const environment[] = {nullptr};
@@ -55,7 +56,7 @@ class EditorSession {
          {"params", {{"textDocument", {{"uri", uri}}}}}});
     add({{"id", 3}, {"method", "shutdown"}});
     add({{"method", "exit"}});
-    std::fflush(file_.get());
+    require_same(std::fflush(file_.get()) == 0, "a written file");
   }
 
   /// The name of the file for the programs that this one starts.
@@ -67,7 +68,9 @@ class EditorSession {
   void add(language_server::Json message) {
     message["jsonrpc"] = "2.0";
     const std::string text = message.dump();
-    std::fprintf(file_.get(), "Content-Length: %zu\r\n\r\n%s", text.size(), text.c_str());
+    const int written =
+        std::fprintf(file_.get(), "Content-Length: %zu\r\n\r\n%s", text.size(), text.c_str());
+    require_same(written > 0, "a written message");
   }
 
   std::unique_ptr<std::FILE, int (*)(std::FILE*)> file_;
