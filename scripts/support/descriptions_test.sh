@@ -6,7 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-# try EXPECTED: compares what is said about the header on standard input.
+# try EXIT_CODE EXPECTED: compares the exit code, and what is printed for the header on standard input.
 try() {
   rm -rf "$scratch/xml"
   cat >"$scratch/sample.hpp"
@@ -17,12 +17,12 @@ try() {
     printf '%s = YES\n' QUIET GENERATE_XML EXTRACT_ALL
     echo 'FILTER_PATTERNS = *.hpp="awk -f docs/site/header_filter.awk"'
   ) | doxygen - >"$scratch/log" 2>&1
-  # A failure of the script is what some rows expect: what it said is compared below.
-  /usr/bin/python3 scripts/support/descriptions.py "$scratch/xml" >"$scratch/said" 2>&1 || true
-  diff -u <(echo "$1") "$scratch/said"
+  local code=0
+  /usr/bin/python3 scripts/support/descriptions.py "$scratch/xml" >"$scratch/said" 2>&1 || code=$?
+  diff -u <(printf '%s\nexit code %s\n' "$2" "$1") <(cat "$scratch/said"; echo "exit code $code")
 }
 
-try "2 functions have descriptions of their own" <<'HEADER'
+try 0 "2 functions have descriptions of their own" <<'HEADER'
 /// @file
 
 /// Sets the charge.
@@ -30,7 +30,7 @@ void set_charge(int charge);
 void set_charge(long charge);
 HEADER
 
-try "2 functions have descriptions of their own" <<'HEADER'
+try 0 "2 functions have descriptions of their own" <<'HEADER'
 /// @file
 
 /// Sets the charge.
@@ -42,7 +42,7 @@ template <typename Text>
 void set_charge(Text) = delete;
 HEADER
 
-try "void set_charge and void set_multiplicity are both described as: Set both numbers." <<'HEADER'
+try 1 "void set_charge and void set_multiplicity are both described as: Set both numbers." <<'HEADER'
 /// @file
 
 /// Set both numbers.
@@ -50,7 +50,7 @@ void set_charge(int charge);
 void set_multiplicity(int multiplicity);
 HEADER
 
-try "void set_multiplicity has no description" <<'HEADER'
+try 1 "void set_multiplicity has no description" <<'HEADER'
 /// @file
 
 /// Sets the charge.
@@ -60,7 +60,7 @@ void set_multiplicity(int multiplicity);
 HEADER
 
 # What is said of a destructor is not said of the function after it.
-try "int Atoms::count has no description" <<'HEADER'
+try 1 "int Atoms::count has no description" <<'HEADER'
 /// @file
 
 /// A list.
@@ -73,7 +73,7 @@ class Atoms {
 };
 HEADER
 
-try "no functions are described in $scratch/xml" <<'HEADER'
+try 1 "no functions are described in $scratch/xml" <<'HEADER'
 /// @file
 
 /// Nothing.

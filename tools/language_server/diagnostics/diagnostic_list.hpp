@@ -16,7 +16,7 @@ Json diagnostic_of(const lint::Finding& finding, const Snapshot& snapshot,
 
 /// Returns findings as diagnostics, in their order. For each code of which there are more, one
 /// diagnostic follows that says how many, at the place of the last finding with this code. It has
-/// no code itself, because it is no finding that could be corrected.
+/// no code itself, because it cannot be corrected as a finding can.
 Json diagnostic_list(const lint::FirstFindings& found, const Snapshot& snapshot,
                      const ClientAbilities& client, const Pages& pages);
 

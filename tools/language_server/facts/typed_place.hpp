@@ -27,7 +27,7 @@ struct TypedPlace {
 };
 
 /// Returns what can be typed at `offset`, from its line up to there and from the lines before it.
-/// Of the rest of its line only counts whether it ends a parameter list. Linear in the number of
+/// The rest of its line only tells whether a parameter list ends there. Linear in the number of
 /// lines before.
 TypedPlace find_typed_place(const lossless::ReadText& read, std::size_t offset);
 

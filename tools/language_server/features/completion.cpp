@@ -161,8 +161,8 @@ lint::Range replaced_by_offers(const Snapshot& snapshot, const TypedPlace& place
   return {place.word.offset + kept, place.word.length - kept};
 }
 
-/// Whether the editor has a range on one line, where alone it can be replaced. A CR alone ends a
-/// line there, but not for the reader.
+/// Whether a range is on one line of the editor. An editor refuses completions over several lines.
+/// A CR alone ends a line for it, but not for the reader.
 bool is_on_one_line(const lint::Range& range, const Snapshot& snapshot) {
   const PositionRange positions = snapshot.position_range_of(range);
   return positions.start.line == positions.end.line;
